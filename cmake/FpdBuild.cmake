@@ -1,0 +1,25 @@
+# Compiler settings shared by every target: fpd_options carries them.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(FPD_CCACHE ccache)
+if(FPD_CCACHE)
+  # A precompiled header is only cacheable when ccache is told to look inside it.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${FPD_CCACHE})
+endif()
+
+add_library(fpd_options INTERFACE)
+target_include_directories(fpd_options INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/platform/include)
+target_compile_options(fpd_options INTERFACE -Wall -Wextra -Werror
+                       $<$<BOOL:${FPD_CCACHE}>:-fpch-preprocess>)
+target_compile_definitions(fpd_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_MESSAGELOGCONTEXT)
+
+set(FPD_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
+if(FPD_SANITIZE)
+  target_compile_options(fpd_options INTERFACE -fsanitize=${FPD_SANITIZE} -fno-omit-frame-pointer)
+  target_link_options(fpd_options INTERFACE -fsanitize=${FPD_SANITIZE})
+endif()
