@@ -1,0 +1,51 @@
+// The process-data block: the live state of the device that never goes to the store. Its fields are addressed by
+// item numbers from PARA_CabinetWidth on and cross the interfaces as decimal text. Read and written by the GUI
+// thread and the report thread; each access takes a short lock of its own.
+#pragma once
+
+#include "menuindex.h"
+
+#include <QMutex>
+#include <QString>
+#include <array>
+#include <cstdint>
+
+namespace VASK
+{
+/// What the device last told of one input.
+struct InputRecord {
+    uint8_t sourceCode = 0;
+    uint8_t interlaced = 0;
+    uint8_t signalState = 0;   ///< 3: stable, anything else: no signal
+    uint16_t width = 0;        ///< pixels
+    uint16_t height = 0;       ///< lines
+    uint16_t framePeriodUs = 0; ///< microseconds, 0: unknown
+    uint8_t colourSampling = 0; ///< 0 RGB 4:4:4, 1 YCbCr 4:2:2, 2 YCbCr 4:4:4
+
+    /// Frame rate in hundredths of a hertz; 6000 when the period is unknown.
+    int rateCentiHz() const;
+};
+
+class ProcessData
+{
+public:
+    static constexpr int inputCount = 9;
+    static constexpr int portCount = 10;
+
+    /// Does the block have a field of that number?
+    static bool contains(ENUM_MenuIndex index);
+    /// The field as decimal text; empty for a number outside the block.
+    QString text(ENUM_MenuIndex index) const;
+    int value(ENUM_MenuIndex index) const;
+    /// Writes a field, narrowed to its width. A number outside the block is ignored.
+    void set(ENUM_MenuIndex index, int value);
+    InputRecord input(int number) const;
+    void clear();
+
+private:
+    static constexpr int fieldCount = PARA_END - PARA_CabinetWidth;
+
+    mutable QMutex m_mutex;
+    std::array<uint16_t, fieldCount> m_fields{};
+};
+} // namespace VASK

@@ -1,0 +1,26 @@
+// What every protocol object offers to rows, engine and clients: a value to send, a value to ask for, a datagram
+// that has arrived. One object a protocol, reached through the pool.
+#pragma once
+
+#include "framework/vaskobject.h"
+
+#include <QByteArray>
+
+namespace VASK
+{
+class ProtocolInterface : public VaskGeneralObject
+{
+    Q_OBJECT
+public:
+    using VaskGeneralObject::VaskGeneralObject;
+
+    /// Asks the device for the value of an item and waits for the answer. False if none came.
+    virtual bool GetValueByIndexSYN(ENUM_MenuIndex, QString *) { return false; }
+
+public slots:
+    /// An item has a new value: bring it to the device. Thread of the caller of SetParaToXml.
+    virtual void slot_ValueChanged(QString, ENUM_MenuIndex) {}
+    /// A datagram of the client has arrived. Called with the client's receive lock held.
+    virtual void slot_ReceivePackHandle(QByteArray) {}
+};
+} // namespace VASK
