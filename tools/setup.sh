@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Set-up shared by run and test: installs the Debian packages that are missing, configures a preset and builds it.
+#   tools/setup.sh [PRESET]        default preset: dev
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+preset=${1:-dev}
+
+missing=()
+while read -r package; do
+    [ -n "$package" ] || continue
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done < tools/packages.txt
+if [ ${#missing[@]} -gt 0 ]; then
+    echo "installing: ${missing[*]}"
+    sudo=
+    [ "$(id -u)" = 0 ] || sudo=sudo
+    $sudo apt-get update -qq
+    $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi
+
+cmake --preset "$preset" > /dev/null
+if [ "$preset" = dev ]; then build=build; else build=build/$preset; fi
+cmake --build "$build"
