@@ -1,5 +1,6 @@
-// The registry through which the objects of the program find each other by number, and the one helper that every
-// look-up uses. Filled on the main thread during start-up; look-ups come from any thread and take a short lock.
+// The registry through which the objects of the program find each other by number, and the one helper that
+// every look-up uses. Filled on the main thread during start-up; look-ups come from any thread and take a
+// short lock.
 #pragma once
 
 #include "menuindex.h"
@@ -42,8 +43,8 @@ private:
     QMap<VaskObject *, ENUM_ObjectIndex> m_indexes;
 };
 
-/// The peer under a number as the class that the caller expects: look-up, null test and checked downcast in one.
-/// Null, with a log line, if any of them fails.
+/// The peer under a number as the class that the caller expects: look-up, null test and checked downcast in
+/// one. Null, with a log line, if any of them fails.
 template <class Peer> Peer *poolObject(ENUM_ObjectIndex index)
 {
     VaskObject *object = ObjectPool::getInstance()->GetObject(index);

@@ -1,6 +1,6 @@
-// The parameter engine: owns every parameter of the device. A changed value, from the user or from a report, goes
-// through CalParaLimit and SetParaToXml, which store it, move what depends on it and hand it to the protocol.
-// Entered on the GUI thread by rows and pages, and on the report thread for device values.
+// The parameter engine: owns every parameter of the device. A changed value, from the user or from a report,
+// goes through CalParaLimit and SetParaToXml, which store it, move what depends on it and hand it to the
+// protocol. Entered on the GUI thread by rows and pages, and on the report thread for device values.
 #pragma once
 
 #include "framework/processdata.h"
@@ -22,7 +22,8 @@ public:
     explicit ParaProcess(ENUM_ObjectIndex index);
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 
-    /// Fills the name maps, resets the display-only items and connects the home screen. False without a store.
+    /// Fills the name maps, resets the display-only items and connects the home screen. False without a
+    /// store.
     bool Initialize();
     /// Reads the blocks of the flash snapshot into the mirror.
     void InitReadParaFrom20M();
@@ -32,7 +33,8 @@ public:
 
     /// The value of an item or of a process-data field as text; empty if there is none. Any thread.
     QString GetParaFromIndex(ENUM_MenuIndex index) const;
-    /// The whole item from the store. True in every case; an unknown item leaves the target as it was. Any thread.
+    /// The whole item from the store. True in every case; an unknown item leaves the target as it was. Any
+    /// thread.
     bool GetInfoFromIndex(ENUM_MenuIndex index, ST_ItemInfo &item) const;
     /// True when at least one Ethernet or optical port has a link.
     bool GetPortLinkStatus() const;

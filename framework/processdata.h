@@ -1,6 +1,6 @@
-// The process-data block: the live state of the device that never goes to the store. Its fields are addressed by
-// item numbers from PARA_CabinetWidth on and cross the interfaces as decimal text. Read and written by the GUI
-// thread and the report thread; each access takes a short lock of its own.
+// The process-data block: the live state of the device that never goes to the store. Its fields are addressed
+// by item numbers from PARA_CabinetWidth on and cross the interfaces as decimal text. Read and written by the
+// GUI thread and the report thread; each access takes a short lock of its own.
 #pragma once
 
 #include "menuindex.h"
@@ -16,9 +16,9 @@ namespace VASK
 struct InputRecord {
     uint8_t sourceCode = 0;
     uint8_t interlaced = 0;
-    uint8_t signalState = 0;   ///< 3: stable, anything else: no signal
-    uint16_t width = 0;        ///< pixels
-    uint16_t height = 0;       ///< lines
+    uint8_t signalState = 0;    ///< 3: stable, anything else: no signal
+    uint16_t width = 0;         ///< pixels
+    uint16_t height = 0;        ///< lines
     uint16_t framePeriodUs = 0; ///< microseconds, 0: unknown
     uint8_t colourSampling = 0; ///< 0 RGB 4:4:4, 1 YCbCr 4:2:2, 2 YCbCr 4:4:4
 

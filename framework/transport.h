@@ -1,4 +1,5 @@
-// A thin facade over the object pool, for places where only the facade is at hand. Main thread for insertions.
+// A thin facade over the object pool, for places where only the facade is at hand. Main thread for
+// insertions.
 #pragma once
 
 #include "framework/vaskobject.h"
@@ -12,7 +13,10 @@ public:
     explicit transport(ENUM_ObjectIndex index) : VaskObject(index) {}
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 
-    bool InsertObject(ENUM_ObjectIndex index, VaskObject *object) { return CreateObjectToPool(index, object); }
+    bool InsertObject(ENUM_ObjectIndex index, VaskObject *object)
+    {
+        return CreateObjectToPool(index, object);
+    }
     VaskObject *GetObjectFromPoolFromTran(ENUM_ObjectIndex index) const { return GetObjectFromPool(index); }
 };
 } // namespace VASK

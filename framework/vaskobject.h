@@ -1,5 +1,5 @@
-// The object family: every long-lived part of the program is one object with a number, found through the pool.
-// Objects are made and used on the GUI thread unless their own header says otherwise.
+// The object family: every long-lived part of the program is one object with a number, found through the
+// pool. Objects are made and used on the GUI thread unless their own header says otherwise.
 #pragma once
 
 #include "framework/objectpool.h"
@@ -28,7 +28,8 @@ public:
     bool GetObectIndex(ENUM_ObjectIndex &index) const;
     bool IsExistFromPool(ENUM_ObjectIndex index) const;
 
-    /// Connects signals of the peer (keys) to slots of this object (values), both as QObject::connect takes them.
+    /// Connects signals of the peer (keys) to slots of this object (values), both as QObject::connect takes
+    /// them.
     virtual int BuildHandshake(VaskObject const *peer, QMap<QString, QString> connections) = 0;
 
 private:
@@ -44,9 +45,9 @@ public:
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 };
 
-/// Root of everything that reacts to keys. The virtual operations are empty here; pages and rows override what
-/// their kind needs. All of them run on the GUI thread, apart from SetParaEntry, UpdateALLUI and UpdateTagName,
-/// which may be called from the report thread too.
+/// Root of everything that reacts to keys. The virtual operations are empty here; pages and rows override
+/// what their kind needs. All of them run on the GUI thread, apart from SetParaEntry, UpdateALLUI and
+/// UpdateTagName, which may be called from the report thread too.
 class VaskUiObject : public VaskObject
 {
     Q_OBJECT
@@ -75,7 +76,8 @@ public:
     /// ESC while editing; the second form is for number rows.
     virtual void EscEntry(ENUM_MenuIndex) {}
     virtual void EscEntry(ENUM_MenuIndex, unsigned char /*entered*/) {}
-    /// Knob left: in a drop-down, in a number, among inner parts. The last form lowers speed by what it used inside.
+    /// Knob left: in a drop-down, in a number, among inner parts. The last form lowers speed by what it used
+    /// inside.
     virtual void UpEntry(ENUM_MenuIndex) {}
     virtual void UpEntry(ENUM_MenuIndex, unsigned char & /*speed*/) {}
     virtual void UpEntry(ENUM_MenuIndex, unsigned char & /*speed*/, bool /*firstRow*/) {}
