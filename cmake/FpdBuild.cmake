@@ -16,7 +16,7 @@ add_library(fpd_options INTERFACE)
 target_include_directories(fpd_options INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/platform/include)
 target_compile_options(fpd_options INTERFACE -Wall -Wextra -Werror
                        $<$<BOOL:${FPD_CCACHE}>:-fpch-preprocess>)
-target_compile_definitions(fpd_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_MESSAGELOGCONTEXT)
+target_compile_definitions(fpd_options INTERFACE QT_MESSAGELOGCONTEXT)
 
 set(FPD_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
 if(FPD_SANITIZE)

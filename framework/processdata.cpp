@@ -5,7 +5,16 @@ namespace VASK
 namespace
 {
 /// Fields of an input record in their order; the record repeats for every input.
-enum InputField { SourceCode, Interlaced, SignalState, Width, Height, FramePeriod, ColourSampling, FieldCount };
+enum InputField {
+    SourceCode,
+    Interlaced,
+    SignalState,
+    Width,
+    Height,
+    FramePeriod,
+    ColourSampling,
+    FieldCount
+};
 
 /// The number under which the block keeps a field: the second names of the reported output size are aliases.
 ENUM_MenuIndex canonical(ENUM_MenuIndex index)
