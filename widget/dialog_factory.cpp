@@ -1,0 +1,3 @@
+#include "widget/dialog_factory.h"
+
+std::atomic<int> Factory::m_cur_step{FACTORY_STEP_NONE};

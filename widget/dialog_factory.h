@@ -1,0 +1,19 @@
+// The production test of a finished unit. While it runs no other window reacts to keys; which step it stands
+// at is read everywhere, also on the report thread.
+#pragma once
+
+#include <atomic>
+
+enum _en_factory_step : int {
+    FACTORY_STEP_NONE = 0,
+    FACTORY_STEP_SELF_TEST = 1,
+    FACTORY_STEP_KEYS = 2,
+    FACTORY_STEP_IN_OUT = 3,
+};
+
+class Factory
+{
+public:
+    /// The step that runs, an _en_factory_step; FACTORY_STEP_NONE while the test does not run.
+    static std::atomic<int> m_cur_step;
+};
