@@ -3,6 +3,7 @@
 // protocol. Entered on the GUI thread by rows and pages, and on the report thread for device values.
 #pragma once
 
+#include "framework/engine/snapshotmirror.h"
 #include "framework/processdata.h"
 #include "framework/vaskobject.h"
 #include "menuconfig_k2860.h"
@@ -10,11 +11,15 @@
 #include <QByteArray>
 #include <QDialog>
 #include <QMap>
+#include <array>
+#include <atomic>
 
 class MainWindow;
 
 namespace VASK
 {
+class MenuAnalysis;
+
 class ParaProcess : public VaskObject
 {
     Q_OBJECT
@@ -49,12 +54,29 @@ public:
     bool SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode);
     /// The value that may be used instead of the given one.
     QString CalParaLimit(QString value, ENUM_MenuIndex index);
+    /// The rate that the output takes for a source: the source's where it can follow, else its own.
+    /// Hundredths of a hertz.
+    int OutputFrameAdj(int rate, int outputRate) const;
+    const ProcessData &processData() const { return m_processData; }
     /// Writes one process-data field; an index outside the block is ignored.
     void SaveProcessData(QString value, ENUM_MenuIndex index);
     /// The message of an item, or null if it has none. The caller runs and deletes it. GUI thread.
     QDialog *CreateDialog(ENUM_MenuIndex index, QString text);
 
-    static bool init_20m_flg;
+    /// Writes the network items from the snapshot again, unless the address comes from DHCP.
+    void UpdateIp();
+    /// Reads the device's own name from the snapshot and shows it.
+    void UpdataDevRename();
+    /// One of the device's two services has started; when both have, the start sequence runs.
+    void serviceStarted(ENUM_MenuIndex event);
+    bool videoServiceStarted() const { return videodStarted; }
+    /// Starts of the right eye's picture in pixels, by 3D format: 0 side by side, 1 top and bottom.
+    void setRightEyeStart(int sideBySide, int topAndBottom);
+    int rightEyeStart(int format) const;
+
+    /// Set at the end of the first InitializeMainWindow: from then on the home screen is reached by queued
+    /// signals.
+    static std::atomic<bool> init_20m_flg;
     static bool bHaveSDI;
     static bool bRelOnloadRegionStart;
     static bool m_ResetFlg;
@@ -74,9 +96,45 @@ signals:
     void signal_Layer_state(qint32 layer, qint32 state);
     void signal_SetRes_state(qint32 layer, QString text);
 
+public:
+    /// The home screen; null before Initialize.
+    MainWindow *mainWindow() const { return m_pMainWindow; }
+    // The signals of this object, raised by the cases of the engine.
+    void raiseWindowState(int layer, int state) { emit signal_window_state(layer, state); }
+    void raiseSyncState(int state) { emit signal_sync_state(state); }
+    void raiseSyncProblem(int signalState, const QString &text)
+    {
+        emit signal_sync_state(qint8(signalState), text);
+    }
+    void raisePopup(ENUM_MenuIndex index) { emit signal_popup_window(quint32(index)); }
+    void raiseFactoryReset() { emit signal_factory_reset(); }
+    void raiseCreateDialog() { emit signal_createdialog(); }
+    void raiseSoftCalibrate(bool on) { emit signal_soft_calibrate(on ? 1 : 0); }
+    void raiseReturnToMain(bool mode) { emit signal_return_main(mode); }
+
 private:
+    static constexpr int presetCount = 10;
+
+    void InitParaFrom20M();
+    void pushPresets();
+    QString readRootVersion();
+    void resetDisplayItems(MenuAnalysis &store);
+    void connectHomeScreen();
+    void showLayer(int layer);
+    void showSyncState();
+    void DeviceStartComplateHandle();
+    void HdcpPoweronHandle();
+    void SyncInit();
+    void DhcpInit();
+
     MainWindow *m_pMainWindow = nullptr;
     ProcessData m_processData;
+    SnapshotMirror m_mirror;
+    /// Does the preset hold a decoded name?
+    std::array<bool, presetCount> m_presetNamed{};
+    std::atomic<int> m_rightEyeStart[2] = {{0}, {0}};
+    bool videodStarted = false;
+    bool senderdStarted = true;
     QMap<QString, QString> m_inputNames;
     QMap<unsigned char, QString> m_sourceNames;
 };

@@ -1,4 +1,5 @@
-// What the output engine and one Ethernet port carry, and how odd frame rates are snapped. Pure arithmetic; any thread.
+// What the output engine and one Ethernet port carry, and how odd frame rates are snapped. Pure arithmetic;
+// any thread.
 #pragma once
 
 #include <cstdint>

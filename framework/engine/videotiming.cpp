@@ -7,13 +7,13 @@ namespace VASK
 namespace
 {
 constexpr float clockStepMHz = 0.001f;
-constexpr int verticalFrontPorch = 23;     ///< lines
+constexpr int verticalFrontPorch = 23; ///< lines
 constexpr float minVerticalBlankUs = 460.f;
 constexpr int linesBehindSync = 6;
-constexpr int horizontalBlank = 160;       ///< pixels
-constexpr int horizontalFrontPorch = 48;   ///< pixels
-constexpr int horizontalSync = 32;         ///< pixels
-constexpr int verticalBlankEstimate = 62;  ///< lines; where the searches start from
+constexpr int horizontalBlank = 160;      ///< pixels
+constexpr int horizontalFrontPorch = 48;  ///< pixels
+constexpr int horizontalSync = 32;        ///< pixels
+constexpr int verticalBlankEstimate = 62; ///< lines; where the searches start from
 
 /// Width of the vertical sync by aspect ratio, in lines.
 int verticalSync(float width, float lines)

@@ -1,5 +1,5 @@
-// What every protocol object offers to rows, engine and clients: a value to send, a value to ask for, a datagram
-// that has arrived. One object a protocol, reached through the pool.
+// What every protocol object offers to rows, engine and clients: a value to send, a value to ask for, a
+// datagram that has arrived. One object a protocol, reached through the pool.
 #pragma once
 
 #include "framework/vaskobject.h"

@@ -1,12 +1,59 @@
 #include "boardio.h"
 
+#include "fpd_hostlink.h"
+
+#include <QByteArray>
+#include <QRegularExpression>
 #include <cstdlib>
 
 namespace board
 {
+namespace
+{
+QString stateFolder()
+{
+    return qEnvironmentVariable("FPD_STATE");
+}
+
+QString quoted(QString text)
+{
+    return '\'' + text.replace('\'', "'\\''") + '\'';
+}
+
+/// The board's command line for this machine: its paths below the state folder, its tools in front of PATH,
+/// and "sync" for the state folder's file system alone.
+QByteArray hostCommand(const char *commandLine)
+{
+    const QString state = stateFolder();
+    QString line = QString::fromUtf8(commandLine);
+    if (state.isEmpty())
+        return line.toUtf8();
+    static const QRegularExpression boardPath(
+        "(?<![\\w/.])(?=/(?:usr/vask|etc/init\\.d|root/\\.local|dev/keypad0)\\b)");
+    line.replace(boardPath, quoted(state).replace('\\', "\\\\"));
+    if (line.trimmed() == QLatin1String("sync"))
+        line = "sync -f " + quoted(state);
+    return QString("PATH=%1:\"$PATH\"; %2").arg(quoted(state + hostlink::toolFolder), line).toUtf8();
+}
+} // namespace
+
 QString filePath(const QString &boardPath)
 {
-    static const QString root = qEnvironmentVariable("FPD_STATE");
-    return root + boardPath;
+    return stateFolder() + boardPath;
+}
+
+int runCommand(const char *commandLine)
+{
+    return std::system(hostCommand(commandLine).constData());
+}
+
+FILE *openPipe(const char *commandLine)
+{
+    return popen(hostCommand(commandLine).constData(), "r");
+}
+
+int closePipe(FILE *pipe)
+{
+    return pclose(pipe);
 }
 } // namespace board

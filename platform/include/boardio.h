@@ -1,6 +1,6 @@
-// Files, shell and pipes of the board. Program code keeps the board's own absolute paths and command lines and
-// passes them through these functions; on a PC they are put below the state folder (environment FPD_STATE).
-// All functions may be called from any thread.
+// Files, shell and pipes of the board. Program code keeps the board's own absolute paths and command lines
+// and passes them through these functions; on a PC they are put below the state folder (environment
+// FPD_STATE). All functions may be called from any thread.
 #pragma once
 
 #include <QString>

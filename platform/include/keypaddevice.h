@@ -1,5 +1,5 @@
-// The keypad's character device, "/dev/keypad0" of the board: key words up, LED blocks down. The functions have the
-// meaning of open, select, read, ioctl and close on that device. All may be called from any thread.
+// The keypad's character device, "/dev/keypad0" of the board: key words up, LED blocks down. The functions
+// have the meaning of open, select, read, ioctl and close on that device. All may be called from any thread.
 #pragma once
 
 #include <cstddef>

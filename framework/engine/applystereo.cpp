@@ -1,0 +1,152 @@
+// 3D: switch, format and the start of the right eye's picture.
+
+#include "framework/engine/change.h"
+
+#include "framework/engine/bandwidth.h"
+#include "framework/menuanalysis.h"
+
+namespace VASK
+{
+namespace
+{
+enum StereoFormat { SideBySide, TopAndBottom, FrameSequential };
+
+const QString mosaicText = "MOSAIC";
+
+struct OutputLoad {
+    int width;
+    int height;
+    int rateCentiHz;
+};
+
+/// What the output carries now, without the doubling of 3D.
+OutputLoad currentLoad(const ParaChange &change)
+{
+    if (change.item(MENU_OutputMode) != QLatin1String("1"))
+        return {change.number(PARA_ReportedWidth), change.number(PARA_ReportedHeight),
+                change.number(PARA_OutputRate)};
+    const QStringList size = change.chosenOption(MENU_Output_Resolution).split('*');
+    return {size.value(0).toInt(), size.value(1).toInt(),
+            qRound(change.chosenOption(MENU_Output_FrameRate).toFloat() * 100)};
+}
+
+bool overloads(const ParaChange &change)
+{
+    const OutputLoad load = currentLoad(change);
+    return VideoBandwidthConstrain(uint16_t(load.width), uint16_t(load.height),
+                                   uint16_t(2 * load.rateCentiHz), wholeOutputPixelRate, 1);
+}
+
+void turnOffPip(ParaChange &change, int layer)
+{
+    const ENUM_MenuIndex status = ENUM_MenuIndex(MENU_MainLayer_Status + layer * STRIDE_Layer);
+    if (!change.isOn(status))
+        return;
+    change.enable(status, true);
+    change.show(status, "0");
+    change.send(status, "0");
+    change.windowState(layer, false);
+}
+
+void stereoOn(ParaChange &change)
+{
+    if (change.fromUser())
+        change.dialog(MSG_Open3DOnlyMainLayer);
+    change.enable(MENU_MainLayerTransition, false);
+    change.show(MENU_MainLayerTransition, "1");
+    if (change.fromUser())
+        change.send(MENU_MainLayerTransition, "1");
+    change.enable(MENU_TransitionDuration, false);
+    change.refresh(MENU_TransitionDuration);
+    if (change.fromUser()) {
+        turnOffPip(change, 1);
+        turnOffPip(change, 2);
+        change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicText, true);
+    }
+    change.tail();
+}
+
+void stereoOff(ParaChange &change)
+{
+    const bool onlyMain = change.item(MENU_PIP1_Status) == QLatin1String("0") &&
+                          change.item(MENU_PIP2_Status) == QLatin1String("0");
+    if (onlyMain && change.chosenOption(MENU_MainLayer_InputSource) != mosaicText)
+        for (ENUM_MenuIndex item : {MENU_MainLayerTransition, MENU_TransitionDuration}) {
+            change.enable(item, true);
+            change.refresh(item);
+        }
+    change.tail();
+}
+
+void applyStereo(ParaChange &change)
+{
+    const bool on = change.value == QLatin1String("1");
+    const bool doubles = on && change.number(MENU_Mode3D_Format) != FrameSequential;
+    if (doubles && change.fromUser() && overloads(change)) {
+        change.set(MENU_Mode3D_Status, "0");
+        change.refresh(MENU_Mode3D_Status);
+        change.dialog(MSG_OverLoad);
+        return;
+    }
+    change.redoResolution();
+    if (on)
+        stereoOn(change);
+    else
+        stereoOff(change);
+}
+
+void applyFormat(ParaChange &change)
+{
+    const int format = change.value.toInt();
+    if (change.isOn(MENU_Mode3D_Status) && format != FrameSequential && change.fromUser() &&
+        overloads(change)) {
+        change.set(MENU_Mode3D_Format, change.oldValue);
+        change.refresh(MENU_Mode3D_Format);
+        change.dialog(MSG_OverLoad);
+        return;
+    }
+    change.redoResolution();
+    change.enable(MENU_Mode3D_RightEyeStart, format != FrameSequential);
+    if (format == FrameSequential) {
+        change.refresh(MENU_Mode3D_RightEyeStart);
+    } else {
+        const QString start = QString::number(change.engine.rightEyeStart(format));
+        change.show(MENU_Mode3D_RightEyeStart, start);
+        if (change.fromUser())
+            change.send(MENU_Mode3D_RightEyeStart, start);
+    }
+    change.tail();
+}
+
+void applyRightEyeStart(ParaChange &change)
+{
+    const int format = change.number(MENU_Mode3D_Format);
+    if (format == SideBySide)
+        change.engine.setRightEyeStart(change.value.toInt(), change.engine.rightEyeStart(TopAndBottom));
+    else if (format == TopAndBottom)
+        change.engine.setRightEyeStart(change.engine.rightEyeStart(SideBySide), change.value.toInt());
+    change.tail();
+}
+
+/// A reported value goes on to the device as well.
+void applyEmitter(ParaChange &change)
+{
+    if (change.fromDevice())
+        change.send(change.index, change.value);
+    else
+        change.tail();
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_Mode3D_Status, MENU_Mode3D_Status, applyStereo},
+    {MENU_Mode3D_Format, MENU_Mode3D_Format, applyFormat},
+    {MENU_Mode3D_RightEyeStart, MENU_Mode3D_RightEyeStart, applyRightEyeStart},
+    {MENU_Mode3D_SignalDelayTime, MENU_Mode3D_ThirdPartyEmitter, applyEmitter},
+};
+} // namespace
+
+ApplyFamily stereoFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

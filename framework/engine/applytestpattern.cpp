@@ -1,0 +1,99 @@
+// The test pattern pages, which take each other's place, and the custom pictures.
+
+#include "framework/engine/change.h"
+#include "framework/handover.h"
+
+#include "framework/keypadevent.h"
+#include "widget/directoryengineer.h"
+#include "widget/menudirectoty.h"
+
+#include <QApplication>
+
+namespace VASK
+{
+namespace
+{
+/// A page under its number, built on demand.
+MenuDirectory *pageOrBuild(ENUM_ObjectIndex object, ENUM_ConfigIndex config, VaskObject &registrar)
+{
+    ObjectPool *pool = ObjectPool::getInstance();
+    if (!pool->IsExist(object)) {
+        DirectoryEngineer engineer(ENUM_DIRECTORY_ENGINEER);
+        registrar.CreateObjectToPool(object, engineer.buildMenu(config));
+    }
+    return dynamic_cast<MenuDirectory *>(pool->GetObject(object));
+}
+
+void showInstead(MenuDirectory *page, MenuDirectory *parent)
+{
+    page->m_pparerentdirectory = parent;
+    if (parent)
+        parent->hide();
+    page->show();
+}
+
+void applyType(ParaChange &change)
+{
+    static const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
+    qDebug() << "ParaProcess::SetParaToXml===ENUM_MENUINDEX_SCREEN_CONTROL_PIC_TEST_TYPE_MENU:para=="
+             << change.value;
+    const int type = change.value.toInt();
+    if (type >= 0 && type < int(std::size(patterns)) && change.fromUser())
+        change.send(patterns[type], change.item(patterns[type]));
+    change.set(PARA_TestPatternFamily, QString::number(type));
+
+    constexpr int typeCount = 5;
+    if (type < 0 || type >= typeCount) {
+        qDebug() << "param is invalid!";
+        return;
+    }
+    runOnGui(&change.engine, [engine = &change.engine, type] {
+        if (auto *shown =
+                dynamic_cast<MenuDirectory *>(ObjectPool::getInstance()->GetObject(ENUM_PAGE_TestPattern)))
+            shown->hide();
+        MenuDirectory *page = pageOrBuild(ENUM_ObjectIndex(ENUM_PAGE_TestPureColor + type),
+                                          ENUM_ConfigIndex(CONFIG_TestPureColor + type), *engine);
+        if (!page)
+            return;
+        engine->CreateObjectToPool(ENUM_PAGE_TestPattern, page);
+        showInstead(page, poolObject<MenuDirectory>(ENUM_PAGE_DisplayControl));
+    });
+    change.tail();
+}
+
+void applyPattern(ParaChange &change)
+{
+    change.set(PARA_TestPatternFamily, QString::number(change.index - MENU_Test_PureColor));
+    change.tail();
+}
+
+void openSnapshotPage(ParaChange &change)
+{
+    runOnGui(&change.engine, [engine = &change.engine] {
+        MenuDirectory *page = pageOrBuild(ENUM_PAGE_SnapshotSlots, CONFIG_SnapshotSlots, *engine);
+        if (page)
+            showInstead(page, poolObject<MenuDirectory>(ENUM_PAGE_CustomPictures));
+    });
+}
+
+void leaveCustomPicture(ParaChange &change)
+{
+    runOnGui(&change.engine, [] {
+        if (QWidget *active = QApplication::activeWindow())
+            QCoreApplication::postEvent(active, new KeypadEvent(KEY_RELEASED, KEY_ESC, 1, false));
+    });
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_Test_Type, MENU_Test_Type, applyType},
+    {MENU_Test_PureColor, MENU_Test_Grid, applyPattern},
+    {MENU_Test_Snapshot, MENU_Test_Snapshot, openSnapshotPage},
+    {MENU_Test_CustomPicture1, MENU_Test_CustomPicture4, leaveCustomPicture},
+};
+} // namespace
+
+ApplyFamily testPatternFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

@@ -1,0 +1,209 @@
+#include "framework/engine/change.h"
+
+#include "framework/menuanalysis.h"
+#include "widget/mainwindow_k2860.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace VASK
+{
+namespace
+{
+/// The widgets that show an item, in the order of the pages; several pages may show one.
+const QMap<ENUM_MenuIndex, QVector<ENUM_ObjectIndex>> &widgetTable()
+{
+    static const QMap<ENUM_MenuIndex, QVector<ENUM_ObjectIndex>> table = [] {
+        QMap<ENUM_MenuIndex, QVector<ENUM_ObjectIndex>> widgets;
+        for (const ST_MenuConfig &page : qAsConst(g_config))
+            for (const st_MenuItemInfo &row : page.rowsMap)
+                if (!widgets[row.menuIndex].contains(row.itemObject))
+                    widgets[row.menuIndex] << row.itemObject;
+        return widgets;
+    }();
+    return table;
+}
+
+/// Does something with every widget of an item that is built.
+template <class Work> void forWidgets(ENUM_MenuIndex item, Work work)
+{
+    for (ENUM_ObjectIndex object : widgetTable().value(item))
+        if (auto *widget = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(object)))
+            work(widget);
+}
+
+/// The first widget of an item that is built, null if none is.
+VaskUiObject *widgetOf(ENUM_MenuIndex item)
+{
+    VaskUiObject *first = nullptr;
+    forWidgets(item, [&first](VaskUiObject *widget) {
+        if (!first)
+            first = widget;
+    });
+    return first;
+}
+
+bool onGuiThread()
+{
+    return QThread::currentThread() == QCoreApplication::instance()->thread();
+}
+} // namespace
+
+ParaChange::ParaChange(ParaProcess &paraProcess, MenuAnalysis &menuStore, const QString &newValue,
+                       ENUM_MenuIndex menuIndex, ENUM_MODE_SET_XML setMode)
+    : engine(paraProcess), store(menuStore), value(newValue),
+      oldValue(paraProcess.GetParaFromIndex(menuIndex)), index(menuIndex), mode(setMode)
+{
+}
+
+MainWindow *ParaChange::home() const
+{
+    return engine.mainWindow();
+}
+
+QString ParaChange::item(ENUM_MenuIndex item) const
+{
+    return engine.GetParaFromIndex(item);
+}
+
+int ParaChange::number(ENUM_MenuIndex item) const
+{
+    return engine.GetParaFromIndex(item).toInt();
+}
+
+ST_ItemInfo ParaChange::info(ENUM_MenuIndex item) const
+{
+    ST_ItemInfo information;
+    store.GetMenuItem(item, information);
+    return information;
+}
+
+QString ParaChange::chosenOption(ENUM_MenuIndex list) const
+{
+    const ST_ItemInfo information = info(list);
+    return information.params.value(information.value);
+}
+
+void ParaChange::set(ENUM_MenuIndex item, const QString &newValue)
+{
+    if (ProcessData::contains(item))
+        engine.SaveProcessData(newValue, item);
+    else
+        store.UpdataItemCurValue(item, newValue);
+}
+
+void ParaChange::choice(ENUM_MenuIndex item, bool chosen)
+{
+    store.UpdataItemCurChoice(item, chosen ? SELECTED : UNSELECTED);
+}
+
+void ParaChange::enable(ENUM_MenuIndex item, bool on)
+{
+    store.UpdataItemEnable(item, on);
+}
+
+void ParaChange::refresh(ENUM_MenuIndex item)
+{
+    show(item, QString());
+}
+
+void ParaChange::show(ENUM_MenuIndex item, const QString &newValue)
+{
+    // The store first: a widget that is on its way to the GUI thread, or not built, must not hold the value
+    // back.
+    if (!newValue.isEmpty())
+        set(item, newValue);
+    forWidgets(item, [&](VaskUiObject *widget) { widget->SetParaEntry(item, newValue, SET_XML_STORE); });
+}
+
+void ParaChange::send(ENUM_MenuIndex item, const QString &newValue)
+{
+    if (VaskUiObject *widget = widgetOf(item))
+        widget->CallProtocol(newValue, item);
+}
+
+int ParaChange::dialog(ENUM_MenuIndex item)
+{
+    if (!onGuiThread()) {
+        engine.raisePopup(item);
+        return 0;
+    }
+    std::unique_ptr<QDialog> box(engine.CreateDialog(item, QString()));
+    return box ? box->exec() : 0;
+}
+
+void ParaChange::enableRow(ENUM_MenuIndex list, int row, bool on)
+{
+    ST_ItemInfo information = info(list);
+    information.params1[QString::number(row)] = on ? optionEnable : optionDisable;
+    store.updataMenuItem(list, information);
+    refresh(list);
+}
+
+void ParaChange::enableRowsWithText(ENUM_MenuIndex list, const QString &text, bool on)
+{
+    ST_ItemInfo information = info(list);
+    for (auto option = information.params.cbegin(); option != information.params.cend(); ++option)
+        if (option.value() == text)
+            information.params1[option.key()] = on ? optionEnable : optionDisable;
+    store.updataMenuItem(list, information);
+}
+
+void ParaChange::windowState(int layer, bool shown)
+{
+    const int state = shown ? 0 : 1;
+    if (fromDevice() && !ParaProcess::init_20m_flg)
+        home()->SetWindowState(ENUM_MainWindowWindowIndex(layer), ENUM_CommonState(state));
+    else
+        engine.raiseWindowState(layer, state);
+}
+
+void ParaChange::syncState(int state)
+{
+    if (fromDevice() && !ParaProcess::init_20m_flg)
+        home()->SetSynModeState(ENUM_MainWindowSynState(state));
+    else
+        engine.raiseSyncState(state);
+}
+
+void ParaChange::lowLayerUpdate()
+{
+    engine.SaveProcessData(QString::number(engine.GetLowLayerNum()), PARA_LowestLayer);
+}
+
+void ParaChange::redoResolution()
+{
+    qDebug() << "----------------- Set Sres Res -----------------";
+    home()->SetScreenRes(DeviceView(engine).resolutionText());
+}
+
+void ParaChange::tail()
+{
+    if (fromUser()) {
+        send(index, value);
+    } else if (fromDevice()) {
+        forWidgets(index,
+                   [this](VaskUiObject *widget) { widget->SetParaEntry(index, value, SET_XML_DEVICE); });
+    }
+}
+
+const ApplyCase *findApplyCase(ENUM_MenuIndex index)
+{
+    static const std::array<ApplyFamily, 10> families{
+        plainFamily(),  commandFamily(), displayFamily(), testPatternFamily(), outputFamily(),
+        stereoFamily(), networkFamily(), colourFamily(),  resetFamily(),       systemFamily(),
+    };
+    for (const ApplyFamily &family : families) {
+        const ApplyCase *end = family.cases + family.count;
+        const ApplyCase *found = std::find_if(family.cases, end, [index](const ApplyCase &row) {
+            return index >= row.first && index <= row.last;
+        });
+        if (found != end)
+            return found;
+    }
+    return nullptr;
+}
+} // namespace VASK

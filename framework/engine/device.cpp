@@ -1,0 +1,93 @@
+#include "framework/engine/device.h"
+
+#include "framework/engine/bandwidth.h"
+#include "framework/paraprocess.h"
+
+namespace VASK
+{
+WorkMode DeviceView::workMode() const
+{
+    return WorkMode(m_engine.GetParaFromIndex(MENU_WorkMode).toInt());
+}
+
+bool DeviceView::followsSoftware() const
+{
+    return m_engine.GetParaFromIndex(MENU_OutputMode) == QLatin1String("1");
+}
+
+bool DeviceView::syncOn() const
+{
+    return m_engine.GetParaFromIndex(MENU_Sync_Status) == QLatin1String("1");
+}
+
+bool DeviceView::doublesRate() const
+{
+    return m_engine.GetParaFromIndex(MENU_Mode3D_Status) == QLatin1String("1") &&
+           m_engine.GetParaFromIndex(MENU_Mode3D_Format) != QLatin1String("2");
+}
+
+InputRecord DeviceView::input(int number) const
+{
+    return m_engine.processData().input(number);
+}
+
+int DeviceView::inputOfCode(int code) const
+{
+    for (int number = 0; number < ProcessData::inputCount; ++number)
+        if (input(number).sourceCode == code)
+            return number;
+    return noInput;
+}
+
+int DeviceView::syncInput() const
+{
+    if (workMode() == WORK_SENDER)
+        return inputOfCode(SOURCE_SYNC_REFERENCE);
+    return m_engine.GetParaFromIndex(MENU_Sync_Source).toInt();
+}
+
+int DeviceView::followedInput() const
+{
+    return syncOn() ? syncInput() : m_engine.GetParaFromIndex(MENU_MainLayer_InputSource).toInt();
+}
+
+int DeviceView::outputRowRate() const
+{
+    constexpr float centi = 100.f;
+    const ENUM_MenuIndex list = followsSoftware() ? MENU_Output_FrameRate : MENU_OutputFrameRate;
+    ST_ItemInfo item;
+    m_engine.GetInfoFromIndex(list, item);
+    return qRound(item.params.value(item.value).toFloat() * centi);
+}
+
+int DeviceView::outputRate() const
+{
+    if (workMode() == WORK_SENDER) {
+        const int reference = m_engine.processData().value(PARA_OutputRate);
+        const int rate = m_engine.OutputFrameAdj(input(followedInput()).rateCentiHz(), reference);
+        return FrameRateAdj(uint16_t(rate));
+    }
+    const int row = outputRowRate();
+    return syncOn() ? m_engine.OutputFrameAdj(input(syncInput()).rateCentiHz(), row) : row;
+}
+
+QString DeviceView::sizeText(int width, int height, bool interlaced, int rateCentiHz)
+{
+    constexpr int centi = 100;
+    constexpr int digits = 6;
+    const QString rate = rateCentiHz % centi == 0 ? QString::number(rateCentiHz / centi)
+                                                  : QString::number(double(rateCentiHz) / centi, 'g', digits);
+    return QString("%1x%2%3@%4").arg(width).arg(height).arg(QLatin1String(interlaced ? "i" : ""), rate);
+}
+
+QString DeviceView::resolutionText() const
+{
+    const bool sender = workMode() == WORK_SENDER;
+    int rate = outputRate();
+    if (!sender && doublesRate())
+        rate *= 2;
+    const bool interlaced = sender && input(followedInput()).interlaced;
+    return sizeText(m_engine.processData().value(PARA_OutputWidth),
+                    m_engine.processData().value(PARA_OutputHeight), interlaced, rate);
+}
+} // namespace VASK

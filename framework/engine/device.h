@@ -1,0 +1,61 @@
+// The state of the device as the engine reads it off items and process data: inputs, rates, the resolution
+// text.
+#pragma once
+
+#include "framework/processdata.h"
+
+#include <QString>
+
+namespace VASK
+{
+class ParaProcess;
+
+/// Codes by which the device names its inputs.
+enum SourceCode : int {
+    SOURCE_HDMI1 = 97,
+    SOURCE_HDMI2 = 98,
+    SOURCE_DVI1 = 105,
+    SOURCE_DVI2 = 106,
+    SOURCE_OPT1 = 233,
+    SOURCE_OPT2 = 234,
+    SOURCE_SDI = 48,
+    SOURCE_SYNC_REFERENCE = 254, ///< the last record that the device lists
+};
+
+constexpr int noInput = 255;
+constexpr int stableSignal = 3; ///< signal state of an input record
+
+enum WorkMode : int { WORK_CONTROLLER = 0, WORK_FIBER = 1, WORK_SENDER = 2 };
+
+class DeviceView
+{
+public:
+    explicit DeviceView(const ParaProcess &engine) : m_engine(engine) {}
+
+    WorkMode workMode() const;
+    bool followsSoftware() const; ///< output mode: the output follows the software configuration
+    bool syncOn() const;
+    /// 3D is on in a format that doubles the frame rate.
+    bool doublesRate() const;
+
+    /// The input with a source code, noInput if there is none.
+    int inputOfCode(int code) const;
+    /// The input that the output is synchronised to.
+    int syncInput() const;
+    InputRecord input(int number) const;
+
+    /// Rate of the chosen output row, hundredths of a hertz.
+    int outputRowRate() const;
+    /// Rate that the output really has, without the doubling of 3D, hundredths of a hertz.
+    int outputRate() const;
+    /// What the home screen shows of the output, such as "1920x1080@59.94".
+    QString resolutionText() const;
+
+    /// A size and a rate in hundredths of a hertz as text.
+    static QString sizeText(int width, int height, bool interlaced, int rateCentiHz);
+
+private:
+    int followedInput() const;
+    const ParaProcess &m_engine;
+};
+} // namespace VASK

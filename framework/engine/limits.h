@@ -1,0 +1,29 @@
+// The limits of values that depend on other values. Each case gives the value that may be used instead of the
+// one that was asked for; the cases of frame rates change which options of a list are available instead.
+#pragma once
+
+#include "menuindex.h"
+
+#include <QString>
+
+namespace VASK
+{
+class ParaProcess;
+
+struct LimitCase {
+    ENUM_MenuIndex first;
+    ENUM_MenuIndex last;
+    QString (*apply)(ParaProcess &engine, const QString &value, ENUM_MenuIndex index);
+};
+
+/// The case of an item, null if nothing but its own limits holds it.
+const LimitCase *findLimitCase(ENUM_MenuIndex index);
+
+struct LimitFamily {
+    const LimitCase *cases;
+    int count;
+};
+LimitFamily screenLimits();
+LimitFamily layerLimits();
+LimitFamily edidLimits();
+} // namespace VASK

@@ -1,0 +1,34 @@
+#include "flashx.h"
+
+#include "fpd_hostlink.h"
+#include "platform/host/statefile.h"
+
+#include <QFile>
+
+namespace
+{
+bool inRange(unsigned int address, unsigned int length)
+{
+    return address <= hostlink::flashSize && length <= hostlink::flashSize - address;
+}
+} // namespace
+
+void Flash_Init() {}
+
+int ReadDataFromFlashx(unsigned int address, unsigned int length, unsigned char *buffer)
+{
+    if (!inRange(address, length) || host::takeFault(hostlink::flashFaultFile))
+        return -1;
+    QFile image(host::stateFile(hostlink::flashFile));
+    if (!image.open(QIODevice::ReadOnly) || !image.seek(address))
+        return -1;
+    return image.read(reinterpret_cast<char *>(buffer), length) == qint64(length) ? 0 : -1;
+}
+
+int WriteDataToFlashx(unsigned int address, unsigned int length, const unsigned char *buffer)
+{
+    QFile image(host::stateFile(hostlink::flashFile));
+    if (!inRange(address, length) || !image.open(QIODevice::ReadWrite) || !image.seek(address))
+        return -1;
+    return image.write(reinterpret_cast<const char *>(buffer), length) == qint64(length) ? 0 : -1;
+}

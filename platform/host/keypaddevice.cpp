@@ -1,0 +1,75 @@
+#include "keypaddevice.h"
+
+#include "fpd_hostlink.h"
+#include "platform/host/statefile.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace
+{
+constexpr int answerTimeoutMs = 500;
+
+int waitReadable(int descriptor, int timeoutMs)
+{
+    pollfd entry{descriptor, POLLIN, 0};
+    return poll(&entry, 1, timeoutMs);
+}
+} // namespace
+
+int keypad_open(const char *, int flags)
+{
+    const QByteArray path = host::stateFile(hostlink::keypadSocket).toLocal8Bit();
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (size_t(path.size()) >= sizeof address.sun_path)
+        return -1;
+    memcpy(address.sun_path, path.constData(), size_t(path.size()));
+    const int descriptor = socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
+    if (descriptor < 0)
+        return -1;
+    const char mode = (flags & O_ACCMODE) == O_RDONLY ? 'r' : 'w';
+    if (connect(descriptor, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0 ||
+        send(descriptor, &mode, 1, MSG_NOSIGNAL) != 1) {
+        close(descriptor);
+        return -1;
+    }
+    return descriptor;
+}
+
+int keypad_select(int descriptor, int timeoutMs)
+{
+    if (descriptor < 0)
+        return -1;
+    return waitReadable(descriptor, timeoutMs);
+}
+
+ssize_t keypad_read(int descriptor, void *buffer, size_t size)
+{
+    return recv(descriptor, buffer, size, MSG_DONTWAIT);
+}
+
+int keypad_ioctl(int descriptor, unsigned long request, void *block)
+{
+    char packet[sizeof(uint32_t) + hostlink::ledBlockSize];
+    const uint32_t number = uint32_t(request);
+    memcpy(packet, &number, sizeof number);
+    memcpy(packet + sizeof number, block, hostlink::ledBlockSize);
+    int32_t result = -1;
+    if (send(descriptor, packet, sizeof packet, MSG_NOSIGNAL) != ssize_t(sizeof packet) ||
+        waitReadable(descriptor, answerTimeoutMs) != 1 ||
+        recv(descriptor, &result, sizeof result, 0) != ssize_t(sizeof result))
+        return -1;
+    return result;
+}
+
+void keypad_close(int descriptor)
+{
+    close(descriptor);
+}

@@ -1,0 +1,44 @@
+// Where the host platform and the device emulator meet: names in the state folder that both know.
+//
+// The state folder comes from the environment variable FPD_STATE; the board's absolute paths lie below it.
+// Sockets are SOCK_SEQPACKET Unix sockets that the emulator listens on.
+#pragma once
+
+namespace hostlink
+{
+/// Keypad. The panel's first packet on a connection is one byte, 'r' for reading or 'w' for LED commands. A
+/// reader gets packets of one or more 16-bit little-endian key words. An LED command is the 32-bit
+/// little-endian request number and the 76-byte block; the answer is a 32-bit result, 0 for success.
+constexpr const char *keypadSocket = "/run/keypad.sock";
+constexpr int ledBlockSize = 76;
+constexpr unsigned int ledRequest = 0xc04c6bb4;
+
+/// Message bus: one message a packet, in both directions.
+constexpr const char *busSocket = "/run/bus.sock";
+
+/// The LCD: 320x240 pixels of 32 bits, then a 64-bit frame counter and the monotonic time of the last flush
+/// in ns.
+constexpr const char *lcdFile = "/lcd.fb";
+constexpr int lcdWidth = 320;
+constexpr int lcdHeight = 240;
+constexpr int lcdBytes = lcdWidth * lcdHeight * 4;
+constexpr int lcdFileSize = lcdBytes + 16;
+
+/// The flash image and how many of the next reads shall fail, in decimal.
+constexpr const char *flashFile = "/flash.img";
+constexpr unsigned int flashSize = 20 * 1024 * 1024;
+constexpr const char *flashFaultFile = "/fault/flash";
+/// How many of the next sends on the bus shall fail, in decimal.
+constexpr const char *busFaultFile = "/fault/bus-send";
+
+/// Persistent environment and link state: lines of NAME=VALUE.
+constexpr const char *environmentFile = "/sysconf.env";
+constexpr const char *linkFile = "/link";
+constexpr const char *linkUsb = "usb_otg";
+constexpr const char *linkLoop = "usb_host";
+constexpr const char *linkEthernet = "eth1";
+constexpr const char *linkPriority = "pc_priority";
+
+/// Shell tools of the board; put in front of PATH.
+constexpr const char *toolFolder = "/bin";
+} // namespace hostlink
