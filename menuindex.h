@@ -63,6 +63,10 @@ enum ENUM_MenuIndex : int {
     MENU_Preset8 = 1033,
     MENU_Preset9 = 1034,
     MENU_Preset10 = 1035,
+    EVENT_PresetSave = 1036, ///< commands on presets, without an item: the value is the number, 0 to 9
+    EVENT_PresetLoad = 1037,
+    EVENT_PresetDelete = 1038,
+    EVENT_PresetCopy = 1039, ///< two numbers, joined with "_"
     MENU_ImageMosaic_Status = 1040,
     MENU_ImageMosaic_TotalHPixels = 1041,
     MENU_ImageMosaic_TotalVPixels = 1042,
@@ -567,6 +571,8 @@ enum ENUM_MenuIndex : int {
 
     // Reports and commands without an item of their own
     EVENT_SendingCardMode = 3397,
+    EVENT_SendingCardX = 3398, ///< the main layer has moved while the device works as a sending card
+    EVENT_SendingCardY = 3399,
     EVENT_SoftCalibrate = 3408,
     EVENT_OSDPictureFirst = 3412, ///< eight slots
     EVENT_VideoServiceStarted = 3427,
