@@ -1,15 +1,14 @@
 #include "keypaddevice.h"
 
 #include "fpd_hostlink.h"
+#include "platform/host/seqpacket.h"
 #include "platform/host/statefile.h"
 
-#include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
 namespace
@@ -25,18 +24,11 @@ int waitReadable(int descriptor, int timeoutMs)
 
 int keypad_open(const char *, int flags)
 {
-    const QByteArray path = host::stateFile(hostlink::keypadSocket).toLocal8Bit();
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (size_t(path.size()) >= sizeof address.sun_path)
-        return -1;
-    memcpy(address.sun_path, path.constData(), size_t(path.size()));
-    const int descriptor = socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0);
+    const int descriptor = host::connectSeqpacket(host::stateFile(hostlink::keypadSocket));
     if (descriptor < 0)
         return -1;
     const char mode = (flags & O_ACCMODE) == O_RDONLY ? 'r' : 'w';
-    if (connect(descriptor, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0 ||
-        send(descriptor, &mode, 1, MSG_NOSIGNAL) != 1) {
+    if (send(descriptor, &mode, 1, MSG_NOSIGNAL) != 1) {
         close(descriptor);
         return -1;
     }

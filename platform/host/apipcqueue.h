@@ -1,0 +1,49 @@
+// Messages between the bus thread that receives them and the thread that works on them. The taker is let wait
+// a little, so that a program that asks again and again does not burn the processor.
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace host
+{
+using ApipcMessage = std::vector<char>;
+
+class ApipcQueue
+{
+public:
+    /// False when the queue is full: a program that does not read must not eat all memory.
+    bool put(const char *message, unsigned int length)
+    {
+        const std::lock_guard<std::mutex> guard(m_lock);
+        if (m_messages.size() >= maximalMessages)
+            return false;
+        m_messages.push_back(std::make_unique<ApipcMessage>(message, message + length));
+        m_filled.notify_one();
+        return true;
+    }
+
+    /// The oldest message, which is now the caller's; null if none came for a while.
+    ApipcMessage *take()
+    {
+        std::unique_lock<std::mutex> guard(m_lock);
+        if (!m_filled.wait_for(guard, longestWait, [this] { return !m_messages.empty(); }))
+            return nullptr;
+        ApipcMessage *message = m_messages.front().release();
+        m_messages.pop_front();
+        return message;
+    }
+
+private:
+    static constexpr size_t maximalMessages = 4096;
+    static constexpr std::chrono::milliseconds longestWait{100};
+
+    std::mutex m_lock;
+    std::condition_variable m_filled;
+    std::deque<std::unique_ptr<ApipcMessage>> m_messages;
+};
+} // namespace host
