@@ -2,6 +2,7 @@
 
 #include "menutables.h"
 
+#include <tuple>
 #include <utility>
 
 namespace VASK
@@ -30,5 +31,20 @@ ST_ItemInfo::ST_ItemInfo(QString icon, QString tag, ENUM_MenuIndex index, bool e
       unit(std::move(unit)), choice(std::move(choice)), enable(enable), enableSelect(enableSelect),
       params(std::move(params)), params1(std::move(params1)), rowHeight(rowHeight), focusable(focusable)
 {
+}
+
+namespace
+{
+auto fieldsOf(const ST_ItemInfo &item)
+{
+    return std::tie(item.icon, item.tag, item.index, item.value, item.iconRight, item.col, item.row, item.max,
+                    item.min, item.perBase, item.pixValue, item.step, item.unit, item.choice, item.enable,
+                    item.enableSelect, item.params, item.params1, item.rowHeight, item.focusable);
+}
+} // namespace
+
+bool operator==(const ST_ItemInfo &a, const ST_ItemInfo &b)
+{
+    return fieldsOf(a) == fieldsOf(b);
 }
 } // namespace VASK

@@ -64,6 +64,9 @@ struct ST_ItemInfo {
     bool focusable = true;          ///< false: the cursor skips the row; not stored
 };
 
+/// All fields alike, also the two that are not stored.
+bool operator==(const ST_ItemInfo &a, const ST_ItemInfo &b);
+
 /// One message.
 struct ST_DialogInfo {
     int type = 2;

@@ -79,6 +79,8 @@ private:
     bool CheckXmlfileIsVaild(const QString &name) const;
     void createFromTable();
     void repairFactoryFile();
+    void addHiddenItems();
+    void takeItemsFromDocument();
     bool CreateMeunFile();
     bool createXmlFile();
     bool saveDataToFile(const QString &name);
@@ -96,12 +98,14 @@ private:
     const QString m_factoryName = QStringLiteral("config_factory.xml");
     QString m_path;
     QTimer *m_updateTimer = nullptr;
-    XmlNames m_elementNames;
+    const XmlNames m_elementNames = menuXmlNames();
 
     /// Guards the document and the files for the length of a load or a flush. Taken before m_mutex, never
     /// inside it.
     QMutex m_documentMutex;
     QDomDocument m_xmldoc;
+    /// The file does not hold the whole table yet: nothing worth a backup.
+    bool m_creating = false;
 
     /// Guards the item map and the three lists for one access.
     mutable QMutex m_mutex;

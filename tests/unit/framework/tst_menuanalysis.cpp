@@ -1,0 +1,349 @@
+// The item store: what it remembers, what it writes and when.
+
+#include "boardio.h"
+#include "framework/menuanalysis.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace VASK;
+
+namespace
+{
+const QString folder = "/usr/vask/etc/fpd/config/";
+
+QString path(const QString &name)
+{
+    return board::filePath(folder + name);
+}
+
+QByteArray contents(const QString &name)
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString &name, const QByteArray &bytes)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+}
+
+QString valueOf(const MenuAnalysis &store, ENUM_MenuIndex index)
+{
+    QString value;
+    store.GetItemCurValue(index, value);
+    return value;
+}
+
+/// What the next start finds.
+QString valueAfterRestart(ENUM_MenuIndex index)
+{
+    MenuAnalysis store(ENUM_MENUANALYSIS);
+    store.initlize();
+    return valueOf(store, index);
+}
+
+QByteArray withoutItem(QByteArray file, ENUM_MenuIndex index)
+{
+    const int from = file.indexOf("    <Items Index=\"" + QByteArray::number(index) + "\">");
+    const QByteArray end = "</Items>\n";
+    return file.remove(from, file.indexOf(end, from) + end.size() - from);
+}
+} // namespace
+
+class TestMenuAnalysis : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        // In memory where there is such a place: every save ends in a "sync".
+        m_state.reset(new QTemporaryDir(QFileInfo("/dev/shm").isWritable()
+                                            ? "/dev/shm/fpdstore-XXXXXX"
+                                            : QDir::tempPath() + "/fpdstore-XXXXXX"));
+        qputenv("FPD_STATE", m_state->path().toUtf8());
+        QVERIFY(QDir().mkpath(path("")));
+    }
+
+    void firstStartWritesTheTable()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        QVERIFY(store.initlize());
+        const QByteArray file = contents("config.xml");
+        QCOMPARE(file.count("<Items Index="), 408);
+        QVERIFY(file.startsWith("<?xml version='1.0' encoding='UTF-8'?>\n<MenuItemList Version=\"1.0\">\n"
+                                "    <Items Index=\"1\">\n        <Icon>"));
+        QCOMPARE(contents("config_factory.xml"), file);
+        QCOMPARE(contents("config_backup.xml"), file);
+        for (const ST_ItemInfo &row : g_MenuXmlConfig) {
+            ST_ItemInfo item;
+            QVERIFY(store.GetMenuItem(row.index, item));
+            QVERIFY(item == row);
+        }
+    }
+
+    void everyFieldReturns()
+    {
+        ST_ItemInfo item = g_MenuXmlConfig[MENU_MainLayer_InputSource];
+        item.value = QString::fromUtf8("<名称 & \"x\">");
+        item.choice = "1";
+        item.perBase = "7";
+        item.pixValue = "0101";
+        item.enableSelect = true;
+        item.params["9"] = QString::fromUtf8("输入");
+        {
+            MenuAnalysis store(ENUM_MENUANALYSIS);
+            store.initlize();
+            store.updataMenuItem(item.index, item);
+            store.slot_updateXml();
+        }
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        ST_ItemInfo loaded;
+        QVERIFY(store.GetMenuItem(item.index, loaded));
+        QVERIFY(loaded == item);
+        QVERIFY(contents("config_backup.xml").contains(QString::fromUtf8("名称").toUtf8()));
+    }
+
+    void aTextThatXmlCannotHoldDoesNotDamageTheFile()
+    {
+        {
+            MenuAnalysis store(ENUM_MENUANALYSIS);
+            store.initlize();
+            store.UpdataItemCurValue(MENU_About_SupportValue, QString("a\x01"
+                                                                      "b") +
+                                                                  QChar(0xFFFF) + QChar(0xD800));
+            store.slot_updateXml();
+        }
+        QCOMPARE(valueAfterRestart(MENU_About_SupportValue), QString("ab"));
+    }
+
+    void elementsInTheFilesOrder()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        QDomDocument document;
+        QVERIFY(document.setContent(contents("config.xml")));
+        const QStringList order{"Icon",   "Tag",    "Value",        "IconEx",   "Row",    "Col",
+                                "Max",    "Min",    "PerBase",      "PixValue", "Step",   "Unit",
+                                "Choice", "Enable", "EnableSelect", "Params",   "Params1"};
+        QStringList tags;
+        const QDomElement first = document.documentElement().firstChildElement("Items");
+        for (QDomElement child = first.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement())
+            tags << child.tagName();
+        QCOMPARE(tags, order);
+    }
+
+    void refusals()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        ST_ItemInfo item;
+        QString text = "kept";
+        QVERIFY(!store.GetMenuItem(MENU_END, item));
+        QVERIFY(!store.GetItemCurValue(MENU_MosaicInput, text));
+        QCOMPARE(text, QString("kept"));
+        QVERIFY(!store.UpdataItemCurValue(MENU_END, "1"));
+        QVERIFY(!store.UpdataItemCurValue(MENU_MosaicInput, "1"));
+        QVERIFY(!store.UpdataItemCurValue(MENU_ScreenBrightness, ""));
+        QCOMPARE(valueOf(store, MENU_ScreenBrightness), QString("60"));
+        QVERIFY(store.UpdataItemCurValue(MENU_Mode3D_RightEyeStart, ""));
+        QCOMPARE(valueOf(store, MENU_Mode3D_RightEyeStart), QString());
+        QVERIFY(!store.UpdataItemCurChoice(MENU_Normal, ""));
+        QVERIFY(!store.AddMenuItem(MENU_END, item));
+        QVERIFY(!store.DeleteMenuItem(MENU_MosaicInput));
+        // An empty row of the table is no item, whatever key it stands under.
+        QVERIFY(store.AddMenuItem(MENU_MosaicInput, ST_ItemInfo()));
+        QVERIFY(!store.IsEixstItemFromXMLFile(MENU_MosaicInput));
+    }
+
+    void onlyAChangeIsWritten()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        QFile::remove(path("config.xml"));
+        store.UpdataItemCurValue(MENU_ScreenBrightness, "60");
+        store.UpdataItemEnable(MENU_ScreenBrightness, true);
+        store.UPdataItemEnableSelect(MENU_ScreenBrightness, false);
+        store.slot_updateXml();
+        QVERIFY(!QFile::exists(path("config.xml")));
+        for (int value = 1; value <= 10; ++value)
+            store.UpdataItemCurValue(MENU_ScreenBrightness, QString::number(value));
+        store.slot_updateXml();
+        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("10"));
+    }
+
+    void keysPutTheWriteOff()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        auto *timer = store.findChild<QTimer *>();
+        QVERIFY(timer && timer->isActive());
+        QCOMPARE(timer->interval(), 1000);
+        QTest::qWait(300);
+        QVERIFY(timer->remainingTime() < 750);
+        store.restartUpdateTimer();
+        QVERIFY(timer->remainingTime() > 900);
+    }
+
+    void addedAndDeletedBeforeTheFlush()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        ST_ItemInfo item;
+        item.index = MENU_MosaicInput;
+        item.value = "old";
+        QVERIFY(store.AddMenuItem(MENU_MosaicInput, item));
+        QVERIFY(store.UpdataItemCurValue(MENU_MosaicInput, "new"));
+        QVERIFY(store.DeleteMenuItem(MENU_ScreenBrightness));
+        store.slot_updateXml();
+        QCOMPARE(valueOf(store, MENU_MosaicInput), QString("new"));
+        // The removal reaches the disk with the next write.
+        store.UpdataItemCurValue(MENU_MosaicInput, "newer");
+        store.slot_updateXml();
+        const QByteArray file = contents("config.xml");
+        QVERIFY(file.contains("<Value>newer</Value>"));
+        QVERIFY(!file.contains("<Items Index=\"1\">"));
+        QCOMPARE(file.count("<Items Index=\"1018\">"), 1);
+    }
+
+    void anOlderFileGetsTheNewItems()
+    {
+        {
+            MenuAnalysis store(ENUM_MENUANALYSIS);
+            store.initlize();
+            store.UpdataItemCurValue(MENU_ScreenBrightness, "33");
+            store.slot_updateXml();
+        }
+        QByteArray file = withoutItem(contents("config.xml"), MENU_LowLatency);
+        file = withoutItem(file, MENU_ScreenLock);
+        // A number that the table no longer has stays.
+        file.replace("<Items Index=\"1018\">", "");
+        file.replace("</MenuItemList>",
+                     "    <Items Index=\"1039\"><Value>of old</Value><Odd>x</Odd></Items>\n</MenuItemList>");
+        write("config.xml", file);
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        QVERIFY(!store.IsEixstItemFromXMLFile(MENU_LowLatency)); // its widget adds it
+        QCOMPARE(valueOf(store, MENU_ScreenLock), QString("0")); // nobody else would
+        QCOMPARE(valueOf(store, ENUM_MenuIndex(1039)), QString("of old"));
+        QVERIFY(store.AddMenuItem(MENU_LowLatency, g_MenuXmlConfig[MENU_LowLatency]));
+        QVERIFY(store.AddMenuItem(MENU_ScreenBrightness, g_MenuXmlConfig[MENU_ScreenBrightness]));
+        store.slot_updateXml();
+        file = contents("config.xml");
+        QCOMPARE(file.count("<Items Index="), 409);
+        QVERIFY(file.contains("of old"));
+        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("33"));
+    }
+
+    void readsAnyOrderAndSkipsWhatItCannotRead()
+    {
+        {
+            MenuAnalysis(ENUM_MENUANALYSIS).initlize();
+        }
+        write(
+            "config.xml",
+            "<?xml version='1.0' encoding='UTF-8'?><MenuItemList><Items Index='1'><Params><param>none</param>"
+            "<param paramName=''>empty</param><param "
+            "paramName='3'>three</param></Params><Enable>TRUE</Enable>"
+            "<Strange/><Col>3</Col><Value>1</Value></Items><Items "
+            "Index='1'><Value>77</Value><Enable>true</Enable>"
+            "</Items><Items Index='x'><Value>5</Value></Items><Items Index='9999'/></MenuItemList>");
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        ST_ItemInfo item;
+        QVERIFY(store.GetMenuItem(MENU_ScreenBrightness, item));
+        QCOMPARE(item.value, QString("77"));
+        QCOMPARE(item.enable, true);
+        QVERIFY(item.params.isEmpty());
+        QVERIFY(!store.IsEixstItemFromXMLFile(ENUM_MenuIndex(0)));
+    }
+
+    void factoryValuesOverACurrentStore()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        ST_ItemInfo late;
+        late.index = MENU_MosaicInput;
+        late.value = "late";
+        store.AddMenuItem(late.index, late);
+        store.UpdataItemCurValue(MENU_ScreenBrightness, "5");
+        store.slot_updateXml();
+        QVERIFY(store.LoadXmlFile(folder + "config_factory.xml"));
+        QVERIFY(store.updateActivittyItem());
+        QVERIFY(contents("config.xml").contains("<Items Index=\"1\">"));
+        store.slot_updateXml();
+        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("60"));
+        QCOMPARE(valueAfterRestart(MENU_MosaicInput), QString("late"));
+        QVERIFY(!store.LoadXmlFile(folder + "nothing.xml"));
+    }
+
+    void withoutAFolderTheStoreWorksInMemory()
+    {
+        QVERIFY(QDir(path("")).removeRecursively());
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        QVERIFY(store.initlize());
+        QVERIFY(store.UpdataItemCurValue(MENU_ScreenBrightness, "12"));
+        store.slot_updateXml();
+        QVERIFY(!store.updateActivittyItem());
+        QCOMPARE(valueOf(store, MENU_ScreenBrightness), QString("12"));
+        // The folder comes back: the next write has all that was changed.
+        QVERIFY(QDir().mkpath(path("")));
+        QVERIFY(store.updateActivittyItem());
+        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("12"));
+    }
+
+    void aWriteThatFailsLeavesTheBackup()
+    {
+        if (!QFile::exists("/dev/full"))
+            QSKIP("no device that is always full");
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        store.UpdataItemCurValue(MENU_ScreenBrightness, "21");
+        store.slot_updateXml();
+        QFile::remove(path("config.xml"));
+        QVERIFY(QFile::link("/dev/full", path("config.xml")));
+        store.UpdataItemCurValue(MENU_ScreenBrightness, "22");
+        store.slot_updateXml();
+        QVERIFY(contents("config_backup.xml").contains("<Value>21</Value>"));
+        QFile::remove(path("config.xml"));
+        QVERIFY(store.updateActivittyItem());
+        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("22"));
+    }
+
+    void changesFromTwoThreads()
+    {
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        QScopedPointer<QThread> reports(QThread::create([&store] {
+            for (int i = 1; i <= 300; ++i) {
+                store.UpdataItemCurValue(MENU_MainLayer_HorWidth, QString::number(i));
+                store.UpdataItemEnable(MENU_ScreenBrightness, i % 2 == 0);
+                store.restartUpdateTimer();
+            }
+        }));
+        reports->start();
+        for (int i = 1; i <= 300; ++i) {
+            store.UpdataItemCurValue(MENU_ScreenBrightness, QString::number(i));
+            if (i % 50 == 0)
+                store.slot_updateXml();
+        }
+        reports->wait();
+        QCoreApplication::processEvents();
+        store.slot_updateXml();
+        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("300"));
+        QCOMPARE(valueAfterRestart(MENU_MainLayer_HorWidth), QString("300"));
+    }
+
+private:
+    QScopedPointer<QTemporaryDir> m_state;
+};
+
+QTEST_MAIN(TestMenuAnalysis)
+#include "tst_menuanalysis.moc"
