@@ -1233,10 +1233,15 @@ enum ENUM_KeyCode : unsigned char {
     KEY_KNOB_RIGHT = 33,
     KEY_OK = 34,
     KEY_ESC = 35,
-    // Keys with a long press of their own: reserved on the home screen, and together the service chord with
-    // Fn
+    // Their long press opens the hidden menus, from the home screen only. Both keys have no other long press.
     KEY_USER_HIDDEN_MENU = KEY_FREEZE,
     KEY_PRODUCT_HIDDEN_MENU = KEY_TEST,
+    // Held together for three seconds they make KEY_SERVICE. The first of them has no long press at all and
+    // the others only the hidden menus, so a chord that is let go too early does no harm; all three let
+    // nothing through at their release.
+    KEY_SERVICE_1 = KEY_FN,
+    KEY_SERVICE_2 = KEY_FREEZE,
+    KEY_SERVICE_3 = KEY_TEST,
 };
 
 /// LEDs behind the keys.

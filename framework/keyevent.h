@@ -60,7 +60,8 @@ private:
     void post(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress);
     static void OnTimerLedEvent(int id, void *argument);
 
-    static PanelLeds m_leds;
+    static PanelLeds &leds();
+
     QApplication *m_pApplication = nullptr;
     std::unique_ptr<KeyDispatcher> m_dispatcher;
     KeyTracker m_keys;

@@ -8,6 +8,7 @@
 
 #include <QMutex>
 #include <QVector>
+#include <array>
 #include <functional>
 
 namespace VASK
@@ -37,7 +38,18 @@ public:
     void release(unsigned char key, unsigned char speed);
 
 private:
+    static constexpr int keyCount = 36;
+    /// A timer that fires while its key is let go can still be on its way when the key is pressed again, so
+    /// a few presses of a key have their own notes.
+    static constexpr int notesPerKey = 4;
+
     struct Chord;
+    /// What a long-press timer is told: whose press it measures.
+    struct TimerNote {
+        KeyTracker *tracker = nullptr;
+        unsigned char key = 0;
+        unsigned int press = 0;
+    };
 
     static void OnTimerEvent(int id, void *argument);
     void held(unsigned char key, unsigned int press);
@@ -45,9 +57,12 @@ private:
     void finishChord(const Chord &chord);
 
     static bool hasLongPress(unsigned char key);
+    void startTimer(unsigned char key);
+    void stopTimer(LongPress &entry);
 
     Post m_post;
     QMutex m_mutex;
     QVector<LongPress> m_listTimer;
+    std::array<TimerNote, keyCount * notesPerKey> m_notes;
 };
 } // namespace VASK

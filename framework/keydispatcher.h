@@ -1,0 +1,29 @@
+// Brings key events to the active window. The pointer to the active window is the GUI thread's, so the keypad
+// and the timer thread only hand a key over; this object, which lives on the GUI thread, looks the window up
+// there and gives it the key.
+#pragma once
+
+#include "framework/keypadevent.h"
+
+#include <QObject>
+#include <atomic>
+
+namespace VASK
+{
+class KeyDispatcher : public QObject
+{
+    Q_OBJECT
+public:
+    /// On the GUI thread. Keys that come before its event loop runs meet no window and are dropped.
+    KeyDispatcher();
+
+    /// From any thread; never waits.
+    void post(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress);
+
+private:
+    void deliver(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress);
+    static void drop(unsigned char key);
+
+    std::atomic<bool> m_loopRuns{false};
+};
+} // namespace VASK
