@@ -1,0 +1,297 @@
+#include "initialize.h"
+
+#include "boardio.h"
+#include "framework/keyevent.h"
+#include "framework/menuanalysis.h"
+#include "framework/transport.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+#include <QTranslator>
+#include <new>
+
+using namespace VASK;
+
+QTime runTime1;
+
+namespace
+{
+const QString translationFile = "/usr/vask/etc/fpd/config/fpd_ZH.qm";
+/// This program has come so far that the device side may go on.
+const QString panelFlag = "/etc/init.d/flag_fpdspi";
+/// The FPGA link is up.
+const QString deviceFlag = "/etc/init.d/flag_fpgaspi";
+constexpr unsigned long deviceFlagPollUs = 50000;
+const QString workModeFiber = "1";
+
+/// The service objects and the state that one step leaves to a later one. The objects live until the process
+/// ends.
+class StartUp
+{
+public:
+    void run();
+
+private:
+    struct Step {
+        bool (StartUp::*work)();
+        /// Logged when the step ends the start-up.
+        const char *failure;
+    };
+    static const Step steps[];
+
+    bool createProto3rd();
+    bool createApipc();
+    bool createMemory();
+    bool createStore();
+    bool createParaProcess();
+    bool createTransport();
+    bool createHttp();
+    bool createProto4rd();
+    bool fillPool();
+    bool initializeMemory();
+    bool initializeStore();
+    bool loadTranslation();
+    bool createHomeScreen();
+    bool initializeParaProcess();
+    bool readSnapshot();
+    bool raisePanelFlag();
+    bool buildMenus();
+    bool initializeHomeScreen();
+    bool waitForDevice();
+    bool showStartValues();
+    bool readStartState();
+    bool showHomeScreen();
+    bool connectApipc();
+    bool startProto3rd();
+    bool startProto4rd();
+    bool finish();
+
+    MenuAnalysis *m_store = nullptr;
+    transport *m_transport = nullptr;
+    ST_ItemInfo m_screenLock;
+    QString m_workMode;
+};
+
+// The order is fixed: each step leans on those before it.
+const StartUp::Step StartUp::steps[] = {
+    {&StartUp::createProto3rd, "ProtocolInterface init fail!"},
+    {&StartUp::createApipc, ""},
+    {&StartUp::createMemory, ""},
+    {&StartUp::createStore, ""},
+    {&StartUp::createParaProcess, ""},
+    {&StartUp::createTransport, "transport init fail!"},
+    {&StartUp::createHttp, ""},
+    {&StartUp::createProto4rd, ""},
+    {&StartUp::fillPool, ""},
+    {&StartUp::initializeMemory, "protoMemory20M init fail!"},
+    {&StartUp::initializeStore, "MenuAnalysis init fail!"},
+    {&StartUp::loadTranslation, ""},
+    {&StartUp::createHomeScreen, ""},
+    {&StartUp::initializeParaProcess, "process init fail!"},
+    {&StartUp::readSnapshot, ""},
+    {&StartUp::raisePanelFlag, ""},
+    {&StartUp::buildMenus, ""},
+    {&StartUp::initializeHomeScreen, ""},
+    {&StartUp::waitForDevice, ""},
+    {&StartUp::showStartValues, ""},
+    {&StartUp::readStartState, ""},
+    {&StartUp::showHomeScreen, ""},
+    {&StartUp::connectApipc, "APiPCService init fail!"},
+    {&StartUp::startProto3rd, "PROTOCOINTERFER_3RD init fail!"},
+    {&StartUp::startProto4rd, "PROTOCOINTERFER_4RD init fail!"},
+    {&StartUp::finish, ""},
+};
+
+void logMark(int step)
+{
+    qDebug() << "start-up time ->" << QTime::currentTime().toString("hh:mm:ss.zzz")
+             << runTime1.msecsTo(QTime::currentTime()) << "<- main 55555555 ,line:" << step;
+}
+
+/// A step whose class does not exist in this build.
+bool notBuilt(const char *what)
+{
+    qDebug() << "start-up: not in this build:" << what;
+    return true;
+}
+
+void StartUp::run()
+{
+    int number = 0;
+    for (const Step &step : steps) {
+        logMark(++number);
+        if (!(this->*step.work)()) {
+            qDebug() << step.failure;
+            return;
+        }
+    }
+    logMark(++number);
+}
+
+bool StartUp::createProto3rd()
+{
+    return notBuilt("Proto3rd");
+}
+
+bool StartUp::createApipc()
+{
+    return notBuilt("APiPCService");
+}
+
+bool StartUp::createMemory()
+{
+    return notBuilt("ProtoMemory20M");
+}
+
+bool StartUp::createStore()
+{
+    m_store = new MenuAnalysis(ENUM_MENUANALYSIS);
+    return true;
+}
+
+bool StartUp::createParaProcess()
+{
+    return notBuilt("ParaProcess");
+}
+
+bool StartUp::createTransport()
+{
+    m_transport = new (std::nothrow) transport(ENUM_TRANSPORT);
+    return m_transport;
+}
+
+bool StartUp::createHttp()
+{
+    return notBuilt("httpService");
+}
+
+bool StartUp::createProto4rd()
+{
+    return notBuilt("Proto4rd");
+}
+
+bool StartUp::fillPool()
+{
+    m_transport->InsertObject(ENUM_MENUANALYSIS, m_store);
+    m_transport->InsertObject(ENUM_TRANSPORT, m_transport);
+    return true;
+}
+
+bool StartUp::initializeMemory()
+{
+    return notBuilt("ProtoMemory20M");
+}
+
+bool StartUp::initializeStore()
+{
+    return m_store->initlize();
+}
+
+/// Without a translation the texts of the tables are shown.
+bool StartUp::loadTranslation()
+{
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (!translator->load(board::filePath(translationFile))) {
+        qWarning() << "main:load qm failed!";
+        delete translator;
+        return true;
+    }
+    if (!QCoreApplication::installTranslator(translator))
+        qDebug() << "install qm failed!";
+    qDebug() << "######Install qm ok!";
+    return true;
+}
+
+bool StartUp::createHomeScreen()
+{
+    return notBuilt("MainWindow");
+}
+
+bool StartUp::initializeParaProcess()
+{
+    return notBuilt("ParaProcess");
+}
+
+bool StartUp::readSnapshot()
+{
+    return notBuilt("ParaProcess");
+}
+
+/// Opening creates the file and leaves the contents of an older one alone.
+bool StartUp::raisePanelFlag()
+{
+    QFile flag(board::filePath(panelFlag));
+    if (!flag.open(QIODevice::ReadWrite | QIODevice::Text))
+        qDebug() << "start-up: cannot open" << panelFlag << flag.errorString();
+    return true;
+}
+
+bool StartUp::buildMenus()
+{
+    return notBuilt("DirectoryEngineer");
+}
+
+bool StartUp::initializeHomeScreen()
+{
+    qDebug() << "init mainWindow!";
+    return notBuilt("MainWindow");
+}
+
+/// Without limit: there is nothing to show and nothing to do without the device.
+bool StartUp::waitForDevice()
+{
+    while (!QFileInfo(board::filePath(deviceFlag)).isFile()) {
+        qDebug() << "sleep start!";
+        QThread::usleep(deviceFlagPollUs);
+        qDebug() << "sleep end!";
+    }
+    return true;
+}
+
+bool StartUp::showStartValues()
+{
+    return notBuilt("ParaProcess");
+}
+
+bool StartUp::readStartState()
+{
+    m_store->GetMenuItem(MENU_ScreenLock, m_screenLock);
+    return true;
+}
+
+bool StartUp::showHomeScreen()
+{
+    return notBuilt("MainWindow");
+}
+
+bool StartUp::connectApipc()
+{
+    return notBuilt("APiPCService");
+}
+
+bool StartUp::startProto3rd()
+{
+    return notBuilt("Proto3rd");
+}
+
+bool StartUp::startProto4rd()
+{
+    return notBuilt("Proto4rd");
+}
+
+bool StartUp::finish()
+{
+    qDebug() << "init OK!";
+    if (m_workMode == workModeFiber)
+        KeyEvent::LightFiber(true);
+    return true;
+}
+} // namespace
+
+void Initialize()
+{
+    StartUp().run();
+}
