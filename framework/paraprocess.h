@@ -50,8 +50,9 @@ public:
     /// The name of a source code with its number, such as "HDMI1.42"; empty for an unknown code.
     QString GetSourceNameByCode(unsigned char code) const;
 
-    /// Applies a value: stores it, moves what depends on it, shows it and, in user mode, sends it.
-    bool SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode);
+    /// Applies a value: stores it, moves what depends on it, shows it and, in user mode, sends it. Any
+    /// thread.
+    void SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode);
     /// The value that may be used instead of the given one.
     QString CalParaLimit(QString value, ENUM_MenuIndex index);
     /// The rate that the output takes for a source: the source's where it can follow, else its own.
@@ -62,6 +63,9 @@ public:
     void SaveProcessData(QString value, ENUM_MenuIndex index);
     /// The message of an item, or null if it has none. The caller runs and deletes it. GUI thread.
     QDialog *CreateDialog(ENUM_MenuIndex index, QString text);
+    /// Runs the message of an item and gives its result; 0 if it has none. From another thread than the GUI's
+    /// the home screen shows the message later, and the result is 0.
+    int runMessage(ENUM_MenuIndex index);
 
     /// Writes the network items from the snapshot again, unless the address comes from DHCP.
     void UpdateIp();
@@ -70,16 +74,37 @@ public:
     /// One of the device's two services has started; when both have, the start sequence runs.
     void serviceStarted(ENUM_MenuIndex event);
     bool videoServiceStarted() const { return videodStarted; }
-    /// Starts of the right eye's picture in pixels, by 3D format: 0 side by side, 1 top and bottom.
-    void setRightEyeStart(int sideBySide, int topAndBottom);
+    /// Start of the right eye's picture in pixels as kept for a 3D format: 0 side by side, 1 top and bottom.
     int rightEyeStart(int format) const;
+    void setRightEyeStart(int format, int pixels);
+
+    /// The device reports its display mode: 3 normal, 4 freeze, 5 black, 6 test pattern. Any thread.
+    void UpdataDispMode(int code);
+    /// The input list of the device is complete: the SDI input can be chosen or not. Any thread.
+    void HideSdiMenu(bool bHave);
+    /// The input that a layer shows has a signal or not. Any thread.
+    void SetLayerSrc_Res(int layer);
+    /// The number of the input with a source code, 255 if there is none. Any thread.
+    int FindKeyByValue(int code) const;
+
+    /// The home screen shows the state of an Ethernet port, from 0, as its own or as the first optical link
+    /// tells it. Any thread.
+    /// @{
+    void UpdatePortState(int port);
+    void UpdateOPT1_PortLinkState();
+    /// @}
+    /// An optical link, from 0, came or went. Any thread.
+    void UpdateOPTLinkState(int link);
+    /// Works out whether the backup of a port of the second optical link is in use. Any thread.
+    void UpdateOPT2PortBackUPState(int port);
 
     /// Set at the end of the first InitializeMainWindow: from then on the home screen is reached by queued
     /// signals.
     static std::atomic<bool> init_20m_flg;
-    static bool bHaveSDI;
-    static bool bRelOnloadRegionStart;
-    static bool m_ResetFlg;
+    static std::atomic<bool> bHaveSDI;
+    static std::atomic<bool> bRelOnloadRegionStart;
+    /// A reset has run: there is one in a run of the program.
+    static std::atomic<bool> m_ResetFlg;
     /// The preset that is being copied, 0 to 9; -1 for none.
     static int m_CopySceneNum;
 
@@ -95,6 +120,8 @@ signals:
     void signal_Update_LedState();
     void signal_Layer_state(qint32 layer, qint32 state);
     void signal_SetRes_state(qint32 layer, QString text);
+    /// The input under test has a stable signal; connected by the production test.
+    void signal_Source_Stable();
 
 public:
     /// The home screen; null before Initialize.
@@ -118,7 +145,11 @@ private:
     void InitParaFrom20M();
     void pushPresets();
     QString readRootVersion();
+    void nameInputsAndSources();
+    void askBeforeQuickConfiguration();
     void resetDisplayItems(MenuAnalysis &store);
+    void markFnFunction(MenuAnalysis &store);
+    void keepRightEyeStarts(MenuAnalysis &store);
     void connectHomeScreen();
     void showLayer(int layer);
     void showSyncState();
@@ -132,9 +163,8 @@ private:
     SnapshotMirror m_mirror;
     /// Does the preset hold a decoded name?
     std::array<bool, presetCount> m_presetNamed{};
-    std::atomic<int> m_rightEyeStart[2] = {{0}, {0}};
-    bool videodStarted = false;
-    bool senderdStarted = true;
+    std::atomic<bool> videodStarted{false};
+    std::atomic<bool> senderdStarted{true};
     QMap<QString, QString> m_inputNames;
     QMap<unsigned char, QString> m_sourceNames;
 };

@@ -37,13 +37,16 @@ bool isWide(ENUM_MenuIndex index)
 }
 } // namespace
 
+int InputRecord::measuredRateCentiHz() const
+{
+    constexpr int centiHzUs = 100000000;
+    return framePeriodUs ? (centiHzUs + framePeriodUs / 2) / framePeriodUs : 0;
+}
+
 int InputRecord::rateCentiHz() const
 {
     constexpr int unknownRate = 6000;
-    constexpr int centiHzUs = 100000000;
-    if (framePeriodUs == 0)
-        return unknownRate;
-    const int rate = (centiHzUs + framePeriodUs / 2) / framePeriodUs;
+    const int rate = measuredRateCentiHz();
     return rate ? rate : unknownRate;
 }
 

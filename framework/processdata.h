@@ -24,6 +24,8 @@ struct InputRecord {
 
     /// Frame rate in hundredths of a hertz; 6000 when the period is unknown.
     int rateCentiHz() const;
+    /// The same, but 0 when the period is unknown.
+    int measuredRateCentiHz() const;
 };
 
 class ProcessData

@@ -128,6 +128,19 @@ void applyFnFunction(ParaChange &change)
     change.tail();
 }
 
+/// How the device names the display modes.
+struct ReportedMode {
+    int code;
+    ENUM_MenuIndex item;
+    DisplayMode mode;
+};
+constexpr ReportedMode reportedModes[] = {
+    {3, MENU_Normal, Normal},
+    {4, MENU_Freeze, Frozen},
+    {5, MENU_FTB, Black},
+    {6, MENU_TestPattern, Testing},
+};
+
 constexpr ApplyCase cases[] = {
     {MENU_Normal, MENU_Normal, applyNormal},
     {MENU_Freeze, MENU_Freeze, applyFreeze},
@@ -136,6 +149,24 @@ constexpr ApplyCase cases[] = {
     {MENU_Fn_Synchronization, MENU_Fn_TestPattern, applyFnFunction},
 };
 } // namespace
+
+void ParaProcess::UpdataDispMode(int code)
+{
+    for (const ReportedMode &reported : reportedModes) {
+        if (reported.code != code)
+            continue;
+        if (reported.mode != Testing) {
+            if (m_processData.value(PARA_DisplayMode) == reported.mode)
+                return;
+            if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS)) {
+                ParaChange change(*this, *store, QString(), reported.item, SET_XML_DEVICE);
+                change.choice(reported.item, true);
+                change.refresh(reported.item);
+            }
+        }
+        SetParaToXml(QString(), reported.item, SET_XML_DEVICE);
+    }
+}
 
 ApplyFamily displayFamily()
 {

@@ -9,9 +9,6 @@ namespace VASK
 {
 namespace
 {
-constexpr int layerCount = 3;
-constexpr int unknownRate = 6000; ///< hundredths of a hertz
-
 /// An output mode as the user chose it: size from the resolution list, rate from its own.
 struct ChosenOutput {
     int width = 0;
@@ -49,11 +46,10 @@ void applyResolution(ParaChange &change)
         rateList = ENUM_MenuIndex(change.index + MENU_HDMI1_EDIDFrameRate - MENU_HDMI1_EDIDResolution);
     const ST_ItemInfo allowed = change.info(ENUM_MenuIndex(MENU_Rates_1024x768 + change.value.toInt()));
     ST_ItemInfo rates = change.info(rateList);
-    const QString current = rates.params.value(rates.value);
     rates.params = allowed.params;
     rates.params1 = allowed.params1;
-    // The rate that was chosen keeps its place where the new list has it, else the list's own default counts.
-    rates.value = allowed.params.key(current, allowed.value);
+    if (!rates.params.contains(rates.value))
+        rates.value = allowed.value;
     change.store.updataMenuItem(rateList, rates);
     change.refresh(rateList);
     change.tail();
@@ -69,23 +65,29 @@ void applyOutputMode(ParaChange &change)
 void syncOff(ParaChange &change)
 {
     const DeviceView device(change.engine);
-    int rate = 0;
-    if (device.workMode() == WORK_SENDER)
-        rate = device.input(change.number(MENU_MainLayer_InputSource)).rateCentiHz();
-    else
-        rate = device.outputRowRate();
+    const bool sender = device.workMode() == WORK_SENDER;
+    const int rate = sender ? device.input(change.number(MENU_MainLayer_InputSource)).rateCentiHz()
+                            : device.outputRowRate();
     change.set(PARA_OutputRate, QString::number(rate));
-    if (change.changed()) {
-        if (change.fromUser())
-            change.send(MENU_Sync_Status, change.value);
+    if (change.changed() && change.fromUser())
+        change.send(MENU_Sync_Status, change.value);
+    if (change.changed() && !sender) {
         if (device.followsSoftware())
             change.send(MENU_Output_Apply, ChosenOutput(change).text());
         else
-            change.send(MENU_OutputFrameRate, change.item(MENU_OutputFrameRate));
+            change.send(MENU_OutputFrameRate, change.chosenOption(MENU_OutputFrameRate));
     }
-    change.redoResolution();
-    change.syncState(1);
+    change.redoResolution(rate);
+    change.syncState(SYN_OFF);
     change.tail();
+}
+
+/// Rate at which the output follows a source, hundredths of a hertz.
+int followedRate(const ParaChange &change, const InputRecord &source)
+{
+    const int rate =
+        change.engine.OutputFrameAdj(source.measuredRateCentiHz(), change.number(PARA_OutputRate));
+    return rate ? rate : unknownRate;
 }
 
 void syncOn(ParaChange &change)
@@ -105,10 +107,9 @@ void syncOn(ParaChange &change)
     const QString source = change.item(MENU_Sync_Source);
     const int input =
         source == QLatin1String("0") ? device.inputOfCode(SOURCE_SYNC_REFERENCE) : source.toInt();
-    const int rate =
-        change.engine.OutputFrameAdj(device.input(input).rateCentiHz(), change.number(PARA_OutputRate));
-    change.set(PARA_OutputRate, QString::number(rate ? rate : unknownRate));
-    change.redoResolution();
+    const int rate = followedRate(change, device.input(input));
+    change.set(PARA_OutputRate, QString::number(rate));
+    change.redoResolution(rate);
     change.tail();
 }
 
@@ -126,8 +127,7 @@ void followChosenMode(ParaChange &change, const ChosenOutput &output)
     change.set(MENU_OutputMode, "1");
     change.set(PARA_OutputWidth, QString::number(output.width));
     change.set(PARA_OutputHeight, QString::number(output.height));
-    change.home()->SetScreenRes(
-        DeviceView::sizeText(output.width, output.height, false, centiHz(output.rate)));
+    change.showResolution(DeviceView::sizeText(output.width, output.height, false, centiHz(output.rate)));
     change.set(PARA_OutputRate, QString::number(centiHz(output.rate)));
     change.enable(MENU_Mode3D, false);
     change.refresh(MENU_Mode3D);
@@ -136,12 +136,12 @@ void followChosenMode(ParaChange &change, const ChosenOutput &output)
         change.send(MENU_Mode3D_Status, "0");
     }
     for (int layer = 0; layer < layerCount; ++layer) {
-        auto of = [layer](ENUM_MenuIndex main) { return ENUM_MenuIndex(main + layer * STRIDE_Layer); };
-        if (change.item(of(MENU_MainLayer_ScalingMode)) != QLatin1String("0"))
+        if (change.item(layerItem(MENU_MainLayer_ScalingMode, layer)) != QLatin1String("0"))
             continue;
-        change.show(of(MENU_MainLayer_HorWidth), QString::number(output.width));
-        change.show(of(MENU_MainLayer_VerHeight), QString::number(output.height));
-        change.send(of(MENU_MainLayer_VerHeight), QString::number(output.height));
+        const ENUM_MenuIndex height = layerItem(MENU_MainLayer_VerHeight, layer);
+        change.show(layerItem(MENU_MainLayer_HorWidth, layer), QString::number(output.width));
+        change.show(height, QString::number(output.height));
+        change.send(height, QString::number(output.height));
     }
     change.send(MENU_Output_Mode, "1");
     if (change.isOn(MENU_ImageMosaic_Status))
@@ -172,19 +172,28 @@ void applyGenlock(ParaChange &change)
     const DeviceView device(change.engine);
     if (!device.syncOn())
         return;
-    static const int states[] = {1, 1, 0, 2, 3}; // of the home screen, by the reported state
+    /// Of the home screen, by the reported state.
+    static constexpr ENUM_MainWindowSynState states[] = {SYN_OFF, SYN_OFF, SYN_ON, SYN_WAITING, SYN_FAILED};
     const int reported = change.value.toInt();
     if (reported < 0 || reported >= int(std::size(states)))
         return;
     change.engine.raiseSyncState(states[reported]);
     const InputRecord source = device.input(device.syncInput());
-    const int rate = change.engine.OutputFrameAdj(source.rateCentiHz(), change.number(PARA_OutputRate));
-    change.set(PARA_OutputRate, QString::number(rate ? rate : unknownRate));
-    change.redoResolution();
+    change.redoResolution(followedRate(change, source));
     change.engine.raiseSyncProblem(source.signalState, change.value);
 }
 
+/// The device takes the rate itself, not its row; what it makes of it comes back as a report.
+void applyOutputRate(ParaChange &change)
+{
+    if (change.fromUser())
+        change.send(change.index, change.chosenOption(change.index));
+    else
+        change.tail();
+}
+
 constexpr ApplyCase cases[] = {
+    {MENU_OutputFrameRate, MENU_OutputFrameRate, applyOutputRate},
     {MENU_Sync_Status, MENU_Sync_Status, applySync},
     {MENU_Sync_Source, MENU_Sync_Source, applySyncSource},
     {MENU_Output_Mode, MENU_Output_Mode, applyOutputMode},

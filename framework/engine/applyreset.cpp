@@ -69,9 +69,6 @@ void restoreSendingCard(ParaChange &change, ST_ItemInfo source)
 
 void restoreMosaicSource(ParaChange &change)
 {
-    const ST_ItemInfo source = change.info(MENU_MainLayer_InputSource);
-    if (source.params.key(mosaicText).isEmpty())
-        return;
     change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicText, true);
     change.set(MENU_MainLayer_InputSource, "2");
 }
@@ -109,10 +106,7 @@ void tellOutcome(ParaChange &change)
 /// One reset a run of the program: true if this is the first.
 bool claimReset()
 {
-    if (ParaProcess::m_ResetFlg)
-        return false;
-    ParaProcess::m_ResetFlg = true;
-    return true;
+    return !ParaProcess::m_ResetFlg.exchange(true);
 }
 
 void applyReset(ParaChange &change)

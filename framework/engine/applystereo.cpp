@@ -19,15 +19,26 @@ struct OutputLoad {
     int rateCentiHz;
 };
 
-/// What the output carries now, without the doubling of 3D.
+/// What the output carries now, without the doubling of 3D. Before the device has told its size, the size
+/// that start-up found counts.
 OutputLoad currentLoad(const ParaChange &change)
 {
-    if (change.item(MENU_OutputMode) != QLatin1String("1"))
-        return {change.number(PARA_ReportedWidth), change.number(PARA_ReportedHeight),
+    if (change.item(MENU_OutputMode) != QLatin1String("1")) {
+        const bool reported = change.number(PARA_ReportedWidth) != 0;
+        return {change.number(reported ? PARA_ReportedWidth : PARA_OutputWidth),
+                change.number(reported ? PARA_ReportedHeight : PARA_OutputHeight),
                 change.number(PARA_OutputRate)};
+    }
     const QStringList size = change.chosenOption(MENU_Output_Resolution).split('*');
     return {size.value(0).toInt(), size.value(1).toInt(),
             qRound(change.chosenOption(MENU_Output_FrameRate).toFloat() * 100)};
+}
+
+void showDoubled(ParaChange &change, bool doubles)
+{
+    const OutputLoad load = currentLoad(change);
+    change.showResolution(DeviceView::sizeText(load.width, load.height, false,
+                                               doubles ? 2 * load.rateCentiHz : load.rateCentiHz));
 }
 
 bool overloads(const ParaChange &change)
@@ -39,7 +50,7 @@ bool overloads(const ParaChange &change)
 
 void turnOffPip(ParaChange &change, int layer)
 {
-    const ENUM_MenuIndex status = ENUM_MenuIndex(MENU_MainLayer_Status + layer * STRIDE_Layer);
+    const ENUM_MenuIndex status = layerItem(MENU_MainLayer_Status, layer);
     if (!change.isOn(status))
         return;
     change.enable(status, true);
@@ -88,7 +99,7 @@ void applyStereo(ParaChange &change)
         change.dialog(MSG_OverLoad);
         return;
     }
-    change.redoResolution();
+    showDoubled(change, doubles);
     if (on)
         stereoOn(change);
     else
@@ -105,7 +116,7 @@ void applyFormat(ParaChange &change)
         change.dialog(MSG_OverLoad);
         return;
     }
-    change.redoResolution();
+    showDoubled(change, change.isOn(MENU_Mode3D_Status) && format != FrameSequential);
     change.enable(MENU_Mode3D_RightEyeStart, format != FrameSequential);
     if (format == FrameSequential) {
         change.refresh(MENU_Mode3D_RightEyeStart);
@@ -121,10 +132,8 @@ void applyFormat(ParaChange &change)
 void applyRightEyeStart(ParaChange &change)
 {
     const int format = change.number(MENU_Mode3D_Format);
-    if (format == SideBySide)
-        change.engine.setRightEyeStart(change.value.toInt(), change.engine.rightEyeStart(TopAndBottom));
-    else if (format == TopAndBottom)
-        change.engine.setRightEyeStart(change.engine.rightEyeStart(SideBySide), change.value.toInt());
+    if (format == SideBySide || format == TopAndBottom)
+        change.engine.setRightEyeStart(format, change.value.toInt());
     change.tail();
 }
 

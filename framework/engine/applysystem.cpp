@@ -4,11 +4,12 @@
 #include "framework/engine/change.h"
 
 #include "boardio.h"
+#include "framework/handover.h"
 #include "framework/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/menudirectoty.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QThread>
 #include <QTranslator>
 
@@ -28,6 +29,15 @@ constexpr Language languages[] = {
     {MENU_LanguageEn, MENU_LanguageZh, "/usr/vask/etc/fpd/config/fpd_EN.qm", "now is en!"},
     {MENU_LanguageZh, MENU_LanguageEn, "/usr/vask/etc/fpd/config/fpd_ZH.qm", "now is zh!"},
 };
+
+/// The translation that was installed last is asked first; the engine keeps one.
+void installTranslation(ParaProcess &engine, const char *file)
+{
+    delete engine.findChild<QTranslator *>();
+    auto *translator = new QTranslator(&engine);
+    if (translator->load(board::filePath(file)) && QCoreApplication::installTranslator(translator))
+        qDebug() << "install qm succeed!";
+}
 
 void translateEverything()
 {
@@ -50,13 +60,12 @@ void applyLanguage(ParaChange &change)
     change.choice(language.other, false);
     change.refresh(language.item);
     change.refresh(language.other);
-    // Lives as long as the engine: the last one installed is asked first.
-    auto *translator = new QTranslator(&change.engine);
-    if (translator->load(board::filePath(language.file)) && QCoreApplication::installTranslator(translator))
-        qDebug() << "install qm succeed!";
-    translateEverything();
-    if (auto *page = poolObject<MenuDirectory>(ENUM_PAGE_Language))
-        page->keypadEScEvent(nullptr);
+    runOnGui(&change.engine, [engine = &change.engine, file = language.file] {
+        installTranslation(*engine, file);
+        translateEverything();
+        if (auto *page = poolObject<MenuDirectory>(ENUM_PAGE_Language))
+            page->keypadEScEvent(nullptr);
+    });
 }
 
 void applyBootLogo(ParaChange &change)
@@ -86,6 +95,25 @@ void loadCabinetFile(ParaChange &change)
     change.dialog(MSG_Waiting);
     QThread::sleep(cabinetLoadSeconds);
     change.dialog(MSG_LoadSucceed);
+}
+
+/// The device has brought a list of cabinet files: the open page shows it.
+void showCabinetFiles(ParaChange &change)
+{
+    runOnGui(&change.engine, [engine = &change.engine, store = &change.store] {
+        auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow());
+        QStringList names;
+        if (!page || page != ObjectPool::getInstance()->GetObject(ENUM_PAGE_LoadCabFiles) ||
+            !MenuDirectory::GetCabCfgFileName(names))
+            return;
+        if (names.size() > MenuDirectory::fileRowCount) {
+            qDebug() << "too many file";
+            names = names.mid(0, MenuDirectory::fileRowCount);
+        }
+        for (int row = 0; row < MenuDirectory::fileRowCount; ++row)
+            store->UpdataItemEnable(ENUM_MenuIndex(MENU_CabinetFile1 + row), row < names.size());
+        page->showFiles(names);
+    });
 }
 
 void openAdvancedConfiguration(ParaChange &change)
@@ -122,6 +150,7 @@ constexpr ApplyCase cases[] = {
     {MENU_CabinetFile1, MENU_CabinetFile8, loadCabinetFile},
     {MENU_AdvancedCfg, MENU_AdvancedCfg, openAdvancedConfiguration},
     {EVENT_OSDPictureFirst, ENUM_MenuIndex(EVENT_OSDPictureFirst + osdPictureCount - 1), applyOsdPicture},
+    {EVENT_CabinetListLoaded, EVENT_CabinetListLoaded, showCabinetFiles},
     {EVENT_SoftCalibrate, EVENT_SoftCalibrate, applySoftCalibration},
     {EVENT_VideoServiceStarted, EVENT_SenderServiceStarted, applyServiceStarted},
 };

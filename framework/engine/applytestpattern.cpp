@@ -37,16 +37,15 @@ void applyType(ParaChange &change)
     static const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
     qDebug() << "ParaProcess::SetParaToXml===ENUM_MENUINDEX_SCREEN_CONTROL_PIC_TEST_TYPE_MENU:para=="
              << change.value;
-    const int type = change.value.toInt();
-    if (type >= 0 && type < int(std::size(patterns)) && change.fromUser())
-        change.send(patterns[type], change.item(patterns[type]));
-    change.set(PARA_TestPatternFamily, QString::number(type));
-
     constexpr int typeCount = 5;
+    const int type = change.value.toInt();
     if (type < 0 || type >= typeCount) {
         qDebug() << "param is invalid!";
         return;
     }
+    if (type < int(std::size(patterns)) && change.fromUser())
+        change.send(patterns[type], change.item(patterns[type]));
+    change.set(PARA_TestPatternFamily, QString::number(type));
     runOnGui(&change.engine, [engine = &change.engine, type] {
         if (auto *shown =
                 dynamic_cast<MenuDirectory *>(ObjectPool::getInstance()->GetObject(ENUM_PAGE_TestPattern)))

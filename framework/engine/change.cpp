@@ -3,11 +3,8 @@
 #include "framework/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 
-#include <QCoreApplication>
-#include <QThread>
 #include <algorithm>
 #include <array>
-#include <memory>
 
 namespace VASK
 {
@@ -44,11 +41,6 @@ VaskUiObject *widgetOf(ENUM_MenuIndex item)
             first = widget;
     });
     return first;
-}
-
-bool onGuiThread()
-{
-    return QThread::currentThread() == QCoreApplication::instance()->thread();
 }
 } // namespace
 
@@ -127,12 +119,7 @@ void ParaChange::send(ENUM_MenuIndex item, const QString &newValue)
 
 int ParaChange::dialog(ENUM_MenuIndex item)
 {
-    if (!onGuiThread()) {
-        engine.raisePopup(item);
-        return 0;
-    }
-    std::unique_ptr<QDialog> box(engine.CreateDialog(item, QString()));
-    return box ? box->exec() : 0;
+    return engine.runMessage(item);
 }
 
 void ParaChange::enableRow(ENUM_MenuIndex list, int row, bool on)
@@ -174,10 +161,15 @@ void ParaChange::lowLayerUpdate()
     engine.SaveProcessData(QString::number(engine.GetLowLayerNum()), PARA_LowestLayer);
 }
 
-void ParaChange::redoResolution()
+void ParaChange::redoResolution(int rateCentiHz)
+{
+    showResolution(DeviceView(engine).resolutionText(rateCentiHz));
+}
+
+void ParaChange::showResolution(const QString &text)
 {
     qDebug() << "----------------- Set Sres Res -----------------";
-    home()->SetScreenRes(DeviceView(engine).resolutionText());
+    home()->SetScreenRes(text);
 }
 
 void ParaChange::tail()

@@ -55,8 +55,10 @@ struct ParaChange {
     void windowState(int layer, bool shown);
     void syncState(int state);
     void lowLayerUpdate();
-    /// Writes the home screen's resolution text, from the state as it now is.
-    void redoResolution();
+    /// Writes the home screen's resolution text for an output rate in hundredths of a hertz, which 3D may
+    /// double.
+    void redoResolution(int rateCentiHz);
+    void showResolution(const QString &text);
     /// Last step of a case: the value goes to the protocol, or a reported one to the widget.
     void tail();
 };

@@ -63,12 +63,24 @@ int DeviceView::outputRowRate() const
 int DeviceView::outputRate() const
 {
     if (workMode() == WORK_SENDER) {
-        const int reference = m_engine.processData().value(PARA_OutputRate);
-        const int rate = m_engine.OutputFrameAdj(input(followedInput()).rateCentiHz(), reference);
-        return FrameRateAdj(uint16_t(rate));
+        const int rate = m_engine.OutputFrameAdj(input(followedInput()).rateCentiHz(), syncReference());
+        return FrameRateAdj(uint16_t(rate ? rate : unknownRate));
     }
     const int row = outputRowRate();
-    return syncOn() ? m_engine.OutputFrameAdj(input(syncInput()).rateCentiHz(), row) : row;
+    return syncOn() ? m_engine.OutputFrameAdj(input(syncInput()).measuredRateCentiHz(), row) : row;
+}
+
+int DeviceView::syncReference() const
+{
+    return workMode() == WORK_SENDER ? m_engine.processData().value(PARA_OutputRate) : outputRowRate();
+}
+
+bool DeviceView::syncAgrees() const
+{
+    if (!syncOn())
+        return true;
+    const int rate = input(syncInput()).measuredRateCentiHz();
+    return rate != 0 && m_engine.OutputFrameAdj(rate, syncReference()) == rate;
 }
 
 QString DeviceView::sizeText(int width, int height, bool interlaced, int rateCentiHz)
@@ -80,14 +92,12 @@ QString DeviceView::sizeText(int width, int height, bool interlaced, int rateCen
     return QString("%1x%2%3@%4").arg(width).arg(height).arg(QLatin1String(interlaced ? "i" : ""), rate);
 }
 
-QString DeviceView::resolutionText() const
+QString DeviceView::resolutionText(int rateCentiHz) const
 {
     const bool sender = workMode() == WORK_SENDER;
-    int rate = outputRate();
-    if (!sender && doublesRate())
-        rate *= 2;
     const bool interlaced = sender && input(followedInput()).interlaced;
     return sizeText(m_engine.processData().value(PARA_OutputWidth),
-                    m_engine.processData().value(PARA_OutputHeight), interlaced, rate);
+                    m_engine.processData().value(PARA_OutputHeight), interlaced,
+                    !sender && doublesRate() ? rateCentiHz * 2 : rateCentiHz);
 }
 } // namespace VASK

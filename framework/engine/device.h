@@ -22,8 +22,16 @@ enum SourceCode : int {
     SOURCE_SYNC_REFERENCE = 254, ///< the last record that the device lists
 };
 
+constexpr int layerCount = 3; ///< main, PIP 1, PIP 2
+/// The item of a layer that corresponds to one of the main layer.
+constexpr ENUM_MenuIndex layerItem(ENUM_MenuIndex ofMain, int layer)
+{
+    return ENUM_MenuIndex(ofMain + layer * STRIDE_Layer);
+}
+
 constexpr int noInput = 255;
-constexpr int stableSignal = 3; ///< signal state of an input record
+constexpr int stableSignal = 3;   ///< signal state of an input record
+constexpr int unknownRate = 6000; ///< stands for a rate that nobody knows, hundredths of a hertz
 
 enum WorkMode : int { WORK_CONTROLLER = 0, WORK_FIBER = 1, WORK_SENDER = 2 };
 
@@ -48,8 +56,13 @@ public:
     int outputRowRate() const;
     /// Rate that the output really has, without the doubling of 3D, hundredths of a hertz.
     int outputRate() const;
-    /// What the home screen shows of the output, such as "1920x1080@59.94".
-    QString resolutionText() const;
+    /// The output follows the source of synchronisation, or runs free.
+    bool syncAgrees() const;
+    /// Rate to which the source of synchronisation is held, hundredths of a hertz.
+    int syncReference() const;
+    /// What the home screen shows of the output, such as "1920x1080@59.94". The rate goes in without the
+    /// doubling of 3D, hundredths of a hertz.
+    QString resolutionText(int rateCentiHz) const;
 
     /// A size and a rate in hundredths of a hertz as text.
     static QString sizeText(int width, int height, bool interlaced, int rateCentiHz);

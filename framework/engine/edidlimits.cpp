@@ -108,11 +108,7 @@ QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex inde
     store->updataMenuItem(index, item);
     const int input = (index - MENU_HDMI1_EDIDCustomRate) / STRIDE_InputPicture;
     constexpr int stride = ENUM_ROW_HDMI2_EDIDCustomRate - ENUM_ROW_HDMI1_EDIDCustomRate;
-    // The custom page is built on demand: without its row there is nothing to repaint.
-    auto *object = ObjectPool::getInstance()->GetObject(
-        ENUM_ObjectIndex(ENUM_ROW_HDMI1_EDIDCustomRate + input * stride));
-    if (auto *row = dynamic_cast<VaskUiObject *>(object))
-        row->SetParaEntry(index, QString(), SET_XML_STORE);
+    repaintList(ENUM_ObjectIndex(ENUM_ROW_HDMI1_EDIDCustomRate + input * stride), index);
     return value;
 }
 

@@ -8,12 +8,13 @@ namespace VASK
 namespace
 {
 constexpr int coordinateEnd = 32768;          ///< pixels
-constexpr uint32_t mosaicArea = 2211840;      ///< pixels, 2048 times 1080
-constexpr uint32_t mosaicAreaTwice = 4423681; ///< the first doubled area that is too large
+constexpr uint64_t mosaicArea = 2211840;      ///< pixels, 2048 times 1080
+constexpr uint64_t mosaicAreaTwice = 4423681; ///< the first doubled area that is too large
 
+/// The smaller one. A limit that other values have pushed below zero counts as zero.
 QString atMost(const QString &value, int limit)
 {
-    return QString::number(qMin(value.toInt(), limit));
+    return QString::number(qMin(value.toInt(), qMax(0, limit)));
 }
 
 QString limitLoadAreaSize(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
@@ -27,9 +28,9 @@ QString limitLoadAreaSize(ParaProcess &engine, const QString &value, ENUM_MenuIn
 QString limitLoadAreaStart(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
 {
     const bool isX = index == MENU_ImageMosaic_LoadAreaInitialX;
-    const int size =
+    const int size = uint16_t(
         engine.GetParaFromIndex(isX ? MENU_ImageMosaic_LoadAreaWidth : MENU_ImageMosaic_LoadAreaHeight)
-            .toInt();
+            .toInt());
     qDebug() << "hor_totla_points" << coordinateEnd << "region_width" << size << "para" << value;
     return atMost(value, coordinateEnd - size);
 }
@@ -44,14 +45,14 @@ QString limitCrop(ParaProcess &engine, const QString &value, ENUM_MenuIndex inde
     const ENUM_MenuIndex source = ENUM_MenuIndex(MENU_MainLayer_InputSource + layer * STRIDE_Layer);
     const InputRecord input = engine.processData().input(engine.GetParaFromIndex(source).toInt());
     const int size = field % 2 == 1 ? input.width : input.height;
-    return atMost(value, size - engine.GetParaFromIndex(partner).toInt());
+    return atMost(value, size - uint16_t(engine.GetParaFromIndex(partner).toInt()));
 }
 
 QString limitMosaic(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
 {
     const ENUM_MenuIndex partner = index == MENU_Mosaic_Width ? MENU_Mosaic_Height : MENU_Mosaic_Width;
-    const uint32_t other = uint16_t(engine.GetParaFromIndex(partner).toInt());
-    const uint32_t size = uint16_t(value.toInt());
+    const uint64_t other = uint16_t(engine.GetParaFromIndex(partner).toInt());
+    const uint64_t size = uint16_t(value.toInt());
     if (other == 0 || size * other * 2 < mosaicAreaTwice)
         return value;
     return QString::number(uint16_t(mosaicArea / other));

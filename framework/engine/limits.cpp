@@ -1,10 +1,18 @@
 #include "framework/engine/limits.h"
 
+#include "framework/vaskobject.h"
+
 #include <algorithm>
 #include <array>
 
 namespace VASK
 {
+void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list)
+{
+    if (auto *widget = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(row)))
+        widget->SetParaEntry(list, QString(), SET_XML_STORE);
+}
+
 const LimitCase *findLimitCase(ENUM_MenuIndex index)
 {
     static const std::array<LimitFamily, 3> families{screenLimits(), layerLimits(), edidLimits()};

@@ -19,6 +19,9 @@ struct LimitCase {
 /// The case of an item, null if nothing but its own limits holds it.
 const LimitCase *findLimitCase(ENUM_MenuIndex index);
 
+/// A list has other options available: its row, if its page is built, shows them.
+void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list);
+
 struct LimitFamily {
     const LimitCase *cases;
     int count;

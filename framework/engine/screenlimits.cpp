@@ -8,8 +8,6 @@
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
 
-#include <memory>
-
 namespace VASK
 {
 namespace
@@ -75,17 +73,16 @@ QString limitQuickColumns(ParaProcess &engine, const QString &value, ENUM_MenuIn
     return QString::number(columns);
 }
 
-/// The cabinets on the first port, rounded up to whole columns or rows as the cable runs.
+/// The cabinets on the first port, rounded up to a multiple of the columns or rows as the cable runs.
 int wholeLines(const Screen &screen, int cabinets, int rows, int columns)
 {
     const bool byColumn = screen.number(MENU_Quick_FlowWay) % 2 == 0;
-    const int line = qMax(1, byColumn ? rows : columns);
-    const int lines = qMax(1, (cabinets + line - 1) / line);
+    const int line = qMax(1, byColumn ? columns : rows);
     if (byColumn)
-        qDebug() << "(LineMode+1)%2 =" << lines;
+        qDebug() << "(LineMode+1)%2 =" << line;
     else
-        qDebug() << "!(LineMode+1)%2 =" << lines;
-    return lines * line;
+        qDebug() << "!(LineMode+1)%2 =" << line;
+    return qMax(1, (cabinets + line - 1) / line) * line;
 }
 
 QString limitPortOne(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
@@ -100,11 +97,8 @@ QString limitPortOne(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
     cabinets = cabinets > total ? total : qMax(cabinets, (total + quickPorts - 1) / quickPorts);
     const int loaded = wholeLines(screen, cabinets, rows, columns);
     qDebug() << "Port1Cabinet =" << loaded;
-    if (screen.portOverloads(screen.widthOf(loaded), screen.cabinetHeight)) {
-        std::unique_ptr<QDialog> box(engine.CreateDialog(MSG_OverLoad, QString()));
-        if (box)
-            box->exec();
-    }
+    if (screen.portOverloads(screen.widthOf(loaded), screen.cabinetHeight))
+        engine.runMessage(MSG_OverLoad);
     return QString::number(cabinets);
 }
 
@@ -173,8 +167,7 @@ QString limitOutputRate(ParaProcess &engine, const QString &value, ENUM_MenuInde
         item.params1[option.key()] = overload ? optionDisable : optionEnable;
     }
     store->updataMenuItem(index, item);
-    if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_OutputFrameRate))
-        row->SetParaEntry(index, QString(), SET_XML_STORE);
+    repaintList(ENUM_ROW_OutputFrameRate, index);
     return value;
 }
 

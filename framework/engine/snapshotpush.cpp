@@ -1,5 +1,6 @@
 // What the flash snapshot says of the device goes into the menu: as reported values, in a fixed order.
 
+#include "framework/engine/device.h"
 #include "framework/engine/snapshotmirror.h"
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
@@ -120,10 +121,12 @@ void SnapshotPush::pictures()
 
 void SnapshotPush::crops()
 {
-    constexpr int layerCount = 3;
+    constexpr int inputCount = 8;
     for (int layer = 0; layer < layerCount; ++layer) {
         const int window = LIVE_Windows + WINDOW_First + layer * WINDOW_Stride;
         const int input = m_mirror.live.u8(window + WINDOW_Input);
+        if (input >= inputCount)
+            continue;
         const int base = LIVE_Crops + CROP_First + layer * CROP_LayerStride + input * CROP_InputStride;
         const ENUM_MenuIndex status = raised(MENU_MainLayerCrop_Status, layer * STRIDE_Crop);
         report(status, m_mirror.live.u8(base + CROP_Status));
@@ -175,7 +178,11 @@ void SnapshotPush::stereo()
     constexpr int ticksPerUs = 125;
     const SnapshotBlock &block = m_mirror.stereo;
     report(MENU_Mode3D_Status, block.u8(STEREO_Switch) == deviceOn ? 1 : 0);
-    m_engine.setRightEyeStart(block.u16(STEREO_StartSide), block.u16(STEREO_StartTop));
+    // Both are kept, as the device is told of both: an erased snapshot tells nothing.
+    if (block.u16(STEREO_StartSide))
+        m_engine.setRightEyeStart(0, block.u16(STEREO_StartSide));
+    if (block.u16(STEREO_StartTop))
+        m_engine.setRightEyeStart(1, block.u16(STEREO_StartTop));
     switch (block.u8(STEREO_Format)) {
     case sideBySide:
         report(MENU_Mode3D_Format, 0);

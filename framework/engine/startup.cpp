@@ -1,25 +1,15 @@
-// What the engine does at start-up and when the device's services have started.
+// What the engine does first: names of inputs and sources, display-only items, connections to the home
+// screen.
 
-#include "framework/engine/change.h"
-#include "framework/globaltimer.h"
-#include "framework/handover.h"
-#include "framework/keyevent.h"
+#include "framework/engine/device.h"
 #include "framework/menuanalysis.h"
-#include "framework/protocol/driverutil.h"
-#include "sysconf.h"
+#include "framework/paraprocess.h"
 #include "widget/mainwindow_k2860.h"
 
 namespace VASK
 {
 namespace
 {
-constexpr int layerCount = 3;
-
-ENUM_MenuIndex layerItem(ENUM_MenuIndex ofMain, int layer)
-{
-    return ENUM_MenuIndex(ofMain + layer * STRIDE_Layer);
-}
-
 struct Reset {
     ENUM_MenuIndex item;
     const char *value;
@@ -44,21 +34,77 @@ constexpr Reset displayItems[] = {
     {MENU_Test_Brightness, "3"},
     {MENU_Test_Speed, "3"},
 };
+
+struct SourceName {
+    unsigned char code; ///< its upper four bits
+    const char *name;
+};
+
+/// A mosaic of SDI inputs has a code of its own, though the look-up by the upper four bits finds plain SDI.
+constexpr SourceName sourceNames[] = {
+    {0x00, "DVI"},     {0x10, "HDMI1.0"},   {0x20, "VGA"},     {0x30, "SDI "},   {0x34, "SDI MOSAIC"},
+    {0x40, "CVBS"},    {0x50, "Dual DVI"},  {0x60, "HDMI1.4"}, {0x70, "DP1.1"},  {0x80, "DP1.2"},
+    {0x90, "HDMI2.0"}, {0xA0, "USB-DRIVE"}, {0xB0, "EXT"},     {0xE0, "MOSAIC"}, {0xF0, "Demo"},
+};
+
+constexpr const char *inputNames[] = {"HDMI1", "HDMI2", "DVI", "SDI"};
 } // namespace
 
-QString ParaProcess::readRootVersion()
+bool ParaProcess::Initialize()
 {
-    QString version;
-    if (sysconf_openenv() == 0) {
-        const char *text = sysconf_getenv("ver_rootfs");
-        version = QString::fromUtf8(text ? text : "");
-        qDebug() << "strRootfsVersion" << version;
-        auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-        if (store && !version.isEmpty())
-            store->UpdataItemCurValue(MENU_About_VersionValue, version);
+    qDebug() << "<- ParaProcess::Initialize start";
+    m_pMainWindow = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
+    nameInputsAndSources();
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    if (!store) {
+        qDebug() << "pmenu is null";
+        return false;
     }
-    sysconf_closeenv();
-    return version;
+    askBeforeQuickConfiguration();
+    readRootVersion();
+    keepRightEyeStarts(*store);
+    resetDisplayItems(*store);
+    if (GetParaFromIndex(MENU_HDCPMemory) == QLatin1String("0"))
+        store->UpdataItemCurValue(MENU_HDCP, "0");
+    markFnFunction(*store);
+    connectHomeScreen();
+    m_processData.clear();
+    qDebug() << "<- ParaProcess::Initialize end";
+    return true;
+}
+
+void ParaProcess::nameInputsAndSources()
+{
+    for (int input = 0; input < int(std::size(inputNames)); ++input)
+        m_inputNames[QString::number(input)] = inputNames[input];
+    for (const SourceName &source : sourceNames)
+        m_sourceNames[source.code] = source.name;
+}
+
+/// Whoever leaves the kind of screen configuration that is in force is asked first.
+void ParaProcess::askBeforeQuickConfiguration()
+{
+    const bool advanced = GetParaFromIndex(MENU_ScreenConfigKind) == QLatin1String("0");
+    g_dialogConfig[MENU_QuickConfiguration].enabled = !advanced;
+    g_dialogConfig[MENU_AdvancedCfg].enabled = advanced;
+}
+
+/// The starts of the right eye that the other 3D formats keep; the menu table has no rows for them.
+void ParaProcess::keepRightEyeStarts(MenuAnalysis &store)
+{
+    for (ENUM_MenuIndex index : {MENU_RightEyeStartSide, MENU_RightEyeStartTop}) {
+        ST_ItemInfo item = g_MenuXmlConfig.value(MENU_Mode3D_RightEyeStart);
+        item.index = index;
+        store.AddMenuItem(index, item);
+    }
+}
+
+void ParaProcess::markFnFunction(MenuAnalysis &store)
+{
+    const int function = GetParaFromIndex(MENU_FnMode).toInt();
+    const int index = MENU_Fn_Synchronization + function;
+    if (index >= MENU_Fn_Synchronization && index <= MENU_Fn_TestPattern)
+        store.UpdataItemCurChoice(ENUM_MenuIndex(index), SELECTED);
 }
 
 void ParaProcess::resetDisplayItems(MenuAnalysis &store)
@@ -95,151 +141,5 @@ void ParaProcess::connectHomeScreen()
             queued);
     connect(this, SIGNAL(signal_SetRes_state(qint32, QString)), home, SLOT(slot_SetResState(qint32, QString)),
             queued);
-}
-
-void ParaProcess::showLayer(int layer)
-{
-    const bool on = GetParaFromIndex(layerItem(MENU_MainLayer_Status, layer)) != QLatin1String("0");
-    const QString source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer));
-    if (init_20m_flg)
-        emit signal_window_state(layer, on ? 0 : 1);
-    else
-        m_pMainWindow->SetWindowState(ENUM_MainWindowWindowIndex(layer), ENUM_CommonState(on ? 0 : 1));
-    m_pMainWindow->SetLayerName(ENUM_MainWindowLayerIndex(layer), GetInputNameByIndex(source));
-    if (!on)
-        return;
-    const InputRecord input = m_processData.input(source.toInt());
-    if (input.signalState != stableSignal) {
-        emit signal_Layer_state(layer, 1);
-        return;
-    }
-    emit signal_Layer_state(layer, 0);
-    emit signal_SetRes_state(
-        layer, DeviceView::sizeText(input.width, input.height, input.interlaced, input.rateCentiHz()));
-}
-
-void ParaProcess::showSyncState()
-{
-    const DeviceView device(*this);
-    const bool agrees =
-        !device.syncOn() || device.outputRate() == device.input(device.syncInput()).rateCentiHz();
-    const int state = agrees ? 1 : 3;
-    if (init_20m_flg)
-        emit signal_sync_state(qint32(state));
-    else
-        m_pMainWindow->SetSynModeState(ENUM_MainWindowSynState(state));
-}
-
-void ParaProcess::InitializeMainWindow()
-{
-    if (!m_pMainWindow || !IsExistFromPool(ENUM_MENUANALYSIS)) {
-        qDebug() << "pmenu is null";
-        return;
-    }
-    InitParaFrom20M();
-    UpdataDevRename();
-
-    const DeviceView device(*this);
-    m_pMainWindow->SetBrightNess(GetParaFromIndex(MENU_ScreenBrightness) + "%");
-    SaveProcessData(QString::number(device.outputRate()), PARA_OutputRate);
-    qDebug() << "----------------- Set Sres Res -----------------";
-    m_pMainWindow->SetScreenRes(device.resolutionText());
-    showSyncState();
-    const int shownLayers = device.workMode() == WORK_SENDER ? 1 : layerCount;
-    for (int layer = 0; layer < shownLayers; ++layer)
-        showLayer(layer);
-    ST_ItemInfo source;
-    GetInfoFromIndex(MENU_Sync_Source, source);
-    m_pMainWindow->SetSynMode(source.params.value(source.value));
-    SaveProcessData(GetParaFromIndex(PARA_DisplayMode), PARA_DisplayMode);
-    SaveProcessData(QString::number(GetLowLayerNum()), PARA_LowestLayer);
-    init_20m_flg = true;
-}
-
-void ParaProcess::InitdefaultValue()
-{
-    constexpr int portCount = 6;
-    for (int layer = 0; layer < layerCount; ++layer)
-        emit signal_Layer_state(layer, 1);
-    if (!m_pMainWindow)
-        return;
-    for (int port = 0; port < portCount; ++port)
-        m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), ENUM_MainWindowNetState(0));
-    m_pMainWindow->SetSynModeState(ENUM_MainWindowSynState(1));
-    m_pMainWindow->SetConnectState(ENUM_MainWindowConnectState(2));
-}
-
-void ParaProcess::UpdataDevRename()
-{
-    SnapshotBlock flag(SNAPSHOT_RenameFlag, 1);
-    flag.read();
-    const int mark = flag.u8(0);
-    qDebug() << "rename_flg ==" << mark;
-    QString name;
-    if (mark == renamedMark) {
-        SnapshotBlock block(SNAPSHOT_Name, LENGTH_Name);
-        block.read();
-        for (int unit = 0; unit < int(LENGTH_Name) && block.u16(unit) != 0; unit += 2)
-            name += QChar(ushort(block.u16(unit)));
-    }
-    qDebug() << "name ==" << name;
-    if (!m_pMainWindow)
-        return;
-    runOnGui(m_pMainWindow, [window = m_pMainWindow, name, mark] {
-        window->SetDeviceRename(name);
-        if (mark == renamedMark)
-            window->SetIp(MainWindow::m_strIp);
-    });
-}
-
-void ParaProcess::serviceStarted(ENUM_MenuIndex event)
-{
-    if (event == EVENT_VideoServiceStarted)
-        videodStarted = true;
-    else
-        senderdStarted = true;
-    DeviceStartComplateHandle();
-}
-
-void ParaProcess::DeviceStartComplateHandle()
-{
-    qDebug() << "DeviceStartComplateHandle, videod:" << videodStarted << "senderd:" << senderdStarted;
-    if (!videodStarted || !senderdStarted)
-        return;
-    HdcpPoweronHandle();
-    SyncInit();
-    DhcpInit();
-    if (m_pMainWindow)
-        m_pMainWindow->SetdeviceStartComplate();
-    const QString version = readRootVersion();
-    if (!version.isEmpty())
-        SetParaToXml(version, MENU_About_VersionValue, SET_XML_DEVICE);
-}
-
-void ParaProcess::HdcpPoweronHandle()
-{
-    if (GetParaFromIndex(MENU_HDCPMemory) != QLatin1String("0"))
-        return;
-    if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_HDCP))
-        row->CallProtocol("0", MENU_HDCP);
-}
-
-void ParaProcess::SyncInit()
-{
-    const DeviceView device(*this);
-    if (!device.syncOn())
-        return;
-    const InputRecord source = device.input(device.syncInput());
-    const int reference =
-        device.workMode() == WORK_SENDER ? m_processData.value(PARA_OutputRate) : device.outputRowRate();
-    const int rate = source.framePeriodUs ? source.rateCentiHz() : 0;
-    if (OutputFrameAdj(rate, reference) != rate || source.signalState == 0)
-        emit signal_sync_state(qint8(source.signalState), QString("4"));
-}
-
-void ParaProcess::DhcpInit()
-{
-    if (GetParaFromIndex(MENU_Net_NetMode) == QLatin1String("1"))
-        SetParaToXml("1", MENU_Net_NetMode, SET_XML_USER);
 }
 } // namespace VASK

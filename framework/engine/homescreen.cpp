@@ -1,0 +1,104 @@
+// The home screen as the engine sets it at start-up, and the device's own name.
+
+#include "framework/engine/device.h"
+#include "framework/engine/snapshotmirror.h"
+#include "framework/paraprocess.h"
+#include "widget/mainwindow_k2860.h"
+
+namespace VASK
+{
+void ParaProcess::showLayer(int layer)
+{
+    const bool on = GetParaFromIndex(layerItem(MENU_MainLayer_Status, layer)) != QLatin1String("0");
+    const QString source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer));
+    if (init_20m_flg)
+        emit signal_window_state(layer, on ? 0 : 1);
+    else
+        m_pMainWindow->SetWindowState(ENUM_MainWindowWindowIndex(layer), ENUM_CommonState(on ? 0 : 1));
+    m_pMainWindow->SetLayerName(ENUM_MainWindowLayerIndex(layer), GetInputNameByIndex(source));
+    if (!on)
+        return;
+    const InputRecord input = m_processData.input(source.toInt());
+    if (input.signalState != stableSignal) {
+        emit signal_Layer_state(layer, 1);
+        return;
+    }
+    emit signal_Layer_state(layer, 0);
+    emit signal_SetRes_state(
+        layer, DeviceView::sizeText(input.width, input.height, input.interlaced, input.rateCentiHz()));
+}
+
+void ParaProcess::showSyncState()
+{
+    const auto state = DeviceView(*this).syncAgrees() ? SYN_OFF : SYN_FAILED;
+    if (init_20m_flg)
+        emit signal_sync_state(qint32(state));
+    else
+        m_pMainWindow->SetSynModeState(state);
+}
+
+void ParaProcess::InitializeMainWindow()
+{
+    if (!m_pMainWindow || !IsExistFromPool(ENUM_MENUANALYSIS)) {
+        qDebug() << "pmenu is null";
+        return;
+    }
+    InitParaFrom20M();
+    UpdataDevRename();
+
+    const DeviceView device(*this);
+    m_pMainWindow->SetBrightNess(GetParaFromIndex(MENU_ScreenBrightness) + "%");
+    const int rate = device.outputRate();
+    SaveProcessData(QString::number(rate), PARA_OutputRate);
+    qDebug() << "----------------- Set Sres Res -----------------";
+    m_pMainWindow->SetScreenRes(device.resolutionText(rate));
+    showSyncState();
+    const int shownLayers = device.workMode() == WORK_SENDER ? 1 : layerCount;
+    for (int layer = 0; layer < shownLayers; ++layer)
+        showLayer(layer);
+    ST_ItemInfo source;
+    GetInfoFromIndex(MENU_Sync_Source, source);
+    m_pMainWindow->SetSynMode(source.params.value(source.value));
+    SaveProcessData(GetParaFromIndex(PARA_DisplayMode), PARA_DisplayMode);
+    SaveProcessData(QString::number(GetLowLayerNum()), PARA_LowestLayer);
+    init_20m_flg = true;
+}
+
+void ParaProcess::InitdefaultValue()
+{
+    for (int layer = 0; layer < layerCount; ++layer)
+        emit signal_Layer_state(layer, 1);
+    if (!m_pMainWindow)
+        return;
+    for (int port = 0; port < NET_PORT_COUNT; ++port)
+        m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), NET_DISABLED);
+    m_pMainWindow->SetSynModeState(SYN_OFF);
+    m_pMainWindow->SetConnectState(CONNECT_NONE);
+}
+
+void ParaProcess::UpdataDevRename()
+{
+    SnapshotBlock flag(SNAPSHOT_RenameFlag, 1);
+    flag.read();
+    const int mark = flag.u8(0);
+    qDebug() << "rename_flg ==" << mark;
+    QString name;
+    if (mark == renamedMark) {
+        SnapshotBlock block(SNAPSHOT_Name, LENGTH_Name);
+        block.read();
+        for (int unit = 0; unit < int(LENGTH_Name) && block.u16(unit) != 0; unit += 2)
+            name += QChar(ushort(block.u16(unit)));
+    }
+    qDebug() << "name ==" << name;
+    if (!m_pMainWindow)
+        return;
+    m_pMainWindow->SetDeviceRename(name);
+    if (mark != renamedMark)
+        return;
+    // The text of the address gives way to the name in turn: it is shown again as it is.
+    MainWindow::m_mutex.lock();
+    const QString ip = MainWindow::m_strIp;
+    MainWindow::m_mutex.unlock();
+    m_pMainWindow->SetIp(ip);
+}
+} // namespace VASK
