@@ -1,8 +1,8 @@
 #include "apipc.h"
 
 #include "fpd_hostlink.h"
+#include "fpd_hostsocket.h"
 #include "platform/host/apipcqueue.h"
-#include "platform/host/seqpacket.h"
 #include "platform/host/statefile.h"
 
 #include <array>
@@ -35,10 +35,11 @@ Bus &bus()
 
 int joinedDescriptor()
 {
-    int descriptor = host::connectSeqpacket(host::stateFile(hostlink::busSocket));
+    const std::string file = host::stateFile(hostlink::busSocket).toStdString();
+    int descriptor = hostlink::connectSocket(file, SOCK_SEQPACKET);
     while (descriptor < 0) {
         std::this_thread::sleep_for(reconnectPause);
-        descriptor = host::connectSeqpacket(host::stateFile(hostlink::busSocket));
+        descriptor = hostlink::connectSocket(file, SOCK_SEQPACKET);
     }
     const std::lock_guard<std::mutex> guard(bus().lock);
     bus().descriptor = descriptor;

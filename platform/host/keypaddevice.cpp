@@ -1,7 +1,7 @@
 #include "keypaddevice.h"
 
 #include "fpd_hostlink.h"
-#include "platform/host/seqpacket.h"
+#include "fpd_hostsocket.h"
 #include "platform/host/statefile.h"
 
 #include <cstdint>
@@ -24,7 +24,8 @@ int waitReadable(int descriptor, int timeoutMs)
 
 int keypad_open(const char *, int flags)
 {
-    const int descriptor = host::connectSeqpacket(host::stateFile(hostlink::keypadSocket));
+    const int descriptor =
+        hostlink::connectSocket(host::stateFile(hostlink::keypadSocket).toStdString(), SOCK_SEQPACKET);
     if (descriptor < 0)
         return -1;
     const char mode = (flags & O_ACCMODE) == O_RDONLY ? 'r' : 'w';
@@ -44,7 +45,16 @@ int keypad_select(int descriptor, int timeoutMs)
 
 ssize_t keypad_read(int descriptor, void *buffer, size_t size)
 {
-    return recv(descriptor, buffer, size, MSG_DONTWAIT);
+    // As the device does: all words that wait, not the first packet alone.
+    auto *bytes = static_cast<char *>(buffer);
+    size_t filled = 0;
+    while (size - filled >= sizeof(uint16_t)) {
+        const ssize_t got = recv(descriptor, bytes + filled, sizeof(uint16_t), MSG_DONTWAIT);
+        if (got != ssize_t(sizeof(uint16_t)))
+            return filled > 0 ? ssize_t(filled) : got;
+        filled += size_t(got);
+    }
+    return ssize_t(filled);
 }
 
 int keypad_ioctl(int descriptor, unsigned long request, void *block)

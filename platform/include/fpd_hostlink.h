@@ -7,7 +7,7 @@
 namespace hostlink
 {
 /// Keypad. The panel's first packet on a connection is one byte, 'r' for reading or 'w' for LED commands. A
-/// reader gets packets of one or more 16-bit little-endian key words. An LED command is the 32-bit
+/// reader gets packets of one 16-bit little-endian key word each. An LED command is the 32-bit
 /// little-endian request number and the 76-byte block; the answer is a 32-bit result, 0 for success.
 constexpr const char *keypadSocket = "/run/keypad.sock";
 constexpr int ledBlockSize = 76;
@@ -16,8 +16,11 @@ constexpr unsigned int ledRequest = 0xc04c6bb4;
 /// Message bus: one message a packet, in both directions.
 constexpr const char *busSocket = "/run/bus.sock";
 
-/// The LCD: 320x240 pixels of 32 bits, then a 64-bit frame counter and the monotonic time of the last flush
-/// in ns.
+/// The emulator's console: lines of text, a SOCK_STREAM socket.
+constexpr const char *consoleSocket = "/run/control.sock";
+
+/// The LCD: 320x240 pixels of 32 bits, then a 64-bit counter, odd while a change is being written and moved
+/// on by two with each, and the monotonic time of the last change in ns.
 constexpr const char *lcdFile = "/lcd.fb";
 constexpr int lcdWidth = 320;
 constexpr int lcdHeight = 240;
