@@ -1,5 +1,7 @@
 #include "framework/keytracker.h"
 
+#include "framework/ctimer.h"
+
 #include <QDebug>
 #include <QList>
 #include <algorithm>
@@ -24,10 +26,7 @@ bool isKey(unsigned char key)
 }
 } // namespace
 
-KeyTracker::KeyTracker(Post post, CTimer &timer)
-    : m_post(std::move(post)), m_timer(timer), m_listTimer(keyCount)
-{
-}
+KeyTracker::KeyTracker(Post post) : m_post(std::move(post)), m_listTimer(keyCount) {}
 
 void KeyTracker::reset()
 {
@@ -72,14 +71,14 @@ void KeyTracker::startTimer(unsigned char key)
     TimerNote &note = m_notes[size_t(key) * notesPerKey + entry.press % notesPerKey];
     note = {this, key, entry.press};
     qDebug() << "TIMER_SetTimer == " << key;
-    entry.timerId = m_timer.SetTimer(longPressMs, 1, OnTimerEvent, &note);
+    TIMER_SetTimer(longPressMs, 1, OnTimerEvent, &note, &entry.timerId);
 }
 
 /// A timer that has fired is gone, and its id may be another's by now.
 void KeyTracker::stopTimer(LongPress &entry)
 {
     if (entry.timerId != noTimer && !entry.isLong)
-        m_timer.CancelTimer(entry.timerId);
+        TIMER_CancelTimer(entry.timerId);
     entry.timerId = noTimer;
 }
 

@@ -4,7 +4,6 @@
 // the decisions.
 #pragma once
 
-#include "framework/ctimer.h"
 #include "framework/keypadevent.h"
 
 #include <QMutex>
@@ -32,7 +31,7 @@ public:
     using Post = std::function<void(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress)>;
 
     /// The function that takes the events must neither block nor call back.
-    explicit KeyTracker(Post post, CTimer &timer = g_timer);
+    explicit KeyTracker(Post post);
 
     void reset();
     void press(unsigned char key, unsigned char speed);
@@ -62,7 +61,6 @@ private:
     void stopTimer(LongPress &entry);
 
     Post m_post;
-    CTimer &m_timer;
     QMutex m_mutex;
     QVector<LongPress> m_listTimer;
     std::array<TimerNote, keyCount * notesPerKey> m_notes;

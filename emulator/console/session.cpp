@@ -1,0 +1,96 @@
+#include "emulator/console/session.h"
+
+#include "emulator/console/words.h"
+
+#include <QDir>
+#include <optional>
+
+namespace
+{
+/// The arguments of a line; nothing if a quote is left open.
+std::optional<QStringList> splitLine(const QString &line)
+{
+    QStringList arguments;
+    QString current;
+    bool inside = false, quoted = false;
+    for (int i = 0; i < line.size(); ++i) {
+        const QChar c = line[i];
+        if (c == '\\' && quoted && i + 1 < line.size()) {
+            current += line[++i];
+        } else if (c == '"') {
+            quoted = !quoted;
+            inside = true;
+        } else if (c.isSpace() && !quoted) {
+            if (inside)
+                arguments.append(current);
+            current.clear();
+            inside = false;
+        } else {
+            current += c;
+            inside = true;
+        }
+    }
+    if (inside)
+        arguments.append(current);
+    if (quoted)
+        return std::nullopt;
+    return arguments;
+}
+} // namespace
+
+Session::Session(Emulator &theEmulator, QLocalSocket *socket, QObject *parent)
+    : QObject(parent), emulator(theEmulator), m_socket(socket)
+{
+    socket->setParent(this);
+    connect(socket, &QLocalSocket::readyRead, this, &Session::read);
+    connect(socket, &QLocalSocket::disconnected, this, &QObject::deleteLater);
+}
+
+void Session::print(const QString &text)
+{
+    for (const QString &line : text.split('\n'))
+        m_socket->write('+' + line.toUtf8() + '\n');
+}
+
+void Session::ok()
+{
+    finish("ok");
+}
+
+void Session::fail(const QString &reason)
+{
+    finish("error " + reason);
+}
+
+QString Session::absolutePath(const QString &file) const
+{
+    return QDir::cleanPath(QDir(m_folder).absoluteFilePath(file));
+}
+
+void Session::finish(const QString &line)
+{
+    if (!m_request)
+        return;
+    m_request.release()->deleteLater();
+    m_socket->write(line.toUtf8() + '\n');
+    m_socket->flush();
+    QMetaObject::invokeMethod(this, &Session::read, Qt::QueuedConnection);
+}
+
+void Session::read()
+{
+    while (!m_request && m_socket->canReadLine())
+        handle(QString::fromUtf8(m_socket->readLine()).trimmed());
+}
+
+void Session::handle(const QString &line)
+{
+    m_request = std::make_unique<QObject>();
+    const auto arguments = splitLine(line);
+    if (!arguments)
+        fail("a quote is left open");
+    else if (arguments->isEmpty())
+        ok();
+    else
+        handleWord(*this, arguments->first(), arguments->mid(1));
+}

@@ -1,0 +1,41 @@
+// One client of the console. It sends a request a line, WORD ARGUMENT..., where an argument with blanks
+// stands in double quotes (\" and \\ inside). The answer is any number of lines that begin with '+', then
+// "ok" or "error REASON". Requests of one client are worked off one after the other. Main thread.
+#pragma once
+
+#include <QLocalSocket>
+#include <QObject>
+#include <QStringList>
+#include <memory>
+
+class Emulator;
+
+class Session : public QObject
+{
+    Q_OBJECT
+public:
+    Session(Emulator &emulator, QLocalSocket *socket, QObject *parent = nullptr);
+
+    Emulator &emulator;
+
+    /// One line of the answer.
+    void print(const QString &text);
+    /// Ends the answer.
+    void ok();
+    void fail(const QString &reason);
+
+    /// Lives as long as the request that is being answered; what is connected to it ends with it.
+    QObject *request() { return m_request.get(); }
+    /// The folder that relative file names start from.
+    void setFolder(const QString &folder) { m_folder = folder; }
+    QString absolutePath(const QString &file) const;
+
+private:
+    void read();
+    void finish(const QString &line);
+    void handle(const QString &line);
+
+    QLocalSocket *m_socket;
+    QString m_folder = "/";
+    std::unique_ptr<QObject> m_request;
+};

@@ -1,0 +1,43 @@
+// The whole device around one panel: everything that the console and the window work with. Main thread.
+#pragma once
+
+#include "emulator/bootflag.h"
+#include "emulator/bus/device.h"
+#include "emulator/keypad.h"
+#include "emulator/lcd.h"
+#include "emulator/panelprocess.h"
+#include "emulator/shelltools.h"
+#include "emulator/statefolder.h"
+
+class Emulator : public QObject
+{
+    Q_OBJECT
+public:
+    /// The state folder has been taken and installed.
+    explicit Emulator(StateFolder &folder, QObject *parent = nullptr);
+
+    /// Opens the sockets. Empty, or what went wrong.
+    QString open();
+    /// As power-on: clears the flags and the LCD and starts the panel.
+    void startPanel();
+    /// The panel's start-up has ended and the LCD holds its first picture.
+    bool isReady() const { return m_ready; }
+
+    StateFolder &folder;
+    Keypad keypad;
+    Device device;
+    BootFlag bootFlag;
+    PanelProcess panel;
+    ShellTools tools;
+    Lcd lcd;
+
+signals:
+    void ready();
+
+private:
+    void lookIfReady();
+
+    bool m_started = false; ///< the log said that the start-up has ended
+    bool m_ready = false;
+    QTimer m_look;
+};

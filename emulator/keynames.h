@@ -1,0 +1,29 @@
+// The keys of the panel: their codes as the keypad gives them, their names on the console, and the LED behind
+// each.
+#pragma once
+
+#include <QString>
+#include <QVector>
+#include <optional>
+
+struct KeyName {
+    int code;
+    const char *name;
+    const char *label; ///< as printed on the key
+    int led;           ///< -1: none behind this key
+    char shortcut;     ///< on the PC's keyboard, in the emulator's window; 0: none
+};
+
+constexpr int keyKnobLeft = 32;
+constexpr int keyKnobRight = 33;
+constexpr int keyOk = 34;
+constexpr int keyEsc = 35;
+constexpr int releasedBit = 0x80;
+constexpr int ledCount = 16;
+
+const QVector<KeyName> &keyNames();
+
+/// The code of one key by its name or its number in decimal or 0x form.
+std::optional<int> keyCode(const QString &text);
+/// The codes of several keys joined by '+'.
+std::optional<QVector<int>> keyCodes(const QString &text);

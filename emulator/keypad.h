@@ -1,0 +1,41 @@
+// The keypad as the panel sees it: key words go up to every reader, LED commands come down. Main thread.
+#pragma once
+
+#include "emulator/keynames.h"
+#include "emulator/packetserver.h"
+
+#include <QSet>
+
+class Keypad : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Keypad(const QString &stateFolder, QObject *parent = nullptr);
+
+    /// Plugs the keypad in or out.
+    bool setPresent(bool present);
+
+    /// Key words as the driver gives them. False if nobody reads the keypad.
+    bool sendWords(const QVector<quint16> &words);
+    bool press(const QVector<int> &keys);
+    bool release(const QVector<int> &keys);
+    bool turn(int key, int steps, int speed);
+
+    /// State of the LEDs as last commanded, LED 0 in bit 0.
+    quint16 leds() const { return m_leds; }
+    /// The same as 16 characters, LED 0 first.
+    QString ledText() const;
+    void setLedsOff();
+
+signals:
+    void ledsChanged();
+
+private:
+    void handlePacket(int client, const QByteArray &packet);
+    /// Obeys one LED command; false if the block is not one.
+    bool command(const QByteArray &packet);
+
+    PacketServer m_server;
+    QSet<int> m_readers;
+    quint16 m_leds = 0;
+};

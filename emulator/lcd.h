@@ -1,0 +1,20 @@
+// Reads the panel's LCD from its mapped file. Main thread.
+#pragma once
+
+#include <QFile>
+#include <QImage>
+
+class Lcd
+{
+public:
+    explicit Lcd(const QString &stateFolder);
+
+    /// How many changes the panel has drawn; 0 while the LCD is dark.
+    quint64 changes() const;
+    /// The picture as it stands, never one half drawn.
+    QImage picture() const;
+
+private:
+    QFile m_file;
+    const uchar *m_memory = nullptr;
+};

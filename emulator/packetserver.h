@@ -1,0 +1,41 @@
+// Listens on a SOCK_SEQPACKET socket of the state folder and passes packets on. It can be closed and opened
+// again, as when a device is unplugged. Main thread.
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+class QSocketNotifier;
+
+class PacketServer : public QObject
+{
+    Q_OBJECT
+public:
+    explicit PacketServer(const QString &file, QObject *parent = nullptr);
+    ~PacketServer() override;
+
+    bool open();
+    void close();
+    bool isOpen() const { return m_listener >= 0; }
+
+    /// One packet to one client. False if the client does not take it.
+    bool send(int client, const QByteArray &packet);
+    /// One packet to every client; how many took it.
+    int sendToAll(const QByteArray &packet);
+
+signals:
+    void connected(int client);
+    void received(int client, const QByteArray &packet);
+    void disconnected(int client);
+
+private:
+    void accept();
+    void read(int client);
+    void drop(int client);
+
+    QString m_file;
+    int m_listener = -1;
+    QSocketNotifier *m_notifier = nullptr;
+    QHash<int, QSocketNotifier *> m_clients;
+};

@@ -1,0 +1,29 @@
+// The state folder: the board's file system as far as the panel knows it, and what the emulator keeps beside
+// it. Made with mode 0700 and taken by one emulator at a time.
+#pragma once
+
+#include <QLockFile>
+#include <QString>
+
+class StateFolder
+{
+public:
+    explicit StateFolder(const QString &path);
+
+    /// The folder that is used without --state.
+    static QString defaultPath();
+
+    /// Makes the folder and takes it. Empty, or what went wrong.
+    QString take();
+    /// Puts the board's files there that are not there yet; translations are always renewed.
+    void install();
+    /// As after power-on: no flag files, a dark LCD.
+    void clearForStart();
+
+    QString path() const { return m_path; }
+    QString file(const char *name) const { return m_path + QLatin1String(name); }
+
+private:
+    QString m_path;
+    QLockFile m_lock;
+};

@@ -1,0 +1,87 @@
+#include "emulator/window/knob.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace
+{
+constexpr int knobSize = 190;
+constexpr int wheelStep = 120; ///< of a common mouse wheel
+constexpr int degreesPerStep = 15;
+
+/// As the driver measures it: the faster the steps follow each other, the higher.
+int speedFor(qint64 milliseconds)
+{
+    return milliseconds < 25 ? 4 : milliseconds < 50 ? 3 : milliseconds < 90 ? 2 : 1;
+}
+} // namespace
+
+Knob::Knob(QWidget *parent) : QWidget(parent)
+{
+    setFixedSize(knobSize, knobSize);
+    setToolTip("Wheel or arrow keys: turn. Click or Enter: OK.");
+}
+
+void Knob::turn(int steps)
+{
+    const int speed = m_sinceTurn.isValid() ? speedFor(m_sinceTurn.elapsed()) : 1;
+    m_sinceTurn.start();
+    m_angle += steps * degreesPerStep;
+    update();
+    emit turned(steps, speed);
+}
+
+void Knob::setDown(bool down)
+{
+    m_down = down;
+    update();
+}
+
+void Knob::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(knobSize / 2.0, knobSize / 2.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor("#15161b"));
+    painter.drawEllipse(QPointF(), knobSize / 2.0 - 2, knobSize / 2.0 - 2);
+    QConicalGradient rim(QPointF(), -m_angle);
+    for (int i = 0; i <= 72; ++i)
+        rim.setColorAt(i / 72.0, i % 2 ? QColor("#5b5e6b") : QColor("#3b3d47"));
+    painter.setBrush(rim);
+    painter.drawEllipse(QPointF(), knobSize / 2.0 - 8, knobSize / 2.0 - 8);
+    QRadialGradient face(QPointF(-20, -30), knobSize * 0.7);
+    face.setColorAt(0, m_down ? QColor("#4a4c58") : QColor("#6a6d7b"));
+    face.setColorAt(1, QColor("#26272e"));
+    painter.setBrush(face);
+    painter.drawEllipse(QPointF(), knobSize / 2.0 - 20, knobSize / 2.0 - 20);
+    painter.rotate(m_angle);
+    painter.setBrush(QColor("#c9cbd6"));
+    painter.drawEllipse(QPointF(0, -knobSize / 2.0 + 36), 6, 6);
+}
+
+void Knob::wheelEvent(QWheelEvent *event)
+{
+    m_wheelRest += event->angleDelta().y();
+    const int steps = m_wheelRest / wheelStep;
+    m_wheelRest -= steps * wheelStep;
+    // Rolled towards the user is onwards, as on the device.
+    if (steps != 0)
+        turn(-steps);
+}
+
+void Knob::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    setDown(true);
+    emit pressed();
+}
+
+void Knob::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    setDown(false);
+    emit released();
+}
