@@ -1,0 +1,198 @@
+#include "tests/system/panel.h"
+
+#include "fpd_hostlink.h"
+#include "tests/system/lcdtext.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDomDocument>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRegularExpression>
+#include <QThread>
+
+namespace
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int patienceMs = 90000;
+#else
+constexpr int patienceMs = 30000;
+#endif
+constexpr int lookMs = 10;
+
+QString buildFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/..");
+}
+} // namespace
+
+Panel::Panel() : m_folder(QDir::tempPath() + "/fpd-XXXXXX"), m_state(m_folder.path() + "/state") {}
+
+Panel::~Panel()
+{
+    stop();
+}
+
+bool Panel::powerDevice(const QStringList &wrapper)
+{
+    QStringList command = wrapper;
+    command << buildFolder() + "/bin/fpd-emulator"
+            << "--headless"
+            << "--no-panel"
+            << "--state" << m_state;
+    m_emulator.setProcessChannelMode(QProcess::MergedChannels);
+    m_emulator.start(command.takeFirst(), command);
+    m_console = std::make_unique<ConsoleClient>();
+    const bool connected = waitUntil(
+        [this] { return m_emulator.state() == QProcess::NotRunning || m_console->connectTo(m_state); });
+    if (!connected || m_emulator.state() == QProcess::NotRunning)
+        return false;
+    m_logConsole = std::make_unique<ConsoleClient>();
+    if (!m_logConsole->connectTo(m_state))
+        return false;
+    m_logConsole->begin({"log", "--follow"});
+    return true;
+}
+
+bool Panel::start()
+{
+    mark();
+    return ask({"panel", "start"}).ok && waitForLog("init OK!");
+}
+
+bool Panel::startReady()
+{
+    return powerDevice() && start() && ask({"wait", "ready", QString::number(patienceMs / 1000)}).ok;
+}
+
+void Panel::stop()
+{
+    if (m_emulator.state() == QProcess::NotRunning)
+        return;
+    m_emulator.terminate();
+    if (!m_emulator.waitForFinished(patienceMs))
+        m_emulator.kill();
+    m_emulator.waitForFinished();
+}
+
+bool Panel::turn(Direction direction, int steps, int speed)
+{
+    return ask({"knob", direction == Left ? "left" : "right", QString::number(steps), QString::number(speed)})
+        .ok;
+}
+
+Answer Panel::ask(const QStringList &words)
+{
+    return m_console->ask(words, patienceMs);
+}
+
+QImage Panel::screen() const
+{
+    QFile file(m_state + hostlink::lcdFile);
+    QImage picture(hostlink::lcdWidth, hostlink::lcdHeight, QImage::Format_RGB32);
+    if (!file.open(QIODevice::ReadOnly))
+        return picture;
+    const uchar *memory = file.map(0, hostlink::lcdFileSize);
+    const auto *counter = reinterpret_cast<const volatile quint64 *>(memory + hostlink::lcdBytes);
+    quint64 before;
+    do {
+        before = *counter;
+        memcpy(picture.bits(), memory, hostlink::lcdBytes);
+    } while (before % 2 != 0 || *counter != before);
+    return picture;
+}
+
+bool Panel::shows(const QString &text)
+{
+    return !lcdtext::find(screen(), text).isEmpty();
+}
+
+bool Panel::waitFor(const QString &text)
+{
+    return waitUntil([this, &text] { return shows(text); });
+}
+
+bool Panel::waitUntilGone(const QString &text)
+{
+    return waitUntil([this, &text] { return !shows(text); });
+}
+
+bool Panel::waitUntil(const std::function<bool()> &condition) const
+{
+    QElapsedTimer passed;
+    passed.start();
+    while (!condition()) {
+        if (passed.hasExpired(patienceMs))
+            return false;
+        QThread::msleep(lookMs);
+        QCoreApplication::processEvents();
+    }
+    return true;
+}
+
+void Panel::mark()
+{
+    readLog(0);
+    m_mark = m_log.size();
+}
+
+bool Panel::waitForLog(const QString &text)
+{
+    QElapsedTimer passed;
+    passed.start();
+    while (logLines(text).isEmpty()) {
+        if (passed.hasExpired(patienceMs))
+            return false;
+        readLog(patienceMs - int(passed.elapsed()));
+    }
+    return true;
+}
+
+QStringList Panel::logLines(const QString &text)
+{
+    readLog(0);
+    return m_log.mid(m_mark).filter(text);
+}
+
+QString Panel::stored(int item, const QString &field) const
+{
+    QFile file(m_state + "/usr/vask/etc/fpd/config/config.xml");
+    QDomDocument document;
+    if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
+        return QString();
+    for (QDomElement element = document.documentElement().firstChildElement("Items"); !element.isNull();
+         element = element.nextSiblingElement("Items")) {
+        if (element.attribute("Index").toInt() == item)
+            return element.firstChildElement(field).text();
+    }
+    return QString();
+}
+
+QString Panel::damage()
+{
+    readLog(0);
+    const QStringList signs = m_log.filter(QRegularExpression("(Address|Thread|Leak)Sanitizer|runtime error:|"
+                                                              "ASSERT|Segmentation"));
+    if (!signs.isEmpty())
+        return m_log.mid(m_log.indexOf(signs.first()), 40).join('\n');
+    m_emulator.waitForReadyRead(0);
+    const QString output = QString::fromUtf8(m_emulator.readAll());
+    return output.contains("the panel ") || output.contains("Sanitizer") ? output : QString();
+}
+
+void Panel::keepEvidence(const QString &name)
+{
+    const QDir folder(buildFolder() + "/screens");
+    folder.mkpath(".");
+    screen().save(folder.filePath(name + ".png"));
+    QFile file(folder.filePath(name + ".log"));
+    readLog(0);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(m_log.join('\n').toUtf8());
+}
+
+void Panel::readLog(int timeoutMs)
+{
+    if (m_logConsole)
+        m_log += m_logConsole->newLines(timeoutMs);
+}
