@@ -6,9 +6,6 @@
 
 namespace VASK
 {
-/// Port name on every path.
-inline const QString DESPORTNAME = QStringLiteral("@local");
-
 class PackageRequestProto3rd : public PackageBase
 {
 public:

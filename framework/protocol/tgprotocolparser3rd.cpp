@@ -1,5 +1,7 @@
 #include "framework/protocol/tgprotocolparser3rd.h"
 
+#include "menuconfig_k2860.h"
+
 namespace VASK
 {
 namespace
