@@ -1,0 +1,179 @@
+// The inputs: picture, colour range, EDID, audio, copy protection, backup and the mosaic of two inputs.
+
+#include "framework/paraprocess.h"
+#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/send/sendrow.h"
+#include "framework/protocol/send/videomode.h"
+
+#include <QDebug>
+
+namespace VASK
+{
+namespace
+{
+using P = TGProtocolParser3rd;
+
+/// The inputs with a page of their own.
+enum EnInputSourceCardNo : int {
+    CARD_HDMI1,
+    CARD_HDMI2,
+    CARD_DVI1,
+    CARD_DVI2,
+    CARD_SDI,
+    CARD_END,
+};
+constexpr int stridedCards = CARD_SDI; ///< their pages are twins with item numbers a stride apart
+
+/// The codes by which the device knows them in picture and EDID registers.
+constexpr quint8 cardCodes[CARD_END] = {17, 18, 0, 106, 48};
+
+ENUM_MenuIndex ofCard(ENUM_MenuIndex ofHdmi1, int card)
+{
+    const int base =
+        card == CARD_SDI ? MENU_SDI_Brightness : MENU_HDMI1_Brightness + card * STRIDE_InputPicture;
+    return ENUM_MenuIndex(base + ofHdmi1 - MENU_HDMI1_Brightness);
+}
+
+/// Brightness, contrast, saturation, hue: the register is that of the input's place among all inputs.
+int pictureValueChanged(const SendChange &change)
+{
+    const unsigned char input = Proto3rdReceiveParse::inputSourceCode.keyOfCode(cardCodes[change.member]);
+    QByteArray data;
+    change.row.form.encode(change.value, data);
+    change.log(data);
+    return Proto3rdSend::SendHeldBack(change, change.package(data, input));
+}
+
+int InQualityReset(const SendChange &change)
+{
+    constexpr int recordSize = 20;
+    const int card = change.member;
+    qDebug() << "InQualityReset,Index:" << card;
+    const int hue = change.number(ofCard(MENU_HDMI1_Hue, card));
+    QByteArray data(recordSize, '\0');
+    data[0] = char(cardCodes[card]);
+    data[1] = char(change.number(ofCard(MENU_HDMI1_Brightness, card)));
+    data[2] = char(change.number(ofCard(MENU_HDMI1_Contrast, card)));
+    data[4] = char(change.number(ofCard(MENU_HDMI1_Saturation, card)));
+    data[5] = char(hue & 0x0F);
+    data[6] = char(hue >> 8 & 0x0F);
+    return change.sendBytes(data);
+}
+
+int EDIDApplySubmit(const SendChange &change)
+{
+    QByteArray mode;
+    if (!videoMode(change.value, mode)) {
+        qDebug() << "Invalid EDID Value:" << change.value;
+        return SEND_BadValue;
+    }
+    const auto input = static_cast<unsigned char>(change.member);
+    const inputSource source = Proto3rdReceiveParse::EDIDSourceCode.value(input);
+    return change.sendBytes(littleEndian(source.SourceCode, 1) + littleEndian(source.index, 1) + mode);
+}
+
+/// The menu switches protection of all four inputs at once; their registers hold the opposite sense.
+int HdcpSwitchChanged(const SendChange &change)
+{
+    constexpr int protectedInputs = 4;
+    const QByteArray data = littleEndian(change.value == QLatin1String("0"), 1);
+    change.log(data);
+    for (int input = 0; input < protectedInputs; ++input)
+        if (change.send(change.package(data, input)) != SEND_Done)
+            return SEND_Failed;
+    return SEND_Done;
+}
+
+/// Main input, and the one that takes over where backup is on.
+int inputBackupChanged(const SendChange &change)
+{
+    struct Pair {
+        quint8 main;
+        quint8 backup;
+    };
+    constexpr quint8 noBackup = 255;
+    static constexpr Pair pairs[] = {{17, 18}, {105, 106}, {224, 224}};
+    const Pair &pair = pairs[change.member];
+    const bool off = change.value == QLatin1String("0");
+    return change.sendBytes(littleEndian(pair.main, 1) + littleEndian(0, 1) +
+                            littleEndian(off ? noBackup : pair.backup, 1) + littleEndian(1, 1));
+}
+
+QByteArray mosaicPart(const inputSource &source, int x, int y, int width, int height)
+{
+    return (littleEndian(source.SourceCode, 1) + littleEndian(source.index, 1) + littleEndian(x, 2) +
+            littleEndian(y, 2) + littleEndian(width, 2) + littleEndian(height, 2))
+        .leftJustified(16, '\0');
+}
+
+/// Two inputs make one picture, one above the other or side by side: a head and a part for each.
+int InputMosaicParaChanged(const SendChange &change)
+{
+    ST_ItemInfo arrangement;
+    if (const ParaProcess *engine = Proto3rdSend::engine())
+        engine->GetInfoFromIndex(MENU_Mosaic_Arrangement, arrangement);
+    auto source = [](const QString &number) {
+        return Proto3rdReceiveParse::MosaicSourceCode.value(static_cast<unsigned char>(number.toInt()));
+    };
+    const bool above = change.number(MENU_Mosaic_Layout) == 0;
+    const int width = change.number(MENU_Mosaic_Width);
+    const int height = change.number(MENU_Mosaic_Height);
+
+    const char rows = above ? 2 : 1;
+    const char columns = above ? 1 : 2;
+    QByteArray data = QByteArray("\x02\x01", 2) + rows + columns + QByteArray("\x01\x01", 2);
+    data = data.leftJustified(16, '\0');
+    data += mosaicPart(source(arrangement.value), 0, 0, width, height);
+    data += mosaicPart(source(arrangement.perBase), above ? 0 : width, above ? height : 0, width, height);
+    return change.sendBytes(data);
+}
+
+/// A value of the picture page: a row for the twins and one for SDI.
+constexpr SendRow twins(ENUM_MenuIndex ofHdmi1, int stride, int (*handler)(const SendChange &),
+                        RegisterBuilder builder, ValueForm form = {})
+{
+    return family(ofHdmi1, ofHdmi1, stride, stridedCards, handler, builder, form);
+}
+constexpr SendRow sdi(ENUM_MenuIndex index, int (*handler)(const SendChange &), RegisterBuilder builder,
+                      ValueForm form = {})
+{
+    return family(index, index, 0, 1, handler, builder, form, CARD_SDI);
+}
+
+constexpr SendRow rows[] = {
+    twins(MENU_HDMI1_Brightness, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulityLightness),
+    sdi(MENU_SDI_Brightness, pictureValueChanged, P::Set_ScreenQulityLightness),
+    twins(MENU_HDMI1_Contrast, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulityContrast),
+    sdi(MENU_SDI_Contrast, pictureValueChanged, P::Set_ScreenQulityContrast),
+    twins(MENU_HDMI1_Saturation, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulitySaturation),
+    sdi(MENU_SDI_Saturation, pictureValueChanged, P::Set_ScreenQulitySaturation),
+    twins(MENU_HDMI1_Hue, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulityHue, number(2)),
+    sdi(MENU_SDI_Hue, pictureValueChanged, P::Set_ScreenQulityHue, number(2)),
+    twins(MENU_HDMI1_ColorReset, STRIDE_InputPicture, InQualityReset, P::Set_ScreenQulityReset),
+    sdi(MENU_SDI_ColorReset, InQualityReset, P::Set_ScreenQulityReset),
+
+    twins(MENU_HDMI1_LimitedtoFull, STRIDE_Input, sendPlain, P::Set_ScreenColorRange, zeroOneElse(0, 1, 0)),
+    twins(MENU_HDMI1_EDIDApply, STRIDE_InputPicture, EDIDApplySubmit,
+          P::Set_InResolutionRatioAndRefreshRateResource),
+
+    // HDMI can bring sound of its own, the other inputs can not.
+    family(MENU_AudioInput_HDMI1, MENU_AudioInput_HDMI1, 1, 2, sendPlain, P::Set_AudioSettingInputsource,
+           zeroElse(1, 2)),
+    family(MENU_AudioInput_DVI, MENU_AudioInput_DVI, 1, 6, sendPlain, P::Set_AudioSettingInputsource,
+           zeroElse(0, 2), 2),
+
+    own(MENU_HDCP, HdcpSwitchChanged, P::Set_HdcpStatus),
+
+    plain(MENU_InputBackup_Status, onOff(91, 255), P::Set_InputSourceHotBackUpSwitch),
+    family(MENU_InputBackup_HDMI1, MENU_InputBackup_HDMI1, 1, 3, inputBackupChanged,
+           P::Set_InputSourceHotBackUpSource),
+
+    own(MENU_Mosaic_Apply, InputMosaicParaChanged, P::Set_InputMosaicPara),
+};
+} // namespace
+
+SendFamily inputRows()
+{
+    return {rows, int(std::size(rows))};
+}
+} // namespace VASK

@@ -1,0 +1,106 @@
+// The three layers: what they show, where, in which order and which part of their input. A change of one
+// number of a window sends the whole window.
+
+#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/send/sendrow.h"
+
+#include <QDebug>
+
+namespace VASK
+{
+namespace
+{
+using P = TGProtocolParser3rd;
+
+constexpr int layerCount = 3;
+
+ENUM_MenuIndex ofLayer(ENUM_MenuIndex mainLayer, int layer)
+{
+    return ENUM_MenuIndex(mainLayer + layer * STRIDE_Layer);
+}
+
+/// The value is the number of the input among all inputs.
+int InputSourceValueChanged(const SendChange &change)
+{
+    const auto input = static_cast<unsigned char>(change.value.toInt());
+    const inputSource source = Proto3rdReceiveParse::inputSourceCode.value(input);
+    return change.sendBytes(littleEndian(source.index, 1) + littleEndian(0, 1) +
+                            littleEndian(source.SourceCode, 1));
+}
+
+QByteArray windowStart(const SendChange &change, int layer)
+{
+    return littleEndian(change.number(ofLayer(MENU_MainLayer_InitialX, layer)), 4) +
+           littleEndian(change.number(ofLayer(MENU_MainLayer_InitialY, layer)), 4);
+}
+
+int WindowValueChanged(const SendChange &change)
+{
+    const int layer = change.member;
+    const QByteArray data = windowStart(change, layer) +
+                            littleEndian(change.number(ofLayer(MENU_MainLayer_HorWidth, layer)), 4) +
+                            littleEndian(change.number(ofLayer(MENU_MainLayer_VerHeight, layer)), 4);
+    change.log(data);
+    return Proto3rdSend::SendHeldBack(change, change.package(data));
+}
+
+/// A sending card has one window; its own register takes the start.
+int MAINWindowChangedtoSend(const SendChange &change)
+{
+    return change.sendBytes(windowStart(change, 0));
+}
+
+/// Items of the crop page of a layer, in their order.
+enum CropPlace { CROP_Switch, CROP_Width, CROP_Height, CROP_X, CROP_Y, CROP_END };
+
+/// The crop of a layer belongs to the input that the layer shows: the register is that of both.
+int InterceptionValueChanged(const SendChange &change)
+{
+    const int layer = change.member;
+    QString part[CROP_END];
+    for (int place = 0; place < CROP_END; ++place) {
+        const int item = MENU_MainLayerCrop_Status + layer * STRIDE_Crop + place;
+        part[place] = place == change.place ? change.value : QString();
+        if (part[place].isEmpty())
+            part[place] = change.item(ENUM_MenuIndex(item));
+    }
+    const QString input = change.item(ofLayer(MENU_MainLayer_InputSource, layer));
+    const auto key = static_cast<unsigned char>(input.toInt());
+    if (key == InputTable::noKey) {
+        qDebug("Invalid Source Name:%s", qPrintable(input));
+        return SEND_BadValue;
+    }
+    const inputSource source = Proto3rdReceiveParse::inputSourceCode.value(key);
+    QByteArray data = littleEndian(source.SourceCode, 1) + littleEndian(source.index, 1) +
+                      littleEndian(part[CROP_Switch] == QLatin1String("1"), 1);
+    for (CropPlace place : {CROP_X, CROP_Y, CROP_Width, CROP_Height})
+        data += littleEndian(part[place].toInt(), 2);
+    change.log(data);
+    return Proto3rdSend::SendHeldBack(
+        change, toAllBoards(P::Set_SenderInterception, data, change.tag(), layer, source.index));
+}
+
+constexpr SendRow layerItem(ENUM_MenuIndex index, ValueForm form, RegisterBuilder builder)
+{
+    return family(index, index, STRIDE_Layer, layerCount, sendPlain, builder, form);
+}
+
+constexpr SendRow rows[] = {
+    layerItem(MENU_MainLayer_Status, zeroElse(0, 1), P::Set_SenderFormsStatusData),
+    family(MENU_MainLayer_InputSource, MENU_MainLayer_InputSource, STRIDE_Layer, layerCount,
+           InputSourceValueChanged, P::Set_SenderFormsRosourceCard),
+    family(MENU_MainLayer_HorWidth, MENU_MainLayer_InitialY, STRIDE_Layer, layerCount, WindowValueChanged,
+           P::Set_SenderFormsHorStartData),
+    layerItem(MENU_MainLayer_Priority, number(), P::Set_SenderFormsPriorityData),
+    layerItem(MENU_MainLayer_Opacity, number(), P::Set_SenderFormsTransparent),
+    family(MENU_MainLayerCrop_Status, MENU_MainLayerCrop_InitialY, STRIDE_Crop, layerCount,
+           InterceptionValueChanged),
+    family(EVENT_SendingCardX, EVENT_SendingCardY, 0, 1, MAINWindowChangedtoSend, P::Set_HorStartDataToSend),
+};
+} // namespace
+
+SendFamily layerRows()
+{
+    return {rows, int(std::size(rows))};
+}
+} // namespace VASK

@@ -1,0 +1,70 @@
+// The outputs: rate, HDMI output, synchronisation, audio, 3D, latency.
+
+#include "framework/paraprocess.h"
+#include "framework/protocol/send/sendrow.h"
+#include "framework/protocol/send/videomode.h"
+
+#include <QDebug>
+
+namespace VASK
+{
+namespace
+{
+using P = TGProtocolParser3rd;
+
+int HdmiOutputResChange(const SendChange &change)
+{
+    QByteArray mode;
+    if (videoMode(change.value, mode))
+        return change.sendBytes(mode);
+    qDebug() << "Invalid Value:" << change.value;
+    return SEND_BadValue;
+}
+
+/// The start as it is set, and beside it the one kept for the top-and-bottom format.
+int _3DRightEyeStartChanged(const SendChange &change)
+{
+    constexpr int topAndBottom = 1;
+    const ParaProcess *engine = Proto3rdSend::engine();
+    return change.sendBytes(littleEndian(change.value.toInt(), 2) +
+                            littleEndian(engine ? engine->rightEyeStart(topAndBottom) : 0, 2));
+}
+
+constexpr SendRow hdmiOutputMode()
+{
+    SendRow row = plain(MENU_Output_Mode, zeroOneOnly(0, 1), P::Set_HdmiOutputMode);
+    row.failText = "SendMsg fail";
+    return row;
+}
+
+/// The device counts the delay in steps of 8 ns, the menu in microseconds.
+constexpr int delayStepsPerMicrosecond = 125;
+
+constexpr SendRow rows[] = {
+    plain(MENU_OutputFrameRate, centi(), P::Set_OutRefreshRate),
+    hdmiOutputMode(),
+    own(MENU_Output_Apply, HdmiOutputResChange, P::Set_HdmiOutputRes),
+
+    plain(MENU_Sync_Status, onOff(1, 0), P::Set_SyncStatusData),
+    plain(MENU_Sync_Source, numberPlus(1), P::Set_SyncSourceData),
+
+    plain(MENU_Audio_AudioOutput, numberBut("4", 240), P::Set_AudioSettingSelect),
+    plain(MENU_Audio_Volume, number(), P::Set_AudioSettingVolume),
+
+    plain(MENU_Mode3D_Status, zeroElse(40, 168), P::Set_3DStatusChanged),
+    plain(MENU_Mode3D_Format, zeroOneElse(40, 8, 24), P::Set_3DSourceFormatChanged),
+    plain(MENU_Mode3D_EyePriority, zeroElse(100, 50), P::Set_3DEyePriorChanged),
+    own(MENU_Mode3D_RightEyeStart, _3DRightEyeStartChanged, P::Set_3DRightEyeStartChanged),
+    plain(MENU_Mode3D_SignalDelayTime, numberTimes(delayStepsPerMicrosecond, 3),
+          P::Set_3DSignalDelayTimeChanged),
+    plain(MENU_Mode3D_ThirdPartyEmitter, zeroElse(0, 1), P::Set_3DStartThirdEmitChanged),
+
+    plain(MENU_LowLatency, zeroElse(0, 120), P::Set_LowLatency),
+};
+} // namespace
+
+SendFamily outputRows()
+{
+    return {rows, int(std::size(rows))};
+}
+} // namespace VASK

@@ -1,0 +1,116 @@
+// The table of the send path: which items go to which register in which form. A row that is more than a form
+// and a register names a function of its own. Rows are data; functions run on the thread of the change.
+#pragma once
+
+#include "framework/protocol/proto3rdsend.h"
+#include "framework/protocol/send/valueform.h"
+#include "framework/protocol/tgprotocolparser3rd.h"
+#include "menuconfig_k2860.h"
+
+namespace VASK
+{
+/// The package of a builder, to all ports and boards behind the device; the numbers are those of an indexed
+/// register.
+template <class Builder, class... Numbers>
+PackageRequestWriteData *toAllBoards(Builder builder, const QByteArray &data, const QString &tag,
+                                     Numbers... numbers)
+{
+    constexpr unsigned char destination = 0;
+    constexpr int timeOut = 10;
+    return builder(DESPORTNAME, destination, allPorts, allBoards, timeOut, false, tag, data,
+                   static_cast<unsigned char>(numbers)...);
+}
+
+/// A builder of the register catalogue, for one register or for a row of registers with a number each.
+struct RegisterBuilder {
+    using Plain = PackageRequestWriteData *(*)(QString, unsigned char, unsigned char, unsigned short, int,
+                                               bool, QString, QByteArray);
+    using Indexed = PackageRequestWriteData *(*)(QString, unsigned char, unsigned char, unsigned short, int,
+                                                 bool, QString, QByteArray, unsigned char);
+
+    constexpr RegisterBuilder() = default;
+    constexpr RegisterBuilder(Plain builder) : plain(builder) {}
+    constexpr RegisterBuilder(Indexed builder) : indexed(builder) {}
+
+    /// The package for these bytes. The number counts for a row of registers only.
+    PackageRequestWriteData *package(const QByteArray &data, int number, const QString &tag) const
+    {
+        return indexed ? toAllBoards(indexed, data, tag, number) : toAllBoards(plain, data, tag);
+    }
+
+    Plain plain = nullptr;
+    Indexed indexed = nullptr;
+};
+
+struct SendChange;
+
+struct SendRow {
+    ENUM_MenuIndex first;
+    ENUM_MenuIndex last;
+    int stride = 0;      ///< distance between the members of a family
+    int members = 1;     ///< layers, inputs, ports ...
+    int firstMember = 0; ///< number of the first of them
+    int (*handler)(const SendChange &change) = nullptr;
+    RegisterBuilder builder = {};
+    ValueForm form = {};
+    const char *failText = "SendMsg Faild!";
+    const char *refusal = "strCurValue is invalid:";
+};
+
+/// One changed value on its way to the device.
+struct SendChange {
+    ENUM_MenuIndex index;
+    const QString &value;
+    const SendRow &row;
+    int member; ///< number of the layer, input or port that the item belongs to
+    int place;  ///< place of the item in the block of its member
+
+    /// The current value of another item.
+    QString item(ENUM_MenuIndex other) const;
+    int number(ENUM_MenuIndex other) const { return item(other).toInt(); }
+    QString tag() const { return QString::number(index); }
+    void log(const QByteArray &data) const;
+
+    /// The package that the row's builder makes of these bytes.
+    PackageRequestWriteData *package(const QByteArray &data, int number) const;
+    PackageRequestWriteData *package(const QByteArray &data) const { return package(data, member); }
+    /// Queues a package and releases it; SEND_Done or SEND_Failed.
+    int send(PackageRequestWriteData *package) const;
+    /// Logs the bytes and queues them through the row's builder.
+    int sendBytes(const QByteArray &data) const;
+};
+
+/// Puts the value into the row's form and sends it to the row's register.
+int sendPlain(const SendChange &change);
+
+constexpr SendRow plain(ENUM_MenuIndex index, ValueForm form, RegisterBuilder builder)
+{
+    return {index, index, 0, 1, 0, sendPlain, builder, form};
+}
+constexpr SendRow own(ENUM_MenuIndex index, int (*handler)(const SendChange &), RegisterBuilder builder = {},
+                      ValueForm form = {})
+{
+    return {index, index, 0, 1, 0, handler, builder, form};
+}
+/// Items of several members; the items of one member start a stride behind those of the member before.
+constexpr SendRow family(ENUM_MenuIndex first, ENUM_MenuIndex last, int stride, int members,
+                         int (*handler)(const SendChange &), RegisterBuilder builder = {},
+                         ValueForm form = {}, int firstMember = 0)
+{
+    return {first, last, stride, members, firstMember, handler, builder, form};
+}
+
+/// The rows of one subject, a table in a file of its own.
+struct SendFamily {
+    const SendRow *rows;
+    int count;
+};
+SendFamily screenRows();
+SendFamily displayRows();
+SendFamily outputRows();
+SendFamily systemRows();
+SendFamily presetRows();
+SendFamily layerRows();
+SendFamily inputRows();
+SendFamily gammaRows();
+} // namespace VASK

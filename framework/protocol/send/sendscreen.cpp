@@ -1,0 +1,131 @@
+// The LED screen behind the ports: brightness, colour channels, cabinets, their wiring and their files.
+
+#include "framework/protocol/send/sendrow.h"
+
+#include <QDebug>
+#include <QVector>
+
+namespace VASK
+{
+namespace
+{
+using P = TGProtocolParser3rd;
+
+constexpr unsigned int mappingAddress = 0x01000088;
+constexpr int portCount = 10;
+constexpr int routeWayCount = 8;
+/// Takes over what was written for the ports.
+constexpr quint8 applyAdvanced = 185;
+
+int ScannerMapping(const SendChange &change)
+{
+    const QByteArray data = littleEndian(change.value == QLatin1String("0") ? 255 : 5, 1);
+    change.log(data);
+    return change.send(P::Set_ScannerCommonWrite(data, data.size(), mappingAddress));
+}
+
+/// The value is the path of the picture that shows the way, or its bare number.
+int sendRouteWay(const SendChange &change, QString way, int port)
+{
+    way.remove(QStringLiteral(":/resource/image/041_ScreenTracesWay")).remove(QStringLiteral(".png"));
+    const int number = way.toInt();
+    if (number < 0 || number >= routeWayCount)
+        return SEND_BadValue;
+    const QByteArray data = littleEndian(number, 1);
+    change.log(data);
+    return change.send(toAllBoards(P::Set_SettingScreenRouteWayValue, data, change.tag(), port));
+}
+
+int ScreenLineValueChanged(const SendChange &change)
+{
+    constexpr int quickConfiguration = 0;
+    return sendRouteWay(change, change.value, quickConfiguration);
+}
+
+/// The value lists the number of the file and its name; the register wants the number.
+int LoadBoxCFGFile(const SendChange &change)
+{
+    const QByteArray data = littleEndian(1, 1);
+    change.log(data);
+    return change.send(change.package(data, change.value.section('+', 0, 0).toInt()));
+}
+
+int AdvancedTurnOnNetPortValueChanged(const SendChange &change)
+{
+    const int port = QString(change.value).remove(QStringLiteral("Port")).toInt();
+    if (port < 1 || port > portCount)
+        return SEND_BadValue;
+    Proto3rdSend::m_usNetPortIndex = static_cast<unsigned short>(port);
+    return SEND_Done;
+}
+
+/// One port's share of the screen.
+struct PortArea {
+    int rows;
+    int columns;
+    int x;
+    int y;
+    QString route;
+};
+
+PortArea readPort(const SendChange &change, int port)
+{
+    const int base = MENU_AdvancedPort1_Rows + (port - 1) * STRIDE_AdvancedPort;
+    auto at = [base](ENUM_MenuIndex ofPort1) {
+        return ENUM_MenuIndex(base + ofPort1 - MENU_AdvancedPort1_Rows);
+    };
+    const PortArea area{change.number(at(MENU_AdvancedPort1_Rows)),
+                        change.number(at(MENU_AdvancedPort1_Cols)), change.number(at(MENU_AdvancedPort1_X)),
+                        change.number(at(MENU_AdvancedPort1_Y)), change.item(at(MENU_AdvancedPort1_FlowWay))};
+    qDebug() << "network" << port << area.rows << area.columns << area.x << area.y << area.route;
+    return area;
+}
+
+int ChangeAdvancedPostion(const SendChange &change, const PortArea &area, int port)
+{
+    const QByteArray data = littleEndian(area.rows, 1) + littleEndian(area.columns, 1) +
+                            littleEndian(area.rows * area.columns, 2) + littleEndian(area.x, 2) +
+                            littleEndian(area.y, 2);
+    change.log(data);
+    return change.send(toAllBoards(P::SetAdvancedPostion, data, change.tag(), port));
+}
+
+int AdvancedTurnOnApply(const SendChange &change)
+{
+    for (int port = 1; port <= portCount; ++port) {
+        const PortArea area = readPort(change, port);
+        int result = ChangeAdvancedPostion(change, area, port);
+        if (result == SEND_Done)
+            result = sendRouteWay(change, area.route, port);
+        if (result != SEND_Done)
+            return result;
+    }
+    return change.sendBytes(littleEndian(applyAdvanced, 1));
+}
+
+constexpr SendRow rows[] = {
+    plain(MENU_ScreenBrightness, percent(), P::Set_AcceptCardLightnessData),
+    plain(MENU_SavetoRVCard, fixed(0), P::Set_SolidifyScanner),
+
+    plain(MENU_Quick_CabinetRow, number(), P::Set_SettingScreenRowsValue),
+    plain(MENU_Quick_CabinetCol, number(), P::Set_SettingScreenColsValue),
+    plain(MENU_Quick_PortOneCab, number(2), P::Set_QuickSettingScreenContainerCapacityValue),
+    own(MENU_Quick_FlowWay, ScreenLineValueChanged),
+    family(MENU_CabinetFile1, MENU_CabinetFile8, 0, 1, LoadBoxCFGFile, P::Set_LoadBoxCFGFile),
+    own(MENU_Mapping, ScannerMapping),
+
+    plain(MENU_Advanced_Status, onOff(168, 184), P::Set_AdvancedSettingScreenSwitchValue),
+    own(MENU_Advanced_EthernetPort, AdvancedTurnOnNetPortValueChanged),
+    own(MENU_Advanced_Apply, AdvancedTurnOnApply, P::Set_AdvancedSettingScreenSwitchValue),
+
+    plain(MENU_Color_R, number(), P::Set_AcceptCardRedLightnessData),
+    plain(MENU_Color_G, number(), P::Set_AcceptCardGreenLightnessData),
+    plain(MENU_Color_B, number(), P::Set_AcceptCardBlueLightnessData),
+};
+} // namespace
+
+SendFamily screenRows()
+{
+    return {rows, int(std::size(rows))};
+}
+} // namespace VASK
