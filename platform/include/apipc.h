@@ -2,6 +2,7 @@
 // 32-bit identifier with the slot number of its card in the top byte. Any thread, unless stated.
 #pragma once
 
+extern "C" {
 struct __apsess_st;
 
 /// Called from inside apipc_loop_wait for each message: session, argument given to apipc_loop_wait, message
@@ -32,3 +33,4 @@ int apipc_que_detach(void *message, void *attached);
 
 /// Sends a whole message, header and payload, to a task. 0 when the bus took it. Never blocks.
 int apipc_send(unsigned int taskIdentifier, const void *message, unsigned int length);
+} // extern "C"

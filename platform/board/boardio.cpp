@@ -1,0 +1,26 @@
+#include "boardio.h"
+
+#include <cstdlib>
+
+namespace board
+{
+QString filePath(const QString &boardPath)
+{
+    return boardPath;
+}
+
+int runCommand(const char *commandLine)
+{
+    return std::system(commandLine);
+}
+
+FILE *openPipe(const char *commandLine)
+{
+    return popen(commandLine, "r");
+}
+
+int closePipe(FILE *pipe)
+{
+    return pclose(pipe);
+}
+} // namespace board
