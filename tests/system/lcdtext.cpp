@@ -114,7 +114,7 @@ QRect find(const QImage &screen, const QString &text, const QFont &font, const Q
     for (int y = within.top(); y + mask.height() <= within.bottom() + 1; ++y) {
         for (int x = within.left(); x + mask.width() <= within.right() + 1; ++x) {
             if (match.standsAt(x, y))
-                return QRect(x, y, mask.width(), mask.height());
+                return QRect(x, y, mask.width(), mask.height()).adjusted(1, 1, -1, -1);
         }
     }
     return QRect();

@@ -1,0 +1,255 @@
+// The panel's end of the bus and of the keypad against the emulator's, in one process: the platform layer's
+// blocking calls run on a thread of their own.
+#include "apipc.h"
+#include "emulator/bus/device.h"
+#include "emulator/keypad.h"
+#include "fpd_hostlink.h"
+#include "keypaddevice.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+#include <atomic>
+#include <fcntl.h>
+#include <thread>
+
+class TestDeviceBus : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void sendFailsWhileTheBusIsDown();
+    void writesAreKeptAndAnswered();
+    void readsAnswerWhatWasWritten();
+    void mirroredRegistersReachTheFlash_data();
+    void mirroredRegistersReachTheFlash();
+    void presetsFollowTheirRegisters();
+    void busComesBack();
+    void ledCommands();
+
+private:
+    bool waitJoined()
+    {
+        return QTest::qWaitFor([this] { return m_device->isJoined(); });
+    }
+    bool sendFrame(const wire::Frame &frame);
+    bool write(quint32 address, const QByteArray &bytes, quint8 deviceType = 0);
+    /// The next message for the panel, its payload.
+    QByteArray receive();
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<Device> m_device;
+};
+
+namespace
+{
+constexpr quint32 panelTask = 0x010A3900;
+constexpr quint32 deviceTask = 0x01070300;
+
+int queueMessage(__apsess_st *, void *argument, void *message, unsigned int length)
+{
+    void *copy = message;
+    return apipc_enq(&copy, argument, message, length);
+}
+} // namespace
+
+void TestDeviceBus::initTestCase()
+{
+    qputenv("FPD_STATE", m_folder.path().toLocal8Bit());
+    QDir(m_folder.path()).mkdir("run");
+    QDir(m_folder.path()).mkdir("fault");
+    QCOMPARE(apipc_init(panelTask, 0), 0);
+    std::thread([] {
+        for (;;)
+            apipc_loop_wait(nullptr, queueMessage);
+    }).detach();
+}
+
+void TestDeviceBus::init()
+{
+    if (m_device)
+        return;
+    m_device = std::make_unique<Device>(m_folder.path());
+    QVERIFY(m_device->flash().install());
+}
+
+bool TestDeviceBus::sendFrame(const wire::Frame &frame)
+{
+    wire::Message message;
+    message.source = panelTask;
+    message.payload = wire::encode(frame);
+    const QByteArray bytes = wire::encode(message);
+    return apipc_send(deviceTask, bytes.constData(), unsigned(bytes.size())) == 0;
+}
+
+bool TestDeviceBus::write(quint32 address, const QByteArray &bytes, quint8 deviceType)
+{
+    wire::Frame frame;
+    frame.operation = wire::Write;
+    frame.deviceType = deviceType;
+    frame.address = address;
+    frame.length = quint16(bytes.size());
+    frame.data = bytes;
+    const int before = m_device->writes().size();
+    return sendFrame(frame) && QTest::qWaitFor([&] { return m_device->writes().size() > before; });
+}
+
+QByteArray TestDeviceBus::receive()
+{
+    void *message = nullptr;
+    if (!QTest::qWaitFor([&message] { return apipc_deq(&message) >= 0; }))
+        return QByteArray();
+    const char *bytes = static_cast<char *>(apipc_que_attach(message));
+    const quint32 size = qFromLittleEndian<quint32>(bytes + 8);
+    const auto decoded = wire::decodeMessage(QByteArray(bytes, int(size)));
+    apipc_que_detach(message, const_cast<char *>(bytes));
+    return decoded ? decoded->payload : QByteArray();
+}
+
+void TestDeviceBus::sendFailsWhileTheBusIsDown()
+{
+    QElapsedTimer passed;
+    passed.start();
+    QVERIFY(!sendFrame(wire::Frame()));
+    QVERIFY(passed.elapsed() < 100);
+    void *message = nullptr;
+    QVERIFY(apipc_deq(&message) < 0);
+    QVERIFY(m_device->setBusUp(true));
+    QVERIFY(waitJoined());
+}
+
+void TestDeviceBus::writesAreKeptAndAnswered()
+{
+    m_device->clearWrites();
+    QVERIFY(write(0x13000001, QByteArray::fromHex("01")));
+    QVERIFY(write(0x02000001, QByteArray::fromHex("80"), 1));
+    QCOMPARE(m_device->writes().size(), 2);
+    QCOMPARE(m_device->writes()[0].address, 0x13000001u);
+    QCOMPARE(m_device->writes()[1].deviceType, quint8(1));
+    QCOMPARE(m_device->writes()[1].bytes, QByteArray::fromHex("80"));
+    for (quint32 address : {0x13000001u, 0x02000001u}) {
+        const auto reply = wire::decodeFrame(receive());
+        QVERIFY(reply && reply->isReply);
+        QCOMPARE(reply->operation, quint8(wire::Write));
+        QCOMPARE(reply->address, address);
+    }
+}
+
+void TestDeviceBus::readsAnswerWhatWasWritten()
+{
+    QVERIFY(write(0x02810016, QByteArray::fromHex("0404")));
+    receive();
+    wire::Frame request;
+    request.serial = 77;
+    request.address = 0x02810015;
+    request.length = 4;
+    QVERIFY(sendFrame(request));
+    const auto reply = wire::decodeFrame(receive());
+    QVERIFY(reply);
+    QCOMPARE(reply->serial, quint8(77));
+    QCOMPARE(reply->data, QByteArray::fromHex("00040400"));
+}
+
+void TestDeviceBus::mirroredRegistersReachTheFlash_data()
+{
+    QTest::addColumn<uint>("registerAddress");
+    QTest::addColumn<int>("deviceType");
+    QTest::addColumn<uint>("flashAddress");
+    QTest::newRow("first of the device block") << 0x13000000u << 0 << 0x2000u;
+    QTest::newRow("last of the device block") << 0x130000A0u << 0 << 0x20A0u;
+    QTest::newRow("main window") << 0x13020012u << 0 << 0xE812u;
+    QTest::newRow("crop") << 0x13024014u << 0 << 0xEE14u;
+    QTest::newRow("load area width") << 0x13030018u << 0 << 0x12618u;
+    QTest::newRow("brightness of the second input") << 0x13050015u << 0 << 0xEA15u;
+    QTest::newRow("backup of HDMI") << 0x13120012u << 0 << 0x10612u;
+    QTest::newRow("3D delay") << 0x02000002u << 4 << 0x2408u;
+    QTest::newRow("HDCP") << 0x13019004u << 0 << 0x15630u;
+    QTest::newRow("audio of the third input") << 0x13019025u << 0 << 0x15635u;
+}
+
+void TestDeviceBus::mirroredRegistersReachTheFlash()
+{
+    QFETCH(uint, registerAddress);
+    QFETCH(int, deviceType);
+    QFETCH(uint, flashAddress);
+    const QByteArray before = m_device->flash().read(flashAddress, 2);
+    QByteArray wanted = before;
+    wanted[0] = char(before[0] ^ 0x5A);
+    QVERIFY(write(registerAddress, wanted.left(1), quint8(deviceType)));
+    QCOMPARE(m_device->flash().read(flashAddress, 2), wanted);
+    receive();
+}
+
+void TestDeviceBus::presetsFollowTheirRegisters()
+{
+    const auto stored = [this](int preset) {
+        return quint8(m_device->flash().read(0x3000u + 0x1200u * unsigned(preset) + 10, 1)[0]) == 168;
+    };
+    QVERIFY(stored(0) && stored(1) && !stored(4) && !stored(9));
+    QVERIFY(write(0x13510102, QByteArray::fromHex("04")));
+    QVERIFY(stored(4));
+    QVERIFY(write(0x13510106, QByteArray::fromHex("00010009")));
+    QCOMPARE(m_device->flash().read(0x3000 + 0x1200 * 9 + 512, 19), m_device->flash().read(0x4200 + 512, 19));
+    QVERIFY(write(0x13510100, QByteArray::fromHex("04")));
+    QCOMPARE(m_device->flash().read(0x2F10, 1), QByteArray::fromHex("04"));
+    QVERIFY(write(0x13510104, QByteArray::fromHex("0004")));
+    QVERIFY(!stored(4));
+    QCOMPARE(m_device->flash().read(0x2F10, 1), QByteArray::fromHex("ff"));
+}
+
+void TestDeviceBus::busComesBack()
+{
+    m_device->setBusUp(false);
+    QVERIFY(QTest::qWaitFor([this] { return !sendFrame(wire::Frame()); }));
+    QVERIFY(m_device->setBusUp(true));
+    QVERIFY(waitJoined());
+    QVERIFY(QTest::qWaitFor([this] { return sendFrame(wire::Frame()); }));
+    QFile fault(m_folder.path() + hostlink::busFaultFile);
+    QVERIFY(fault.open(QIODevice::WriteOnly));
+    fault.write("2");
+    fault.close();
+    QVERIFY(!sendFrame(wire::Frame()));
+    QVERIFY(!sendFrame(wire::Frame()));
+    QVERIFY(sendFrame(wire::Frame()));
+}
+
+void TestDeviceBus::ledCommands()
+{
+    Keypad keypad(m_folder.path());
+    QVERIFY(keypad.setPresent(true));
+    const auto command = [](quint32 length, quint32 action, quint16 mask) {
+        QByteArray block(hostlink::ledBlockSize, 0);
+        const auto put = [&block](int offset, quint32 value) {
+            qToLittleEndian(value, block.data() + offset);
+        };
+        put(0, length);
+        put(4, 6);
+        put(24, mask & 0xff);
+        put(28, mask >> 8);
+        put(40, action);
+        const int descriptor = keypad_open("/dev/keypad0", O_RDWR);
+        const int result = keypad_ioctl(descriptor, hostlink::ledRequest, block.data());
+        keypad_close(descriptor);
+        return result;
+    };
+    const auto run = [&](quint32 length, quint32 action, quint16 mask) {
+        std::atomic<int> result{-2};
+        std::thread caller([&] { result = command(length, action, mask); });
+        const bool answered = QTest::qWaitFor([&] { return result != -2; });
+        caller.join();
+        return answered ? result.load() : -2;
+    };
+    QCOMPARE(run(76, 6, 0x8101), 0);
+    QCOMPARE(keypad.ledText(), QString("1000000010000001"));
+    QCOMPARE(run(76, 7, 0x0100), 0);
+    QCOMPARE(keypad.ledText(), QString("1000000000000001"));
+    QCOMPARE(run(75, 6, 0xffff), -1);
+    QCOMPARE(run(76, 5, 0xffff), -1);
+    QCOMPARE(keypad.ledText(), QString("1000000000000001"));
+}
+
+QTEST_GUILESS_MAIN(TestDeviceBus)
+#include "tst_devicebus.moc"
