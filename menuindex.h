@@ -1156,6 +1156,7 @@ enum ENUM_ObjectIndex : int {
 
     ENUM_PROTOCOINTERFER_3RD = 3000,
     ENUM_PROTO3RD_SEND = 3002,
+    ENUM_PROTO3RD_RECEIVE = 3003,
     ENUM_PROTOCOINTERFER_4RD = 3005,
     ENUM_PROTOMEMORY_20M = 3006,
     ENUM_COMMUNICATION_APIPC = 3007,
@@ -1227,8 +1228,9 @@ enum ENUM_KeyCode : unsigned char {
     KEY_INPUT7 = 15,
     KEY_TEST = 16,
     KEY_PRESET = 17,
-    KEY_LOCK = 18,    ///< made by the key thread: ESC and OK held together
-    KEY_SERVICE = 19, ///< made by the key thread: the service chord
+    KEY_LOCK = 18,           ///< made by the key thread: ESC and OK held together
+    KEY_SERVICE = 19,        ///< made by the key thread: the service chord
+    KEY_SELF_TEST_DONE = 20, ///< made when a self test has ended while the production test waits for it
     KEY_KNOB_LEFT = 32,
     KEY_KNOB_RIGHT = 33,
     KEY_OK = 34,

@@ -1,0 +1,107 @@
+// Reports about the layers: their windows, what they cut out of their source, and the area of the wall.
+#include "framework/menuanalysis.h"
+#include "framework/paraprocess.h"
+#include "framework/protocol/proto3rdreceiveparse.h"
+
+#include <QDebug>
+#include <iterator>
+
+namespace VASK
+{
+namespace
+{
+constexpr unsigned int cropAddress = 0x13024014;
+constexpr unsigned int cropStride = 132; ///< from one layer to the next
+
+ENUM_MenuIndex layerItem(ENUM_MenuIndex ofMainLayer, int layer)
+{
+    return ENUM_MenuIndex(ofMainLayer + STRIDE_Layer * layer);
+}
+
+int ParseLayerInfo(const Report &report)
+{
+    struct Field {
+        ENUM_MenuIndex item;
+        int value;
+    };
+    const Field fields[] = {
+        {MENU_MainLayer_Status, report.u8(0)},     {MENU_MainLayer_InputSource, report.u8(2)},
+        {MENU_MainLayer_InitialX, report.i32(5)},  {MENU_MainLayer_InitialY, report.i32(9)},
+        {MENU_MainLayer_HorWidth, report.i32(13)}, {MENU_MainLayer_VerHeight, report.i32(17)},
+        {MENU_MainLayer_Priority, report.u8(3)},   {MENU_MainLayer_Opacity, report.u8(47)},
+    };
+    for (const Field &field : fields)
+        report.parse.report(layerItem(field.item, report.member), field.value);
+    return 0;
+}
+
+/// The crop of any source of a layer: the last one that is told counts.
+int ParseInterceptReceiveParse(const Report &report)
+{
+    const int layer = static_cast<int>((report.message.address - cropAddress) / cropStride);
+    qDebug() << "winNum:" << layer << ", sourceNum:" << report.member;
+    const int first = MENU_MainLayerCrop_Status + STRIDE_Crop * layer;
+    const QString values[] = {
+        QString::number(report.u8(2)),  QString::number(report.u16(7)), QString::number(report.u16(9)),
+        QString::number(report.u16(3)), QString::number(report.u16(5)),
+    };
+    qDebug() << "strStable:" << values[0] << "strWidth:" << values[1] << "strHeight" << values[2]
+             << "strXStart" << values[3] << "strYStart" << values[4];
+    for (int i = 0; i < static_cast<int>(std::size(values)); ++i) {
+        report.parse.store().UpdataItemCurValue(ENUM_MenuIndex(first + i), values[i]);
+        report.parse.ReportMsgToParaProcess(ENUM_MenuIndex(first + i), values[i]);
+    }
+    return 0;
+}
+
+/// The area that this device loads of a bigger wall; it counts while splicing is on.
+int ParseScreenInfo(const Report &report)
+{
+    if (report.parse.engine().GetParaFromIndex(MENU_ImageMosaic_Status) != SELECTED)
+        return 1;
+    report.parse.report(MENU_ImageMosaic_TotalHPixels, 2 * report.u16(24));
+    report.parse.report(MENU_ImageMosaic_TotalVPixels, 2 * report.u16(26));
+    report.parse.report(MENU_ImageMosaic_LoadAreaWidth, report.u16(24));
+    report.parse.report(MENU_ImageMosaic_LoadAreaHeight, report.u16(26));
+    report.parse.report(MENU_ImageMosaic_LoadAreaInitialX, report.i32(16));
+    report.parse.report(MENU_ImageMosaic_LoadAreaInitialY, report.i32(20));
+    return 0;
+}
+
+void echo(const Report &report, ENUM_ObjectIndex row, ENUM_MenuIndex index, int value)
+{
+    if (auto *widget = dynamic_cast<VaskUiObject *>(report.parse.GetObjectFromPool(row)))
+        widget->CallProtocol(QString::number(value), index);
+}
+
+/// The device has moved its picture: the main layer follows, and its window is written back.
+int Prase_VerHerStart_Video(const Report &report)
+{
+    const int x = report.i32(0);
+    const int y = report.i32(4);
+    report.parse.report(MENU_MainLayer_InitialX, x);
+    report.parse.report(MENU_MainLayer_InitialY, y);
+    if (!report.parse.GetObjectFromPool(ENUM_TRANSPORT)) {
+        qDebug() << "transport init fail!";
+        return 3;
+    }
+    echo(report, ENUM_ROW_MainLayer_InitialX, MENU_MainLayer_InitialX, x);
+    echo(report, ENUM_ROW_MainLayer_InitialY, MENU_MainLayer_InitialY, y);
+    return 0;
+}
+
+constexpr ReportRow rows[] = {
+    {0x13020010, 48, 3, 0, 0, ParseLayerInfo},
+    {cropAddress, 16, 9, 0, 11, ParseInterceptReceiveParse},
+    {cropAddress + cropStride, 16, 6, 0, 11, ParseInterceptReceiveParse},
+    {cropAddress + 2 * cropStride, 16, 6, 0, 11, ParseInterceptReceiveParse},
+    {0x13030000, 0, 1, 0, 0, ParseScreenInfo},
+    {0x020001F0, 0, 1, 0, 8, Prase_VerHerStart_Video},
+};
+} // namespace
+
+ReportFamily layerReports()
+{
+    return {rows, static_cast<int>(std::size(rows))};
+}
+} // namespace VASK

@@ -1,0 +1,59 @@
+// Reports about the device's address.
+#include "framework/protocol/proto3rdreceiveparse.h"
+
+#include <QDebug>
+#include <QStringList>
+#include <iterator>
+
+namespace VASK
+{
+namespace
+{
+/// Four numbers that stand two bytes or one apart, as a dotted quad.
+QString wideQuad(const Report &report, int offset)
+{
+    QStringList numbers;
+    for (int i = 0; i < 4; ++i)
+        numbers << QString::number(report.u16(offset + 2 * i));
+    return numbers.join(QLatin1Char('.'));
+}
+
+QString narrowQuad(const Report &report, int offset)
+{
+    QStringList numbers;
+    for (int i = 0; i < 4; ++i)
+        numbers << QString::number(report.u8(offset + i));
+    return numbers.join(QLatin1Char('.'));
+}
+
+int ParseIPAddress(const Report &report)
+{
+    const QString address = wideQuad(report, 0);
+    const QString mask = wideQuad(report, 8);
+    const QString gateway = narrowQuad(report, 16);
+    qDebug() << "Proto3rdReceiveParse::ParseIPAddress###: IP:" << address << " strMask:" << mask
+             << " strGw:" << gateway;
+    report.parse.ReportMsgToParaProcess(MENU_Net_IPAddress, address);
+    report.parse.ReportMsgToParaProcess(MENU_Net_SubnetMask, mask);
+    report.parse.ReportMsgToParaProcess(MENU_Net_Gateway, gateway);
+    return 0;
+}
+
+int ParseIPMode(const Report &report)
+{
+    constexpr int automatic = 168;
+    report.parse.report(MENU_Net_NetMode, report.u8(0) == automatic ? 1 : 0);
+    return 0;
+}
+
+constexpr ReportRow rows[] = {
+    {0x13000006, 0, 1, 0, 20, ParseIPAddress},
+    {0x1300001A, 0, 1, 0, 1, ParseIPMode},
+};
+} // namespace
+
+ReportFamily networkReports()
+{
+    return {rows, static_cast<int>(std::size(rows))};
+}
+} // namespace VASK

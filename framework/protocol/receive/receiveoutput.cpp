@@ -1,0 +1,137 @@
+// Reports about the output and the wall: sizes, rates, brightness, mapping, and what the output shows.
+#include "framework/menuanalysis.h"
+#include "framework/paraprocess.h"
+#include "framework/protocol/proto3rdreceiveparse.h"
+
+#include <QDebug>
+#include <QStringList>
+#include <iterator>
+
+namespace VASK
+{
+namespace
+{
+int OutputResolution(const Report &report)
+{
+    qDebug() << "width:" << report.u16(0) << "heigth:" << report.u16(2) << "actual:" << report.u16(4);
+    report.parse.report(PARA_OutputRate, report.u16(4));
+    report.parse.report(PARA_ReportedWidth, report.u16(0));
+    report.parse.report(PARA_ReportedHeight, report.u16(2));
+    return 0;
+}
+
+int OutputResolutionBpMode(const Report &report)
+{
+    report.parse.report(PARA_ReportedRate, report.u16(7));
+    report.parse.report(PARA_ReportedWidthAlias, report.u16(3));
+    report.parse.report(PARA_ReportedHeightAlias, report.u16(5));
+    return 0;
+}
+
+/// The first row of a list whose text the test likes, -1 if there is none.
+template <class Test> int rowOf(const Report &report, ENUM_MenuIndex list, Test test)
+{
+    ST_ItemInfo item;
+    if (!report.parse.store().GetMenuItem(list, item))
+        return -1;
+    for (int row = 0; item.params.contains(QString::number(row)); ++row)
+        if (test(item.params.value(QString::number(row))))
+            return row;
+    return -1;
+}
+
+/// The host has chosen size and rate of the output: both lists follow, and the engine takes the pair over.
+int MvrResolution(const Report &report)
+{
+    const int width = report.u16(0);
+    const int height = report.u16(2);
+    const int rate = report.u16(4);
+    const int sizeRow = rowOf(report, MENU_Output_Resolution, [width, height](const QString &text) {
+        const QStringList size = text.split(QLatin1Char('*'));
+        return size.size() == 2 && size.at(0).toInt() == width && size.at(1).toInt() == height;
+    });
+    if (sizeRow >= 0)
+        report.parse.report(MENU_Output_Resolution, sizeRow);
+    const int rateRow = rowOf(report, MENU_Output_FrameRate, [rate](const QString &text) {
+        return text.toFloat() * 100.0F == static_cast<float>(rate);
+    });
+    if (rateRow >= 0)
+        report.parse.report(MENU_Output_FrameRate, rateRow);
+    report.parse.ReportMsgToParaProcess(MENU_Output_Apply, QString());
+    return 0;
+}
+
+/// The register's 255 steps as per cent.
+int BrightNessPara(const Report &report)
+{
+    const int percent = static_cast<int>(report.u8(0) / 2.55 + 0.5) & 0xFF;
+    qDebug() << "BrightNessPara:" << percent;
+    report.parse.report(MENU_ScreenBrightness, percent);
+    return 0;
+}
+
+int ParseScreenWidth(const Report &report)
+{
+    qDebug() << "strWidth" << report.u16(0) << "strHeight" << report.u16(2);
+    report.parse.report(PARA_CabinetWidth, report.u16(0));
+    report.parse.report(PARA_CabinetHeight, report.u16(2));
+    return 0;
+}
+
+int ParseMapping(const Report &report)
+{
+    constexpr int mappingOn = 5;
+    report.parse.report(MENU_Mapping, report.u8(0) == mappingOn ? 1 : 0);
+    return 0;
+}
+
+int ParseDispModeInfo(const Report &report)
+{
+    constexpr int codeOfNormal = 3;
+    const QString mode = QString::number(report.u8(0) - codeOfNormal);
+    if (mode != report.parse.engine().GetParaFromIndex(PARA_DisplayMode))
+        report.parse.engine().UpdataDispMode(report.u8(0));
+    return 0;
+}
+
+int reportIfNew(const Report &report, ENUM_MenuIndex index, int value)
+{
+    if (report.parse.engine().GetParaFromIndex(index) != QString::number(value))
+        report.parse.report(index, value);
+    return 0;
+}
+
+int ParseSyncInfo(const Report &report)
+{
+    reportIfNew(report, MENU_Sync_Source, (report.u8(1) - 1) & 0xFF);
+    return reportIfNew(report, MENU_Sync_Status, report.u8(0));
+}
+
+int ParseHdmiOutputMode(const Report &report)
+{
+    return reportIfNew(report, MENU_Output_Mode, report.u8(0));
+}
+
+int ParseGenlockInfo(const Report &report)
+{
+    constexpr int lastState = 4;
+    if (report.u8(0) > lastState)
+        return 2;
+    report.parse.report(PARA_GenlockState, report.u8(0));
+    return 0;
+}
+
+constexpr ReportRow rows[] = {
+    {0x13040003, 0, 1, 0, 6, OutputResolution},    {0x13040010, 0, 1, 0, 9, OutputResolutionBpMode},
+    {0x13041401, 0, 1, 0, 6, MvrResolution},       {0x02000001, 0, 1, 0, 1, BrightNessPara},
+    {0x02100006, 0, 1, 0, 4, ParseScreenWidth},    {0x01000088, 0, 1, 0, 1, ParseMapping},
+    {0x13000004, 0, 1, 0, 1, ParseDispModeInfo},   {0x1300002A, 0, 1, 0, 0, ParseSyncInfo},
+    {0x13042007, 0, 1, 0, 0, ParseHdmiOutputMode}, {0x1300009D, 0, 1, 0, 0, ParseGenlockInfo},
+};
+} // namespace
+
+ReportFamily outputReports()
+{
+    return {rows, static_cast<int>(std::size(rows))};
+}
+} // namespace VASK

@@ -1,0 +1,69 @@
+// Reports about audio, on-screen display and latency.
+#include "framework/protocol/proto3rdreceiveparse.h"
+
+#include <QDebug>
+#include <iterator>
+
+namespace VASK
+{
+namespace
+{
+/// The output's source: an input, or 240 for none.
+QString audioOutput(int code)
+{
+    constexpr int lastInput = 3;
+    constexpr int noInput = 240;
+    if (code == noInput)
+        return QStringLiteral("4");
+    return code <= lastInput ? QString::number(code) : QString();
+}
+
+int ParseAudioSelect(const Report &report)
+{
+    report.parse.ReportMsgToParaProcess(MENU_Audio_AudioOutput, audioOutput(report.u8(0)));
+    report.parse.report(MENU_Audio_Volume, report.u8(1));
+    return 0;
+}
+
+int ParseAudioSize(const Report &report)
+{
+    report.parse.report(MENU_Audio_Volume, report.u8(0));
+    return 0;
+}
+
+int ParseOSDInfo(const Report &report)
+{
+    constexpr int inFront = 14;
+    report.parse.report(MENU_OSDState, report.u8(0));
+    report.parse.report(MENU_OSDChoice, report.u8(3));
+    report.parse.report(MENU_OSDInitialX, report.i32(32));
+    report.parse.report(MENU_OSDInitialY, report.i32(36));
+    report.parse.report(MENU_OSDPriority, report.u8(1) == inFront ? 1 : 0);
+    return 0;
+}
+
+int ParseOSDPictureState(const Report &report)
+{
+    report.parse.report(EVENT_OSDPictureFirst + report.member, report.u8(0));
+    return 0;
+}
+
+int ParseLowLatencyInfo(const Report &report)
+{
+    constexpr int lowLatencyOn = 'x';
+    report.parse.report(MENU_LowLatency, report.u8(0) == lowLatencyOn ? 1 : 0);
+    return 0;
+}
+
+constexpr ReportRow rows[] = {
+    {0x1300009E, 0, 1, 0, 0, ParseAudioSelect},    {0x1300009F, 0, 1, 0, 0, ParseAudioSize},
+    {0x13411000, 0, 1, 0, 0, ParseOSDInfo},        {0x13412000, 1, 8, 0, 0, ParseOSDPictureState},
+    {0x02000074, 0, 1, 0, 0, ParseLowLatencyInfo},
+};
+} // namespace
+
+ReportFamily settingReports()
+{
+    return {rows, static_cast<int>(std::size(rows))};
+}
+} // namespace VASK

@@ -1,0 +1,70 @@
+// One report of the device as its handler gets it: a register address and the bytes that stand there now.
+// Made on the report thread, read there, gone when the handler returns.
+#pragma once
+
+#include "framework/protocol/packagebase.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace VASK
+{
+/// What a package brought.
+struct stMessageHandle {
+    QByteArray data;
+    unsigned int length = 0;  ///< as the frame tells it; may promise more than data holds
+    unsigned int address = 0; ///< the high address in the upper 16 bits
+    QString tag;
+    unsigned char ackCode = 0;
+    bool flag = false; ///< as it stood in the queue
+    enum_ProtoType protoType = PROTO_Read;
+};
+
+class Proto3rdReceiveParse;
+
+/// A report with the place of its register in the family, and readers that give 0 for bytes beyond the data.
+/// All numbers are little-endian.
+struct Report {
+    const stMessageHandle &message;
+    Proto3rdReceiveParse &parse;
+    int member; ///< number of the layer, input or port group, as the row counts them
+
+    int u8(int offset) const
+    {
+        return offset < message.data.size() ? static_cast<unsigned char>(message.data.at(offset)) : 0;
+    }
+    int u16(int offset) const { return u8(offset) | u8(offset + 1) << 8; }
+    int u24(int offset) const { return u16(offset) | u8(offset + 2) << 16; }
+    int i32(int offset) const
+    {
+        return static_cast<int>(static_cast<unsigned int>(u16(offset)) |
+                                static_cast<unsigned int>(u16(offset + 2)) << 16);
+    }
+};
+
+/// A register, or a family of registers at equal distances, and what is done with its reports.
+struct ReportRow {
+    unsigned int address;
+    unsigned int stride; ///< distance of the family's registers, 0 for a single one
+    int count;
+    int firstMember; ///< number of the family's first register
+    int needs;       ///< bytes without which the report says nothing; a shorter one is dropped
+    /// 0 done, 1 nothing to do with it, 2 bad value, 3 failed; only for the eye.
+    int (*handle)(const Report &report);
+};
+
+struct ReportFamily {
+    const ReportRow *rows;
+    int count;
+};
+
+// The families, each a table in a file of its own.
+ReportFamily inputReports();
+ReportFamily outputReports();
+ReportFamily layerReports();
+ReportFamily portReports();
+ReportFamily settingReports();
+ReportFamily networkReports();
+ReportFamily stereoReports();
+ReportFamily deviceReports();
+} // namespace VASK

@@ -1,0 +1,103 @@
+#include "framework/protocol/receive/selftest.h"
+
+#include "boardio.h"
+#include "framework/handover.h"
+#include "framework/keypadevent.h"
+#include "framework/selfchecklist.h"
+#include "widget/dialog_factory.h"
+
+#include <QApplication>
+#include <QStringList>
+#include <algorithm>
+
+namespace VASK
+{
+namespace
+{
+constexpr int answerSize = 6; ///< bytes of a tool's answer that are looked at
+
+enum class Answer { NotStarted, None, Zero, Other };
+
+/// Runs a command line and looks at the beginning of what it prints.
+Answer ask(const char *commandLine)
+{
+    FILE *pipe = board::openPipe(commandLine);
+    if (!pipe)
+        return Answer::NotStarted;
+    char text[answerSize] = {};
+    const size_t count = fread(text, 1, sizeof text, pipe);
+    board::closePipe(pipe);
+    if (count == 0)
+        return Answer::None;
+    return text[0] == '0' ? Answer::Zero : Answer::Other;
+}
+
+QString record(const char *name, bool good)
+{
+    const QString state = good ? QStringLiteral("normal") : QStringLiteral("error");
+    return QStringLiteral("%1:--:--:%2:--:%2;").arg(QLatin1String(name), state);
+}
+
+QString fpgaRecords()
+{
+    const Answer version = ask("fpga -v | grep FPGA | tail -l | awk '{print $4}'");
+    if (version == Answer::NotStarted)
+        return {};
+    if (version == Answer::None)
+        return record("FPGA_STATUS", false) + record("FPGA_DDR", false);
+    const Answer memory = ask("fpga r v 0x101f 1 | grep 0x01 -c");
+    QString text = record("FPGA_STATUS", true);
+    if (memory != Answer::NotStarted)
+        text += record("FPGA_DDR", memory == Answer::Other);
+    return text;
+}
+
+QString mcuRecord()
+{
+    const Answer answer = ask("stm32 -v | grep mcu | grep 20 -c");
+    if (answer == Answer::NotStarted || answer == Answer::None)
+        return {};
+    return record("MCU_STATUS", answer == Answer::Other);
+}
+
+/// Takes one record over into its row; false if it tells of a fault.
+bool takeRecord(int number, const QString &text)
+{
+    const QStringList fields = text.split(QLatin1Char(':'));
+    const auto value = std::find_if(fields.begin() + 1, fields.end(),
+                                    [](const QString &field) { return field != QLatin1String("--"); });
+    if (fields.size() < 2 || value == fields.end())
+        return true;
+    SelfCheckList::setResult(number, *value, fields.last());
+    return fields.last() == QLatin1String(SelfCheckList::normal);
+}
+
+/// The production test waits for a key of its own.
+void tellProductionTest(bool passed)
+{
+    if (Factory::m_cur_step != FACTORY_STEP_SELF_TEST)
+        return;
+    postToGui(QCoreApplication::instance(), [passed] {
+        if (QWidget *window = QApplication::activeWindow())
+            QCoreApplication::postEvent(
+                window, new KeypadEvent(passed ? KEY_RELEASED : KEY_PRESSED, KEY_SELF_TEST_DONE, 0, false));
+    });
+}
+} // namespace
+
+int ParseSelfTestInfo(const Report &report)
+{
+    const QByteArray &data = report.message.data;
+    const int end = data.indexOf('\0');
+    QString text = QString::fromLatin1(data.left(end < 0 ? data.size() : end));
+    text += fpgaRecords() + mcuRecord();
+
+    const QStringList pieces = text.split(QLatin1Char(';'));
+    bool passed = true;
+    for (int i = 1; i < pieces.size(); ++i)
+        if (!takeRecord(i - 1, pieces.at(i)))
+            passed = false;
+    tellProductionTest(passed);
+    return 0;
+}
+} // namespace VASK
