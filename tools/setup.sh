@@ -20,4 +20,5 @@ fi
 
 cmake --preset "$preset" > /dev/null
 if [ "$preset" = dev ]; then build=build; else build=build/$preset; fi
-cmake --build "$build"
+# In place of this shell, so that a signal to end reaches the build.
+exec ninja -C "$build"
