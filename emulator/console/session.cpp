@@ -48,6 +48,8 @@ Session::Session(Emulator &theEmulator, QLocalSocket *socket, QObject *parent)
 
 void Session::print(const QString &text)
 {
+    if (!m_request)
+        return; // the answer has ended
     for (const QString &line : text.split('\n'))
         m_socket->write('+' + line.toUtf8() + '\n');
 }

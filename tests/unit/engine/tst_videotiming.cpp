@@ -1,0 +1,234 @@
+// The timing model against modes worked out by hand, and the searches against the plain walk that defines
+// them.
+
+#include "framework/engine/bandwidth.h"
+#include "framework/engine/videotiming.h"
+
+#include <QRandomGenerator>
+#include <QtTest>
+#include <algorithm>
+
+using namespace VASK;
+
+namespace
+{
+constexpr uint32_t highClock = 165000000;
+constexpr uint32_t lowClock = 25000000;
+
+// The searches as they are defined: one step at a time.
+struct PlainWalk {
+    uint32_t clock;
+    std::function<uint32_t(int)> demand;
+
+    int largest(int start) const
+    {
+        int size = std::max(0, start);
+        if (demand(size) > clock) {
+            while (size > 0 && demand(size) > clock)
+                --size;
+            return size;
+        }
+        while (demand(size + 1) <= clock)
+            ++size;
+        return size;
+    }
+    int smallest(int start) const
+    {
+        int size = std::max(0, start);
+        if (demand(size) < clock) {
+            while (demand(size) < clock)
+                ++size;
+            return size;
+        }
+        while (size > 0 && demand(size - 1) >= clock)
+            --size;
+        return size;
+    }
+};
+
+int startOf(uint32_t clock, int other, int rateCentiHz)
+{
+    return int(float(clock) / float(other + 160) / (float(rateCentiHz) / 100.f)) - 62;
+}
+
+void compareSearches(uint32_t clock, int other, int rate)
+{
+    const float hertz = float(rate) / 100.f;
+    const int start = startOf(clock, other, rate);
+    const PlainWalk widths{clock, [=](int size) { return clockDemand(size, other, hertz); }};
+    const PlainWalk heights{clock, [=](int size) { return clockDemand(other, size, hertz); }};
+    const QByteArray what =
+        QString("clock %1, other size %2, rate %3").arg(clock).arg(other).arg(rate).toUtf8();
+    QVERIFY2(_CVT_GetWidthMaxValue(clock, other, rate) == widths.largest(start), what);
+    QVERIFY2(_CVT_GetWidthMinValue(clock, other, rate) == widths.smallest(start), what);
+    QVERIFY2(_CVT_GetHeightMaxValue(clock, other, rate) == heights.largest(start), what);
+    QVERIFY2(_CVT_GetHeightMinValue(clock, other, rate) == heights.smallest(start), what);
+}
+} // namespace
+
+class TestVideoTiming : public QObject
+{
+    Q_OBJECT
+private slots:
+    void computesAMode_data();
+    void computesAMode();
+    void searchesAsThePlainWalk_data();
+    void searchesAsThePlainWalk();
+    void rateIsTheLastThatFits();
+    void outputBandwidth_data();
+    void outputBandwidth();
+    void snapsRates_data();
+    void snapsRates();
+};
+
+void TestVideoTiming::computesAMode_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<float>("rate");
+    QTest::addColumn<int>("sync");
+    QTest::addColumn<int>("totalLines");
+    QTest::addColumn<int>("clockKHz");
+    // Blanking lines: at least sync + 23 + 6, else floor(460 / line period) + 1. The clock is the product of
+    // rate, total lines and width + 160, in whole kilohertz.
+    QTest::newRow("16:9 at 60") << 1920 << 1080 << 60.f << 5 << 1114 << 139027;
+    QTest::newRow("16:10 at 60") << 1920 << 1200 << 60.f << 6 << 1235 << 154128;
+    QTest::newRow("4:3 at 60") << 800 << 600 << 60.f << 4 << 633 << 36460;
+    QTest::newRow("5:4 at 60") << 1280 << 1024 << 60.f << 7 << 1060 << 91584;
+    QTest::newRow("15:9 at 60") << 1280 << 768 << 60.f << 7 << 804 << 69465;
+    QTest::newRow("no known ratio") << 1922 << 1080 << 60.f << 10 << 1119 << 139785;
+    // 1e6 / 120 - 460 = 7873.33 us for 1080 lines: 7.29 us a line, 63.1 lines in 460 us
+    QTest::newRow("fast: the least blanking time counts") << 1920 << 1080 << 120.f << 5 << 1144 << 285542;
+}
+
+void TestVideoTiming::computesAMode()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(float, rate);
+    QFETCH(int, sync);
+    QFETCH(int, totalLines);
+    QFETCH(int, clockKHz);
+
+    VideoMode mode;
+    vert_refresh(width, height, rate, &mode);
+    QCOMPARE(mode.vSyncEnd - mode.vSyncStart, sync);
+    QCOMPARE(mode.vSyncStart, height + 23);
+    QCOMPARE(mode.totalLines, totalLines);
+    QCOMPARE(mode.syncStart, width + 48);
+    QCOMPARE(mode.syncEnd, width + 80);
+    QCOMPARE(mode.totalPixels, width + 160);
+    QVERIFY(std::abs(mode.clockMHz * 1000 - float(clockKHz)) <= 1.5f);
+    QVERIFY(std::abs(mode.computedRateHz - int(rate)) <= 1);
+    QCOMPARE(mode.fieldRateHz, rate);
+}
+
+void TestVideoTiming::searchesAsThePlainWalk_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("rounds");
+    QTest::newRow("sizes of the menu") << 600 << 4092 << 1000;
+    QTest::newRow("small sizes, far from the start") << 0 << 600 << 100;
+    QTest::newRow("beyond the menu") << 4093 << 20000 << 100;
+}
+
+void TestVideoTiming::searchesAsThePlainWalk()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, rounds);
+    // Around a known aspect ratio the demand does not rise evenly: there the clocks are put.
+    static constexpr struct {
+        int width, height;
+    } ratios[] = {{4, 3}, {16, 9}, {16, 10}, {5, 4}, {15, 9}};
+    constexpr uint32_t farClock = 600000000; // beyond what a mode of 32 bits can take
+    QRandomGenerator random(20);
+    for (int i = 0; i < rounds; ++i) {
+        const int other = random.bounded(from, to + 1);
+        const int rate = random.bounded(500, 24001);
+        const float hertz = float(rate) / 100.f;
+        const auto &ratio = ratios[i % 5];
+        const int nearWidth = std::max(0, other * ratio.width / ratio.height + random.bounded(-3, 4));
+        const int nearHeight = std::max(0, other * ratio.height / ratio.width + random.bounded(-3, 4));
+        for (uint32_t clock : {highClock, lowClock, clockDemand(nearWidth, other, hertz),
+                               clockDemand(other, nearHeight, hertz)})
+            if (clock < farClock)
+                compareSearches(clock, other, rate);
+    }
+}
+
+void TestVideoTiming::rateIsTheLastThatFits()
+{
+    QRandomGenerator random(21);
+    for (int i = 0; i < 500; ++i) {
+        const int width = random.bounded(800, 4093);
+        const int height = random.bounded(600, 4093);
+        // Both results are whole hundredths: the highest goes down to one, the lowest up.
+        const int highest = _CVT_GetframeRateMaxValue(highClock, width, height);
+        QVERIFY(clockDemand(width, height, float(highest) / 100.f) <= highClock);
+        QVERIFY(clockDemand(width, height, float(highest + 1) / 100.f) > highClock);
+        const int lowest = _CVT_GetframeRateMinValue(lowClock, width, height);
+        QVERIFY(clockDemand(width, height, float(lowest) / 100.f) >= lowClock);
+        QVERIFY(clockDemand(width, height, float(lowest - 1) / 100.f) < lowClock);
+    }
+}
+
+void TestVideoTiming::outputBandwidth_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<uint>("limit");
+    QTest::addColumn<bool>("blanking");
+    QTest::addColumn<bool>("overload");
+    // (1080 + 20) * (3841 | 1 + 31) * 60 = 255,552,000; one line and one pixel pair less and so on
+    QTest::newRow("3840x1080 at 60") << 3840 << 1080 << 6000 << wholeOutputPixelRate << true << true;
+    QTest::newRow("1920x2000 at 60") << 1920 << 2000 << 6000 << wholeOutputPixelRate << true << false;
+    // an even and the following odd width weigh the same: ((w + 1) | 1) is 1921 and 1923 for 1920, 1921
+    QTest::newRow("at the limit") << 100 << 80 << 10000 << 100u * 100u * 132u << true << false;
+    QTest::newRow("above by one") << 100 << 80 << 10000 << 100u * 100u * 132u - 1 << true << true;
+    QTest::newRow("odd width counts two more") << 101 << 80 << 10000 << 100u * 100u * 132u << true << true;
+    QTest::newRow("port at the limit") << 1000 << 600 << 6000 << 36000000u << false << false;
+    QTest::newRow("port above") << 1000 << 600 << 6001 << 36000000u << false << true;
+    QTest::newRow("nothing") << 0 << 0 << 6000 << portPixelRate << false << false;
+    QTest::newRow("more than 32 bits") << 65535 << 65535 << 65535 << 0xFFFFFFFFu << true << true;
+}
+
+void TestVideoTiming::outputBandwidth()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(int, rate);
+    QFETCH(uint, limit);
+    QFETCH(bool, blanking);
+    QFETCH(bool, overload);
+    QCOMPARE(VideoBandwidthConstrain(uint16_t(width), uint16_t(height), uint16_t(rate), limit, blanking),
+             overload);
+}
+
+void TestVideoTiming::snapsRates_data()
+{
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<int>("snapped");
+    const struct {
+        int rate, snapped;
+    } rows[] = {
+        {2396, 2398}, {2395, 2400},   {2399, 2398},   {2400, 2400}, {2401, 2400}, {2995, 2997},
+        {2999, 2997}, {3000, 3000},   {4793, 4795},   {4797, 4795}, {4798, 4800}, {5992, 5994},
+        {5996, 5994}, {5997, 6000},   {6000, 6000},   {6049, 6000}, {6050, 6100}, {7195, 7193},
+        {7196, 7200}, {11990, 11988}, {11991, 12000}, {49, 0},
+    };
+    for (const auto &row : rows)
+        QTest::addRow("%d", row.rate) << row.rate << row.snapped;
+}
+
+void TestVideoTiming::snapsRates()
+{
+    QFETCH(int, rate);
+    QFETCH(int, snapped);
+    QCOMPARE(int(FrameRateAdj(uint16_t(rate))), snapped);
+}
+
+QTEST_MAIN(TestVideoTiming)
+#include "tst_videotiming.moc"
