@@ -11,6 +11,18 @@ enum _en_factory_step : int {
     FACTORY_STEP_IN_OUT = 3,
 };
 
+/// The inputs and outputs of the last step.
+enum en_inout_test_index : int {
+    INOUT_HDMI1 = 0,
+    INOUT_HDMI2 = 1,
+    INOUT_DVI = 2,
+    INOUT_NET1 = 3, ///< the first of six ports
+    INOUT_USB_IN = 9,
+    INOUT_ETHERNET = 10,
+};
+
+enum en_item_state : int { ITEM_UNTESTED = 0, ITEM_PASSED = 1, ITEM_FAILED = 2 };
+
 class Factory
 {
 public:

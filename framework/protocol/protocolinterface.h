@@ -14,8 +14,10 @@ class ProtocolInterface : public VaskGeneralObject
 public:
     using VaskGeneralObject::VaskGeneralObject;
 
-    /// Asks the device for the value of an item and waits for the answer. False if none came.
-    virtual bool GetValueByIndexSYN(ENUM_MenuIndex, QString *) { return false; }
+    int BuildHandshake(const VaskObject *, QMap<QString, QString>) override { return 1; }
+    /// Asks for the value of an item and waits for it; a string that nothing is known for stays as it is.
+    /// Returns 1.
+    virtual int GetValueByIndexSYN(ENUM_MenuIndex, QString *) { return 1; }
 
 public slots:
     /// An item has a new value: bring it to the device. Thread of the caller of SetParaToXml.
