@@ -30,10 +30,13 @@ QByteArray hostCommand(const char *commandLine)
         return line.toUtf8();
     static const QRegularExpression boardPath(
         "(?<![\\w/.])(?=/(?:usr/vask|etc/init\\.d|root/\\.local|dev/keypad0)\\b)");
-    line.replace(boardPath, quoted(state).replace('\\', "\\\\"));
+    // Not by replace(), which would read backslashes of the folder's name as its own.
+    int inserted = 0;
+    for (auto place = boardPath.globalMatch(QString(line)); place.hasNext(); inserted += quoted(state).size())
+        line.insert(place.next().capturedStart() + inserted, quoted(state));
     if (line.trimmed() == QLatin1String("sync"))
         line = "sync -f " + quoted(state);
-    return QString("PATH=%1:\"$PATH\"; %2").arg(quoted(state + hostlink::toolFolder), line).toUtf8();
+    return ("PATH=" + quoted(state + hostlink::toolFolder) + ":\"$PATH\"; " + line).toUtf8();
 }
 } // namespace
 
