@@ -36,7 +36,7 @@ QImage Lcd::picture() const
         const quint64 before = counter(m_memory);
         if (before % 2 == 0 || waited >= longestWaitMs) {
             memcpy(picture.bits(), m_memory, hostlink::lcdBytes);
-            std::atomic_thread_fence(std::memory_order_acquire);
+            std::atomic_signal_fence(std::memory_order_acq_rel);
             if (counter(m_memory) == before)
                 return picture;
         }

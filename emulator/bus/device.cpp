@@ -1,6 +1,7 @@
 #include "emulator/bus/device.h"
 
 #include "emulator/bus/presets.h"
+#include "emulator/bus/reports.h"
 #include "fpd_hostlink.h"
 
 #include <QDateTime>
@@ -11,6 +12,7 @@ constexpr quint32 deviceTask = 1u << 24 | 0x00070300;
 constexpr qint16 packetLabel = 28;
 constexpr quint32 heartbeatAddress = 0x13001004;
 constexpr int heartbeatMs = 1000;
+constexpr int servicesUpMs = 500; ///< after the panel's joining
 constexpr quint8 deviceSource = 0;
 constexpr quint8 panelDestination = 254;
 constexpr int keptWrites = 100000;
@@ -35,9 +37,16 @@ Device::Device(const QString &stateFolder, QObject *parent)
     connect(&m_server, &PacketServer::received, this, &Device::handlePacket);
     connect(&m_server, &PacketServer::connected, this, [this] {
         ++m_clients;
+        m_startReports.start();
         emit joined();
     });
     connect(&m_server, &PacketServer::disconnected, this, [this] { --m_clients; });
+    m_startReports.setSingleShot(true);
+    m_startReports.setInterval(servicesUpMs);
+    connect(&m_startReports, &QTimer::timeout, this, [this] {
+        if (m_reporting)
+            reportAll();
+    });
     m_heartbeat.setInterval(heartbeatMs);
     connect(&m_heartbeat, &QTimer::timeout, this,
             [this] { pushWrite(heartbeatAddress, QByteArray(1, 1), 0); });
@@ -108,6 +117,14 @@ bool Device::pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray 
     return m_server.sendToAll(wire::encode(message)) > 0;
 }
 
+bool Device::reportAll()
+{
+    bool taken = true;
+    for (const RegisterReport &report : reports::atStart())
+        taken &= pushRead(report.address, report.bytes, 0, 0);
+    return taken;
+}
+
 void Device::setHeartbeat(bool on)
 {
     if (!on) {
@@ -129,6 +146,10 @@ void Device::handlePacket(int client, const QByteArray &packet)
     if (request->operation == wire::Write)
         obeyWrite(*request);
     m_server.send(client, message(answer(*request)));
+    if (request->operation != wire::Write || !m_reporting)
+        return;
+    for (const RegisterReport &report : reports::afterWrite(request->address))
+        pushRead(report.address, report.bytes, request->deviceType, 0);
 }
 
 void Device::obeyWrite(const wire::Frame &request)

@@ -42,6 +42,11 @@ public:
     bool pushRaw(const QByteArray &payload);
     bool pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray &payload);
 
+    /// Whether the device reports on its own; it does unless told otherwise.
+    void setReporting(bool on) { m_reporting = on; }
+    /// The reports of the start, now. False if no panel is on the bus.
+    bool reportAll();
+
     /// The packets of a PC's session, once a second.
     void setHeartbeat(bool on);
 
@@ -60,4 +65,6 @@ private:
     QVector<RegisterWrite> m_writes;
     QMap<quint64, char> m_registers; ///< by device type and address
     QTimer m_heartbeat;
+    QTimer m_startReports; ///< runs from the panel's joining to the reports
+    bool m_reporting = true;
 };

@@ -73,6 +73,17 @@ void ipc(Session &session, const QStringList &list)
     answer(session, session.emulator.device.pushMessage(qint16(*large), qint16(*small), *bytes));
 }
 
+void reports(Session &session, const QStringList &list)
+{
+    Device &device = session.emulator.device;
+    if (list == QStringList{"now"})
+        return answer(session, device.reportAll());
+    if (list != QStringList{"on"} && list != QStringList{"off"})
+        return failUsage(session, "reports");
+    device.setReporting(list[0] == "on");
+    session.ok();
+}
+
 void heartbeat(Session &session, const QStringList &list)
 {
     if (list != QStringList{"on"} && list != QStringList{"off"})
@@ -90,6 +101,7 @@ QVector<Word> busWords()
         {"push", "ADDRESS BYTES [--device N] [--ack N]",
          "a report of the device; --write: a write; --raw HEX: any", push},
         {"ipc", "LARGE SMALL HEX", "a message with those labels", ipc},
+        {"reports", "on|off|now", "what the device reports on its own when the panel joins", reports},
         {"heartbeat", "on|off", "the packets of a PC's session, once a second", heartbeat},
     };
 }

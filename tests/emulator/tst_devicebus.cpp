@@ -26,6 +26,7 @@ private slots:
     void readsAnswerWhatWasWritten();
     void mirroredRegistersReachTheFlash_data();
     void mirroredRegistersReachTheFlash();
+    void deviceReportsOnItsOwn();
     void presetsFollowTheirRegisters();
     void busComesBack();
     void ledCommands();
@@ -74,6 +75,7 @@ void TestDeviceBus::init()
         return;
     m_device = std::make_unique<Device>(m_folder.path());
     QVERIFY(m_device->flash().install());
+    m_device->setReporting(false);
 }
 
 bool TestDeviceBus::sendFrame(const wire::Frame &frame)
@@ -181,6 +183,23 @@ void TestDeviceBus::mirroredRegistersReachTheFlash()
     QVERIFY(write(registerAddress, wanted.left(1), quint8(deviceType)));
     QCOMPARE(m_device->flash().read(flashAddress, 2), wanted);
     receive();
+}
+
+void TestDeviceBus::deviceReportsOnItsOwn()
+{
+    QVERIFY(m_device->reportAll());
+    QList<quint32> addresses;
+    QByteArray last;
+    do {
+        const auto report = wire::decodeFrame(receive());
+        QVERIFY(report && report->isReply);
+        addresses.append(report->address);
+        last = report->data;
+    } while (last != QByteArray(1, 2));
+    // The records of the inputs come in order, and the services are up after everything else.
+    for (int input = 0; input < 9; ++input)
+        QCOMPARE(addresses.at(input), 0x13010001u + 32 * unsigned(input));
+    QCOMPARE(addresses.mid(addresses.size() - 2), (QList<quint32>{0x14000000, 0x14000000}));
 }
 
 void TestDeviceBus::presetsFollowTheirRegisters()
