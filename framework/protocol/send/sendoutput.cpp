@@ -1,6 +1,5 @@
 // The outputs: rate, HDMI output, synchronisation, audio, 3D, latency.
 
-#include "framework/paraprocess.h"
 #include "framework/protocol/send/sendrow.h"
 #include "framework/protocol/send/videomode.h"
 
@@ -24,10 +23,8 @@ int HdmiOutputResChange(const SendChange &change)
 /// The start as it is set, and beside it the one kept for the top-and-bottom format.
 int _3DRightEyeStartChanged(const SendChange &change)
 {
-    constexpr int topAndBottom = 1;
-    const ParaProcess *engine = Proto3rdSend::engine();
     return change.sendBytes(littleEndian(change.value.toInt(), 2) +
-                            littleEndian(engine ? engine->rightEyeStart(topAndBottom) : 0, 2));
+                            littleEndian(change.number(MENU_RightEyeStartTop), 2));
 }
 
 constexpr SendRow hdmiOutputMode()
