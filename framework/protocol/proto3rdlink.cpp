@@ -3,6 +3,7 @@
 #include "framework/paraprocess.h"
 #include "framework/protocol/packagehandler.h"
 #include "framework/protocol/proto3rd.h"
+#include "framework/protocol/proto3rdsend.h"
 #include "framework/protocol/reportreader.h"
 #include "widget/mainwindow_k2860.h"
 
@@ -18,6 +19,8 @@ const QString workModeFiber = QStringLiteral("1");
 int Proto3rd::initialize()
 {
     m_exit = false;
+    // A widget as all of the family: it must stand before the report thread sends through it.
+    Proto3rdSend::getInstance();
     qDebug() << "create m_notifyThread";
     m_notifyThread = std::make_unique<MsgThread>(drainMs);
     m_notifyGate.open(
