@@ -1,0 +1,228 @@
+// Cables and host session: every state of the four values, when the panel may return home, and how long a
+// silent host keeps the device.
+
+#include "fpd_hostlink.h"
+#include "framework/protocol/hostsession.h"
+#include "framework/protocol/linksupervision.h"
+#include "platform/host/statefile.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace VASK;
+
+namespace
+{
+/// What the board answers from now on.
+void setCables(int usb, int ethernet, int loop, int priority)
+{
+    host::writeValues(host::stateFile(hostlink::linkFile),
+                      {
+                          {hostlink::linkUsb, QByteArray::number(usb)},
+                          {hostlink::linkEthernet, QByteArray::number(ethernet)},
+                          {hostlink::linkLoop, QByteArray::number(loop)},
+                          {hostlink::linkPriority, QByteArray::number(priority)},
+                      });
+}
+
+struct Watched {
+    Watched()
+    {
+        QObject::connect(&link, &LinkSupervision::connectState,
+                         [this](ENUM_MainWindowConnectState state) { shown += state; });
+    }
+    void tick()
+    {
+        shown.clear();
+        home.clear();
+        lost.clear();
+        link.slot_ComLinkState();
+    }
+    LinkSupervision link;
+    QList<int> shown;
+    QSignalSpy home{&link, &LinkSupervision::returnHome};
+    QSignalSpy lost{&link, &LinkSupervision::linkLost};
+};
+} // namespace
+
+class TestLinkSupervision : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { setCables(0, 0, 0, 0); }
+    void table_data();
+    void table();
+    void nothingChanged();
+    void unlockRepeatsWithoutLink();
+    void secondCableLeavesTheTimerAlone();
+    void changesAreToldOnce();
+    void silentHost_data();
+    void silentHost();
+    void unplugged();
+};
+
+void TestLinkSupervision::table_data()
+{
+    QTest::addColumn<int>("usb");
+    QTest::addColumn<int>("ethernet");
+    QTest::addColumn<int>("loop");
+    QTest::addColumn<int>("priority");
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<bool>("goesHome");
+    QTest::addColumn<bool>("unlinked");
+
+    // What is shown: 0 network, 1 USB loop, 2 nothing connected, 3 USB. All sixteen states.
+    const int rows[][7] = {
+        {0, 0, 0, 0, 2, 1, 1}, {0, 0, 0, 1, 2, 1, 1}, {0, 0, 1, 0, 2, 1, 1}, {0, 0, 1, 1, 2, 1, 1},
+        {0, 1, 0, 0, 0, 1, 0}, {0, 1, 0, 1, 0, 1, 0}, {0, 1, 1, 0, 1, 1, 0}, {0, 1, 1, 1, 1, 1, 0},
+        {1, 0, 0, 0, 3, 1, 0}, {1, 0, 0, 1, 3, 1, 0}, {1, 0, 1, 0, 1, 1, 0}, {1, 0, 1, 1, 1, 1, 0},
+        {1, 1, 0, 0, 3, 0, 0}, {1, 1, 0, 1, 0, 0, 0}, {1, 1, 1, 0, 1, 0, 0}, {1, 1, 1, 1, 1, 0, 0},
+    };
+    for (const auto &r : rows)
+        QTest::addRow("usb %d eth %d loop %d priority %d", r[0], r[1], r[2], r[3])
+            << r[0] << r[1] << r[2] << r[3] << r[4] << bool(r[5]) << bool(r[6]);
+}
+
+void TestLinkSupervision::table()
+{
+    QFETCH(int, usb);
+    QFETCH(int, ethernet);
+    QFETCH(int, loop);
+    QFETCH(int, priority);
+    QFETCH(int, shown);
+    QFETCH(bool, goesHome);
+    QFETCH(bool, unlinked);
+
+    // From the opposite of every value, so that the state is a change; any non-zero value counts.
+    Watched w;
+    setCables(1, 0, 0, 0);
+    w.tick();
+    setCables(!usb, !ethernet, !loop, !priority);
+    w.tick();
+    setCables(usb * 3, ethernet * 4, loop * 5, priority * 6);
+    w.tick();
+    QCOMPARE(w.shown, QList<int>{shown});
+    QCOMPARE(w.home.count(), int(goesHome));
+    QCOMPARE(w.lost.count(), int(unlinked));
+    // With both cables in, the flag stays what it was; here it was set while both were out.
+    QCOMPARE(w.link.isUnlinked(), unlinked || (usb && ethernet));
+}
+
+void TestLinkSupervision::nothingChanged()
+{
+    Watched w;
+    w.tick();
+    QVERIFY(w.shown.isEmpty());
+    QCOMPARE(w.home.count(), 0);
+    setCables(1, 0, 0, 0);
+    w.tick();
+    w.tick();
+    QVERIFY(w.shown.isEmpty());
+    QCOMPARE(w.home.count(), 0);
+}
+
+void TestLinkSupervision::unlockRepeatsWithoutLink()
+{
+    Watched w;
+    w.link.slot_Unlock();
+    QCOMPARE(w.home.count(), 0); // nothing has been lost yet
+    setCables(0, 0, 1, 0);
+    w.tick();
+    w.home.clear();
+    w.link.slot_Unlock();
+    w.link.slot_Unlock();
+    QCOMPARE(w.home.count(), 2);
+    setCables(0, 1, 0, 0);
+    w.tick();
+    w.home.clear();
+    w.link.slot_Unlock();
+    QCOMPARE(w.home.count(), 0);
+}
+
+void TestLinkSupervision::secondCableLeavesTheTimerAlone()
+{
+    Watched w;
+    QVERIFY(!w.link.unlockTimer().isActive());
+    setCables(1, 1, 0, 0);
+    w.tick();
+    QVERIFY(!w.link.unlockTimer().isActive());
+    setCables(1, 0, 0, 0);
+    w.tick();
+    QVERIFY(w.link.unlockTimer().isActive());
+    QCOMPARE(w.link.unlockTimer().interval(), 5000);
+    // The preference alone, with one cable in, runs the row of that cable again.
+    setCables(1, 0, 0, 1);
+    w.tick();
+    QCOMPARE(w.shown, QList<int>{3});
+    QCOMPARE(w.home.count(), 1);
+}
+
+void TestLinkSupervision::changesAreToldOnce()
+{
+    Watched w;
+    QSignalSpy usb(&w.link, &LinkSupervision::usbChanged);
+    QSignalSpy ethernet(&w.link, &LinkSupervision::ethernetChanged);
+    setCables(7, 0, 0, 0);
+    w.tick();
+    w.tick();
+    QCOMPARE(usb.count(), 1);
+    QCOMPARE(usb.first().first().toInt(), 7);
+    QCOMPARE(ethernet.count(), 0);
+    setCables(0, 2, 0, 0);
+    w.tick();
+    QCOMPARE(usb.last().first().toInt(), 0);
+    QCOMPARE(ethernet.first().first().toInt(), 2);
+}
+
+void TestLinkSupervision::silentHost_data()
+{
+    QTest::addColumn<int>("silentTicks");
+    QTest::addColumn<bool>("over");
+    QTest::newRow("15") << 15 << false;
+    QTest::newRow("16") << 16 << true;
+}
+
+void TestLinkSupervision::silentHost()
+{
+    QFETCH(int, silentTicks);
+    QFETCH(bool, over);
+    HostSession session;
+    QSignalSpy ended(&session, &HostSession::over);
+    session.slot_Heartbeat();
+    QVERIFY(!session.isActive()); // a tick starts nothing
+    for (int round = 0; round < 2; ++round) {
+        session.heartbeat();
+        QVERIFY(session.isActive());
+        // A packet in between starts the count anew.
+        for (int i = 0; i < 10; ++i)
+            session.slot_Heartbeat();
+        session.heartbeat();
+        session.slot_Heartbeat();
+        for (int i = 0; i < silentTicks; ++i)
+            session.slot_Heartbeat();
+        QCOMPARE(session.isActive(), !over);
+        QCOMPARE(ended.count(), over ? round + 1 : 0);
+    }
+}
+
+void TestLinkSupervision::unplugged()
+{
+    HostSession session;
+    QSignalSpy ended(&session, &HostSession::over);
+    session.DealNetorUsbLink(false); // without a session nothing is remembered
+    session.heartbeat();
+    session.slot_Heartbeat();
+    QVERIFY(session.isActive());
+    session.DealNetorUsbLink(true);
+    session.slot_Heartbeat();
+    QVERIFY(session.isActive());
+    session.DealNetorUsbLink(false);
+    QVERIFY(session.isActive());
+    session.heartbeat(); // too late: the cable is out
+    session.slot_Heartbeat();
+    QVERIFY(!session.isActive());
+    QCOMPARE(ended.count(), 1);
+}
+
+QTEST_GUILESS_MAIN(TestLinkSupervision)
+#include "tst_linksupervision.moc"

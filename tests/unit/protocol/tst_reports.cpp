@@ -1,0 +1,142 @@
+// The queue of reports: what is folded, in which order reports are read; and the requests that wait.
+
+#include "frames.h"
+#include "framework/protocol/packagehandler.h"
+#include "framework/protocol/requestlist.h"
+
+#include <QSemaphore>
+#include <QtTest>
+
+using namespace VASK;
+
+namespace
+{
+PackageRequestProto3rd *report(quint32 address, const QByteArray &payload, int serial = 0)
+{
+    auto *package = new PackageRequestProto3rd;
+    package->unPackageReply(frames::report(address, payload, 0, serial));
+    return package;
+}
+
+/// A handler with a reader that notes what it is given.
+class NotingHandler
+{
+public:
+    NotingHandler() : handler([this](const PackageRequestProto3rd &r, bool) { read(r); }) {}
+
+    /// Queues everything before the thread starts, then has it read.
+    QStringList readAll(const QList<PackageRequestProto3rd *> &reports)
+    {
+        for (PackageRequestProto3rd *r : reports)
+            handler.AddMessage(r);
+        handler.start();
+        handler.AddMessage(report(0x7FFFFFFF, "end"));
+        done.tryAcquire(1, 5000);
+        return seen;
+    }
+
+private:
+    void read(const PackageRequestProto3rd &r)
+    {
+        if (r.getAddress() == 0x7FFFFFFF)
+            done.release();
+        else
+            seen += QString("%1:%2").arg(r.getAddress(), 8, 16, QChar('0')).arg(QString(r.data()));
+    }
+
+    QSemaphore done;
+    QStringList seen;
+    PackageHandler handler;
+};
+} // namespace
+
+class TestReports : public QObject
+{
+    Q_OBJECT
+private slots:
+    void folding_data();
+    void folding();
+    void refusedReportIsNotRead();
+    void readerSeesTheFlag();
+    void answerRetiresOlderRequests();
+};
+
+void TestReports::folding_data()
+{
+    QTest::addColumn<QVector<quint32>>("addresses");
+    QTest::addColumn<QStringList>("payloads");
+    QTest::addColumn<QStringList>("read");
+
+    QTest::newRow("newest value, newest place")
+        << QVector<quint32>{0x0200001F, 0x13000001, 0x0200001F, 0x0200001F} << QStringList{"a", "b", "c", "d"}
+        << QStringList{"13000001:b", "0200001f:d"};
+    QTest::newRow("another length is another report")
+        << QVector<quint32>{0x0200001F, 0x0200001F} << QStringList{"a", "bc"}
+        << QStringList{"0200001f:a", "0200001f:bc"};
+    QTest::newRow("input records all stay, in order")
+        << QVector<quint32>{0x13010001, 0x13010021, 0x13010001} << QStringList{"a", "b", "c"}
+        << QStringList{"13010001:a", "13010021:b", "13010001:c"};
+    QTest::newRow("pieces of a picture all stay")
+        << QVector<quint32>{0x13400003, 0x13400003, 0x13400016, 0x13400016} << QStringList{"a", "b", "c", "d"}
+        << QStringList{"13400003:a", "13400003:b", "13400016:c", "13400016:d"};
+    QTest::newRow("their neighbours are folded")
+        << QVector<quint32>{0x13400008, 0x13400008, 0x13400007, 0x13400007} << QStringList{"a", "b", "c", "d"}
+        << QStringList{"13400008:b", "13400007:d"};
+}
+
+void TestReports::folding()
+{
+    QFETCH(QVector<quint32>, addresses);
+    QFETCH(QStringList, payloads);
+    QFETCH(QStringList, read);
+    QList<PackageRequestProto3rd *> reports;
+    for (int i = 0; i < addresses.size(); ++i)
+        reports += report(addresses[i], payloads[i].toLatin1());
+    QCOMPARE(NotingHandler().readAll(reports), read);
+}
+
+void TestReports::refusedReportIsNotRead()
+{
+    PackageRequestProto3rd *refused = report(0x13000002, "b");
+    refused->setAckCode(AckResults(1));
+    QCOMPARE(NotingHandler().readAll({report(0x13000001, "a"), refused, report(0x13000003, "c")}),
+             QStringList({"13000001:a", "13000003:c"}));
+}
+
+void TestReports::readerSeesTheFlag()
+{
+    QList<bool> flags;
+    QSemaphore read;
+    PackageHandler handler([&](const PackageRequestProto3rd &, bool flag) {
+        flags += flag;
+        read.release();
+    });
+    handler.start();
+    handler.AddMessage(report(1, "a"), true);
+    QVERIFY(read.tryAcquire(1, 5000)); // also when the thread was asleep over an empty queue
+    handler.AddMessage(report(2, "b"));
+    QVERIFY(read.tryAcquire(1, 5000));
+    QCOMPARE(flags, QList<bool>({true, false}));
+}
+
+void TestReports::answerRetiresOlderRequests()
+{
+    RequestList requests;
+    for (int serial : {7, 8, 9, 8})
+        requests.insert(report(0x13000000, "x", serial));
+    QCOMPARE(requests.matchRequest(10), -1);
+    QCOMPARE(requests.matchRequest(8), 1);
+    const std::unique_ptr<PackageBase> answered(requests.takePackage(1));
+    QCOMPARE(int(answered->getSerialNum()), 8);
+    requests.retire(1);
+    QCOMPARE(requests.size(), 2);
+    QCOMPARE(requests.matchRequest(7), -1);
+    QCOMPARE(requests.matchRequest(9), 0);
+    QCOMPARE(requests.matchRequest(8), 1);
+    requests.retire(5); // no such place: the whole list is older
+    QCOMPARE(requests.size(), 0);
+    QVERIFY(!requests.takePackage(0));
+}
+
+QTEST_GUILESS_MAIN(TestReports)
+#include "tst_reports.moc"
