@@ -1,0 +1,123 @@
+// The store's three files, damaged in every way that a power cut or a worn flash can think of: the next start
+// repairs them and keeps the values while one of them is whole.
+#include "tests/system/panel.h"
+
+#include <QFile>
+#include <QTest>
+
+class TestSystemStore : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void damagedFilesAreRepaired_data();
+    void damagedFilesAreRepaired();
+    void noWholeFileGivesTheDefaults();
+
+private:
+    QString file(const QString &name) const
+    {
+        return m_panel.file("/usr/vask/etc/fpd/config/" + name + ".xml");
+    }
+    QByteArray read(const QString &name) const;
+    void write(const QString &name, const QByteArray &content);
+    void restart();
+
+    Panel m_panel;
+    QByteArray m_whole; ///< a file with a value of its own
+};
+
+namespace
+{
+constexpr int brightnessItem = 1;
+const QString ownValue = "77";
+const QStringList allFiles{"config", "config_backup", "config_factory"};
+
+QByteArray damaged(const QByteArray &whole, const QString &how)
+{
+    if (how == "empty")
+        return QByteArray();
+    if (how == "cut")
+        return whole.left(whole.size() / 2);
+    if (how == "garbage")
+        return QByteArray(5000, char(0x9c));
+    QByteArray bytes = whole;
+    return bytes.replace(bytes.size() / 2, 64, QByteArray(64, char(0xff))); // wrong bytes
+}
+} // namespace
+
+QByteArray TestSystemStore::read(const QString &name) const
+{
+    QFile input(file(name));
+    return input.open(QIODevice::ReadOnly) ? input.readAll() : QByteArray();
+}
+
+void TestSystemStore::write(const QString &name, const QByteArray &content)
+{
+    QFile output(file(name));
+    QVERIFY(output.open(QIODevice::WriteOnly));
+    output.write(content);
+}
+
+void TestSystemStore::restart()
+{
+    m_panel.ask({"panel", "stop"}); // refused if it is off already
+    QVERIFY(m_panel.start());
+}
+
+void TestSystemStore::initTestCase()
+{
+    QVERIFY(m_panel.powerDevice());
+    QVERIFY(m_panel.ask({"flag", "delay", "0"}).ok);
+    QVERIFY(m_panel.start());
+    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+    m_whole = read("config");
+    const QByteArray value = "<Value>" + m_panel.stored(brightnessItem).toUtf8() + "</Value>";
+    QVERIFY(m_whole.contains(value));
+    m_whole.replace(m_whole.indexOf(value), value.size(), "<Value>" + ownValue.toUtf8() + "</Value>");
+}
+
+void TestSystemStore::damagedFilesAreRepaired_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("how");
+    const QList<QStringList> sets = {{"config"},
+                                     {"config_backup"},
+                                     {"config_factory"},
+                                     {"config", "config_backup"},
+                                     {"config", "config_factory"},
+                                     {"config_backup", "config_factory"}};
+    for (const QStringList &files : sets) {
+        for (const char *how : {"empty", "cut", "garbage", "wrong bytes", "missing"})
+            QTest::newRow(qPrintable(files.join("+") + " " + how)) << files << QString(how);
+    }
+}
+
+void TestSystemStore::damagedFilesAreRepaired()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QString, how);
+    for (const QString &name : allFiles)
+        write(name, m_whole);
+    for (const QString &name : files) {
+        if (how == "missing")
+            QFile::remove(file(name));
+        else
+            write(name, damaged(m_whole, how));
+    }
+    restart();
+    QCOMPARE(m_panel.stored(brightnessItem), ownValue);
+    QCOMPARE(m_panel.damage(), QString());
+}
+
+void TestSystemStore::noWholeFileGivesTheDefaults()
+{
+    for (const QString &name : allFiles)
+        write(name, damaged(m_whole, "wrong bytes"));
+    restart();
+    QCOMPARE(m_panel.stored(brightnessItem), QString("60"));
+    QCOMPARE(m_panel.damage(), QString());
+}
+
+QTEST_GUILESS_MAIN(TestSystemStore)
+#include "tst_systemstore.moc"
