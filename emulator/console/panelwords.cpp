@@ -95,6 +95,8 @@ void wait(Session &session, const QStringList &list)
         return failUsage(session, "wait");
     QTimer::singleShot(int(*seconds * 1000), session.request(),
                        [&session] { session.fail("waited in vain"); });
+    QObject::connect(&session.emulator.panel, &PanelProcess::ended, session.request(),
+                     [&session] { session.fail("the panel has ended"); });
     if (forReady)
         waitReady(session);
     else
