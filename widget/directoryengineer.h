@@ -23,7 +23,7 @@ public:
 
 private:
     bool buildRow(const st_MenuItemInfo &row);
-    bool buildRoot(ENUM_ConfigIndex config, int line);
+    bool buildInto(ENUM_ObjectIndex object, ENUM_ConfigIndex config);
 
     QMap<ENUM_ConfigIndex, ST_MenuConfig> m_config;
 };

@@ -14,6 +14,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QTimer>
+#include <QVector>
 #include <atomic>
 #include <memory>
 
@@ -117,10 +118,10 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     bool findMenus();
-    void setStyles();
     void InitLayer();
     void InitWindow();
     void InitSynMode();
@@ -136,9 +137,16 @@ private:
     void showLockDialog();
     Lock *lockDialog();
 
+    struct HomeKey;
+    static const QVector<HomeKey> &homeKeys();
     bool keyEvent(VASK::KeypadEvent *event);
-    void openMenu(VASK::MenuDirectory *menu);
-    void startFactoryTest();
+    void lockKey(VASK::KeypadEvent *event);
+    void knobKey(VASK::KeypadEvent *event);
+    void openMainMenu(VASK::KeypadEvent *event);
+    void openUserMenu(VASK::KeypadEvent *event);
+    void openProductMenu(VASK::KeypadEvent *event);
+    void openMenu(VASK::MenuDirectory *menu, VASK::ENUM_ObjectIndex object);
+    void startFactoryTest(VASK::KeypadEvent *event);
 
     /// Runs a message and destroys it; its result, or -1 if there is no such message.
     int runMessage(VASK::ENUM_MenuIndex index);

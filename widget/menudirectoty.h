@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QPointer>
 #include <QStringList>
+#include <QVector>
 #include <atomic>
 
 class QLabel;
@@ -106,7 +107,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    struct PageKey;
+    static const QVector<PageKey> &pageKeys();
     void keyEvent(KeypadEvent *event);
+    void escKey(KeypadEvent *event);
+    void lockPanel(KeypadEvent *event);
     void rotate(KeypadEvent *event, bool left);
     void turnValue(const st_MenuItemInfo &row, unsigned char speed, bool left);
     bool moveInsideRow(const st_MenuItemInfo &row, unsigned char &speed, bool left, bool atEnd);
