@@ -1,0 +1,153 @@
+// The send path on a bench: a client that records frames stands at the end, engine and store hold what the
+// test says, and the device has six inputs.
+#pragma once
+
+#include "framework/menuanalysis.h"
+#include "framework/paraprocess.h"
+#include "framework/protocol/communicationclientinterface.h"
+#include "framework/protocol/proto3rd.h"
+#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/proto3rdsend.h"
+
+#include <QtTest>
+
+#if defined(__SANITIZE_ADDRESS__)
+// These tests look for leaks at their end; what the offscreen platform leaves behind is Qt's own.
+extern "C" const char *__lsan_default_suppressions()
+{
+    return "leak:libqoffscreen\n";
+}
+#endif
+
+namespace VASK
+{
+class RecordingClient : public CommunicationClientInterface
+{
+public:
+    RecordingClient() : CommunicationClientInterface(ENUM_COMMUNICATION_APIPC) {}
+    int BuildHandshake(const VaskObject *, QMap<QString, QString>) override { return 0; }
+    int SendMsg(void *frame) override
+    {
+        QMutexLocker lock(&m_mutex);
+        ++attempts;
+        if (attempts > acceptOnly)
+            return 0;
+        frames.append(*static_cast<QByteArray *>(frame));
+        return 1;
+    }
+    void clear()
+    {
+        frames.clear();
+        attempts = 0;
+        acceptOnly = everything;
+    }
+
+    static constexpr int everything = 1 << 30;
+    QList<QByteArray> frames;
+    int attempts = 0;
+    int acceptOnly = everything; ///< so many are accepted, then the bus is full
+
+private:
+    QMutex m_mutex;
+};
+
+/// The frame of a write, put together by hand; the serial number is the one thing the test does not choose.
+inline QByteArray writeFrame(char serial, int deviceType, quint32 address, const QByteArray &payload)
+{
+    QByteArray frame("\x55\xAA", 2);
+    frame += '\0';
+    frame += serial;
+    frame += char(254);
+    frame += '\0';
+    frame += char(deviceType);
+    frame += QByteArray(3, char(255));
+    frame += char(1);
+    frame += '\0';
+    for (int shift : {0, 8, 16, 24})
+        frame += char(address >> shift);
+    frame += char(payload.size());
+    frame += char(payload.size() >> 8);
+    frame += payload;
+    quint16 sum = 0x5555;
+    for (int i = 2; i < frame.size(); ++i)
+        sum = quint16(sum + quint8(frame[i]));
+    frame += char(sum);
+    frame += char(sum >> 8);
+    return frame;
+}
+
+class SendBench
+{
+public:
+    SendBench()
+        : store(new MenuAnalysis(ENUM_MENUANALYSIS)), engine(new ParaProcess(ENUM_PARAPROCESS)),
+          protocol(new Proto3rd(ENUM_PROTOCOINTERFER_3RD))
+    {
+        auto *pool = ObjectPool::getInstance();
+        pool->InsertData(ENUM_MENUANALYSIS, store.get());
+        pool->InsertData(ENUM_PARAPROCESS, engine.get());
+        pool->InsertData(ENUM_PROTOCOINTERFER_3RD, protocol.get());
+        pool->InsertData(ENUM_COMMUNICATION_APIPC, &client);
+        fillInputs();
+    }
+    ~SendBench()
+    {
+        Proto3rdSend::deleteInstance();
+        for (ENUM_ObjectIndex index :
+             {ENUM_MENUANALYSIS, ENUM_PARAPROCESS, ENUM_PROTOCOINTERFER_3RD, ENUM_COMMUNICATION_APIPC})
+            ObjectPool::getInstance()->RemoveByIndex(index);
+    }
+
+    void set(int index, const QString &value, const QString &perBase = "1920")
+    {
+        ST_ItemInfo item;
+        item.index = ENUM_MenuIndex(index);
+        item.value = value;
+        item.perBase = perBase;
+        store->DeleteMenuItem(item.index);
+        store->AddMenuItem(item.index, item);
+    }
+    void set(int first, const QStringList &values)
+    {
+        for (int i = 0; i < values.size(); ++i)
+            set(first + i, values[i]);
+    }
+    int change(int index, const QString &value)
+    {
+        return Proto3rdSend::getInstance()->HandleMenuValueChanged(ENUM_MenuIndex(index), value);
+    }
+    /// Is that frame the one with this number?
+    bool isFrame(int number, int deviceType, quint32 address, const QByteArray &payload) const
+    {
+        if (number >= client.frames.size())
+            return false;
+        const QByteArray &frame = client.frames[number];
+        const QByteArray expected =
+            writeFrame(frame.size() > 3 ? frame[3] : '\0', deviceType, address, payload);
+        if (frame != expected)
+            qWarning() << "frame" << number << frame.toHex(' ') << "expected" << expected.toHex(' ');
+        return frame == expected;
+    }
+
+    RecordingClient client;
+    std::unique_ptr<MenuAnalysis> store;
+    std::unique_ptr<ParaProcess> engine;
+    std::unique_ptr<Proto3rd> protocol;
+
+private:
+    static void fillInputs()
+    {
+        constexpr unsigned char codes[] = {17, 18, 0, 48, 106, 254};
+        for (InputTable *table :
+             {&Proto3rdReceiveParse::inputSourceCode, &Proto3rdReceiveParse::EDIDSourceCode,
+              &Proto3rdReceiveParse::MosaicSourceCode})
+            table->clear();
+        for (unsigned char i = 0; i < std::size(codes); ++i)
+            Proto3rdReceiveParse::inputSourceCode.insert(i, {i, codes[i]});
+        for (unsigned char i = 0; i < 4; ++i)
+            Proto3rdReceiveParse::EDIDSourceCode.insert(i, {i, codes[i]});
+        for (unsigned char i = 0; i < 5; ++i)
+            Proto3rdReceiveParse::MosaicSourceCode.insert(i, {i, codes[i]});
+    }
+};
+} // namespace VASK

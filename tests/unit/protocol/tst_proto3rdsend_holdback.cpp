@@ -1,0 +1,249 @@
+// A knob that turns: how many packets leave, when, and that the last value is among them. Time is driven: the
+// knob steps and the send timer fires when the test says so.
+
+#include "sendbench.h"
+
+#include "widget/menudirectoty.h"
+
+#include <QLoggingCategory>
+#include <QThread>
+
+using namespace VASK;
+
+namespace
+{
+constexpr int sendTimerMs = 100;
+constexpr int brightness = 3025; // first HDMI
+constexpr int contrast = 3026;
+constexpr int volume = 2357; // has no hold-back
+
+/// The byte that a frame writes.
+int byteOf(const QByteArray &frame)
+{
+    return quint8(frame[18]);
+}
+
+int lowAddressOf(const QByteArray &frame)
+{
+    return quint8(frame[12]);
+}
+} // namespace
+
+class TestProto3rdSendHoldback : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"); }
+    void init()
+    {
+        bench = std::make_unique<SendBench>();
+        now = 0;
+        armedAt = -1;
+        sentAt.clear();
+        MenuDirectory::RotateFlg = false;
+    }
+    void cleanup()
+    {
+        MenuDirectory::RotateFlg = false;
+        bench.reset();
+    }
+
+    void aTurningKnobIsThinnedOut_data();
+    void aTurningKnobIsThinnedOut();
+    void theLastValueArrives();
+    void twoSlowStepsBothLeave();
+    void anotherItemTakesTheHeldValueAlong();
+    void anItemWithoutHoldBackLeavesTheHeldValueWaiting();
+    void withoutTheKnobEveryChangeLeaves();
+    void aRefusedChangeDoesNotCountAsSent();
+    void windowAndCropAreHeldBackToo();
+    void reportsDoNotDisturbATurn();
+    void aHeldValueIsReleasedWithTheObject();
+
+private:
+    void step(int item, int value)
+    {
+        const bool waiting = Proto3rdSend::mSendFlg;
+        MenuDirectory::RotateFlg = true;
+        QCOMPARE(bench->change(item, QString::number(value)), 0);
+        MenuDirectory::RotateFlg = false;
+        if (!waiting && Proto3rdSend::mSendFlg)
+            armedAt = now;
+        note();
+    }
+    void pass(int ms)
+    {
+        for (; ms > 0; --ms) {
+            ++now;
+            if (armedAt >= 0 && now - armedAt >= sendTimerMs) {
+                armedAt = -1;
+                bench->protocol->slot_SendData();
+                note();
+            }
+        }
+    }
+    void note()
+    {
+        while (sentAt.size() < bench->client.frames.size())
+            sentAt.append(now);
+    }
+
+    std::unique_ptr<SendBench> bench;
+    int now = 0;
+    int armedAt = -1;
+    QVector<int> sentAt;
+};
+
+void TestProto3rdSendHoldback::aTurningKnobIsThinnedOut_data()
+{
+    QTest::addColumn<int>("stepMs");
+    for (int ms : {1, 7, 10, 50, 99, 100, 101})
+        QTest::addRow("a step every %d ms", ms) << ms;
+}
+
+void TestProto3rdSendHoldback::aTurningKnobIsThinnedOut()
+{
+    QFETCH(int, stepMs);
+    constexpr int turnMs = 2000;
+    int value = 0;
+    for (; now < turnMs; pass(stepMs))
+        step(brightness, ++value % 101);
+    pass(sendTimerMs);
+
+    for (int i = 1; i < sentAt.size(); ++i)
+        QVERIFY2(sentAt[i] - sentAt[i - 1] >= sendTimerMs, qPrintable(QString::number(sentAt[i])));
+    QVERIFY(sentAt.size() >= turnMs / (sendTimerMs + stepMs));
+    QCOMPARE(byteOf(bench->client.frames.last()), value % 101);
+}
+
+void TestProto3rdSendHoldback::theLastValueArrives()
+{
+    for (int value : {10, 11, 12, 13})
+        step(brightness, value);
+    QCOMPARE(bench->client.frames.size(), 1); // the first step leaves at once
+    QCOMPARE(byteOf(bench->client.frames[0]), 10);
+
+    pass(sendTimerMs - 1);
+    QCOMPARE(bench->client.frames.size(), 1);
+    pass(1);
+    QCOMPARE(bench->client.frames.size(), 2);
+    QCOMPARE(byteOf(bench->client.frames[1]), 13);
+    pass(1000);
+    QCOMPARE(bench->client.frames.size(), 2);
+}
+
+void TestProto3rdSendHoldback::twoSlowStepsBothLeave()
+{
+    step(brightness, 10);
+    pass(500);
+    step(brightness, 11);
+    pass(sendTimerMs);
+    QCOMPARE(bench->client.frames.size(), 2);
+    QCOMPARE(byteOf(bench->client.frames[1]), 11);
+}
+
+void TestProto3rdSendHoldback::anotherItemTakesTheHeldValueAlong()
+{
+    step(brightness, 10);
+    step(brightness, 11);
+    step(contrast, 60); // the other item first, then what was held
+    QCOMPARE(bench->client.frames.size(), 3);
+    QCOMPARE(lowAddressOf(bench->client.frames[1]), 0x02);
+    QCOMPARE(byteOf(bench->client.frames[1]), 60);
+    QCOMPARE(lowAddressOf(bench->client.frames[2]), 0x01);
+    QCOMPARE(byteOf(bench->client.frames[2]), 11);
+    QVERIFY(!Proto3rdSend::mSendFlg);
+
+    step(contrast, 61); // and the turn goes on with the other item
+    QCOMPARE(bench->client.frames.size(), 3);
+    pass(sendTimerMs);
+    QCOMPARE(byteOf(bench->client.frames.last()), 61);
+}
+
+void TestProto3rdSendHoldback::anItemWithoutHoldBackLeavesTheHeldValueWaiting()
+{
+    step(brightness, 10);
+    step(brightness, 11);
+    step(volume, 5);
+    step(volume, 6);
+    QCOMPARE(bench->client.frames.size(), 3);
+    pass(sendTimerMs);
+    QCOMPARE(bench->client.frames.size(), 4);
+    QCOMPARE(byteOf(bench->client.frames[3]), 11);
+}
+
+void TestProto3rdSendHoldback::withoutTheKnobEveryChangeLeaves()
+{
+    for (int value : {10, 11, 11})
+        QCOMPARE(bench->change(brightness, QString::number(value)), 0);
+    QCOMPARE(bench->client.frames.size(), 3);
+
+    step(brightness, 12); // the knob on the same item is held at its first step, as the item was sent before
+    QCOMPARE(bench->client.frames.size(), 3);
+    QCOMPARE(bench->change(brightness, "13"),
+             0); // a value that is set outright leaves, with the held one behind
+    QCOMPARE(byteOf(bench->client.frames[3]), 13);
+    QCOMPARE(byteOf(bench->client.frames[4]), 12);
+}
+
+void TestProto3rdSendHoldback::aRefusedChangeDoesNotCountAsSent()
+{
+    bench->client.acceptOnly = 0;
+    MenuDirectory::RotateFlg = true;
+    QCOMPARE(bench->change(brightness, "10"), 3);
+    bench->client.acceptOnly = RecordingClient::everything;
+    QCOMPARE(bench->change(brightness, "11"), 0);
+    QVERIFY(!Proto3rdSend::mSendFlg);
+    QCOMPARE(byteOf(bench->client.frames.last()), 11);
+}
+
+void TestProto3rdSendHoldback::windowAndCropAreHeldBackToo()
+{
+    bench->set(2103, {"100", "100", "0", "0"});
+    bench->set(3000, {"1", "100", "100", "0", "0"});
+    bench->set(2101, "0");
+    for (int item : {2103, 2104, 2105, 2106, 3001, 3002, 3003, 3004, 3026, 3027, 3028}) {
+        bench->client.clear();
+        for (int value : {1, 2, 3})
+            step(item, value);
+        QVERIFY2(bench->client.attempts == 1, qPrintable(QString::number(item)));
+        QVERIFY(Proto3rdSend::mSendFlg);
+        bench->protocol->slot_SendData();
+        QCOMPARE(bench->client.attempts, 2);
+    }
+}
+
+/// While the knob turns, the engine sends from the report thread too: that leaves at once and neither takes
+/// the held value along nor ends the turn.
+void TestProto3rdSendHoldback::reportsDoNotDisturbATurn()
+{
+    step(brightness, 10);
+    step(brightness, 11);
+    MenuDirectory::RotateFlg = true;
+    std::unique_ptr<QThread> reports(QThread::create([this] {
+        for (int i = 0; i < 5; ++i)
+            bench->change(contrast, QString::number(i));
+    }));
+    reports->start();
+    QVERIFY(reports->wait());
+    QCOMPARE(bench->client.frames.size(), 6);
+    QVERIFY(Proto3rdSend::mSendFlg);
+
+    step(brightness, 12);
+    QCOMPARE(bench->client.frames.size(), 6);
+    bench->protocol->slot_SendData();
+    QCOMPARE(byteOf(bench->client.frames.last()), 12);
+}
+
+/// Nothing to compare: the leak check of the sanitizer build is what would speak up.
+void TestProto3rdSendHoldback::aHeldValueIsReleasedWithTheObject()
+{
+    step(brightness, 10);
+    step(brightness, 11);
+    Proto3rdSend::deleteInstance();
+    QVERIFY(!Proto3rdSend::mSendFlg);
+    QVERIFY(!Proto3rdSend::mSendDate);
+}
+
+QTEST_MAIN(TestProto3rdSendHoldback)
+#include "tst_proto3rdsend_holdback.moc"
