@@ -1,7 +1,5 @@
 #include "framework/keytracker.h"
 
-#include "framework/ctimer.h"
-
 #include <QDebug>
 #include <QList>
 #include <algorithm>
@@ -26,7 +24,10 @@ bool isKey(unsigned char key)
 }
 } // namespace
 
-KeyTracker::KeyTracker(Post post) : m_post(std::move(post)), m_listTimer(keyCount) {}
+KeyTracker::KeyTracker(Post post, CTimer &timer)
+    : m_post(std::move(post)), m_timer(timer), m_listTimer(keyCount)
+{
+}
 
 void KeyTracker::reset()
 {
@@ -71,14 +72,14 @@ void KeyTracker::startTimer(unsigned char key)
     TimerNote &note = m_notes[size_t(key) * notesPerKey + entry.press % notesPerKey];
     note = {this, key, entry.press};
     qDebug() << "TIMER_SetTimer == " << key;
-    TIMER_SetTimer(longPressMs, 1, OnTimerEvent, &note, &entry.timerId);
+    entry.timerId = m_timer.SetTimer(longPressMs, 1, OnTimerEvent, &note);
 }
 
 /// A timer that has fired is gone, and its id may be another's by now.
 void KeyTracker::stopTimer(LongPress &entry)
 {
     if (entry.timerId != noTimer && !entry.isLong)
-        TIMER_CancelTimer(entry.timerId);
+        m_timer.CancelTimer(entry.timerId);
     entry.timerId = noTimer;
 }
 

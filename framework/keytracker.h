@@ -4,6 +4,7 @@
 // the decisions.
 #pragma once
 
+#include "framework/ctimer.h"
 #include "framework/keypadevent.h"
 
 #include <QMutex>
@@ -31,7 +32,7 @@ public:
     using Post = std::function<void(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress)>;
 
     /// The function that takes the events must neither block nor call back.
-    explicit KeyTracker(Post post);
+    explicit KeyTracker(Post post, CTimer &timer = g_timer);
 
     void reset();
     void press(unsigned char key, unsigned char speed);
@@ -61,6 +62,7 @@ private:
     void stopTimer(LongPress &entry);
 
     Post m_post;
+    CTimer &m_timer;
     QMutex m_mutex;
     QVector<LongPress> m_listTimer;
     std::array<TimerNote, keyCount * notesPerKey> m_notes;

@@ -1,0 +1,189 @@
+// What a stream of key words means, on a clock that the test turns.
+
+#include "framework/keytracker.h"
+
+#include <QtTest>
+#include <atomic>
+#include <thread>
+
+using namespace VASK;
+
+namespace
+{
+CTimeValue testTime;
+std::atomic<long> racingSeconds;
+
+void testClock(CTimeValue &time)
+{
+    time = testTime;
+}
+
+/// A panel whose events are read as text: "34p" pressed, "34r" released, "34L" held.
+class Keys
+{
+public:
+    Keys()
+        : m_timer(testClock), m_tracker(
+                                  [this](KEY_TYPE type, unsigned char key, unsigned char speed, bool held) {
+                                      m_events << QString::number(key) + "prL"[type];
+                                      m_speed = speed;
+                                      m_longPress = held;
+                                  },
+                                  m_timer)
+    {
+        testTime = {5000, 0};
+    }
+
+    void press(unsigned char key, unsigned char speed = 1) { m_tracker.press(key, speed); }
+    void release(unsigned char key) { m_tracker.release(key, 1); }
+    void wait(unsigned int ms)
+    {
+        for (unsigned int passed = 0; passed < ms; passed += 10) {
+            testTime = testTime.plusMs(10);
+            m_timer.tick();
+        }
+    }
+    QString events()
+    {
+        const QString text = m_events.join(' ');
+        m_events.clear();
+        return text;
+    }
+    int runningTimers() { return m_timer.queue().GetCurSize(); }
+    int m_speed = -1;
+    bool m_longPress = false;
+
+private:
+    CTimer m_timer;
+    KeyTracker m_tracker;
+    QStringList m_events;
+};
+
+/// One step of a story: 'p' press, 'r' release with a key, 'w' wait with milliseconds.
+struct Act {
+    char what;
+    unsigned int value;
+};
+using Story = QList<Act>;
+} // namespace
+Q_DECLARE_METATYPE(Story)
+
+class TestKeyTracker : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void stories_data()
+    {
+        QTest::addColumn<Story>("story");
+        QTest::addColumn<QString>("events");
+        const auto row = [](const char *name, const Story &story, const char *events) {
+            QTest::newRow(name) << story << events;
+        };
+        row("short press", {{'p', 34}, {'w', 200}, {'r', 34}}, "34p 34r");
+        row("just short", {{'p', 34}, {'w', 2990}, {'r', 34}, {'w', 4000}}, "34p 34r");
+        row("long press, release swallowed", {{'p', 34}, {'w', 3000}, {'w', 5000}, {'r', 34}}, "34p 34L");
+        row("the next press is a new one",
+            {{'p', 34}, {'w', 3000}, {'r', 34}, {'p', 34}, {'w', 100}, {'r', 34}}, "34p 34L 34p 34r");
+        row("the preset key lets its release through", {{'p', 17}, {'w', 3000}, {'r', 17}}, "17p 17L 17r");
+        row("the knob is never held", {{'p', 32}, {'p', 33}, {'w', 9000}}, "32p 33p");
+        row("a release of the knob goes out", {{'r', 32}}, "32r");
+        row("codes without a key",
+            {{'p', 0}, {'p', 1}, {'p', 36}, {'p', 127}, {'w', 4000}, {'r', 1}, {'r', 127}},
+            "0p 1p 36p 127p 1r 127r");
+        row("a release out of nothing", {{'r', 34}}, "34r");
+        row("a press whose release was lost", {{'p', 34}, {'w', 2000}, {'p', 34}, {'w', 2000}, {'r', 34}},
+            "34p 34p 34r");
+        row("lock chord", {{'p', 35}, {'w', 100}, {'p', 34}, {'w', 3000}, {'r', 34}, {'r', 35}, {'w', 5000}},
+            "35p 34p 18L");
+        row("lock chord, the other way",
+            {{'p', 34}, {'w', 900}, {'p', 35}, {'w', 3000}, {'r', 34}, {'r', 35}}, "34p 35p 18L");
+        row("lock chord twice",
+            {{'p', 34}, {'p', 35}, {'w', 3000}, {'r', 34}, {'r', 35}, {'p', 35}, {'p', 34}, {'w', 3000}},
+            "34p 35p 18L 35p 34p 18L");
+        row("partner let go before the time",
+            {{'p', 34}, {'p', 35}, {'w', 1000}, {'r', 35}, {'w', 2000}, {'r', 34}}, "34p 35p 35r 34L");
+        row("fired and let go before the partner",
+            {{'p', 34}, {'w', 500}, {'p', 35}, {'w', 2600}, {'r', 34}, {'w', 1000}, {'r', 35}},
+            "34p 35p 35L");
+        row("partner comes after the long press",
+            {{'p', 34}, {'w', 3000}, {'p', 35}, {'w', 3000}, {'r', 35}, {'r', 34}}, "34p 34L 35p 35L");
+        row("service chord",
+            {{'p', 13},
+             {'p', 14},
+             {'w', 50},
+             {'p', 16},
+             {'w', 3000},
+             {'r', 13},
+             {'r', 14},
+             {'r', 16},
+             {'w', 4000}},
+            "13p 14p 16p 19L");
+        row("two of three are no chord", {{'p', 14}, {'p', 16}, {'w', 3000}, {'r', 14}, {'r', 16}},
+            "14p 16p 14L 16L");
+        row("keys of no chord", {{'p', 2}, {'p', 3}, {'w', 3000}, {'r', 2}, {'r', 3}}, "2p 3p 2L 3L");
+        row("a held key beside the chord", {{'p', 2}, {'p', 34}, {'p', 35}, {'w', 3000}, {'r', 2}},
+            "2p 34p 35p 2L 18L");
+    }
+
+    void stories()
+    {
+        QFETCH(Story, story);
+        Keys keys;
+        for (const Act &act : story) {
+            if (act.what == 'p')
+                keys.press(static_cast<unsigned char>(act.value));
+            else if (act.what == 'r')
+                keys.release(static_cast<unsigned char>(act.value));
+            else
+                keys.wait(act.value);
+        }
+        QTEST(keys.events(), "events");
+        keys.wait(4000);
+        QCOMPARE(keys.runningTimers(), 0);
+    }
+
+    void speedAndHeldFlag()
+    {
+        Keys keys;
+        keys.press(KEY_KNOB_RIGHT, 7);
+        QCOMPARE(keys.m_speed, 7);
+        keys.press(KEY_MAIN, 0);
+        QVERIFY(!keys.m_longPress);
+        keys.wait(3000);
+        QCOMPARE(keys.m_speed, 1);
+        QVERIFY(keys.m_longPress);
+    }
+
+    void everyPressIsLetGoAgainWhateverTheTimerDoes()
+    {
+        // The timers come due while the keypad thread lets go: each press must end in exactly one of a
+        // release and a long press.
+        racingSeconds = 5000;
+        CTimer timer([](CTimeValue &time) { time = {racingSeconds, 0}; });
+        std::atomic<bool> stop{false};
+        std::thread ticker([&] {
+            while (!stop)
+                timer.tick();
+        });
+        std::atomic<int> pressed{0};
+        std::atomic<int> ended{0};
+        KeyTracker tracker([&](KEY_TYPE type, unsigned char, unsigned char,
+                               bool) { ++(type == KEY_PRESSED ? pressed : ended); },
+                           timer);
+        for (int i = 0; i < 2000; ++i) {
+            tracker.press(KEY_MAIN, 1);
+            racingSeconds += 3;
+            for (volatile int wait = i % 50 * 20; wait > 0; wait = wait - 1)
+                ;
+            tracker.release(KEY_MAIN, 1);
+        }
+        stop = true;
+        ticker.join();
+        QCOMPARE(timer.queue().GetCurSize(), 0);
+        QCOMPARE(ended.load(), pressed.load());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestKeyTracker)
+#include "tst_keytracker.moc"
