@@ -85,9 +85,9 @@ bool MenuAnalysis::IsEixstFile()
     const QString config = m_path + m_fileName;
     const QString backup = m_path + m_backupName;
     if (CheckXmlfileIsVaild(config)) {
-        // A good backup that differs is one save behind: the last save was cut between file and copy. Left
-        // so, the next save would have nothing but that old state to fall back on.
-        if (!CheckXmlfileIsVaild(backup) || contents(config) != contents(backup)) {
+        // A backup that differs is damaged, or one save behind: the last save was cut between file and copy.
+        // Left so, the next save would have nothing, or only that old state, to fall back on.
+        if (contents(config) != contents(backup)) {
             board::runCommand(configToBackup);
             board::runCommand(sync);
         }

@@ -68,10 +68,17 @@ QString storableText(const QString &text)
     return result;
 }
 
+/// An empty text makes no node: a document that was read has none either, and both shall be written alike.
+void setText(QDomDocument &document, QDomElement &element, const QString &text)
+{
+    if (!text.isEmpty())
+        element.appendChild(document.createTextNode(storableText(text)));
+}
+
 void appendText(QDomDocument &document, QDomElement &parent, const QString &name, const QString &text)
 {
     QDomElement child = document.createElement(name);
-    child.appendChild(document.createTextNode(storableText(text)));
+    setText(document, child, text);
     parent.appendChild(child);
 }
 
@@ -82,7 +89,7 @@ void appendMap(QDomDocument &document, QDomElement &parent, const XmlNames &name
     for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
         QDomElement param = document.createElement(names[XML_PARAM]);
         param.setAttribute(names[XML_PARAMNAME], storableText(entry.key()));
-        param.appendChild(document.createTextNode(storableText(entry.value())));
+        setText(document, param, entry.value());
         child.appendChild(param);
     }
     parent.appendChild(child);
