@@ -1,9 +1,16 @@
 #include "initialize.h"
 
 #include "boardio.h"
+#include "framework/globaltimer.h"
 #include "framework/keyevent.h"
 #include "framework/menuanalysis.h"
+#include "framework/paraprocess.h"
+#include "framework/protocol/apipcservice.h"
+#include "framework/protocol/proto3rd.h"
+#include "framework/protocol/protomemory20m.h"
 #include "framework/transport.h"
+#include "widget/directoryengineer.h"
+#include "widget/mainwindow_k2860.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -69,8 +76,13 @@ private:
     bool startProto4rd();
     bool finish();
 
+    Proto3rd *m_proto3rd = nullptr;
+    APiPCService *m_apipc = nullptr;
+    ProtoMemory20M *m_memory = nullptr;
     MenuAnalysis *m_store = nullptr;
+    ParaProcess *m_paraProcess = nullptr;
     transport *m_transport = nullptr;
+    MainWindow *m_mainWindow = nullptr;
     ST_ItemInfo m_screenLock;
     QString m_workMode;
 };
@@ -133,17 +145,20 @@ void StartUp::run()
 
 bool StartUp::createProto3rd()
 {
-    return notBuilt("Proto3rd");
+    m_proto3rd = new (std::nothrow) Proto3rd(ENUM_PROTOCOINTERFER_3RD);
+    return m_proto3rd;
 }
 
 bool StartUp::createApipc()
 {
-    return notBuilt("APiPCService");
+    m_apipc = new APiPCService(ENUM_COMMUNICATION_APIPC);
+    return true;
 }
 
 bool StartUp::createMemory()
 {
-    return notBuilt("ProtoMemory20M");
+    m_memory = new ProtoMemory20M(ENUM_PROTOMEMORY_20M);
+    return true;
 }
 
 bool StartUp::createStore()
@@ -154,7 +169,8 @@ bool StartUp::createStore()
 
 bool StartUp::createParaProcess()
 {
-    return notBuilt("ParaProcess");
+    m_paraProcess = new ParaProcess(ENUM_PARAPROCESS);
+    return true;
 }
 
 bool StartUp::createTransport()
@@ -175,6 +191,10 @@ bool StartUp::createProto4rd()
 
 bool StartUp::fillPool()
 {
+    m_transport->InsertObject(ENUM_PROTOCOINTERFER_3RD, m_proto3rd);
+    m_transport->InsertObject(ENUM_COMMUNICATION_APIPC, m_apipc);
+    m_transport->InsertObject(ENUM_PARAPROCESS, m_paraProcess);
+    m_transport->InsertObject(ENUM_PROTOMEMORY_20M, m_memory);
     m_transport->InsertObject(ENUM_MENUANALYSIS, m_store);
     m_transport->InsertObject(ENUM_TRANSPORT, m_transport);
     return true;
@@ -182,7 +202,7 @@ bool StartUp::fillPool()
 
 bool StartUp::initializeMemory()
 {
-    return notBuilt("ProtoMemory20M");
+    return m_memory->initialize();
 }
 
 bool StartUp::initializeStore()
@@ -205,19 +225,23 @@ bool StartUp::loadTranslation()
     return true;
 }
 
+/// The object alone; what it shows is made once the pages are there.
 bool StartUp::createHomeScreen()
 {
-    return notBuilt("MainWindow");
+    m_mainWindow = new MainWindow(ENUM_MAIN_WINDOW);
+    m_transport->InsertObject(ENUM_MAIN_WINDOW, m_mainWindow);
+    return true;
 }
 
 bool StartUp::initializeParaProcess()
 {
-    return notBuilt("ParaProcess");
+    return m_paraProcess->Initialize();
 }
 
 bool StartUp::readSnapshot()
 {
-    return notBuilt("ParaProcess");
+    m_paraProcess->InitReadParaFrom20M();
+    return true;
 }
 
 /// Opening creates the file and leaves the contents of an older one alone.
@@ -231,13 +255,17 @@ bool StartUp::raisePanelFlag()
 
 bool StartUp::buildMenus()
 {
-    return notBuilt("DirectoryEngineer");
+    DirectoryEngineer engineer(ENUM_DIRECTORY_ENGINEER);
+    const bool built = engineer.CreateAllMenu();
+    qDebug() << (built ? "CreateAllMenu Successful!" : "CreateAllMenu fail!");
+    return true;
 }
 
 bool StartUp::initializeHomeScreen()
 {
     qDebug() << "init mainWindow!";
-    return notBuilt("MainWindow");
+    m_mainWindow->Init(); // logs what it misses
+    return true;
 }
 
 /// Without limit: there is nothing to show and nothing to do without the device.
@@ -253,28 +281,39 @@ bool StartUp::waitForDevice()
 
 bool StartUp::showStartValues()
 {
-    return notBuilt("ParaProcess");
+    m_paraProcess->InitializeMainWindow();
+    m_paraProcess->InitdefaultValue();
+    return true;
 }
 
 bool StartUp::readStartState()
 {
     m_store->GetMenuItem(MENU_ScreenLock, m_screenLock);
+    m_workMode = m_paraProcess->GetParaFromIndex(MENU_WorkMode);
     return true;
 }
 
+/// A fiber converter shows no home screen, so it has no way home and no lock either.
 bool StartUp::showHomeScreen()
 {
-    return notBuilt("MainWindow");
+    if (m_workMode == workModeFiber)
+        return true;
+    m_mainWindow->show();
+    if (m_screenLock.value == SELECTED)
+        m_mainWindow->SetLockState(PANEL_LOCK, false);
+    GlobalTimer::getInstance()->Initialize(m_mainWindow);
+    return true;
 }
 
 bool StartUp::connectApipc()
 {
-    return notBuilt("APiPCService");
+    m_apipc->ApipcInit();
+    return m_apipc->Initalize();
 }
 
 bool StartUp::startProto3rd()
 {
-    return notBuilt("Proto3rd");
+    return m_proto3rd->initialize();
 }
 
 bool StartUp::startProto4rd()
