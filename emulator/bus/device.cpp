@@ -119,10 +119,11 @@ bool Device::pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray 
 
 bool Device::reportAll()
 {
-    bool taken = true;
-    for (const RegisterReport &report : reports::atStart())
-        taken &= pushRead(report.address, report.bytes, 0, 0);
-    return taken;
+    const auto list = reports::atStart();
+    for (const RegisterReport &report : list)
+        QTimer::singleShot(report.afterMs, this,
+                           [this, report] { pushRead(report.address, report.bytes, 0, 0); });
+    return isJoined();
 }
 
 void Device::setHeartbeat(bool on)

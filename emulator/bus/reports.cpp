@@ -17,6 +17,7 @@ constexpr quint32 loadCabinet = 0x0FF00100;
 constexpr quint32 cabinetCount = 8;
 constexpr quint32 cabinetLoaded = 0x0FF00000;
 constexpr quint8 stableSignal = 3;
+constexpr int serviceStartMs = 300;
 constexpr quint16 period60Hz = 16667; ///< us
 
 /// HDMI 1 and 2, DVI, SDI, the second DVI, two OPT, mosaic, and the synchronisation reference, which ends the
@@ -80,7 +81,7 @@ QVector<RegisterReport> atStart()
     list.append({portLinks, QByteArray(1, 0x0f)});
     list.append({portLinks + portLinksStride, QByteArray(1, 0)});
     for (char service : {1, 2})
-        list.append({serviceUp, QByteArray(1, service)});
+        list.append({serviceUp, QByteArray(1, service), service * serviceStartMs});
     return list;
 }
 

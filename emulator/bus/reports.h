@@ -8,6 +8,8 @@
 struct RegisterReport {
     quint32 address;
     QByteArray bytes;
+    int afterMs =
+        0; ///< a receiver keeps only the newest of two reports of one register, so they need a pause
 };
 
 namespace reports
