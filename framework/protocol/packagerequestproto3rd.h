@@ -29,6 +29,7 @@ public:
     /// Fills an empty package from a received frame. False, and nothing changes, on a bad checksum.
     bool unPackageReply(const QByteArray &frame, bool = false);
 
+    bool getFlag() const { return m_flag; }
     const QString &getPortName() const { return m_portName; }
     unsigned char getDeviceType() const { return m_deviceType; }
     unsigned char getPort() const { return m_port; }
