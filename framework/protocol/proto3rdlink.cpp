@@ -3,8 +3,9 @@
 #include "framework/paraprocess.h"
 #include "framework/protocol/packagehandler.h"
 #include "framework/protocol/proto3rd.h"
+#include "framework/protocol/proto3rdreceiveparse.h"
 #include "framework/protocol/proto3rdsend.h"
-#include "framework/protocol/reportreader.h"
+#include "framework/protocol/receive/reportdispatch.h"
 #include "widget/mainwindow_k2860.h"
 
 namespace VASK
@@ -28,7 +29,9 @@ int Proto3rd::initialize()
         [this](bool finishing) { slot_notifyThreadFun(finishing); });
     m_notifyThread->start();
     qDebug() << "create m_pMessageHandler";
-    m_pMessageHandler = std::make_unique<PackageHandler>(readReport);
+    // The readers of the reports are made here, on this thread, before the first report needs them.
+    Proto3rdReceiveParse::getInstance();
+    m_pMessageHandler = std::make_unique<PackageHandler>(dispatchReport);
     m_pMessageHandler->start();
     qDebug() << "create m_pMessageHandler end";
     m_pParaProcess = poolObject<ParaProcess>(ENUM_PARAPROCESS);
