@@ -1,0 +1,44 @@
+// A row with parts side by side that the cursor walks through before it leaves the row: the page and the row
+// share the movement, and the row takes off the speed what it used inside. GUI thread.
+#pragma once
+
+#include "widget/menurow.h"
+
+#include <QList>
+
+namespace VASK
+{
+class PartsRow : public MenuRow
+{
+    Q_OBJECT
+public:
+    using MenuRow::MenuRow;
+
+    using VaskUiObject::DownEntry;
+    using VaskUiObject::UpEntry;
+    void UpEntry(ENUM_MenuIndex index, unsigned char &speed, bool first) override;
+    void DownEntry(ENUM_MenuIndex index, unsigned char &speed, bool last) override;
+
+protected:
+    void setParts(const QList<QWidget *> &parts) { m_parts = parts; }
+    /// Gives the focus to a part, from 1; 0 takes it from all.
+    bool setfocus(int part);
+    int partCount() const { return m_parts.size(); }
+    /// The item that a part stands for.
+    ENUM_MenuIndex itemOfPart(ENUM_MenuIndex index) const
+    {
+        return ENUM_MenuIndex(index + m_currentItem - 1);
+    }
+    /// Logs that OK was pressed, and on what; false while no part has the focus.
+    bool logEnter(ENUM_MenuIndex index) const;
+    virtual const char *className() const = 0;
+
+    /// The part that has the focus, from 1; 0 for none.
+    int m_currentItem = 0;
+
+private:
+    void focus(int part);
+
+    QList<QWidget *> m_parts;
+};
+} // namespace VASK

@@ -1,0 +1,56 @@
+#include "widget/typeapply.h"
+
+#include "widget/language.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace VASK
+{
+namespace
+{
+QString buttonStyle(bool enabled)
+{
+    const QString colour = enabled ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c");
+    return QStringLiteral("QPushButton{border-style: inset;border-radius:4px;color: %1; "
+                          "border: 1px solid #3939ad;background-color:rgba(0,0,0,0)}"
+                          "QPushButton:focus{background:#3939ad; color: %1;outline: none;}")
+        .arg(colour);
+}
+} // namespace
+
+typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : MenuRow(menuIndex, objectIndex)
+{
+    constexpr QSize size(128, 32); // pixels
+    setStyleSheet(QStringLiteral("background-color: rgba(0, 0, 0, 0);"));
+    m_button = new QPushButton(this);
+    m_button->setObjectName(m_item.tag);
+    m_button->setFixedSize(size);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addWidget(m_button);
+    layout->addStretch();
+    redraw();
+}
+
+void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
+{
+    if (on != 0)
+        m_button->setFocus();
+    else
+        m_button->clearFocus();
+}
+
+void typeapply::redraw()
+{
+    m_button->setText(translated(m_item.tag));
+    m_button->setStyleSheet(buttonStyle(m_item.enable));
+}
+
+void typeapply::takeValue(ENUM_MenuIndex, const QString &, ENUM_MODE_SET_XML)
+{
+    redraw();
+}
+} // namespace VASK

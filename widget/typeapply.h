@@ -1,0 +1,27 @@
+// A push button in the middle of its row; it looks pressed while the cursor stands on it. GUI thread.
+#pragma once
+
+#include "widget/menurow.h"
+
+class QPushButton;
+
+namespace VASK
+{
+class typeapply : public MenuRow
+{
+    Q_OBJECT
+public:
+    typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    using VaskUiObject::EnterEntry;
+    void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+    void ChangeStyleEntry(ENUM_MenuIndex index, unsigned char on) override;
+
+protected:
+    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
+    void redraw() override;
+
+private:
+    QPushButton *m_button = nullptr;
+};
+} // namespace VASK
