@@ -70,6 +70,12 @@ Item entry(ENUM_MenuIndex index, const QString &tag)
     return Item(index, tag, {}, iconArrow);
 }
 
+/// A part of the device in the self test: opens its details on one page and tells its state on another.
+Item checkedPart(ENUM_MenuIndex index, const QString &tag)
+{
+    return Item(index, tag, "正常", iconArrow);
+}
+
 /// A button that opens a dialog before it acts.
 Item question(ENUM_MenuIndex index, const QString &tag, const QString &value)
 {
@@ -437,7 +443,7 @@ Items inputExtraItems()
     return {
         entry(MENU_SDI_InputColor, "InputColor"),
         entry(MENU_SDI_Attributes, "Attributes"),
-        information(MENU_SDI_ColorSample, "ColorSample", "YCbCr 4:2:2"),
+        information(MENU_SDI_ColorSample, "ColorSample", "RGB 4:4:4"),
         entry(MENU_MosaicSplit, "MosaicSplit"),
         entry(MENU_MosaicBackup, "MosaicBackup"),
         number(MENU_SDI_Brightness, "Brightness", "0", "100", "1", "50"),
@@ -524,9 +530,9 @@ Items systemItems()
 {
     return {
         entry(MENU_SelfTest_ProgramVersion, "ProgramVersion"),
-        entry(MENU_SelfTest_FPGA, "FPGA"),
-        entry(MENU_SelfTest_ARM, "ARM"),
-        entry(MENU_SelfTest_MCU, "MCU"),
+        checkedPart(MENU_SelfTest_FPGA, "FPGA"),
+        checkedPart(MENU_SelfTest_ARM, "ARM"),
+        checkedPart(MENU_SelfTest_MCU, "MCU"),
         information(MENU_About_HardwareVersion, "HardwareVersion", ""),
         information(MENU_About_VersionValue, "", "V1.0.0.0"),
         information(MENU_About_OfficialWebsite, "OfficialWebsite", ""),
