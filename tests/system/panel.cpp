@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QDomDocument>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
@@ -19,6 +18,15 @@ constexpr int patienceMs = 90000;
 constexpr int patienceMs = 30000;
 #endif
 constexpr int lookMs = 10;
+const QString storeFile = "/usr/vask/etc/fpd/config/config.xml";
+
+QDomElement itemElement(const QDomDocument &store, int item)
+{
+    QDomElement element = store.documentElement().firstChildElement("Items");
+    while (!element.isNull() && element.attribute("Index").toInt() != item)
+        element = element.nextSiblingElement("Items");
+    return element;
+}
 
 QString buildFolder()
 {
@@ -154,18 +162,31 @@ QStringList Panel::logLines(const QString &text)
     return m_log.mid(m_mark).filter(text);
 }
 
+QDomDocument Panel::store() const
+{
+    QFile file(m_state + storeFile);
+    QDomDocument document;
+    if (file.open(QIODevice::ReadOnly))
+        document.setContent(&file);
+    return document;
+}
+
 QString Panel::stored(int item, const QString &field) const
 {
-    QFile file(m_state + "/usr/vask/etc/fpd/config/config.xml");
-    QDomDocument document;
-    if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
-        return QString();
-    for (QDomElement element = document.documentElement().firstChildElement("Items"); !element.isNull();
-         element = element.nextSiblingElement("Items")) {
-        if (element.attribute("Index").toInt() == item)
-            return element.firstChildElement(field).text();
-    }
-    return QString();
+    return itemElement(store(), item).firstChildElement(field).text();
+}
+
+bool Panel::setStored(int item, const QString &value, const QString &field)
+{
+    QDomDocument document = store();
+    QDomElement element = itemElement(document, item).firstChildElement(field);
+    QFile file(m_state + storeFile);
+    if (element.isNull() || !file.open(QIODevice::WriteOnly))
+        return false;
+    while (element.hasChildNodes())
+        element.removeChild(element.firstChild());
+    element.appendChild(document.createTextNode(value));
+    return file.write(document.toByteArray(4)) > 0;
 }
 
 QString Panel::damage()

@@ -4,6 +4,7 @@
 
 #include "tests/system/consoleclient.h"
 
+#include <QDomDocument>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -66,6 +67,9 @@ public:
     /// A field of an item in config.xml, as "Value".
     QString stored(int item, const QString &field = "Value") const;
 
+    /// Changes a field in config.xml, while the panel is off.
+    bool setStored(int item, const QString &value, const QString &field = "Value");
+
     QString statePath() const { return m_state; }
     QString file(const QString &boardPath) const { return m_state + boardPath; }
     /// What a sanitizer or a crash left behind, empty if nothing.
@@ -75,6 +79,7 @@ public:
 
 private:
     void readLog(int timeoutMs);
+    QDomDocument store() const;
 
     QTemporaryDir m_folder;
     QString m_state;
