@@ -1,0 +1,160 @@
+// The address row: number by number, the limits of each, the repair of an address, OK and ESC.
+
+#include "rowbench.h"
+#include "widget/typeipadjust.h"
+
+#include <QLabel>
+
+using namespace VASK;
+
+class TestIpAddressRow : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { m_bench.reset(new RowBench); }
+    void cleanup() { m_bench.reset(); }
+
+    void turning_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<QString>("end");
+        const int address = MENU_Net_IPAddress;
+        QTest::newRow("one unit a click") << address << "192.168.0.20" << 3 << 1 << "192.168.0.21";
+        QTest::newRow("first stops at 223") << address << "222.1.1.1" << 0 << 5 << "223.1.1.1";
+        QTest::newRow("first never 0") << address << "2.1.1.1" << 0 << -5 << "1.1.1.1";
+        QTest::newRow("last stops at 255") << address << "192.168.0.254" << 3 << 3 << "192.168.0.255";
+        QTest::newRow("last stops at 0") << address << "192.168.0.1" << 3 << -3 << "192.168.0.0";
+        QTest::newRow("broadcast") << address << "10.255.255.254" << 3 << 1 << "10.255.255.1";
+        QTest::newRow("network") << address << "10.0.0.1" << 3 << -1 << "10.0.0.1";
+        QTest::newRow("first of a mask stays")
+            << int(MENU_Net_SubnetMask) << "255.255.0.0" << 0 << -2 << "255.255.0.0";
+        QTest::newRow("second of a mask turns")
+            << int(MENU_Net_SubnetMask) << "255.255.0.0" << 1 << -1 << "255.254.0.0";
+        QTest::newRow("gateway is not repaired")
+            << int(MENU_Net_Gateway) << "10.0.0.1" << 3 << -1 << "10.0.0.0";
+    }
+    void turning()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, start);
+        QFETCH(int, number);
+        QFETCH(int, clicks);
+        const auto item = ENUM_MenuIndex(index);
+        prepare(item, start);
+        typeipadjust row(item, ENUM_OBJECT_END);
+        for (int ok = 0; ok <= number; ++ok)
+            row.EnterEntry(item);
+        unsigned char fast = 8;
+        for (int i = 0; i < qAbs(clicks); ++i)
+            clicks < 0 ? row.UpEntry(item, fast) : row.DownEntry(item, fast);
+        QTEST(m_bench->value(item), "end");
+        QTEST(shown(row), "end");
+    }
+
+    void okGoesRoundAndEscStartsOver()
+    {
+        prepare(MENU_Net_IPAddress, "192.168.0.20");
+        typeipadjust row(MENU_Net_IPAddress, ENUM_OBJECT_END);
+        QCOMPARE(marked(row), -1);
+        for (int expected : {0, 1, 2, 3, 0, 1}) {
+            row.EnterEntry(MENU_Net_IPAddress);
+            QCOMPARE(marked(row), expected);
+        }
+        row.EscEntry(MENU_Net_IPAddress, 1);
+        QCOMPARE(marked(row), -1);
+        row.EnterEntry(MENU_Net_IPAddress);
+        QCOMPARE(marked(row), 0);
+    }
+
+    void typing()
+    {
+        prepare(MENU_Net_IPAddress, "192.168.0.20");
+        typeipadjust row(MENU_Net_IPAddress, ENUM_OBJECT_END);
+        row.EnterEntry(MENU_Net_IPAddress);
+        RowBench::takeApplied();
+        row.NumberEntry(MENU_Net_IPAddress, 0);
+        QCOMPARE(shown(row), QString("0.168.0.20"));
+        row.NumberEntry(MENU_Net_IPAddress, 9);
+        row.NumberEntry(MENU_Net_IPAddress, 9);
+        QCOMPARE(shown(row), QString("99.168.0.20"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        row.EscEntry(MENU_Net_IPAddress, 1);
+        QCOMPARE(m_bench->value(MENU_Net_IPAddress), QString("99.168.0.20"));
+        row.EscEntry(MENU_Net_IPAddress, 1);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{MENU_Net_IPAddress});
+    }
+
+    void whatIsShown_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("automatic");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("legal") << "10.0.0.7"
+                               << "0"
+                               << "10.0.0.7";
+        QTest::newRow("first 0") << "0.0.0.7"
+                                 << "0"
+                                 << "127.0.0.1";
+        QTest::newRow("too large") << "10.0.0.256"
+                                   << "0"
+                                   << "127.0.0.1";
+        QTest::newRow("three numbers") << "10.0.0"
+                                       << "0"
+                                       << "127.0.0.1";
+        QTest::newRow("other separator") << "10-0-0-7"
+                                         << "0"
+                                         << "127.0.0.1";
+        QTest::newRow("automatic, known") << "10.0.0.7"
+                                          << "1"
+                                          << "10.0.0.7";
+        QTest::newRow("automatic, not known yet") << ""
+                                                  << "1"
+                                                  << " . . . ";
+        QTest::newRow("empty by hand") << ""
+                                       << "0"
+                                       << "127.0.0.1";
+    }
+    void whatIsShown()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, automatic);
+        prepare(MENU_Net_Gateway, stored);
+        m_bench->store().UpdataItemCurValue(MENU_Net_NetMode, automatic);
+        typeipadjust row(MENU_Net_Gateway, ENUM_OBJECT_END);
+        row.SetParaEntry(MENU_OWN, "", SET_XML_STORE);
+        QTEST(shown(row), "text");
+    }
+
+private:
+    void prepare(ENUM_MenuIndex index, const QString &address)
+    {
+        m_bench->edit(index, [&](ST_ItemInfo &item) {
+            item.value = address;
+            item.enable = true;
+        });
+    }
+    static QList<QLabel *> numbers(const QWidget &row) { return row.findChildren<QLabel *>("ipLineEdit"); }
+    static QString shown(const QWidget &row)
+    {
+        QStringList parts;
+        for (const QLabel *label : numbers(row))
+            parts << label->text();
+        return parts.join('.');
+    }
+    static int marked(const QWidget &row)
+    {
+        int at = -1;
+        for (int i = 0; i < numbers(row).size(); ++i)
+            if (numbers(row).at(i)->property("edit").toBool())
+                at = at < 0 ? i : 99;
+        return at;
+    }
+
+    std::unique_ptr<RowBench> m_bench;
+};
+
+QTEST_MAIN(TestIpAddressRow)
+#include "tst_ipaddressrow.moc"

@@ -1,0 +1,230 @@
+// Numbers under the knob: steps, limits, decimals, and what ESC and a report do to them.
+
+#include "rowbench.h"
+#include "widget/typefloatadjust.h"
+#include "widget/typeintadjust.h"
+
+#include <QLabel>
+
+using namespace VASK;
+
+namespace
+{
+// A whole number and a decimal that no rule of the engine limits.
+constexpr ENUM_MenuIndex whole = MENU_HDMI1_Brightness;
+constexpr ENUM_MenuIndex decimal = MENU_Color_Gamma;
+
+void setRange(RowBench &bench, ENUM_MenuIndex index, const QString &value, const QString &min,
+              const QString &max, const QString &step)
+{
+    bench.edit(index, [&](ST_ItemInfo &item) {
+        item.value = value;
+        item.min = min;
+        item.max = max;
+        item.step = step;
+        item.unit = " mm";
+        item.enable = true;
+    });
+}
+
+bool shows(const QWidget &row, const QString &text)
+{
+    for (const QLabel *label : row.findChildren<QLabel *>())
+        if (label->text() == text)
+            return true;
+    return false;
+}
+
+void turn(VaskUiObject &row, ENUM_MenuIndex index, int clicks)
+{
+    unsigned char speed = static_cast<unsigned char>(qAbs(clicks));
+    if (clicks < 0)
+        row.UpEntry(index, speed);
+    else
+        row.DownEntry(index, speed);
+}
+} // namespace
+
+class TestNumberRows : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { m_bench.reset(new RowBench); }
+    void cleanup() { m_bench.reset(); }
+
+    void wholeSteps_data()
+    {
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("one up") << "50" << 1 << "60";
+        QTest::newRow("fast up") << "50" << 3 << "80";
+        QTest::newRow("fast down") << "50" << -3 << "20";
+        QTest::newRow("onto the maximum, not beside it") << "95" << 2 << "97";
+        QTest::newRow("onto the minimum, not beside it") << "-5" << -8 << "-13";
+        QTest::newRow("through zero") << "5" << -1 << "-5";
+        QTest::newRow("at the maximum") << "97" << 1 << "97";
+    }
+    void wholeSteps()
+    {
+        QFETCH(QString, start);
+        QFETCH(int, clicks);
+        setRange(*m_bench, whole, start, "-13", "97", "10");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        turn(row, whole, clicks);
+        QTEST(m_bench->value(whole), "end");
+        QFETCH(QString, end);
+        QVERIFY(shows(row, end + " mm"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{whole});
+    }
+
+    void decimalSteps_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("one decimal") << "0.1" << 1 << "2.6";
+        QTest::newRow("fast") << "0.1" << -5 << "2.0";
+        QTest::newRow("two decimals") << "0.05" << 1 << "2.55";
+        QTest::newRow("a step without a point keeps one") << "1" << 1 << "3.5";
+        QTest::newRow("maximum") << "0.1" << 50 << "4.0";
+        QTest::newRow("minimum") << "0.1" << -50 << "1.0";
+    }
+    void decimalSteps()
+    {
+        QFETCH(QString, step);
+        QFETCH(int, clicks);
+        setRange(*m_bench, decimal, "2.5", "1.0", "4.0", step);
+        typefloatadjust row(decimal, ENUM_OBJECT_END);
+        turn(row, decimal, clicks);
+        QTEST(m_bench->value(decimal), "end");
+    }
+
+    void aThousandSmallStepsDoNotDrift()
+    {
+        setRange(*m_bench, decimal, "0.0", "0.0", "100.0", "0.1");
+        typefloatadjust row(decimal, ENUM_OBJECT_END);
+        for (int i = 0; i < 1000; ++i)
+            turn(row, decimal, 1);
+        QCOMPARE(m_bench->value(decimal), QString("100.0"));
+    }
+
+    void escKeepsAndAppliesAgain()
+    {
+        setRange(*m_bench, whole, "50", "0", "100", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        row.EnterEntry(whole, 0, 0);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        turn(row, whole, 4);
+        RowBench::takeApplied();
+        row.EscEntry(whole, 1);
+        QCOMPARE(m_bench->value(whole), QString("54"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{whole});
+        row.EscEntry(whole, 0);
+        row.EnterEntry(whole, 1, 0);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+    }
+
+    void typedDigits()
+    {
+        setRange(*m_bench, whole, "50", "0", "1920", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        row.NumberEntry(whole, 7);
+        QVERIFY(shows(row, "7 mm"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        row.EnterEntry(whole, 1, 1);
+        QCOMPARE(m_bench->value(whole), QString("7"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{whole});
+    }
+
+    void reports_data()
+    {
+        QTest::addColumn<QString>("reported");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<bool>("sentBack");
+        QTest::newRow("in range") << "40"
+                                  << "40" << false;
+        QTest::newRow("at the maximum") << "100"
+                                        << "100" << false;
+        QTest::newRow("above") << "101"
+                               << "100" << true;
+        QTest::newRow("below") << "-1"
+                               << "0" << true;
+    }
+    void reports()
+    {
+        QFETCH(QString, reported);
+        QFETCH(QString, shown);
+        QFETCH(bool, sentBack);
+        setRange(*m_bench, whole, "50", "0", "100", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        row.SetParaEntry(whole, reported, SET_XML_DEVICE);
+        QVERIFY(shows(row, shown + " mm"));
+        QCOMPARE(RowBench::takeApplied(), sentBack ? QList<int>{whole} : QList<int>{});
+    }
+
+    void storeModeStoresSilently()
+    {
+        setRange(*m_bench, whole, "50", "0", "100", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        row.SetParaEntry(whole, "60", SET_XML_STORE);
+        QCOMPARE(m_bench->value(whole), QString("60"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+    }
+
+    void anEmptyValueReloads()
+    {
+        setRange(*m_bench, whole, "50", "0", "100", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        setRange(*m_bench, whole, "70", "0", "100", "1");
+        m_bench->store().UpdataItemEnable(whole, false);
+        row.SetParaEntry(MENU_OWN, "", SET_XML_STORE);
+        QVERIFY(shows(row, "70 mm"));
+        QVERIFY(!row.isEnabled());
+        QCOMPARE(m_bench->value(whole), QString("70"));
+    }
+
+    void onlyTheRightEyeCanBeUnknown()
+    {
+        setRange(*m_bench, MENU_Mode3D_RightEyeStart, "50", "0", "100", "1");
+        typeintadjust row(MENU_Mode3D_RightEyeStart, ENUM_OBJECT_END);
+        row.SetParaEntry(MENU_OWN, "", SET_XML_DEVICE);
+        QCOMPARE(m_bench->value(MENU_Mode3D_RightEyeStart), QString());
+    }
+
+    void ownIndexOrNothing()
+    {
+        setRange(*m_bench, whole, "50", "0", "100", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        row.SetParaEntry(MENU_OWN_ALT, "30", SET_XML_USER);
+        QCOMPARE(m_bench->value(whole), QString("30"));
+        RowBench::takeApplied();
+        typeintadjust nobody(MENU_OWN, ENUM_OBJECT_END);
+        nobody.SetParaEntry(MENU_OWN, "31", SET_XML_USER);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+    }
+
+    void aReportFromAnotherThreadIsDrawnOnThisOne()
+    {
+        setRange(*m_bench, whole, "50", "0", "100", "1");
+        typeintadjust row(whole, ENUM_OBJECT_END);
+        std::unique_ptr<QThread> reports(QThread::create([&] {
+            m_bench->store().UpdataItemCurValue(whole, "61");
+            row.SetParaEntry(whole, "61", SET_XML_DEVICE);
+        }));
+        reports->start();
+        QVERIFY(reports->wait()); // posted, not waited for: this thread runs no events meanwhile
+        QVERIFY(shows(row, "50 mm"));
+        // What the knob has set in the meantime is newer than the report.
+        m_bench->store().UpdataItemCurValue(whole, "62");
+        QCoreApplication::processEvents();
+        QVERIFY(shows(row, "62 mm"));
+        QCOMPARE(m_bench->value(whole), QString("62"));
+    }
+
+private:
+    std::unique_ptr<RowBench> m_bench;
+};
+
+QTEST_MAIN(TestNumberRows)
+#include "tst_numberrows.moc"

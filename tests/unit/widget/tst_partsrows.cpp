@@ -1,0 +1,147 @@
+// Rows with parts: how the cursor comes in, walks and leaves, and what OK acts on; and the rows that only
+// act.
+
+#include "rowbench.h"
+#include "widget/typeapplyreset.h"
+#include "widget/typecheckitem.h"
+#include "widget/typefourpic.h"
+#include "widget/typetwostringcombox.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+using namespace VASK;
+
+namespace
+{
+/// Moves the cursor inside a row and gives the speed that is left for the page.
+int walk(VaskUiObject &row, ENUM_MenuIndex index, int clicks, bool end = false)
+{
+    auto speed = static_cast<unsigned char>(qAbs(clicks));
+    if (clicks < 0)
+        row.UpEntry(index, speed, end);
+    else
+        row.DownEntry(index, speed, end);
+    return speed;
+}
+} // namespace
+
+class TestPartsRows : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { m_bench.reset(new RowBench); }
+    void cleanup() { m_bench.reset(); }
+
+    void walking_data()
+    {
+        QTest::addColumn<QList<int>>("before"); // clicks that bring the cursor to its start
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<bool>("end");
+        QTest::addColumn<int>("left");
+        QTest::addColumn<int>("applied"); // 0: the cursor has left the row
+        const int apply = MENU_Mosaic_Apply;
+        const int reset = apply + 1;
+        QTest::newRow("in from the left") << QList<int>{} << 1 << false << 0 << apply;
+        QTest::newRow("in from the right") << QList<int>{} << -1 << false << 0 << reset;
+        QTest::newRow("in by two from the left") << QList<int>{} << 2 << false << 0 << reset;
+        QTest::newRow("in by two from the right") << QList<int>{} << -2 << false << 0 << apply;
+        QTest::newRow("to the second part") << QList<int>{1} << 1 << false << 0 << reset;
+        QTest::newRow("out to the left") << QList<int>{1} << -1 << false << 1 << 0;
+        QTest::newRow("out to the right") << QList<int>{-1} << 1 << false << 1 << 0;
+        QTest::newRow("fast out to the left") << QList<int>{-1} << -3 << false << 2 << 0;
+        QTest::newRow("fast out to the right") << QList<int>{1} << 4 << false << 3 << 0;
+        QTest::newRow("first row of the page") << QList<int>{1} << -3 << true << 0 << apply;
+        QTest::newRow("last row of the page") << QList<int>{-1} << 3 << true << 0 << reset;
+    }
+    void walking()
+    {
+        QFETCH(QList<int>, before);
+        QFETCH(int, clicks);
+        QFETCH(bool, end);
+        QFETCH(int, applied);
+        typeapplyreset row(MENU_Mosaic_Apply, ENUM_OBJECT_END);
+        for (int move : before)
+            walk(row, MENU_Mosaic_Apply, move);
+        QTEST(walk(row, MENU_Mosaic_Apply, clicks, end), "left");
+        row.EnterEntry(MENU_Mosaic_Apply);
+        QCOMPARE(RowBench::takeApplied(), applied ? QList<int>{applied} : QList<int>{});
+        const auto *focused = qobject_cast<QPushButton *>(row.focusWidget());
+        const QList<QPushButton *> buttons = row.findChildren<QPushButton *>();
+        QCOMPARE(focused ? MENU_Mosaic_Apply + buttons.indexOf(const_cast<QPushButton *>(focused)) : 0,
+                 applied);
+    }
+
+    void fourPicturesActOnTheRowItself()
+    {
+        typefourpic row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
+        walk(row, MENU_Test_CustomPictures, 3);
+        row.EnterEntry(MENU_Test_CustomPictures);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{MENU_Test_CustomPictures});
+        QCOMPARE(walk(row, MENU_Test_CustomPictures, 2), 1);
+    }
+
+    void aReloadBringsTheCursorToThePictureInForce()
+    {
+        m_bench->store().UpdataItemCurValue(MENU_Test_CustomPictures, "3");
+        typefourpic row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
+        row.SetParaEntry(MENU_OWN, "", SET_XML_DEVICE);
+        QCOMPARE(walk(row, MENU_Test_CustomPictures, 2), 1); // the fourth, then one row on
+    }
+
+    void theNameOfAPairIsNeverFocused()
+    {
+        typetwostringcombox row(MENU_InputBackup_Status, ENUM_OBJECT_END);
+        for (int clicks : {1, 1, -1, -1, 8, -8}) {
+            walk(row, MENU_InputBackup_Status, clicks);
+            QVERIFY(!row.focusWidget() || row.focusWidget()->objectName() == "Btn");
+        }
+    }
+
+    void theTickOfASlowChangeComesFirst_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<bool>("first");
+        QTest::newRow("sending card") << int(MENU_SendingCard) << true;
+        QTest::newRow("fiber converter") << int(MENU_FiberConverter) << false;
+    }
+    void theTickOfASlowChangeComesFirst()
+    {
+        QFETCH(int, index);
+        QFETCH(bool, first);
+        const auto item = ENUM_MenuIndex(index);
+        m_bench->store().UpdataItemCurChoice(item, UNSELECTED);
+        typecheckitem row(item, ENUM_OBJECT_END);
+        row.show();
+        static typecheckitem *watched;
+        static int ticksAtWork;
+        watched = &row;
+        ticksAtWork = -1;
+        static QtMessageHandler previous;
+        previous =
+            qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &c, const QString &text) {
+                if (text.startsWith("index =="))
+                    ticksAtWork = ticks(*watched);
+                previous(type, c, text);
+            });
+        const int before = ticks(row);
+        row.EnterEntry(item);
+        qInstallMessageHandler(previous);
+        QCOMPARE(ticksAtWork - before, first ? 1 : 0);
+        QCOMPARE(ticks(row) - before, 1);
+    }
+
+private:
+    static int ticks(const QWidget &row)
+    {
+        int shown = 0;
+        for (const QLabel *label : row.findChildren<QLabel *>())
+            shown += label->isVisible() && label->text().isEmpty();
+        return shown;
+    }
+
+    std::unique_ptr<RowBench> m_bench;
+};
+
+QTEST_MAIN(TestPartsRows)
+#include "tst_partsrows.moc"
