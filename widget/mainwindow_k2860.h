@@ -75,7 +75,6 @@ public:
     void keypadLockEvent(VASK::KeypadEvent *event);
 
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
     static VASK::MenuDirectory *m_pMainMenu;
     static VASK::MenuDirectory *m_pUserHideMenu;
@@ -118,7 +117,6 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     bool findMenus();
@@ -145,7 +143,7 @@ private:
     void openMainMenu(VASK::KeypadEvent *event);
     void openUserMenu(VASK::KeypadEvent *event);
     void openProductMenu(VASK::KeypadEvent *event);
-    void openMenu(VASK::MenuDirectory *menu, VASK::ENUM_ObjectIndex object);
+    void openMenu(VASK::ENUM_ObjectIndex object);
     void startFactoryTest(VASK::KeypadEvent *event);
 
     /// Runs a message and destroys it; its result, or -1 if there is no such message.

@@ -2,10 +2,12 @@
 
 #include "widget/mainwindow_k2860.h"
 
+#include "framework/globaltimer.h"
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
 #include "framework/transport.h"
 #include "widget/dialog_factory.h"
+#include "widget/lock.h"
 #include "widget/mainwindowui.h"
 #include "widget/menudirectoty.h"
 #include "widget/panelkeys.h"
@@ -48,15 +50,11 @@ bool MainWindow::event(QEvent *event)
     return keyEvent(key);
 }
 
-bool MainWindow::eventFilter(QObject *watched, QEvent *event)
-{
-    return VaskUiObject::eventFilter(watched, event);
-}
-
 bool MainWindow::keyEvent(KeypadEvent *event)
 {
     if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || Factory::m_cur_step != FACTORY_STEP_NONE)
         return false;
+    GlobalTimer::getInstance()->ResetReturnToMain();
     if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
         store->restartUpdateTimer();
     if (m_bLockFlag && event->key() != KEY_LOCK) {
@@ -89,21 +87,22 @@ void MainWindow::openMainMenu(KeypadEvent *)
 {
     qDebug() << "m_pMainMenu" << m_pMainMenu << "m_pUserHideMenu" << m_pUserHideMenu << "m_pProductHideMenu"
              << m_pProductHideMenu;
-    openMenu(m_pMainMenu, ENUM_MAIN_MENU);
+    openMenu(ENUM_MAIN_MENU);
 }
 
 void MainWindow::openUserMenu(KeypadEvent *)
 {
-    openMenu(m_pUserHideMenu, ENUM_USER_HIDE_MENU);
+    openMenu(ENUM_USER_HIDE_MENU);
 }
 
 void MainWindow::openProductMenu(KeypadEvent *)
 {
-    openMenu(m_pProductHideMenu, ENUM_PRODUCT_HIDE_MENU);
+    openMenu(ENUM_PRODUCT_HIDE_MENU);
 }
 
-void MainWindow::openMenu(MenuDirectory *menu, ENUM_ObjectIndex object)
+void MainWindow::openMenu(ENUM_ObjectIndex object)
 {
+    auto *menu = poolObject<MenuDirectory>(object);
     if (!menu)
         return;
     menu->m_pparerentdirectory = this;
@@ -133,6 +132,7 @@ bool MainWindow::SetLockState(ENUM_MainWindowLockState state, bool showDialog)
     if (!locked && !m_bLockFlag)
         return true;
     ui->labLock->setVisible(locked);
+    lockDialog()->SetLockState(locked);
     m_bLockFlag = locked;
     if (!locked && lock_mode) {
         // What came in meanwhile went past the menu.
@@ -161,14 +161,26 @@ void MainWindow::storeLockState(ENUM_MainWindowLockState state)
 
 Lock *MainWindow::lockDialog()
 {
+    if (!m_lockDialog)
+        m_lockDialog = new Lock(this);
     return m_lockDialog;
 }
 
-void MainWindow::showLockDialog() {}
-
-void MainWindow::slot_cancelLockDialog() {}
-
-void MainWindow::showEvent(QShowEvent *event)
+void MainWindow::showLockDialog()
 {
-    VaskUiObject::showEvent(event);
+    lockDialog()->show();
+    lockDialog()->raise();
+    // Every key starts the two seconds again.
+    if (!m_lockTimer) {
+        m_lockTimer = new QTimer(this);
+        m_lockTimer->setSingleShot(true);
+        connect(m_lockTimer, &QTimer::timeout, this, &MainWindow::slot_cancelLockDialog);
+    }
+    m_lockTimer->start(lockDialogMs);
+}
+
+void MainWindow::slot_cancelLockDialog()
+{
+    if (m_lockDialog)
+        m_lockDialog->hide();
 }

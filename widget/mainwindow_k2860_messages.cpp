@@ -36,14 +36,26 @@ constexpr qint8 stableSignal = 3;
 
 int MainWindow::runMessage(ENUM_MenuIndex index)
 {
-    qDebug() << "qDialog create faild! index:" << int(index);
-    return -1;
+    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    const std::unique_ptr<QDialog> message(engine ? engine->CreateDialog(index, QString()) : nullptr);
+    if (!message) {
+        qDebug() << "qDialog create faild! index:" << int(index);
+        return -1;
+    }
+    return message->exec();
 }
 
-QDialog *MainWindow::openMessage(ENUM_MenuIndex index, const QString &)
+QDialog *MainWindow::openMessage(ENUM_MenuIndex index, const QString &text)
 {
-    qDebug() << "qDialog create faild! index:" << int(index);
-    return nullptr;
+    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    QDialog *message = engine ? engine->CreateDialog(index, text) : nullptr;
+    if (!message) {
+        qDebug() << "qDialog create faild! index:" << int(index);
+        return nullptr;
+    }
+    message->setAttribute(Qt::WA_DeleteOnClose);
+    message->show();
+    return message;
 }
 
 void MainWindow::slot_SetWinodwState(qint32 window, qint32 state)

@@ -13,7 +13,8 @@ const char valueStyle[] = "*{font-family: \"Arial\";font-size: 16px;lineHeight:8
 const char windowStyle[] = "*{font-family: \"Arial\";font-size: 15px; font-weight:bold;color:#2d91aa;}"
                            "#WinState[switch=true]{color:#2d91aa;}#WinState[switch=false]{color:#1c4a55;}";
 const char syncStyle[] = "*{font-family: \"Arial\";font-size: 12px; font-weight:bold;color:#888796;}"
-                         "#SyncState[switch=true]{color:#888796;}#SyncState[switch=false]{color:#525252;}";
+                         "#SyncState[switch=true]{color:#888796;}#SyncState[switch=false]{color:#525252;}"
+                         "#labSynName[switch=false]{color:#525252;}";
 
 const char switchProperty[] = "switch";
 
@@ -58,7 +59,7 @@ void Ui_MainWindow::setupUi(QWidget *window)
         {&labNet[4], "labNet5", {103, 208, 24, 21}, "", centre},
         {&labNet[5], "labNet6", {143, 208, 24, 21}, "", centre},
         {&labSyn, "SyncState", {216, 175, 70, 24}, "", centre},
-        {&labSynName, "SyncState", {216, 177, 69, 20}, "", centre},
+        {&labSynName, "labSynName", {216, 177, 69, 20}, "", centre},
         {&labTestMode, "labTestMode", {194, 208, 46, 30}, "", centre},
         {&labConnectState, "labConnectState", {268, 208, 46, 30}, "", centre},
     };

@@ -5,6 +5,7 @@
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
 #include "widget/dialog_factory.h"
+#include "widget/dialog_msgbox.h"
 #include "widget/directoryengineer.h"
 #include "widget/rowkinds.h"
 
@@ -46,8 +47,7 @@ QDialog *MenuDirectory::CreateDialog(ENUM_MenuIndex index)
     constexpr int messageType = 2;
     if (!message.enabled || message.type != messageType)
         return nullptr;
-    qDebug() << "no message box for" << message.text;
-    return nullptr;
+    return new dialog_msgBox(this, message.text, message.buttonType, unsigned(message.timeMs), QString());
 }
 
 /// False if the user was asked and said no.

@@ -2,6 +2,7 @@
 
 #include "widget/menudirectoty.h"
 
+#include "framework/globaltimer.h"
 #include "framework/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/panelkeys.h"
@@ -52,6 +53,7 @@ bool MenuDirectory::event(QEvent *event)
 void MenuDirectory::keyEvent(KeypadEvent *event)
 {
     qDebug() << "MenuDirectory: key:" << event->key() << "type:" << event->type();
+    GlobalTimer::getInstance()->ResetReturnToMain();
     if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
         store->restartUpdateTimer();
 
