@@ -1,0 +1,258 @@
+// The menu as a user meets it, with rows that note what a page asks of them: a store with the factory items,
+// the engine, the home screen, all pages that are built at start, and a protocol object that notes what is
+// sent. Speaks like a user: press a key, turn the knob, look which screen is shown.
+#pragma once
+
+#include "boardio.h"
+#include "framework/menuanalysis.h"
+#include "framework/menushown.h"
+#include "framework/paraprocess.h"
+#include "framework/protocol/protocolinterface.h"
+#include "framework/transport.h"
+#include "widget/mainwindow_k2860.h"
+#include "widget/menudirectoty.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+namespace VASK
+{
+inline QStringList &notes()
+{
+    static QStringList lines;
+    return lines;
+}
+
+/// Notes every call as a line such as "Up 1 speed 3"; with parts, the cursor walks through them.
+class NotingRow : public VaskUiObject
+{
+public:
+    explicit NotingRow(ENUM_ObjectIndex object) : VaskUiObject(object) {}
+
+    bool CurrentItemEnabled() override { return optionEnabled; }
+    void EnterEntry(ENUM_MenuIndex i, QWidget *, unsigned char edit, unsigned char) override
+    {
+        note("List", i, edit);
+    }
+    void EnterEntry(ENUM_MenuIndex i, unsigned char edit, unsigned char entered) override
+    {
+        note("Number", i, edit, entered);
+    }
+    void EnterEntry(ENUM_MenuIndex i) override { note("Enter", i); }
+    void UpdateTagName(ENUM_MenuIndex i, QString name) override { note("Tag", i, name); }
+    void UpdateALLUI(ENUM_MenuIndex i) override { note("Reload", i); }
+    void EscEntry(ENUM_MenuIndex i) override { note("EscList", i); }
+    void EscEntry(ENUM_MenuIndex i, unsigned char entered) override { note("Esc", i, entered); }
+    void UpEntry(ENUM_MenuIndex i) override { note("Up", i); }
+    void UpEntry(ENUM_MenuIndex i, unsigned char &speed) override
+    {
+        note(MenuDirectory::RotateFlg ? "UpTurned" : "Up", i, speed);
+    }
+    void UpEntry(ENUM_MenuIndex, unsigned char &speed, bool first) override { walk(speed, -1, first); }
+    void DownEntry(ENUM_MenuIndex i) override { note("Down", i); }
+    void DownEntry(ENUM_MenuIndex i, unsigned char &speed) override
+    {
+        note(MenuDirectory::RotateFlg ? "DownTurned" : "Down", i, speed);
+    }
+    void DownEntry(ENUM_MenuIndex, unsigned char &speed, bool last) override { walk(speed, 1, last); }
+    void ChangeStyleEntry(ENUM_MenuIndex i, unsigned char on) override { note("Style", i, on); }
+    void SetParaEntry(ENUM_MenuIndex i, QString value, ENUM_MODE_SET_XML mode) override
+    {
+        note("Set", i, value, int(mode));
+    }
+
+    bool optionEnabled = true;
+    int parts = 2;
+    int part = 0; ///< 1 to parts, 0 none
+
+private:
+    template <class... Values> void note(const char *what, ENUM_MenuIndex index, Values... values)
+    {
+        QStringList words{QString(what), QString::number(int(index))};
+        (words.append(QVariant(values).toString()), ...);
+        notes() << words.join(' ');
+    }
+    void walk(unsigned char &speed, int direction, bool end)
+    {
+        const int outermost = direction < 0 ? 1 : parts;
+        if (end && part == outermost) {
+            speed = 0;
+            return;
+        }
+        if (part == 0)
+            part = direction < 0 ? parts + 1 : 0;
+        for (; speed; --speed) {
+            part += direction;
+            if (part < 1 || part > parts) {
+                part = 0;
+                return;
+            }
+        }
+    }
+};
+
+class NotingProtocol : public ProtocolInterface
+{
+public:
+    NotingProtocol() : ProtocolInterface(ENUM_PROTOCOINTERFER_3RD) {}
+    void slot_ValueChanged(QString value, ENUM_MenuIndex index) override
+    {
+        sent << QString("%1=%2").arg(int(index)).arg(value);
+    }
+    QStringList sent;
+};
+
+class PageRig : public QObject
+{
+public:
+    PageRig()
+    {
+        qputenv("FPD_STATE", m_state.path().toLocal8Bit());
+        for (const char *folder : {"/usr/vask/etc/fpd/config", "/etc/init.d"})
+            QDir().mkpath(m_state.path() + folder);
+        enter(ENUM_MENUANALYSIS, store = new MenuAnalysis(ENUM_MENUANALYSIS));
+        store->initlize();
+        enter(ENUM_TRANSPORT, new transport(ENUM_TRANSPORT));
+        enter(ENUM_PROTOCOINTERFER_3RD, device = new NotingProtocol);
+        enter(ENUM_PARAPROCESS, engine = new ParaProcess(ENUM_PARAPROCESS));
+        enter(ENUM_MAIN_WINDOW, home = new MainWindow(ENUM_MAIN_WINDOW));
+        for (ENUM_ConfigIndex config : builtPages())
+            enter(g_config[config].object, makePage(g_config[config], config));
+        connect(&m_closer, &QTimer::timeout, this, [this] { answerMessage(); });
+        m_closer.start(0);
+    }
+
+    /// A page with noting rows.
+    static MenuDirectory *makePage(const ST_MenuConfig &info, ENUM_ConfigIndex config = CONFIG_END)
+    {
+        for (const st_MenuItemInfo &row : info.rowsMap)
+            enter(row.itemObject, new NotingRow(row.itemObject));
+        auto *page = new MenuDirectory(info.object);
+        page->SetTitleInfo(info.width, info.rows, info.title, info.styleSheet, info.englishStyleSheet);
+        page->InsertMenuItem(info.rowsMap);
+        page->BuildMenuDirectory(config);
+        return page;
+    }
+
+    /// The home screen alone, the cursor of every page at the top, the factory items.
+    void reset()
+    {
+        for (auto item = g_MenuXmlConfig.cbegin(); item != g_MenuXmlConfig.cend(); ++item) {
+            ST_ItemInfo factory = item.value();
+            store->updataMenuItem(item.key(), factory);
+        }
+        MenuDirectory::hideAllPages();
+        for (ENUM_ConfigIndex config : builtPages()) {
+            MenuDirectory *shown = page(g_config[config].object);
+            if (shown->isEditing())
+                shown->keypadEScEvent(nullptr);
+            shown->setRowCount(g_config[config].rows);
+            shown->setCurrentRow(0);
+        }
+        MenuDirectory::setCurrentPage(ENUM_MAIN_MENU);
+        MenuDirectory::bSetScreenBrightness = false;
+        home->show();
+        notes().clear();
+        device->sent.clear();
+        messages.clear();
+        answer = 1;
+    }
+
+    static MenuDirectory *page(ENUM_ObjectIndex object) { return poolObject<MenuDirectory>(object); }
+    static NotingRow *row(ENUM_ObjectIndex object) { return poolObject<NotingRow>(object); }
+    void set(ENUM_MenuIndex item, const QString &value)
+    {
+        if (item >= PARA_CabinetWidth)
+            engine->SaveProcessData(value, item);
+        else
+            store->UpdataItemCurValue(item, value);
+    }
+
+    /// A page opened as by OK on the home screen and below, without walking there.
+    static MenuDirectory *open(ENUM_ObjectIndex object, QWidget *parent)
+    {
+        MenuDirectory *shown = page(object);
+        shown->m_pparerentdirectory = parent;
+        parent->hide();
+        shown->show();
+        MenuDirectory::setCurrentPage(object);
+        return shown;
+    }
+
+    // The keypad: short press, long press, knob, to whatever is shown.
+    void press(unsigned char key)
+    {
+        send(KEY_PRESSED, key, 1);
+        send(KEY_RELEASED, key, 1);
+    }
+    void hold(unsigned char key) { send(KEY_LONG_PRESS, key, 1); }
+    void turn(int rows)
+    {
+        send(KEY_PRESSED, rows < 0 ? KEY_KNOB_LEFT : KEY_KNOB_RIGHT, static_cast<unsigned char>(qAbs(rows)));
+    }
+    void send(KEY_TYPE type, unsigned char key, unsigned char speed)
+    {
+        KeypadEvent event(type, key, speed, type == KEY_LONG_PRESS);
+        QCoreApplication::sendEvent(shown(), &event);
+    }
+
+    /// The one screen that is visible; null if there is none or more than one.
+    QWidget *shown() const
+    {
+        QWidget *visible = nullptr;
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget *window : windows) {
+            if (!window->isVisible() || (window != home && !dynamic_cast<MenuDirectory *>(window)))
+                continue;
+            if (visible)
+                return nullptr;
+            visible = window;
+        }
+        return visible;
+    }
+    /// From the screen that is shown up to the home screen, by ESC: the pool's numbers.
+    QList<int> wayHome()
+    {
+        QList<int> way;
+        for (int step = 0; step < 10; ++step) {
+            auto *visible = dynamic_cast<VaskObject *>(shown());
+            ENUM_ObjectIndex number = ENUM_OBJECT_END;
+            if (!visible || !visible->GetObectIndex(number))
+                return {};
+            way << number;
+            if (visible == home)
+                return way;
+            press(KEY_ESC);
+        }
+        return way;
+    }
+
+    MenuAnalysis *store = nullptr;
+    ParaProcess *engine = nullptr;
+    MainWindow *home = nullptr;
+    NotingProtocol *device = nullptr;
+    QStringList messages; ///< the texts of the message boxes that came up
+    int answer = 1;       ///< of every one of them
+
+private:
+    static void enter(ENUM_ObjectIndex index, VaskObject *object)
+    {
+        ObjectPool::getInstance()->InsertData(index, object);
+    }
+    void answerMessage()
+    {
+        auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        const auto *text = box->findChild<QLabel *>("lab_Info");
+        messages << (text ? text->text() : QString());
+        box->done(answer);
+    }
+
+    QTemporaryDir m_state;
+    QTimer m_closer;
+};
+} // namespace VASK
