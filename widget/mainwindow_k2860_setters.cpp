@@ -5,6 +5,7 @@
 
 #include "framework/handover.h"
 #include "menuconfig_k2860.h"
+#include "widget/language.h"
 #include "widget/mainwindowui.h"
 #include "widget/menudirectoty.h"
 
@@ -29,11 +30,6 @@ template <size_t count> const char *fileOf(const char *const (&files)[count], in
         return files[state];
     qDebug() << failure << state;
     return nullptr;
-}
-
-QString translated(const QString &key)
-{
-    return QCoreApplication::translate("MainWindow", key.toUtf8().constData());
 }
 } // namespace
 

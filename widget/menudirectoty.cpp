@@ -3,8 +3,7 @@
 #include "widget/menudirectoty.h"
 
 #include "framework/handover.h"
-#include "framework/menuanalysis.h"
-#include "widget/rowkinds.h"
+#include "widget/language.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -26,14 +25,6 @@ constexpr int laterTitlePixels = 14;
 const QString commonEnglishStyle =
     QStringLiteral("*{font-family: \"Arial\";font-size: 20px;color: #b8b4cc;background-color:rgba(0,0,0,0);}"
                    "QTableWidget::item:selected{background:rgba(39,25,99);}");
-
-bool isEnglish()
-{
-    QString choice;
-    if (const auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
-        store->GetItemCurChoice(MENU_LanguageEn, choice);
-    return choice == SELECTED;
-}
 
 QString titleStyle(bool english, int pixels)
 {
@@ -125,8 +116,8 @@ void MenuDirectory::initialize()
 
 void MenuDirectory::setLanguageStyle(int titlePixels)
 {
-    const bool english = isEnglish();
-    m_titleLabel->setText(QCoreApplication::translate("MainWindow", m_title.toUtf8().constData()));
+    const bool english = englishChosen();
+    m_titleLabel->setText(translated(m_title));
     m_titleLabel->setStyleSheet(titleStyle(english, titlePixels));
     // A style goes to every widget of the page again: only when it differs.
     const QString &style = english ? m_englishStyle : m_style;

@@ -9,6 +9,7 @@
 #include "framework/paraprocess.h"
 #include "framework/protocol/protocolinterface.h"
 #include "framework/transport.h"
+#include "widget/directoryengineer.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/menudirectoty.h"
 
@@ -108,7 +109,8 @@ public:
 class PageRig : public QObject
 {
 public:
-    PageRig()
+    enum Rows { Noting, Real };
+    explicit PageRig(Rows rows = Noting)
     {
         qputenv("FPD_STATE", m_state.path().toLocal8Bit());
         for (const char *folder : {"/usr/vask/etc/fpd/config", "/etc/init.d"})
@@ -119,8 +121,11 @@ public:
         enter(ENUM_PROTOCOINTERFER_3RD, device = new NotingProtocol);
         enter(ENUM_PARAPROCESS, engine = new ParaProcess(ENUM_PARAPROCESS));
         enter(ENUM_MAIN_WINDOW, home = new MainWindow(ENUM_MAIN_WINDOW));
-        for (ENUM_ConfigIndex config : builtPages())
-            enter(g_config[config].object, makePage(g_config[config], config));
+        if (rows == Real)
+            built = DirectoryEngineer(ENUM_DIRECTORY_ENGINEER).CreateAllMenu();
+        else
+            for (ENUM_ConfigIndex config : builtPages())
+                enter(g_config[config].object, makePage(g_config[config], config));
         connect(&m_closer, &QTimer::timeout, this, [this] { answerMessage(); });
         m_closer.start(0);
     }
@@ -234,6 +239,7 @@ public:
     ParaProcess *engine = nullptr;
     MainWindow *home = nullptr;
     NotingProtocol *device = nullptr;
+    bool built = false;   ///< real rows: could all be built?
     QStringList messages; ///< the texts of the message boxes that came up
     int answer = 1;       ///< of every one of them
 
