@@ -64,6 +64,10 @@ enum StereoOffset : int {
     STEREO_Delay = 8,       ///< 24 bits, in ticks of 8 ns
 };
 
+/// The live record lies where the record behind the last preset would.
+constexpr int snapshotPresets = 10;
+static_assert(SNAPSHOT_FirstPreset + snapshotPresets * LENGTH_Preset == SNAPSHOT_LiveRecord);
+
 /// Offsets in a preset record.
 enum PresetOffset : int {
     PRESET_Stored = 10, ///< u8, 168 when it holds data
@@ -76,6 +80,8 @@ enum LiveOffset : int {
     LIVE_Windows = 0x400,
     LIVE_Pictures = 0x600,
     LIVE_Crops = 0xA00,
+    LIVE_Unused1 = 0xF00,  ///< 48 bytes that nobody here reads
+    LIVE_Unused2 = 0x1000, ///< 257 bytes, the same
 };
 
 /// Offsets in the window table of the live record; one record a layer.
