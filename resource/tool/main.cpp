@@ -20,11 +20,14 @@
 
 namespace
 {
+bool drawing = false;
 bool drawingComplains = false;
 
 /// The renderer only warns of what it does not understand; such a picture would be wrong on the LCD.
 void onMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
+    if (!drawing)
+        return;
     drawingComplains = true;
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
@@ -47,16 +50,16 @@ bool read(const QString &path, QString &text)
 bool draw(const Picture &picture, const QString &drawings, const QString &png)
 {
     const QString path = drawings + '/' + picture.drawing + ".svg";
-    QString drawing;
-    if (!read(path, drawing))
+    QString source;
+    if (!read(path, source))
         return false;
     QString missing;
-    drawing = filled(drawing, picture.values, missing);
+    source = filled(source, picture.values, missing);
     if (!missing.isEmpty())
         return fail(picture.name + ": " + path + " asks for {" + missing + "}");
 
     drawingComplains = false;
-    QSvgRenderer renderer(drawing.toUtf8());
+    QSvgRenderer renderer(source.toUtf8());
     if (!renderer.isValid())
         return fail(picture.name + ": " + path + " is not a drawing");
     if (renderer.defaultSize() != picture.size)
@@ -108,10 +111,11 @@ int main(int argc, char **argv)
 {
     // Drawings need no screen, and a build machine has none.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(onMessage);
     QGuiApplication application(argc, argv);
     const QStringList arguments = application.arguments();
     if (arguments.size() != 5)
         return fail("usage: fpd-pictures TABLE DRAWINGS STYLES OUT") ? 0 : 2;
-    qInstallMessageHandler(onMessage);
+    drawing = true;
     return drawAll(arguments.at(1), arguments.at(2), arguments.at(3), arguments.at(4)) ? 0 : 1;
 }
