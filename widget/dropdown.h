@@ -4,6 +4,7 @@
 
 #include "framework/vaskobject.h"
 
+#include <QPointer>
 #include <memory>
 
 namespace VASK
@@ -11,18 +12,24 @@ namespace VASK
 template <class Table> class DropDown
 {
 public:
+    DropDown() = default;
+    DropDown(const DropDown &) = delete;
+    DropDown &operator=(const DropDown &) = delete;
+    ~DropDown() { close(); }
+
     bool isOpen() const { return m_table != nullptr; }
-    Table *table() const { return m_table.get(); }
+    Table *table() const { return m_table; }
 
     /// Shows a table at its place over the page.
     void open(std::unique_ptr<Table> table, QWidget *page)
     {
-        m_table = std::move(table);
+        close();
+        m_table = table.release();
         m_table->setParent(page);
         m_table->show();
         m_table->setGeometry(QRect(QPoint(130, 24), QPoint(319, 239)));
     }
-    void close() { m_table.reset(); }
+    void close() { delete m_table; }
 
     void up(ENUM_MenuIndex index)
     {
@@ -41,7 +48,8 @@ public:
     bool currentEnabled() const { return m_table && m_table->CurrentItemEnabled(); }
 
 private:
-    std::unique_ptr<Table> m_table;
+    /// Null once the page, its parent, has taken it along.
+    QPointer<Table> m_table;
 };
 
 /// The lists of frame rates, whose options depend on what else is set: they are brought up to date before

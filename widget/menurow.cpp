@@ -44,6 +44,14 @@ void MenuRow::UpdataEntry(ENUM_MenuIndex index)
         paraProcess->GetInfoFromIndex(index, m_item);
 }
 
+ST_ItemInfo MenuRow::storedItem(ENUM_MenuIndex index) const
+{
+    ST_ItemInfo item;
+    if (ParaProcess *paraProcess = engine())
+        paraProcess->GetInfoFromIndex(index, item);
+    return item;
+}
+
 QString MenuRow::limited(const QString &value, ENUM_MenuIndex index) const
 {
     ParaProcess *paraProcess = engine();
@@ -54,6 +62,20 @@ void MenuRow::apply(const QString &value, ENUM_MenuIndex index, ENUM_MODE_SET_XM
 {
     if (ParaProcess *paraProcess = engine())
         paraProcess->SetParaToXml(value, index, mode);
+}
+
+void MenuRow::takeOption(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode,
+                         VaskUiObject *dropDown)
+{
+    m_item.value = m_item.params.contains(value) ? value : QStringLiteral("0");
+    if (dropDown)
+        dropDown->SetParaEntry(index, m_item.value, mode);
+    const QString taken = limited(m_item.value, index);
+    m_item.value = taken;
+    if (taken != value)
+        mode = SET_XML_USER;
+    if (mode != SET_XML_DEVICE)
+        apply(taken, index, mode);
 }
 
 void MenuRow::SetParaEntry(ENUM_MenuIndex index, QString value, ENUM_MODE_SET_XML mode)

@@ -31,6 +31,8 @@ protected:
 
     ENUM_MenuIndex ownIndex() const { return m_ownIndex; }
     ENUM_ObjectIndex objectIndex() const;
+    /// An item as the store has it; empty if it is not there.
+    ST_ItemInfo storedItem(ENUM_MenuIndex index) const;
     /// Copies the item from the store; an item that is not there leaves the copy as it is.
     void UpdataEntry(ENUM_MenuIndex index);
 
@@ -39,6 +41,10 @@ protected:
     /// @{
     QString limited(const QString &value, ENUM_MenuIndex index) const;
     void apply(const QString &value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode = SET_XML_USER) const;
+    /// Takes an option of a list, an unknown one as "0", and moves the open drop-down to it. What differs
+    /// from the value given is sent back to the device.
+    void takeOption(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode,
+                    VaskUiObject *dropDown);
     /// Both, as a button does it.
     void act(ENUM_MenuIndex index) const { apply(limited(QString(), index), index); }
     /// @}

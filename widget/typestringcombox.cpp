@@ -51,22 +51,8 @@ void typestringcombox::takeChoice(ENUM_MenuIndex index)
 
 void typestringcombox::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
 {
-    if (!value.isEmpty()) {
-        QString taken = value;
-        if (!m_item.params.contains(value)) {
-            taken = QStringLiteral("0");
-            mode = SET_XML_USER;
-        }
-        m_item.value = taken;
-        if (m_dropDown.isOpen())
-            m_dropDown.table()->SetParaEntry(index, taken, mode);
-        taken = limited(taken, index);
-        m_item.value = taken;
-        if (taken != value)
-            mode = SET_XML_USER;
-        if (mode != SET_XML_DEVICE)
-            apply(taken, index, mode);
-    }
+    if (!value.isEmpty())
+        takeOption(index, value, mode, m_dropDown.table());
     redraw();
 }
 } // namespace VASK

@@ -143,11 +143,8 @@ void typetwostringcombox::EnterEntry(ENUM_MenuIndex index, QWidget *page, unsign
 
 void typetwostringcombox::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
 {
-    if (!value.isEmpty()) {
-        m_item.value = m_item.params.contains(value) ? value : QStringLiteral("0");
-        if (m_dropDown.isOpen())
-            m_dropDown.table()->SetParaEntry(index, m_item.value, mode);
-    }
+    if (!value.isEmpty())
+        takeOption(index, value, mode, m_dropDown.table());
     redraw();
 }
 } // namespace VASK

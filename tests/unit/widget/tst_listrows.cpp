@@ -1,0 +1,291 @@
+// Lists: the way through the drop-down, disabled options, reversed lists, preview, ESC and stray values.
+
+#include "rowbench.h"
+#include "widget/typeicocombox.h"
+#include "widget/typemosaic.h"
+#include "widget/typestringcombox.h"
+
+#include <QLabel>
+
+using namespace VASK;
+
+namespace
+{
+constexpr ENUM_MenuIndex list = MENU_Color_ColorTemp; // no rule of the engine limits it
+constexpr ENUM_MenuIndex reversed = MENU_BootLogo;
+
+QMap<QString, QString> options(int count)
+{
+    QMap<QString, QString> texts;
+    for (int i = 0; i < count; ++i)
+        texts[QString::number(i)] = QString("option %1").arg(i);
+    return texts;
+}
+
+QMap<QString, QString> disabled(int count, const QList<int> &off)
+{
+    QMap<QString, QString> states;
+    for (int i = 0; i < count; ++i)
+        states[QString::number(i)] = off.contains(i) ? optionDisable : optionEnable;
+    return states;
+}
+
+void setOptions(RowBench &bench, ENUM_MenuIndex index, int count, const QString &value,
+                const QMap<QString, QString> &states = {})
+{
+    bench.edit(index, [&](ST_ItemInfo &item) {
+        item.params = options(count);
+        item.params1 = states;
+        item.value = value;
+        item.enable = true;
+    });
+}
+
+bool shows(const QWidget &row, const QString &text)
+{
+    for (const QLabel *label : row.findChildren<QLabel *>())
+        if (label->text() == text)
+            return true;
+    return false;
+}
+
+void open(VaskUiObject &row, ENUM_MenuIndex index, QWidget &page)
+{
+    row.EnterEntry(index, &page, 0, 0);
+}
+
+void take(VaskUiObject &row, ENUM_MenuIndex index, QWidget &page)
+{
+    row.EnterEntry(index, &page, 1, 0);
+}
+
+void turn(VaskUiObject &row, ENUM_MenuIndex index, int clicks)
+{
+    for (int i = 0; i < qAbs(clicks); ++i)
+        clicks < 0 ? row.UpEntry(index) : row.DownEntry(index);
+}
+
+template <class Table> int openTables(const QWidget &page)
+{
+    return page.findChildren<Table *>().size();
+}
+} // namespace
+
+class TestListRows : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { m_bench.reset(new RowBench); }
+    void cleanup() { m_bench.reset(); }
+
+    void choosing_data()
+    {
+        QTest::addColumn<QList<int>>("off");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<int>("clicks");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("next") << QList<int>{} << "1" << 1 << "2";
+        QTest::newRow("round forwards") << QList<int>{} << "3" << 1 << "0";
+        QTest::newRow("round backwards") << QList<int>{} << "0" << -1 << "3";
+        QTest::newRow("over disabled forwards") << QList<int>{1, 2} << "0" << 1 << "3";
+        QTest::newRow("over disabled backwards") << QList<int>{2, 3} << "0" << -1 << "1";
+        QTest::newRow("over disabled and round") << QList<int>{3} << "2" << 1 << "0";
+        QTest::newRow("no other to go to") << QList<int>{0, 2, 3} << "1" << 1 << "1";
+        QTest::newRow("no other, backwards") << QList<int>{0, 2, 3} << "1" << -1 << "1";
+    }
+    void choosing()
+    {
+        QFETCH(QList<int>, off);
+        QFETCH(QString, start);
+        QFETCH(int, clicks);
+        setOptions(*m_bench, list, 4, start, disabled(4, off));
+        typestringcombox row(list, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, list, page);
+        QCOMPARE(openTables<stringcomboxtable>(page), 1);
+        turn(row, list, clicks);
+        QVERIFY(row.CurrentItemEnabled());
+        take(row, list, page);
+        QTEST(m_bench->value(list), "end");
+        QFETCH(QString, end);
+        QVERIFY(shows(row, "option " + end));
+        QCOMPARE(openTables<stringcomboxtable>(page), 0);
+        QCOMPARE(RowBench::takeApplied(), start == end ? QList<int>{} : QList<int>{list});
+    }
+
+    void aDisabledOptionInForceCannotBeTakenAgain()
+    {
+        setOptions(*m_bench, list, 3, "1", disabled(3, {0, 1, 2}));
+        typestringcombox row(list, ENUM_OBJECT_END);
+        QVERIFY(!row.CurrentItemEnabled()); // nothing is open
+        QWidget page;
+        open(row, list, page);
+        turn(row, list, 1);
+        QVERIFY(!row.CurrentItemEnabled());
+        row.EscEntry(list);
+        QCOMPARE(m_bench->value(list), QString("1"));
+    }
+
+    void escLeavesTheValue()
+    {
+        setOptions(*m_bench, list, 4, "1");
+        typestringcombox row(list, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, list, page);
+        turn(row, list, 2);
+        row.EscEntry(list);
+        QCOMPARE(m_bench->value(list), QString("1"));
+        QVERIFY(shows(row, "option 1"));
+        QCOMPARE(openTables<stringcomboxtable>(page), 0);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+    }
+
+    void aReversedListShowsOneFirst()
+    {
+        setOptions(*m_bench, reversed, 2, "0");
+        typestringcombox row(reversed, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, reversed, page);
+        const auto *view = page.findChild<QAbstractItemView *>();
+        QVERIFY(view);
+        QCOMPARE(view->model()->index(0, 0).data().toString(), QString("option 1"));
+        QCOMPARE(view->currentIndex().row(), 1);
+        turn(row, reversed, -1);
+        QCOMPARE(view->currentIndex().row(), 0);
+        take(row, reversed, page);
+        QCOMPARE(m_bench->value(reversed), QString("1"));
+        QVERIFY(shows(row, "option 1"));
+    }
+
+    void aReversedListDimsTheRightRow()
+    {
+        setOptions(*m_bench, reversed, 2, "0", disabled(2, {1}));
+        typestringcombox row(reversed, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, reversed, page);
+        const QAbstractItemModel *model = page.findChild<QAbstractItemView *>()->model();
+        QVERIFY(!(model->flags(model->index(0, 0)) & Qt::ItemIsEnabled));
+        QVERIFY(model->flags(model->index(1, 0)) & Qt::ItemIsEnabled);
+    }
+
+    void reports_data()
+    {
+        QTest::addColumn<QString>("reported");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("applied");
+        QTest::newRow("a key from the device") << "2" << int(SET_XML_DEVICE) << "option 2"
+                                               << "1" << false;
+        QTest::newRow("a key to store") << "2" << int(SET_XML_STORE) << "option 2"
+                                        << "2" << false;
+        QTest::newRow("a key of the user") << "2" << int(SET_XML_USER) << "option 2"
+                                           << "2" << true;
+        QTest::newRow("no key") << "9" << int(SET_XML_DEVICE) << "option 0"
+                                << "0" << true;
+        QTest::newRow("reload") << "" << int(SET_XML_STORE) << "option 1"
+                                << "1" << false;
+    }
+    void reports()
+    {
+        QFETCH(QString, reported);
+        QFETCH(int, mode);
+        QFETCH(QString, shown);
+        QFETCH(bool, applied);
+        setOptions(*m_bench, list, 4, "1");
+        typestringcombox row(list, ENUM_OBJECT_END);
+        row.SetParaEntry(MENU_OWN, reported, ENUM_MODE_SET_XML(mode));
+        QVERIFY(shows(row, shown));
+        QTEST(m_bench->value(list), "stored");
+        QCOMPARE(RowBench::takeApplied(), applied ? QList<int>{list} : QList<int>{});
+    }
+
+    void aReportMovesTheOpenList()
+    {
+        setOptions(*m_bench, list, 4, "1");
+        typestringcombox row(list, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, list, page);
+        row.SetParaEntry(list, "3", SET_XML_DEVICE);
+        QCOMPARE(page.findChild<QAbstractItemView *>()->currentIndex().row(), 3);
+    }
+
+    void flowWayPreviewsAndEscTakesItBack()
+    {
+        m_bench->store().UpdataItemCurValue(MENU_Quick_FlowWay, "2");
+        typeicocombox row(MENU_Quick_FlowWay, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, MENU_Quick_FlowWay, page);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        turn(row, MENU_Quick_FlowWay, 2);
+        QCOMPARE(m_bench->value(MENU_Quick_FlowWay), QString("4"));
+        QCOMPARE(RowBench::takeApplied().size(), 2);
+        row.EscEntry(MENU_Quick_FlowWay);
+        QCOMPARE(m_bench->value(MENU_Quick_FlowWay), QString("2"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{MENU_Quick_FlowWay});
+        QCOMPARE(openTables<icocomboxtable>(page), 0);
+    }
+
+    void testPatternsAreSentOnOpeningAndStayOnEsc()
+    {
+        m_bench->store().UpdataItemCurValue(MENU_Test_Gradient, "0");
+        typeicocombox row(MENU_Test_Gradient, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, MENU_Test_Gradient, page);
+        QCOMPARE(RowBench::takeApplied(), QList<int>{MENU_Test_Gradient});
+        turn(row, MENU_Test_Gradient, 1);
+        row.EscEntry(MENU_Test_Gradient);
+        QCOMPARE(m_bench->value(MENU_Test_Gradient), QString("1"));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{MENU_Test_Gradient});
+    }
+
+    void otherPicturesWaitForOk()
+    {
+        m_bench->store().UpdataItemCurValue(MENU_Advanced_FlowWay, "0");
+        typeicocombox row(MENU_Advanced_FlowWay, ENUM_OBJECT_END);
+        QWidget page;
+        open(row, MENU_Advanced_FlowWay, page);
+        turn(row, MENU_Advanced_FlowWay, -1);
+        QCOMPARE(m_bench->value(MENU_Advanced_FlowWay), QString("0"));
+        take(row, MENU_Advanced_FlowWay, page);
+        const int count = m_bench->item(MENU_Advanced_FlowWay).params.size();
+        QCOMPARE(m_bench->value(MENU_Advanced_FlowWay), QString::number(count - 1));
+    }
+
+    void mosaicShowsBothSourcesAndTheSize()
+    {
+        setOptions(*m_bench, MENU_Mosaic_Arrangement, 6, "3");
+        m_bench->edit(MENU_Mosaic_Layout, [](ST_ItemInfo &item) { item.value = "0"; });
+        typemosaic row(MENU_Mosaic_Arrangement, ENUM_OBJECT_END);
+        row.updateSource(SOURCELABLE_FIRST, "DVI2");
+        row.updateSource(SOURCELABLE_SECOND, "DVI1");
+        row.updatePixValue("3840x1080");
+        QVERIFY(shows(row, "DVI2"));
+        QVERIFY(shows(row, "DVI1"));
+        bool sizeBelow = false;
+        QList<QLabel *> boxes;
+        for (QLabel *label : row.findChildren<QLabel *>()) {
+            sizeBelow |= label->text().endsWith("\n3840x1080");
+            if (label->property("source").toBool())
+                boxes << label;
+        }
+        QVERIFY(sizeBelow);
+        QCOMPARE(boxes.size(), 2);
+        row.resize(320, 108);
+        row.show();
+        for (const char *layout : {"1", "0", "1"}) {
+            row.updateSplite(layout);
+            QCoreApplication::processEvents();
+            const bool stacked = *layout == '0';
+            QCOMPARE(boxes[0]->x() == boxes[1]->x(), stacked);
+            QCOMPARE(boxes[0]->y() == boxes[1]->y(), !stacked);
+        }
+        QVERIFY(!boxes[1]->isEnabled());
+    }
+
+private:
+    std::unique_ptr<RowBench> m_bench;
+};
+
+QTEST_MAIN(TestListRows)
+#include "tst_listrows.moc"
