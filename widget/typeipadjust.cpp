@@ -54,6 +54,7 @@ void typeipadjust::CreatEntry()
     layout->addWidget(m_icon);
     layout->addWidget(m_name);
     layout->addStretch();
+    layout->addSpacing(4);
     addNumbers(layout);
     layout->addSpacing(4);
     layout->addWidget(m_rightIcon);
@@ -69,6 +70,8 @@ void typeipadjust::addNumbers(QHBoxLayout *layout)
     for (int i = 0; i < numberCount; ++i) {
         if (i > 0) {
             auto *dot = new QLabel(QStringLiteral("."), this);
+            dot->setObjectName(QStringLiteral("ipDot"));
+            dot->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
             dot->setFixedSize(dotSize);
             inner->addSpacing(3);
             inner->addWidget(dot);
@@ -92,7 +95,9 @@ void typeipadjust::setTypeStyleSheet()
         "*{color:%1;}#ipLineEditDot{border-radius:1px; background-color:%1;border:1px solid %1;}"
         "#ipLineEdit[edit=false]:disabled,#ipLineEdit[edit=true]:disabled{border: 0px solid %1;}"
         "#ipLineEdit[edit=false]:enabled{border:1px solid #3939ad;}"
-        "#ipLineEdit[edit=true]:enabled{border:1px solid #3939ad;color:#ebc613;}");
+        "#ipLineEdit[edit=true]:enabled{border:1px solid #3939ad;color:#ebc613;}"
+        // Three digits have to fit their box, and the dot its gap.
+        "#ipLineEdit{font-size:16px;}#ipDot{font-size:11px;}");
     m_styledEnabled = m_item.enable;
     setStyleSheet(form.arg(m_item.enable ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c")));
 }
