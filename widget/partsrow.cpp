@@ -4,6 +4,13 @@
 
 namespace VASK
 {
+void PartsRow::setParts(const QList<QWidget *> &parts)
+{
+    m_parts = parts;
+    for (QWidget *part : parts)
+        part->setFocusPolicy(Qt::NoFocus);
+}
+
 void PartsRow::UpEntry(ENUM_MenuIndex, unsigned char &speed, bool first)
 {
     qDebug() << "UP, m_currentItem:" << m_currentItem << ",uKeySpeed" << speed;
@@ -53,7 +60,7 @@ bool PartsRow::setfocus(int part)
     for (QWidget *widget : qAsConst(m_parts))
         widget->clearFocus();
     if (part < 1 || part > partCount()) {
-        qDebug() << QByteArray(className()) + " m_currentItem is invalid!";
+        qDebug().noquote() << QByteArray(className()) + " m_currentItem is invalid!";
         return false;
     }
     m_parts.at(part - 1)->setFocus(Qt::OtherFocusReason);

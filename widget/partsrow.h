@@ -20,7 +20,8 @@ public:
     void DownEntry(ENUM_MenuIndex index, unsigned char &speed, bool last) override;
 
 protected:
-    void setParts(const QList<QWidget *> &parts) { m_parts = parts; }
+    /// The parts from left to right. Only the cursor gives them the focus, never the opening of the page.
+    void setParts(const QList<QWidget *> &parts);
     /// Gives the focus to a part, from 1; 0 takes it from all.
     bool setfocus(int part);
     int partCount() const { return m_parts.size(); }
@@ -31,7 +32,8 @@ protected:
     }
     /// Logs that OK was pressed, and on what; false while no part has the focus.
     bool logEnter(ENUM_MenuIndex index) const;
-    virtual const char *className() const = 0;
+    /// How the row calls itself in the log.
+    virtual const char *className() const { return "typeapplyreset"; }
 
     /// The part that has the focus, from 1; 0 for none.
     int m_currentItem = 0;

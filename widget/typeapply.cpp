@@ -9,13 +9,15 @@ namespace VASK
 {
 namespace
 {
-QString buttonStyle(bool enabled)
+const QString transparent = QStringLiteral("background-color:rgba(0,0,0,0)");
+
+QString buttonStyle(bool enabled, const QString &background)
 {
     const QString colour = enabled ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c");
     return QStringLiteral("QPushButton{border-style: inset;border-radius:4px;color: %1; "
-                          "border: 1px solid #3939ad;background-color:rgba(0,0,0,0)}"
+                          "border: 1px solid #3939ad;%2}"
                           "QPushButton:focus{background:#3939ad; color: %1;outline: none;}")
-        .arg(colour);
+        .arg(colour, background);
 }
 } // namespace
 
@@ -26,6 +28,8 @@ typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : M
     m_button = new QPushButton(this);
     m_button->setObjectName(m_item.tag);
     m_button->setFixedSize(size);
+    // Only the page's cursor gives it the focus, never the opening of the page.
+    m_button->setFocusPolicy(Qt::NoFocus);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -33,6 +37,7 @@ typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : M
     layout->addWidget(m_button);
     layout->addStretch();
     redraw();
+    m_button->setStyleSheet(buttonStyle(m_item.enable, transparent));
 }
 
 void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
@@ -46,7 +51,7 @@ void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
 void typeapply::redraw()
 {
     m_button->setText(translated(m_item.tag));
-    m_button->setStyleSheet(buttonStyle(m_item.enable));
+    m_button->setStyleSheet(buttonStyle(m_item.enable, QString()));
 }
 
 void typeapply::takeValue(ENUM_MenuIndex, const QString &, ENUM_MODE_SET_XML)

@@ -43,7 +43,7 @@ typeapplyreset::typeapplyreset(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex object
 
 ST_ItemInfo typeapplyreset::secondItem() const
 {
-    return g_MenuXmlConfig.value(ENUM_MenuIndex(ownIndex() + 1));
+    return storedItem(ENUM_MenuIndex(ownIndex() + 1));
 }
 
 void typeapplyreset::setTypeStyleSheet()

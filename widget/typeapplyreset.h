@@ -19,7 +19,6 @@ public:
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
     void redraw() override;
-    const char *className() const override { return "typeapplyreset"; }
 
 private:
     void setTypeStyleSheet();

@@ -22,7 +22,6 @@ typefourpic::typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
         auto *part = new QWidget(this);
         part->setAttribute(Qt::WA_StyledBackground);
         part->setFixedSize(partSize);
-        part->setFocusPolicy(Qt::StrongFocus);
         part->setProperty("canSelected", true);
         picture = new QLabel(part);
         picture->setGeometry(pictureLeft, 0, partSize.width() - 2 * pictureLeft, partSize.height());

@@ -37,7 +37,6 @@ public:
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
     void redraw() override;
-    const char *className() const override { return "typetwostringcombox"; }
 
 private:
     void CreatEntry();

@@ -2,6 +2,7 @@
 // act.
 
 #include "rowbench.h"
+#include "widget/typeapply.h"
 #include "widget/typeapplyreset.h"
 #include "widget/typecheckitem.h"
 #include "widget/typefourpic.h"
@@ -87,6 +88,23 @@ private slots:
         typefourpic row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, "", SET_XML_DEVICE);
         QCOMPARE(walk(row, MENU_Test_CustomPictures, 2), 1); // the fourth, then one row on
+    }
+
+    void anOpenedPageMarksNoButton()
+    {
+        QWidget page;
+        typeapply apply(MENU_Color_Reset, ENUM_OBJECT_END);
+        typeapplyreset pair(MENU_Mosaic_Apply, ENUM_OBJECT_END);
+        typefourpic pictures(MENU_Test_CustomPictures, ENUM_OBJECT_END);
+        for (QWidget *row : QList<QWidget *>{&apply, &pair, &pictures})
+            row->setParent(&page);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QVERIFY(!page.focusWidget());
+        apply.ChangeStyleEntry(MENU_Color_Reset, 1);
+        QVERIFY(page.focusWidget());
+        apply.ChangeStyleEntry(MENU_Color_Reset, 0);
+        QVERIFY(!page.focusWidget());
     }
 
     void theNameOfAPairIsNeverFocused()
