@@ -119,7 +119,7 @@ void applyReset(ParaChange &change)
     const QString workMode = change.item(MENU_WorkMode);
     if (change.index != MENU_SaveUserData)
         board::runCommand(removePictures);
-    change.store.LoadXmlFile(board::filePath(factoryFile));
+    change.store.LoadXmlFile(factoryFile);
     restoreMosaicSource(change);
     if (sendingCard && change.index != MENU_ResetAll) {
         change.set(MENU_WorkMode, workMode);
@@ -154,7 +154,7 @@ void clearAllParameters(ParaChange &change)
     board::runCommand(removePictures);
     board::runCommand("sync");
     // The file is what counts from now on: what memory still holds must not be written over it.
-    change.store.LoadXmlFile(board::filePath(factoryFile));
+    change.store.LoadXmlFile(factoryFile);
     set_pc_connect_priority(1);
     if (!change.fromUser()) {
         change.engine.raiseFactoryReset();

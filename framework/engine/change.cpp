@@ -4,7 +4,6 @@
 #include "widget/mainwindow_k2860.h"
 
 #include <algorithm>
-#include <array>
 
 namespace VASK
 {
@@ -182,13 +181,18 @@ void ParaChange::tail()
     }
 }
 
-const ApplyCase *findApplyCase(ENUM_MenuIndex index)
+const QVector<ApplyFamily> &applyFamilies()
 {
-    static const std::array<ApplyFamily, 10> families{
+    static const QVector<ApplyFamily> families{
         plainFamily(),  commandFamily(), displayFamily(), testPatternFamily(), outputFamily(),
         stereoFamily(), networkFamily(), colourFamily(),  resetFamily(),       systemFamily(),
     };
-    for (const ApplyFamily &family : families) {
+    return families;
+}
+
+const ApplyCase *findApplyCase(ENUM_MenuIndex index)
+{
+    for (const ApplyFamily &family : applyFamilies()) {
         const ApplyCase *end = family.cases + family.count;
         const ApplyCase *found = std::find_if(family.cases, end, [index](const ApplyCase &row) {
             return index >= row.first && index <= row.last;

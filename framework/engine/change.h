@@ -6,6 +6,8 @@
 #include "framework/engine/device.h"
 #include "framework/paraprocess.h"
 
+#include <QVector>
+
 namespace VASK
 {
 class MenuAnalysis;
@@ -73,11 +75,14 @@ struct ApplyCase {
 /// The case of an item, null if it has none.
 const ApplyCase *findApplyCase(ENUM_MenuIndex index);
 
-// The families, each a table in a file of its own.
 struct ApplyFamily {
     const ApplyCase *cases;
     int count;
 };
+/// All of them; no item stands in two.
+const QVector<ApplyFamily> &applyFamilies();
+
+// The families, each a table in a file of its own.
 ApplyFamily plainFamily();
 ApplyFamily commandFamily();
 ApplyFamily displayFamily();
