@@ -2,6 +2,7 @@
 
 #include "framework/paraprocess.h"
 #include "widget/dialog_factory.h"
+#include "widget/dialog_msgbox.h"
 
 namespace VASK
 {
@@ -14,7 +15,6 @@ QDialog *ParaProcess::CreateDialog(ENUM_MenuIndex index, QString text)
     const auto row = g_dialogConfig.constFind(index);
     if (row == g_dialogConfig.cend() || row->type != messageKind || !row->enabled)
         return nullptr;
-    qDebug() << "no message box for" << row->text << text;
-    return nullptr;
+    return new dialog_msgBox(this, row->text, row->buttonType, unsigned(row->timeMs), text);
 }
 } // namespace VASK
