@@ -283,7 +283,7 @@ void TestSnapshot::homeScreen()
     QTEST(m_rig->shown("labScreenRes"), "resolution");
     QTEST(m_rig->value(PARA_OutputRate).toInt(), "rate");
     QCOMPARE(m_rig->shown("labBright"), QString("42%"));
-    QCOMPARE(m_rig->shown("SyncState"), QString("HDMI2"));
+    QCOMPARE(m_rig->shown("labSynName"), QString("HDMI2"));
     QVERIFY(ParaProcess::init_20m_flg);
 }
 

@@ -1,0 +1,224 @@
+// The four resets: what survives, what comes back, what the user is told, and once in a run of the program.
+
+#include "enginerig.h"
+#include "netstatus.h"
+
+using namespace VASK;
+
+class TestApplyReset : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase() { m_rig = new EngineRig; }
+    void cleanupTestCase() { delete m_rig; }
+    void init();
+
+    void keepsWhatSurvives_data();
+    void keepsWhatSurvives();
+    void fnKeyIsMarkedAgain();
+    void sendingCardStaysOne();
+    void clearsPictures_data();
+    void clearsPictures();
+    void tellsTheOutcome_data();
+    void tellsTheOutcome();
+    void reportedResetIsTold();
+    void runsOnce();
+    void clearAll();
+
+private:
+    /// What a shell tool of the board prints.
+    void tool(const char *name, const char *script)
+    {
+        QFile file(m_rig->statePath(QString("/bin/%1").arg(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray("#!/bin/sh\n") + script + "\n");
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QString factory(ENUM_MenuIndex index) const { return g_MenuXmlConfig.value(index).value; }
+    EngineRig *m_rig = nullptr;
+};
+
+void TestApplyReset::init()
+{
+    m_rig->reset();
+    tool("fpga", "case $1 in -v) echo 'FPGA version is V1.2.3';; r) echo 0x01;; esac");
+}
+
+void TestApplyReset::keepsWhatSurvives_data()
+{
+    QTest::addColumn<int>("reset");
+    QTest::addColumn<bool>("keepsNetwork");
+    QTest::addColumn<bool>("keepsFn");
+    QTest::newRow("save IP") << int(MENU_SaveIP) << true << false;
+    QTest::newRow("save user data") << int(MENU_SaveUserData) << true << true;
+    QTest::newRow("reset all") << int(MENU_ResetAll) << false << false;
+}
+
+void TestApplyReset::keepsWhatSurvives()
+{
+    QFETCH(int, reset);
+    QFETCH(bool, keepsNetwork);
+    QFETCH(bool, keepsFn);
+    struct Kept {
+        ENUM_MenuIndex item;
+        const char *value;
+        bool kept;
+    };
+    const Kept items[] = {
+        {MENU_CommunicationMode, "1", keepsNetwork},
+        {MENU_Net_NetMode, "1", keepsNetwork},
+        {MENU_Net_IPAddress, "10.9.8.7", keepsNetwork},
+        {MENU_Net_SubnetMask, "255.0.0.0", keepsNetwork},
+        {MENU_Net_Gateway, "10.0.0.1", keepsNetwork},
+        {MENU_HDCPMemory, "0", keepsNetwork},
+        {MENU_FnMode, "3", keepsFn},
+        {MENU_BootLogo, "0", true},
+        {MENU_MakerSign, "0", true},
+        {MENU_ScreenBrightness, "13", false},
+        {MENU_Audio_Volume, "14", false},
+        {MENU_MainLayer_InputSource, "1", false},
+        {MENU_MainLayer_HorWidth, "1234", false},
+    };
+    for (const Kept &item : items)
+        m_rig->set(item.item, item.value);
+    set_pc_connect_priority(0);
+
+    m_rig->fromUser(ENUM_MenuIndex(reset), "0");
+    for (const Kept &item : items)
+        QVERIFY2(m_rig->value(item.item) == (item.kept ? QString(item.value) : factory(item.item)),
+                 QByteArray::number(item.item));
+    QCOMPARE(m_rig->value(MENU_RestoreDone), QString("1"));
+    QCOMPARE(get_pc_connect_priority(), reset == MENU_ResetAll ? 1 : 0);
+    QCOMPARE(m_rig->device->sent.take(), QStringList{QString("%1=").arg(reset)});
+    QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
+
+    // The file says the same, for the next start.
+    MenuAnalysis next(ENUM_MENUANALYSIS);
+    next.initlize();
+    QString brightness;
+    next.GetItemCurValue(MENU_ScreenBrightness, brightness);
+    QCOMPARE(brightness, factory(MENU_ScreenBrightness));
+}
+
+void TestApplyReset::fnKeyIsMarkedAgain()
+{
+    m_rig->set(MENU_FnMode, "4");
+    m_rig->fromUser(MENU_SaveUserData, "0");
+    for (int function = 0; function < 5; ++function)
+        QCOMPARE(m_rig->choice(ENUM_MenuIndex(MENU_Fn_Synchronization + function)) == SELECTED,
+                 function == 4);
+}
+
+void TestApplyReset::sendingCardStaysOne()
+{
+    m_rig->set(MENU_WorkMode, "2");
+    m_rig->set(MENU_MainLayer_InputSource, "1");
+    m_rig->fromUser(MENU_SaveIP, "0");
+    QCOMPARE(m_rig->value(MENU_MainLayer_InputSource), QString("1"));
+    for (ENUM_MenuIndex item : {MENU_MainLayer_Status, MENU_MainLayer_ScalingMode, MENU_MainLayerTransition})
+        QCOMPARE(m_rig->value(item), QString("1"));
+    for (int item : {2015, 2100, 2102, 2103, 2104, 2107, 2108, 2109, 1005, 1006, 1007,
+                     1018, 6,    7,    1019, 1020, 2346, 2351, 1052, 1056, 2343})
+        QVERIFY2(!m_rig->enabled(ENUM_MenuIndex(item)), QByteArray::number(item));
+    QCOMPARE(m_rig->choice(MENU_VideoController) + m_rig->choice(MENU_FiberConverter) +
+                 m_rig->choice(MENU_SendingCard),
+             QString("001"));
+    QCOMPARE(m_rig->value(MENU_WorkMode), QString("2"));
+}
+
+void TestApplyReset::clearsPictures_data()
+{
+    QTest::addColumn<int>("reset");
+    QTest::addColumn<bool>("cleared");
+    QTest::newRow("save IP") << int(MENU_SaveIP) << true;
+    QTest::newRow("save user data") << int(MENU_SaveUserData) << false;
+    QTest::newRow("reset all") << int(MENU_ResetAll) << true;
+    QTest::newRow("clear all") << int(MENU_ClearAllParameters) << true;
+}
+
+void TestApplyReset::clearsPictures()
+{
+    QFETCH(int, reset);
+    QFETCH(bool, cleared);
+    const QString name = m_rig->path("/usr/vask/etc/osd/one.bmp");
+    QFile picture(name);
+    QVERIFY(picture.open(QIODevice::WriteOnly));
+    m_rig->fromUser(ENUM_MenuIndex(reset), "0");
+    QCOMPARE(!QFile::exists(name), cleared);
+}
+
+void TestApplyReset::tellsTheOutcome_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("outcome");
+    QTest::newRow("all well") << QByteArray("case $1 in -v) echo 'FPGA version is V1';; r) echo 0x01;; esac")
+                              << "ResetSucceed";
+    QTest::newRow("FPGA is silent") << QByteArray("exit 1") << "FPGACommunication";
+    QTest::newRow("memory check failed")
+        << QByteArray("case $1 in -v) echo 'FPGA version is V1';; r) echo 0x00;; esac")
+        << "FPGADDRCheckError";
+}
+
+void TestApplyReset::tellsTheOutcome()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, outcome);
+    tool("fpga", script);
+    m_rig->fromUser(MENU_SaveIP, "0");
+    QCOMPARE(m_rig->messages, (QStringList{"IsResting", outcome}));
+}
+
+void TestApplyReset::reportedResetIsTold()
+{
+    QSignalSpy told(m_rig->engine, &ParaProcess::signal_factory_reset);
+    m_rig->set(MENU_ScreenBrightness, "13");
+    m_rig->fromDevice(MENU_ResetAll, "");
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(m_rig->value(MENU_ScreenBrightness), factory(MENU_ScreenBrightness));
+    QCOMPARE(m_rig->device->sent.take(), QStringList());
+}
+
+void TestApplyReset::runsOnce()
+{
+    m_rig->fromUser(MENU_SaveIP, "0");
+    m_rig->forget();
+    m_rig->set(MENU_ScreenBrightness, "13");
+    for (ENUM_MenuIndex reset : {MENU_SaveIP, MENU_SaveUserData, MENU_ResetAll, MENU_ClearAllParameters})
+        m_rig->fromUser(reset, "0");
+    QCOMPARE(m_rig->value(MENU_ScreenBrightness), QString("13"));
+    QCOMPARE(m_rig->device->sent.take() + m_rig->messages, QStringList());
+}
+
+void TestApplyReset::clearAll()
+{
+    QFile standard(m_rig->path("/usr/vask/etc/logo/logo_vask.bmp"));
+    QVERIFY(standard.open(QIODevice::WriteOnly));
+    standard.write("standard");
+    standard.close();
+    set_pc_connect_priority(0);
+    m_rig->set(MENU_ScreenBrightness, "13");
+    m_rig->set(MENU_BootLogo, "0");
+    m_rig->store->updateActivittyItem();
+    m_rig->fromUser(MENU_ClearAllParameters, "0");
+
+    auto contents = [this](const char *name) {
+        QFile file(m_rig->path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    QCOMPARE(contents("/usr/vask/etc/logo/logo.bmp"), QByteArray("standard"));
+    QCOMPARE(contents("/usr/vask/etc/fpd/config/config.xml"),
+             contents("/usr/vask/etc/fpd/config/config_factory.xml"));
+    // A later write does not bring the old values back.
+    m_rig->store->updateActivittyItem();
+    MenuAnalysis next(ENUM_MENUANALYSIS);
+    next.initlize();
+    QString brightness;
+    next.GetItemCurValue(MENU_ScreenBrightness, brightness);
+    QCOMPARE(brightness, factory(MENU_ScreenBrightness));
+    QCOMPARE(get_pc_connect_priority(), 1);
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"1063="});
+    QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
+}
+
+QTEST_MAIN(TestApplyReset)
+#include "tst_applyreset.moc"
