@@ -26,11 +26,14 @@ QStringList members(const QString &text)
 using Names = QMap<QString, QString>;
 
 /// The text with every $name replaced by the value that "let" gave it.
-QString withNames(QString text, const Names &names)
+QString withNames(QString text, const Names &names, QString &missing)
 {
     static const QRegularExpression name("\\$(\\w+)");
-    for (QRegularExpressionMatch match = name.match(text); match.hasMatch(); match = name.match(text))
+    for (QRegularExpressionMatch match = name.match(text); match.hasMatch(); match = name.match(text)) {
+        if (!names.contains(match.captured(1)))
+            missing = match.captured(0);
         text.replace(match.capturedStart(), match.capturedLength(), names.value(match.captured(1)));
+    }
     return text;
 }
 
@@ -46,12 +49,13 @@ QString readRow(const QString &row, const Names &names, QList<Picture> &pictures
         return "bad size " + fields.at(sizeField);
 
     QMap<QString, QStringList> lists;
+    QString missing;
     int count = 1;
     for (const QString &field : fields.mid(firstValueField)) {
         const int equals = field.indexOf('=');
         if (equals < 1)
             return "not a value: " + field;
-        const QStringList list = members(withNames(field.mid(equals + 1), names));
+        const QStringList list = members(withNames(field.mid(equals + 1), names, missing));
         if (count == 1)
             count = list.size();
         else if (list.size() > 1 && list.size() < count)
@@ -62,7 +66,6 @@ QString readRow(const QString &row, const Names &names, QList<Picture> &pictures
         Picture picture;
         for (auto it = lists.cbegin(); it != lists.cend(); ++it)
             picture.values.insert(it.key(), it->size() > 1 ? it->at(i) : it->first());
-        QString missing;
         picture.size = size;
         picture.name = filled(fields.at(nameField), picture.values, missing);
         picture.drawing = filled(fields.at(drawingField), picture.values, missing);
@@ -100,7 +103,7 @@ QList<Picture> readPictureTable(const QString &text, QString &fault)
         if (row.isEmpty() || row.startsWith('#'))
             continue;
         if (row.startsWith(QLatin1String("let "))) {
-            names.insert(row.section(' ', 1, 1), withNames(row.section(' ', 2), names));
+            names.insert(row.section(' ', 1, 1), row.section(' ', 2));
             continue;
         }
         const QString reason = readRow(row, names, pictures);
