@@ -56,7 +56,7 @@ bool draw(const Picture &picture, const QString &drawings, const QString &png)
     QString missing;
     source = filled(source, picture.values, missing);
     if (!missing.isEmpty())
-        return fail(picture.name + ": " + path + " asks for {" + missing + "}");
+        return fail(picture.name + ": " + path + ": " + missing);
 
     drawingComplains = false;
     QSvgRenderer renderer(source.toUtf8());

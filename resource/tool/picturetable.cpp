@@ -31,7 +31,7 @@ QString withNames(QString text, const Names &names, QString &missing)
     static const QRegularExpression name("\\$(\\w+)");
     for (QRegularExpressionMatch match = name.match(text); match.hasMatch(); match = name.match(text)) {
         if (!names.contains(match.captured(1)))
-            missing = match.captured(0);
+            missing = "no value for " + match.captured(0);
         text.replace(match.capturedStart(), match.capturedLength(), names.value(match.captured(1)));
     }
     return text;
@@ -70,7 +70,7 @@ QString readRow(const QString &row, const Names &names, QList<Picture> &pictures
         picture.name = filled(fields.at(nameField), picture.values, missing);
         picture.drawing = filled(fields.at(drawingField), picture.values, missing);
         if (!missing.isEmpty())
-            return "no value for " + missing;
+            return missing;
         pictures << picture;
     }
     return {};
@@ -87,7 +87,7 @@ QString filled(const QString &text, const QMap<QString, QString> &values, QStrin
         result += text.mid(end, match.capturedStart() - end);
         end = match.capturedEnd();
         if (!values.contains(match.captured(1)))
-            missing = match.captured(1);
+            missing = "no value for " + match.captured(0);
         result += values.value(match.captured(1));
     }
     return result + text.mid(end);
@@ -103,12 +103,15 @@ QList<Picture> readPictureTable(const QString &text, QString &fault)
         if (row.isEmpty() || row.startsWith('#'))
             continue;
         if (row.startsWith(QLatin1String("let "))) {
-            names.insert(row.section(' ', 1, 1), row.section(' ', 2));
-            continue;
+            // Only names above count: no name can lead to itself.
+            const QString value = withNames(row.section(' ', 2), names, fault);
+            if (fault.isEmpty())
+                names.insert(row.section(' ', 1, 1), value);
+        } else {
+            fault = readRow(row, names, pictures);
         }
-        const QString reason = readRow(row, names, pictures);
-        if (!reason.isEmpty()) {
-            fault = QString("line %1: %2").arg(i + 1).arg(reason);
+        if (!fault.isEmpty()) {
+            fault = QString("line %1: %2").arg(i + 1).arg(fault);
             return {};
         }
     }

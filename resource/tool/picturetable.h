@@ -18,5 +18,5 @@ struct Picture {
 /// All pictures of a table, families spread out. On a fault the list is empty and fault says line and reason.
 QList<Picture> readPictureTable(const QString &text, QString &fault);
 
-/// The text with every {key} replaced; a key without a value is told in missing.
+/// The text with every {key} replaced; what has no value is told in missing.
 QString filled(const QString &text, const QMap<QString, QString> &values, QString &missing);
