@@ -151,7 +151,11 @@ bool MenuDirectory::BuildMenuDirectory(ENUM_ConfigIndex config)
 
 void MenuDirectory::SetParaEntry(ENUM_MenuIndex, QString, ENUM_MODE_SET_XML)
 {
-    runOnGui(this, [this] { setLanguageStyle(laterTitlePixels); });
+    runOnGui(this, [this] {
+        // A page that was never shown would keep the fonts of the first style.
+        m_table->ensurePolished();
+        setLanguageStyle(laterTitlePixels);
+    });
 }
 
 void MenuDirectory::paintEvent(QPaintEvent *)
