@@ -61,12 +61,10 @@ constexpr Elsewhere elsewhere[] = {
     {"OPT1-1", 66, 14},
     {"OPT1-2", 66, 14},
     {"MOSAIC", 66, 14},
-    // The four things that can be done with a preset.
-    {"Save", 68, 20},
-    {"Load", 68, 20},
-    {"Clear", 68, 20},
-    {"CopyTo", 68, 20},
 };
+/// The four things that can be done with a preset, as captions of pictures.
+constexpr Elsewhere presetActions[] = {
+    {"Save", 68, 20}, {"Load", 68, 20}, {"Clear", 68, 20}, {"CopyTo", 68, 20}};
 
 /// What a message says behind its translation.
 const QMap<QString, QString> extras{
@@ -172,6 +170,16 @@ QSet<QString> keysOfSources()
         while (literals.hasNext())
             keys << literals.next().captured(1);
     }
+    return keys;
+}
+
+QSet<QString> allKeys()
+{
+    QSet<QString> keys = keysOfTables() + keysOfSources();
+    for (const Elsewhere &text : elsewhere)
+        keys << QString::fromUtf8(text.key);
+    for (const Elsewhere &text : presetActions)
+        keys << QString::fromUtf8(text.key);
     return keys;
 }
 
@@ -309,9 +317,7 @@ private slots:
         QFETCH(int, number);
         QTranslator translator;
         QVERIFY(translator.load(translationFile(languages[number], ".qm")));
-        QSet<QString> keys = keysOfTables() + keysOfSources();
-        for (const Elsewhere &text : elsewhere)
-            keys << QString::fromUtf8(text.key);
+        const QSet<QString> keys = allKeys();
         QStringList without;
         for (const QString &key : qAsConst(keys))
             if (translator.translate("MainWindow", key.toUtf8()).trimmed().isEmpty())
@@ -323,13 +329,19 @@ private slots:
     void noTextIsLeftOver()
     {
         QFETCH(int, number);
-        QSet<QString> keys = keysOfTables() + keysOfSources();
-        for (const Elsewhere &text : elsewhere)
-            keys << QString::fromUtf8(text.key);
+        const QSet<QString> keys = allKeys();
         const QStringList written = readTexts(languages[number]).keys();
         QVERIFY(!written.isEmpty());
         const QStringList leftOver = (QSet<QString>(written.begin(), written.end()) - keys).values();
         QVERIFY2(leftOver.isEmpty(), qPrintable(leftOver.join(", ")));
+    }
+
+    void keysElsewhereAreStillShown()
+    {
+        const QString code = sources();
+        const QSet<QString> inTables = keysOfTables();
+        for (const Elsewhere &text : elsewhere)
+            QVERIFY2(inTables.contains(text.key) || code.contains('"' + QString(text.key) + '"'), text.key);
     }
 
     void everyTextFits_data() { eachLanguage(); }
@@ -357,6 +369,8 @@ private slots:
             }
         }
         for (const Elsewhere &text : elsewhere)
+            check(text.key, text.pixels, text.width);
+        for (const Elsewhere &text : presetActions)
             check(text.key, text.pixels, text.width);
         QVERIFY2(faults.isEmpty(), qPrintable("\n" + faults));
     }
