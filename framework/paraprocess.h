@@ -15,6 +15,8 @@
 #include <atomic>
 
 class MainWindow;
+enum en_inout_test_index : int;
+enum en_item_state : int;
 
 namespace VASK
 {
@@ -84,13 +86,19 @@ public:
     void HideSdiMenu(bool bHave);
     /// The input that a layer shows has a signal or not. Any thread.
     void SetLayerSrc_Res(int layer);
+    /// The names of the layers' sources and, for the layers that are on, what those carry. Any thread.
+    void ChangeLayerSrc();
+    /// The home screen shows what the source of a layer carries, at a rate in hundredths of a hertz, or that
+    /// it has no signal. Any thread.
+    void showLayerSignal(int layer, const InputRecord &input, int rateCentiHz);
     /// The number of the input with a source code, 255 if there is none. Any thread.
     int FindKeyByValue(int code) const;
 
     /// The home screen shows the state of an Ethernet port, from 0, as its own or as the first optical link
-    /// tells it. Any thread.
+    /// tells it; a port without an optical link shows its own. Any thread.
     /// @{
     void UpdatePortState(int port);
+    void UpdataOPT1PortState(int port);
     void UpdateOPT1_PortLinkState();
     /// @}
     /// An optical link, from 0, came or went. Any thread.
@@ -120,7 +128,9 @@ signals:
     void signal_Update_LedState();
     void signal_Layer_state(qint32 layer, qint32 state);
     void signal_SetRes_state(qint32 layer, QString text);
-    /// The input under test has a stable signal; connected by the production test.
+    /// Connected by the production test: an input or output of the last step has passed or failed, and the
+    /// input under test has a stable signal.
+    void signal_update_menuitem(en_inout_test_index index, en_item_state state);
     void signal_Source_Stable();
 
 public:
@@ -138,6 +148,12 @@ public:
     void raiseCreateDialog() { emit signal_createdialog(); }
     void raiseSoftCalibrate(bool on) { emit signal_soft_calibrate(on ? 1 : 0); }
     void raiseReturnToMain(bool mode) { emit signal_return_main(mode); }
+    void raiseSourceLeds() { emit signal_Update_LedState(); }
+    void raiseTested(en_inout_test_index index, en_item_state state)
+    {
+        emit signal_update_menuitem(index, state);
+    }
+    void raiseSourceStable() { emit signal_Source_Stable(); }
 
 private:
     static constexpr int presetCount = 10;

@@ -28,4 +28,6 @@ class Factory
 public:
     /// The step that runs, an _en_factory_step; FACTORY_STEP_NONE while the test does not run.
     static std::atomic<int> m_cur_step;
+    /// The input under test in the last step, an en_inout_test_index.
+    static std::atomic<int> InputTestNumCur;
 };

@@ -15,8 +15,6 @@ const char *const factoryFile = "/usr/vask/etc/fpd/config/config_factory.xml";
 const char *const removePictures = "rm /usr/vask/etc/osd/*";
 const char *const probeFpga = "fpga -v | grep FPGA | tail -l | awk '{print $4}'";
 const char *const probeMemory = "fpga r v 0x101f 1 | grep 0x01 -c";
-const QString mosaicText = "MOSAIC";
-
 /// Items of which only the value survives a reset.
 using Kept = QMap<ENUM_MenuIndex, QString>;
 
@@ -69,7 +67,7 @@ void restoreSendingCard(ParaChange &change, ST_ItemInfo source)
 
 void restoreMosaicSource(ParaChange &change)
 {
-    change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicText, true);
+    change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicOption, true);
     change.set(MENU_MainLayer_InputSource, "2");
 }
 

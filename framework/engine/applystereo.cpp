@@ -11,8 +11,6 @@ namespace
 {
 enum StereoFormat { SideBySide, TopAndBottom, FrameSequential };
 
-const QString mosaicText = "MOSAIC";
-
 struct OutputLoad {
     int width;
     int height;
@@ -72,7 +70,7 @@ void stereoOn(ParaChange &change)
     if (change.fromUser()) {
         turnOffPip(change, 1);
         turnOffPip(change, 2);
-        change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicText, true);
+        change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicOption, true);
     }
     change.tail();
 }
@@ -81,7 +79,7 @@ void stereoOff(ParaChange &change)
 {
     const bool onlyMain = change.item(MENU_PIP1_Status) == QLatin1String("0") &&
                           change.item(MENU_PIP2_Status) == QLatin1String("0");
-    if (onlyMain && change.chosenOption(MENU_MainLayer_InputSource) != mosaicText)
+    if (onlyMain && change.chosenOption(MENU_MainLayer_InputSource) != mosaicOption)
         for (ENUM_MenuIndex item : {MENU_MainLayerTransition, MENU_TransitionDuration}) {
             change.enable(item, true);
             change.refresh(item);

@@ -12,6 +12,9 @@ namespace VASK
 {
 class MenuAnalysis;
 
+/// Text of the options of a source list that select the input mosaic.
+inline const QString mosaicOption = QStringLiteral("MOSAIC");
+
 struct ParaChange {
     ParaChange(ParaProcess &paraProcess, MenuAnalysis &menuStore, const QString &newValue,
                ENUM_MenuIndex menuIndex, ENUM_MODE_SET_XML setMode);
@@ -51,7 +54,7 @@ struct ParaChange {
     int dialog(ENUM_MenuIndex item);
     /// Makes options of a list available or not, and reloads its widget.
     void enableRow(ENUM_MenuIndex list, int row, bool on);
-    /// The same for every option with that text.
+    /// The same for every option with that text, without reloading the widget.
     void enableRowsWithText(ENUM_MenuIndex list, const QString &text, bool on);
     /// Shows or hides a layer on the home screen.
     void windowState(int layer, bool shown);

@@ -1,5 +1,6 @@
 // The home screen as the engine sets it at start-up, and the device's own name.
 
+#include "framework/engine/bandwidth.h"
 #include "framework/engine/device.h"
 #include "framework/engine/snapshotmirror.h"
 #include "framework/paraprocess.h"
@@ -19,13 +20,30 @@ void ParaProcess::showLayer(int layer)
     if (!on)
         return;
     const InputRecord input = m_processData.input(source.toInt());
-    if (input.signalState != stableSignal) {
-        emit signal_Layer_state(layer, 1);
+    showLayerSignal(layer, input, input.rateCentiHz());
+}
+
+void ParaProcess::showLayerSignal(int layer, const InputRecord &input, int rateCentiHz)
+{
+    const bool stable = input.signalState == stableSignal;
+    emit signal_Layer_state(layer, stable ? LAYER_ON : LAYER_NO_SIGNAL);
+    if (stable)
+        emit signal_SetRes_state(layer, DeviceView::sizeText(input.width, input.height, input.interlaced,
+                                                             FrameRateAdj(uint16_t(rateCentiHz))));
+}
+
+void ParaProcess::ChangeLayerSrc()
+{
+    if (!m_pMainWindow)
         return;
+    for (int layer = 0; layer < layerCount; ++layer) {
+        const QString source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer));
+        m_pMainWindow->SetLayerName(ENUM_MainWindowLayerIndex(layer), GetInputNameByIndex(source));
+        if (GetParaFromIndex(layerItem(MENU_MainLayer_Status, layer)) == QLatin1String("0"))
+            continue;
+        const InputRecord input = m_processData.input(source.toInt());
+        showLayerSignal(layer, input, input.rateCentiHz());
     }
-    emit signal_Layer_state(layer, 0);
-    emit signal_SetRes_state(
-        layer, DeviceView::sizeText(input.width, input.height, input.interlaced, input.rateCentiHz()));
 }
 
 void ParaProcess::showSyncState()

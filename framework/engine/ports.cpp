@@ -38,16 +38,25 @@ void ParaProcess::UpdatePortState(int port)
     m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), state);
 }
 
+void ParaProcess::UpdataOPT1PortState(int port)
+{
+    if (!m_pMainWindow || !isShown(port))
+        return;
+    // The device tells its optical ports also without a fiber: those at rest must not hide the port's own
+    // link.
+    if (!m_processData.value(ofPort(PARA_OPT1PortLink, port))) {
+        UpdatePortState(port);
+        return;
+    }
+    const auto state = netState(true, m_processData.value(ofPort(PARA_OPT1BackupEngaged, port)),
+                                m_processData.value(ofPort(PARA_PortBackup, port)));
+    m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), state);
+}
+
 void ParaProcess::UpdateOPT1_PortLinkState()
 {
-    if (!m_pMainWindow)
-        return;
-    for (int port = 0; port < NET_PORT_COUNT; ++port) {
-        const auto state = netState(m_processData.value(ofPort(PARA_OPT1PortLink, port)),
-                                    m_processData.value(ofPort(PARA_OPT1BackupEngaged, port)),
-                                    m_processData.value(ofPort(PARA_PortBackup, port)));
-        m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), state);
-    }
+    for (int port = 0; port < NET_PORT_COUNT; ++port)
+        UpdataOPT1PortState(port);
 }
 
 void ParaProcess::UpdateOPTLinkState(int link)
