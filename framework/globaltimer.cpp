@@ -92,11 +92,12 @@ void GlobalTimer::leavePage(QWidget *activeWindow)
         return;
     KeypadEvent escape(KEY_RELEASED, KEY_ESC, 1, false);
     page->keypadEScEvent(&escape);
-    MenuDirectory::m_currentLayer = MenuDirectory::noLayer;
-    MenuDirectory::UpdateLayerLedStatus(MenuDirectory::noLayer);
+    MenuDirectory::setNoPage();
     QWidget *now = QApplication::activeWindow();
     if (now && now != m_pmainwindow)
         now->hide();
+    // The window system tells of the page that ESC has brought up only later: it is not the active one yet.
+    MenuDirectory::hideAllPages();
 }
 
 /// A brightness that was being edited is saved like one whose edit was ended.

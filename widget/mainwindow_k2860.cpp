@@ -63,9 +63,11 @@ bool MainWindow::Init()
     const QString background = imgPath + "mainWindow/K2860-bg.png";
     if (!m_background.load(background))
         qDebug() << "Set MainWindowBackGround image fail:" << background;
+    // What is missing is told by the result; all the rest of the screen lives without it.
+    bool complete = true;
     if (!setPicture(ui->labLock, imgPath + "mainWindow/lock.png", "image load faild! imagePath:")) {
         qDebug() << "setLockState image fail";
-        return false;
+        complete = false;
     }
     SetIp(firstAddress);
     ui->labDeviceName->clear();
@@ -75,7 +77,7 @@ bool MainWindow::Init()
     tran = poolObject<transport>(ENUM_TRANSPORT);
     if (!tran) {
         qDebug() << "tran get fail";
-        return false;
+        complete = false;
     }
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     const bool signOff = engine && engine->GetParaFromIndex(MENU_MakerSign) == QLatin1String("0");
@@ -85,13 +87,12 @@ bool MainWindow::Init()
     SetConnectState(CONNECT_NONE);
     SetTestMode(TESTMODE_TEST);
     qDebug() << "MainWindow get transport start";
-    if (!findMenus())
-        return false;
+    complete = findMenus() && complete;
     ui->setStyles();
     m_pTwinkledisplayTimer = new QTimer(this);
     connect(m_pTwinkledisplayTimer, &QTimer::timeout, this, &MainWindow::slot_Twinkledisplay);
     m_pTwinkledisplayTimer->start(m_TwinkledisplayTimer);
-    return true;
+    return complete;
 }
 
 bool MainWindow::findMenus()
@@ -106,14 +107,14 @@ bool MainWindow::findMenus()
         {m_pUserHideMenu, ENUM_USER_HIDE_MENU, "User Hide Menu Directory init fail!"},
         {m_pProductHideMenu, ENUM_PRODUCT_HIDE_MENU, "Product Hide Menu Directory init fail!"},
     };
+    bool all = true;
     for (const Root &root : roots) {
         root.page = poolObject<MenuDirectory>(root.object);
-        if (!root.page) {
+        if (!root.page)
             qDebug() << root.failure;
-            return false;
-        }
+        all = all && root.page;
     }
-    return true;
+    return all;
 }
 
 void MainWindow::InitLayer()

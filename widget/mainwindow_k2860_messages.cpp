@@ -84,6 +84,10 @@ void MainWindow::slot_SetSynModeState(qint8 signalState, QString text)
     const bool problem = text == QLatin1String("4");
     if (problem && !m_syncProblem && !m_syncDialog)
         m_syncDialog = openMessage(signalState == stableSignal ? MSG_SyncMismatchTip : MSG_SyncNoSignalTip);
+    if (!problem && m_syncDialog) {
+        m_syncDialog->done(replaced);
+        m_syncDialog.clear(); // it dies later only
+    }
     m_syncProblem = problem;
 }
 
@@ -183,11 +187,9 @@ void MainWindow::leaveForHome()
         dialog->done(replaced);
     }
     KeypadEvent esc(KEY_RELEASED, KEY_ESC, 1, false);
-    if (auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow())) {
+    if (auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow()))
         page->keypadEScEvent(&esc);
-        MenuDirectory::m_currentLayer = MenuDirectory::noLayer;
-        MenuDirectory::UpdateLayerLedStatus(MenuDirectory::noLayer);
-    }
+    MenuDirectory::setNoPage();
     MenuDirectory::hideAllPages();
     qDebug() << "slot_ReturnToMain end!!!!!!";
     show();

@@ -86,6 +86,9 @@ void Ui_MainWindow::setStyles()
         label->setStyleSheet(valueStyle);
     for (int layer = 0; layer < layerCount; ++layer) {
         labWindow[layer]->setStyleSheet(windowStyle);
+        // With the picture of its state, unless that is missing.
+        if (labLayerSrc_Name[layer]->styleSheet().isEmpty())
+            labLayerSrc_Name[layer]->setStyleSheet(sourceStyle);
         labLayerSrc_Res[layer]->setStyleSheet(valueStyle);
         labWindowOffDisplay[layer]->setStyleSheet(valueStyle);
     }

@@ -81,6 +81,8 @@ public:
     static void UpdateSourceLedStatus();
     /// Notes which page is open; the blinking layer LED follows.
     static void setCurrentPage(ENUM_ObjectIndex page);
+    /// The panel goes home from wherever it is: no page is open, no layer LED blinks for one.
+    static void setNoPage();
     /// Gives back the preset row that a copy had disabled.
     static void enableCopiedPreset();
     static void hideAllPages();

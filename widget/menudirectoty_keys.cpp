@@ -96,8 +96,7 @@ void MenuDirectory::ReturnToMainWindows(KeypadEvent *)
         menu->m_pparerentdirectory = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
         menu->keypadEScEvent(&esc);
     }
-    m_currentLayer = noLayer;
-    UpdateLayerLedStatus(noLayer);
+    setNoPage();
 }
 
 void MenuDirectory::slot_devchk_end()

@@ -63,6 +63,15 @@ void MenuDirectory::setCurrentPage(ENUM_ObjectIndex page)
         UpdateLayerLedStatus(layer);
 }
 
+/// The main menu counts as open, as after ESC all the way: an ESC that ended an edit only has left the page's
+/// own number behind, and the keys at home would still serve that page.
+void MenuDirectory::setNoPage()
+{
+    m_currentObj = ENUM_MAIN_MENU;
+    m_currentLayer = noLayer;
+    UpdateLayerLedStatus(noLayer);
+}
+
 void MenuDirectory::enableCopiedPreset()
 {
     const int preset = ParaProcess::m_CopySceneNum;

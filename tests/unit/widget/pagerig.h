@@ -164,6 +164,7 @@ public:
         device->sent.clear();
         messages.clear();
         answer = 1;
+        answering = true;
     }
 
     static MenuDirectory *page(ENUM_ObjectIndex object) { return poolObject<MenuDirectory>(object); }
@@ -239,9 +240,10 @@ public:
     ParaProcess *engine = nullptr;
     MainWindow *home = nullptr;
     NotingProtocol *device = nullptr;
-    bool built = false;   ///< real rows: could all be built?
-    QStringList messages; ///< the texts of the message boxes that came up
-    int answer = 1;       ///< of every one of them
+    bool built = false;    ///< real rows: could all be built?
+    QStringList messages;  ///< the texts of the message boxes that came up
+    int answer = 1;        ///< of every one of them
+    bool answering = true; ///< false: message boxes stay
 
 private:
     static void enter(ENUM_ObjectIndex index, VaskObject *object)
@@ -251,7 +253,7 @@ private:
     void answerMessage()
     {
         auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!box)
+        if (!box || !answering)
             return;
         const auto *text = box->findChild<QLabel *>("lab_Info");
         messages << (text ? text->text() : QString());
