@@ -108,6 +108,17 @@ bool MenuAnalysis::UPdataItemEnableSelect(ENUM_MenuIndex index, bool enableSelec
     });
 }
 
+bool MenuAnalysis::changeItem(ENUM_MenuIndex index, const std::function<void(ST_ItemInfo &)> &change)
+{
+    QMutexLocker lock(&m_mutex);
+    if (!conditionCheckMenuIndex(index) || !isExistItem(index))
+        return false;
+    ST_ItemInfo item = *m_items.constFind(index);
+    change(item);
+    storeChanged(index, item);
+    return true;
+}
+
 bool MenuAnalysis::updataMenuItem(ENUM_MenuIndex index, ST_ItemInfo &item)
 {
     return changeItem(index, [&item](ST_ItemInfo &stored) { stored = item; });
@@ -150,19 +161,6 @@ bool MenuAnalysis::readItem(ENUM_MenuIndex index, const std::function<void(const
     if (!conditionCheckMenuIndex(index) || !isExistItem(index))
         return false;
     read(*m_items.constFind(index));
-    return true;
-}
-
-/// Changes a copy and stores it, all under one lock: two threads that change different fields of an item
-/// lose nothing.
-bool MenuAnalysis::changeItem(ENUM_MenuIndex index, const std::function<void(ST_ItemInfo &)> &change)
-{
-    QMutexLocker lock(&m_mutex);
-    if (!conditionCheckMenuIndex(index) || !isExistItem(index))
-        return false;
-    ST_ItemInfo item = *m_items.constFind(index);
-    change(item);
-    storeChanged(index, item);
     return true;
 }
 

@@ -49,6 +49,9 @@ public:
     bool UpdataItemEnable(ENUM_MenuIndex index, bool enable);
     /// Stores the flag only when it is set to true.
     bool UPdataItemEnableSelect(ENUM_MenuIndex index, bool enableSelect);
+    /// Changes what a function changes of the record, with no other change in between. The function runs
+    /// under the store's lock and calls nothing of the store.
+    bool changeItem(ENUM_MenuIndex index, const std::function<void(ST_ItemInfo &)> &change);
     /// Replaces the whole record.
     bool updataMenuItem(ENUM_MenuIndex index, ST_ItemInfo &item);
     /// Adds an item; one that is there already keeps what it has.
@@ -70,7 +73,6 @@ private:
     static bool conditionCheckMenuIndex(ENUM_MenuIndex index);
     bool isExistItem(ENUM_MenuIndex index) const;
     bool readItem(ENUM_MenuIndex index, const std::function<void(const ST_ItemInfo &)> &read) const;
-    bool changeItem(ENUM_MenuIndex index, const std::function<void(ST_ItemInfo &)> &change);
     void storeChanged(ENUM_MenuIndex index, const ST_ItemInfo &item);
     void addMenuItem(ENUM_MenuIndex index, const ST_ItemInfo &item);
     void deleteMenuItem(ENUM_MenuIndex index);

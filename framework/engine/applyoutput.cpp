@@ -45,12 +45,12 @@ void applyResolution(ParaChange &change)
     if (change.index != MENU_Output_Resolution)
         rateList = ENUM_MenuIndex(change.index + MENU_HDMI1_EDIDFrameRate - MENU_HDMI1_EDIDResolution);
     const ST_ItemInfo allowed = change.info(ENUM_MenuIndex(MENU_Rates_1024x768 + change.value.toInt()));
-    ST_ItemInfo rates = change.info(rateList);
-    rates.params = allowed.params;
-    rates.params1 = allowed.params1;
-    if (!rates.params.contains(rates.value))
-        rates.value = allowed.value;
-    change.store.updataMenuItem(rateList, rates);
+    change.store.changeItem(rateList, [&allowed](ST_ItemInfo &rates) {
+        rates.params = allowed.params;
+        rates.params1 = allowed.params1;
+        if (!rates.params.contains(rates.value))
+            rates.value = allowed.value;
+    });
     change.refresh(rateList);
     change.tail();
 }

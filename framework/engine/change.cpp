@@ -123,19 +123,19 @@ int ParaChange::dialog(ENUM_MenuIndex item)
 
 void ParaChange::enableRow(ENUM_MenuIndex list, int row, bool on)
 {
-    ST_ItemInfo information = info(list);
-    information.params1[QString::number(row)] = on ? optionEnable : optionDisable;
-    store.updataMenuItem(list, information);
+    store.changeItem(list, [row, on](ST_ItemInfo &information) {
+        information.params1[QString::number(row)] = on ? optionEnable : optionDisable;
+    });
     refresh(list);
 }
 
 void ParaChange::enableRowsWithText(ENUM_MenuIndex list, const QString &text, bool on)
 {
-    ST_ItemInfo information = info(list);
-    for (auto option = information.params.cbegin(); option != information.params.cend(); ++option)
-        if (option.value() == text)
-            information.params1[option.key()] = on ? optionEnable : optionDisable;
-    store.updataMenuItem(list, information);
+    store.changeItem(list, [&text, on](ST_ItemInfo &information) {
+        for (auto option = information.params.cbegin(); option != information.params.cend(); ++option)
+            if (option.value() == text)
+                information.params1[option.key()] = on ? optionEnable : optionDisable;
+    });
 }
 
 void ParaChange::windowState(int layer, bool shown)

@@ -93,19 +93,19 @@ QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex inde
 {
     const CustomEdid edid(engine, ENUM_MenuIndex(index - 2));
     auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    ST_ItemInfo item;
-    if (!store || !store->GetMenuItem(index, item))
+    if (!store)
         return value;
     const float highest =
         float(qMin(_CVT_GetframeRateMaxValue(highClock, edid.width(), edid.height()), maxRateCentiHz)) /
         100.f;
     const int lowestCenti = _CVT_GetframeRateMinValue(lowClock, edid.width(), edid.height());
     const float lowest = lowestCenti >= minRateCentiHz ? float(lowestCenti) / 100.f : 23.f;
-    for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
-        const float rate = option.value().toFloat();
-        item.params1[option.key()] = rate < lowest || rate > highest ? optionDisable : optionEnable;
-    }
-    store->updataMenuItem(index, item);
+    store->changeItem(index, [lowest, highest](ST_ItemInfo &item) {
+        for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
+            const float rate = option.value().toFloat();
+            item.params1[option.key()] = rate < lowest || rate > highest ? optionDisable : optionEnable;
+        }
+    });
     const int input = (index - MENU_HDMI1_EDIDCustomRate) / STRIDE_InputPicture;
     constexpr int stride = ENUM_ROW_HDMI2_EDIDCustomRate - ENUM_ROW_HDMI1_EDIDCustomRate;
     repaintList(ENUM_ObjectIndex(ENUM_ROW_HDMI1_EDIDCustomRate + input * stride), index);

@@ -156,17 +156,17 @@ QString limitOutputRate(ParaProcess &engine, const QString &value, ENUM_MenuInde
     constexpr float horizontalBlank = 33;
     constexpr float verticalBlank = 20;
     auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    ST_ItemInfo item;
-    if (!store || !store->GetMenuItem(index, item))
+    if (!store)
         return value;
     const float pixels = (float(engine.processData().value(PARA_OutputWidth)) + horizontalBlank) *
                          (float(engine.processData().value(PARA_OutputHeight)) + verticalBlank);
     const float factor = DeviceView(engine).doublesRate() ? 2.f : 1.f;
-    for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
-        const bool overload = pixels * option.value().toFloat() * factor > float(wholeOutputPixelRate);
-        item.params1[option.key()] = overload ? optionDisable : optionEnable;
-    }
-    store->updataMenuItem(index, item);
+    store->changeItem(index, [pixels, factor](ST_ItemInfo &item) {
+        for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
+            const bool overload = pixels * option.value().toFloat() * factor > float(wholeOutputPixelRate);
+            item.params1[option.key()] = overload ? optionDisable : optionEnable;
+        }
+    });
     repaintList(ENUM_ROW_OutputFrameRate, index);
     return value;
 }

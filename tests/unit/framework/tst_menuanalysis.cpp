@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <thread>
 
 using namespace VASK;
 
@@ -108,6 +109,27 @@ private slots:
         QVERIFY(store.GetMenuItem(item.index, loaded));
         QVERIFY(loaded == item);
         QVERIFY(contents("config_backup.xml").contains(QString::fromUtf8("名称").toUtf8()));
+    }
+
+    void noChangeIsLostBetweenTwoThreads()
+    {
+        constexpr int rounds = 5000;
+        MenuAnalysis store(ENUM_MENUANALYSIS);
+        store.initlize();
+        store.UpdataItemCurValue(MENU_MainLayer_Opacity, "0");
+        auto count = [&store] {
+            for (int round = 0; round < rounds; ++round)
+                store.changeItem(MENU_MainLayer_Opacity, [](ST_ItemInfo &item) {
+                    item.value = QString::number(item.value.toInt() + 1);
+                });
+        };
+        std::thread other(count);
+        count();
+        other.join();
+        QString value;
+        store.GetItemCurValue(MENU_MainLayer_Opacity, value);
+        QCOMPARE(value.toInt(), 2 * rounds);
+        QVERIFY(!store.changeItem(MENU_END, [](ST_ItemInfo &) {}));
     }
 
     void aTextThatXmlCannotHoldDoesNotDamageTheFile()
