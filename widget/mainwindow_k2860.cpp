@@ -129,8 +129,10 @@ void MainWindow::InitLayer()
 
 void MainWindow::InitWindow()
 {
-    for (int layer = 0; layer < LAYER_COUNT; ++layer)
+    for (int layer = 0; layer < LAYER_COUNT; ++layer) {
+        Ui_MainWindow::showKey(ui->labWindowOffDisplay[layer], "Inactive");
         SetWindowState(ENUM_MainWindowWindowIndex(layer), firstLayers[layer].window);
+    }
 }
 
 void MainWindow::InitSynMode()

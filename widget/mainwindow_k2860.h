@@ -44,6 +44,9 @@ public:
     /// something that it cannot do without is missing. Called once, when the pages are in the pool.
     bool Init();
 
+    /// The language has changed. Any thread.
+    void SetParaEntry(VASK::ENUM_MenuIndex, QString, VASK::ENUM_MODE_SET_XML) override;
+
     /// Setters. False, with a log line and the screen as it was, for a bad argument.
     /// @{
     bool SetWindowName(ENUM_MainWindowWindowIndex window, QString name);

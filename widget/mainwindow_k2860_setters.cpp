@@ -5,7 +5,6 @@
 
 #include "framework/handover.h"
 #include "menuconfig_k2860.h"
-#include "widget/language.h"
 #include "widget/mainwindowui.h"
 #include "widget/menudirectoty.h"
 
@@ -44,6 +43,11 @@ bool MainWindow::setPicture(QLabel *label, const QString &path, const char *fail
     return true;
 }
 
+void MainWindow::SetParaEntry(ENUM_MenuIndex, QString, ENUM_MODE_SET_XML)
+{
+    runOnGui(this, [this] { ui->translateAgain(); });
+}
+
 bool MainWindow::SetWindowName(ENUM_MainWindowWindowIndex window, QString name)
 {
     if (!isLayer(window))
@@ -56,7 +60,7 @@ bool MainWindow::SetLayerName(ENUM_MainWindowLayerIndex layer, QString name)
 {
     if (!isLayer(layer))
         return false;
-    runOnGui(this, [this, layer, name] { ui->labLayerSrc_Name[layer]->setText(translated(name)); });
+    runOnGui(this, [this, layer, name] { Ui_MainWindow::showKey(ui->labLayerSrc_Name[layer], name); });
     return true;
 }
 
@@ -64,7 +68,8 @@ bool MainWindow::SetLayerRes(ENUM_MainWindowLayerIndex layer, QString resolution
 {
     if (!isLayer(layer))
         return false;
-    runOnGui(this, [this, layer, resolution] { ui->labLayerSrc_Res[layer]->setText(resolution); });
+    runOnGui(this,
+             [this, layer, resolution] { Ui_MainWindow::showText(ui->labLayerSrc_Res[layer], resolution); });
     return true;
 }
 
@@ -114,7 +119,7 @@ void MainWindow::showLayerState(int layer, bool on)
         qDebug() << "load ICON fail, path:" << path;
     }
     if (!on)
-        ui->labLayerSrc_Res[layer]->setText(translated("No Signal"));
+        Ui_MainWindow::showKey(ui->labLayerSrc_Res[layer], "No Signal");
     UpdateSourceLedStatus();
 }
 

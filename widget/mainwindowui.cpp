@@ -1,5 +1,7 @@
 #include "widget/mainwindowui.h"
 
+#include "widget/language.h"
+
 #include <QStyle>
 #include <QVariant>
 
@@ -17,6 +19,7 @@ const char syncStyle[] = "*{font-family: \"Arial\";font-size: 12px; font-weight:
                          "#labSynName[switch=false]{color:#525252;}";
 
 const char switchProperty[] = "switch";
+const char keyProperty[] = "textKey";
 
 /// A label, where it stands and what it shows at first. Several labels have names that their style asks for.
 struct Place {
@@ -107,4 +110,28 @@ void Ui_MainWindow::setSwitch(QLabel *label, bool on)
     label->setProperty(switchProperty, on);
     label->style()->unpolish(label);
     label->style()->polish(label);
+}
+
+void Ui_MainWindow::showKey(QLabel *label, const QString &key)
+{
+    label->setProperty(keyProperty, key);
+    label->setText(VASK::translated(key));
+}
+
+void Ui_MainWindow::showText(QLabel *label, const QString &text)
+{
+    label->setProperty(keyProperty, QVariant());
+    label->setText(text);
+}
+
+void Ui_MainWindow::translateAgain()
+{
+    if (!centralWidget)
+        return;
+    const auto labels = centralWidget->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        const QVariant key = label->property(keyProperty);
+        if (key.isValid())
+            label->setText(VASK::translated(key.toString()));
+    }
 }

@@ -37,4 +37,9 @@ public:
     static QString sourceNameStyle(const QString &picture);
     /// Sets the property that chooses a label's colour, and applies it.
     static void setSwitch(QLabel *label, bool on);
+    /// A text that follows the language, by its key; and one that stands for itself.
+    static void showKey(QLabel *label, const QString &key);
+    static void showText(QLabel *label, const QString &text);
+    /// The language has changed: every text that was shown by its key is translated again.
+    void translateAgain();
 };

@@ -88,6 +88,25 @@ private slots:
         QVERIFY(QCoreApplication::installTranslator(&m_atStart));
     }
 
+    void theHomeScreen_data() { eachLanguage(); }
+    void theHomeScreen()
+    {
+        MainWindow &home = *m_rig->home;
+        home.SetLayerName(LAYER_MAIN, "MOSAIC");
+        home.SetLayerState(LAYER_MAIN, LAYER_NO_SIGNAL);
+        home.SetLayerRes(LAYER_PIP1, "Off"); // what the device reports is no key
+        const Language &language = switchLanguage();
+        const bool english = language.item == MENU_LanguageEn;
+        const auto shown = [&](const char *label) { return home.findChild<QLabel *>(label)->text(); };
+        QCOMPARE(shown("labLayerSrc1_Name"), QString(english ? "MOSAIC" : "拼接源"));
+        QCOMPARE(shown("labLayerSrc1_Res"), QString(english ? "No Signal" : "无信号"));
+        QCOMPARE(shown("labLayerSrc2_Res"), QString("Off"));
+        QCOMPARE(shown("labWindowOffDisplay_2"), QString(english ? "Inactive" : "未开启"));
+        home.show();
+        keepPicture(home, language, "home");
+        home.hide();
+    }
+
     void everyPage_data() { eachLanguage(); }
     void everyPage()
     {

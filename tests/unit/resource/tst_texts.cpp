@@ -52,6 +52,7 @@ constexpr Elsewhere elsewhere[] = {
     {"Locked", 132, 16},
     {"Unlocked", 132, 16},
     {"No Signal", 180, 16},
+    {"Inactive", 180, 16},
     {"WaitIP", 126, 13},
     {"TotalResolution", 180, 22},
     {"Saved", 100, 22},
@@ -160,8 +161,9 @@ QString sources()
 /// The literals that the sources hand to the translator.
 QSet<QString> keysOfSources()
 {
-    static const QRegularExpression call(QStringLiteral(
-        "(?:translated\\(|translate\\(\"MainWindow\",\\s*)((?:[^()\"]|\"[^\"]*\"|\\([^()]*\\))*)\\)"));
+    static const QRegularExpression call(
+        QStringLiteral("(?:translated\\(|showKey\\(|translate\\(\"MainWindow\",\\s*)((?:[^()\"]|\"[^\"]*\"|"
+                       "\\([^()]*\\))*)\\)"));
     static const QRegularExpression literal(QStringLiteral("\"([^\"]*)\""));
     QSet<QString> keys;
     auto calls = call.globalMatch(sources());
