@@ -112,7 +112,9 @@ void ParaChange::show(ENUM_MenuIndex item, const QString &newValue)
 
 void ParaChange::send(ENUM_MenuIndex item, const QString &newValue)
 {
-    if (VaskUiObject *widget = widgetOf(item))
+    // A command to the device has no item and no row: the home screen is there for it.
+    VaskUiObject *widget = item >= PARA_END ? home() : widgetOf(item);
+    if (widget)
         widget->CallProtocol(newValue, item);
 }
 
@@ -184,8 +186,9 @@ void ParaChange::tail()
 const QVector<ApplyFamily> &applyFamilies()
 {
     static const QVector<ApplyFamily> families{
-        plainFamily(),  commandFamily(), displayFamily(), testPatternFamily(), outputFamily(),
-        stereoFamily(), networkFamily(), colourFamily(),  resetFamily(),       systemFamily(),
+        plainFamily(),    commandFamily(), displayFamily(),      testPatternFamily(), outputFamily(),
+        stereoFamily(),   networkFamily(), colourFamily(),       resetFamily(),       systemFamily(),
+        workModeFamily(), inputFamily(),   outputReportFamily(), portFamily(),
     };
     return families;
 }

@@ -96,4 +96,8 @@ ApplyFamily networkFamily();
 ApplyFamily colourFamily();
 ApplyFamily resetFamily();
 ApplyFamily systemFamily();
+ApplyFamily workModeFamily();
+ApplyFamily inputFamily();
+ApplyFamily outputReportFamily();
+ApplyFamily portFamily();
 } // namespace VASK

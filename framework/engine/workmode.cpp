@@ -1,0 +1,62 @@
+// What the three work modes have in common.
+
+#include "framework/engine/workmode.h"
+
+#include "framework/globaltimer.h"
+#include "framework/handover.h"
+#include "framework/keyevent.h"
+#include "framework/menuanalysis.h"
+#include "widget/mainwindow_k2860.h"
+#include "widget/menudirectoty.h"
+
+#include <QApplication>
+
+namespace VASK
+{
+void leaveFiberMode(ParaChange &change)
+{
+    KeyEvent::LightFiber(false);
+    MainWindow *home = change.home();
+    runOnGui(home, [home] {
+        GlobalTimer::getInstance()->ChangeMainWindow(home);
+        if (MainWindow::m_pMainMenu)
+            MainWindow::m_pMainMenu->m_pparerentdirectory = home;
+        // A panel that has started as a fiber converter shows nothing; with no page in front the home screen
+        // is the only way back.
+        const QWidget *active = QApplication::activeWindow();
+        home->setVisible(!active || active == home);
+    });
+}
+
+void selectFallbackInput(ParaChange &change)
+{
+    const QString row = QString::number(fallbackInput);
+    const InputRecord input = DeviceView(change.engine).input(fallbackInput);
+    change.engine.showLayerSignal(0, input, input.rateCentiHz());
+    change.home()->SetLayerName(LAYER_MAIN, change.engine.GetInputNameByIndex(row));
+    showAndSend(change, MENU_MainLayer_InputSource, row);
+}
+
+void enableAll(ParaChange &change, std::initializer_list<ENUM_MenuIndex> items, bool on)
+{
+    for (ENUM_MenuIndex item : items) {
+        change.enable(item, on);
+        change.refresh(item);
+    }
+}
+
+void showAndSend(ParaChange &change, ENUM_MenuIndex item, const QString &value)
+{
+    change.show(item, value);
+    change.send(item, value);
+}
+
+void enableRowsFrom(ParaChange &change, ENUM_MenuIndex list, int firstRow, bool on)
+{
+    ST_ItemInfo information = change.info(list);
+    for (auto option = information.params.cbegin(); option != information.params.cend(); ++option)
+        if (option.key().toInt() >= firstRow)
+            information.params1[option.key()] = on ? optionEnable : optionDisable;
+    change.store.updataMenuItem(list, information);
+}
+} // namespace VASK
