@@ -1,10 +1,9 @@
 #include "emulator/bus/device.h"
 
-#include "emulator/bus/presets.h"
-#include "emulator/bus/reports.h"
 #include "fpd_hostlink.h"
 
 #include <QDateTime>
+#include <algorithm>
 
 namespace
 {
@@ -17,11 +16,6 @@ constexpr quint8 deviceSource = 0;
 constexpr quint8 panelDestination = 254;
 constexpr int keptWrites = 100000;
 
-quint64 registerKey(quint8 deviceType, quint32 address)
-{
-    return quint64(deviceType) << 32 | address;
-}
-
 QByteArray message(const QByteArray &payload)
 {
     wire::Message message;
@@ -32,8 +26,9 @@ QByteArray message(const QByteArray &payload)
 } // namespace
 
 Device::Device(const QString &stateFolder, QObject *parent)
-    : QObject(parent), m_server(stateFolder + hostlink::busSocket), m_flash(stateFolder)
+    : QObject(parent), m_server(stateFolder + hostlink::busSocket), m_flash(stateFolder), m_model(m_flash)
 {
+    m_clock.start();
     connect(&m_server, &PacketServer::received, this, &Device::handlePacket);
     connect(&m_server, &PacketServer::connected, this, [this] {
         ++m_clients;
@@ -50,6 +45,9 @@ Device::Device(const QString &stateFolder, QObject *parent)
     m_heartbeat.setInterval(heartbeatMs);
     connect(&m_heartbeat, &QTimer::timeout, this,
             [this] { pushWrite(heartbeatAddress, QByteArray(1, 1), 0); });
+    m_wait.setSingleShot(true);
+    m_wait.setTimerType(Qt::PreciseTimer);
+    connect(&m_wait, &QTimer::timeout, this, &Device::sendDue);
 }
 
 bool Device::setBusUp(bool up)
@@ -58,21 +56,6 @@ bool Device::setBusUp(bool up)
         return m_server.open();
     m_server.close();
     return true;
-}
-
-QByteArray Device::registerBytes(quint8 deviceType, quint32 address, int length) const
-{
-    QByteArray bytes(length, 0);
-    for (int i = 0; i < length; ++i) {
-        const quint32 at = address + quint32(i);
-        const auto known = m_registers.constFind(registerKey(deviceType, at));
-        const qint64 mirror = FlashImage::mirrorAddress(deviceType, at);
-        if (mirror >= 0)
-            bytes.replace(i, 1, m_flash.read(quint32(mirror), 1));
-        else if (known != m_registers.constEnd())
-            bytes[i] = *known;
-    }
-    return bytes;
 }
 
 bool Device::pushRead(quint32 address, const QByteArray &bytes, quint8 deviceType, quint8 ack)
@@ -114,15 +97,32 @@ bool Device::pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray 
     message.largeLabel = largeLabel;
     message.smallLabel = smallLabel;
     message.payload = payload;
+    emit messageSent(largeLabel, smallLabel, payload);
     return m_server.sendToAll(wire::encode(message)) > 0;
+}
+
+bool Device::report(const Reports &reports)
+{
+    for (const Report &report : reports)
+        send(report, false);
+    return isJoined();
+}
+
+bool Device::reportAndAdopt(const Report &report)
+{
+    m_model.adopt(report);
+    return send(report, false);
 }
 
 bool Device::reportAll()
 {
-    const auto list = reports::atStart();
-    for (const RegisterReport &report : list)
-        QTimer::singleShot(report.afterMs, this,
-                           [this, report] { pushRead(report.address, report.bytes, 0, 0); });
+    const int settledMs = Report().afterMs;
+    for (const Report &report : m_model.reports()) {
+        if (report.afterMs == settledMs)
+            send(report, false);
+        else // not to be replaced by the next of the same register
+            QTimer::singleShot(report.afterMs, this, [this, report] { send(report, false); });
+    }
     return isJoined();
 }
 
@@ -144,30 +144,60 @@ void Device::handlePacket(int client, const QByteArray &packet)
     const auto request = wire::decodeFrame(received->payload);
     if (!request || request->isReply)
         return;
-    if (request->operation == wire::Write)
-        obeyWrite(*request);
+    Reports reports;
+    if (request->operation == wire::Write) {
+        reports = m_model.obey({request->deviceType, request->address, request->data});
+        keep(*request);
+    }
     m_server.send(client, message(answer(*request)));
-    if (request->operation != wire::Write || !m_reporting)
-        return;
-    for (const RegisterReport &report : reports::afterWrite(request->address))
-        pushRead(report.address, report.bytes, request->deviceType, 0);
+    if (m_reporting)
+        sendLater(reports);
 }
 
-void Device::obeyWrite(const wire::Frame &request)
+void Device::keep(const wire::Frame &request)
 {
-    for (int i = 0; i < request.data.size(); ++i) {
-        const quint32 address = request.address + quint32(i);
-        m_registers[registerKey(request.deviceType, address)] = request.data[i];
-        const qint64 mirror = FlashImage::mirrorAddress(request.deviceType, address);
-        if (mirror >= 0)
-            m_flash.write(quint32(mirror), request.data.mid(i, 1));
-    }
-    presets::handleWrite(m_flash, request.address, request.data);
     if (m_writes.size() >= keptWrites)
         m_writes.erase(m_writes.begin(), m_writes.begin() + keptWrites / 2);
     m_writes.append({QDateTime::currentMSecsSinceEpoch(), request.address, request.deviceType, request.port,
                      request.board, request.data});
     emit written(m_writes.last());
+}
+
+bool Device::send(const Report &report, bool isAnswer)
+{
+    emit reported(report, isAnswer);
+    return pushRead(report.address, report.bytes, report.deviceType, 0);
+}
+
+void Device::sendLater(const Reports &reports)
+{
+    for (const Report &report : reports) {
+        const auto same = [&report](const WaitingReport &other) {
+            return other.report.address == report.address && other.report.deviceType == report.deviceType;
+        };
+        m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), same), m_waiting.end());
+        m_waiting.append({report, m_clock.elapsed() + report.afterMs});
+    }
+    sendDue();
+}
+
+void Device::sendDue()
+{
+    const qint64 now = m_clock.elapsed();
+    QVector<WaitingReport> later;
+    for (const WaitingReport &waiting : qAsConst(m_waiting)) {
+        if (waiting.dueMs <= now)
+            send(waiting.report, true);
+        else
+            later.append(waiting);
+    }
+    m_waiting = later;
+    if (m_waiting.isEmpty())
+        return;
+    qint64 next = m_waiting.first().dueMs;
+    for (const WaitingReport &waiting : qAsConst(m_waiting))
+        next = qMin(next, waiting.dueMs);
+    m_wait.start(int(next - now));
 }
 
 QByteArray Device::answer(const wire::Frame &request) const
@@ -180,6 +210,6 @@ QByteArray Device::answer(const wire::Frame &request) const
     reply.length = request.operation == wire::Read ? request.length : 0;
     reply.data.clear();
     if (request.operation == wire::Read)
-        reply.data = registerBytes(request.deviceType, request.address, request.length);
+        reply.data = m_model.registers().read(request.deviceType, request.address, request.length);
     return wire::encode(reply);
 }

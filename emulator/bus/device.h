@@ -1,12 +1,13 @@
-// The far end of the bus: keeps every register that the panel writes, answers as the device does, and pushes
-// what it is told to. Main thread.
+// The far end of the bus: keeps every register that the panel writes, answers as the device does, lets its
+// model obey and reports what the model tells. Main thread.
 #pragma once
 
 #include "emulator/bus/flashimage.h"
 #include "emulator/bus/wire.h"
+#include "emulator/model/devicemodel.h"
 #include "emulator/packetserver.h"
 
-#include <QMap>
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QVector>
 
@@ -26,6 +27,8 @@ public:
     explicit Device(const QString &stateFolder, QObject *parent = nullptr);
 
     FlashImage &flash() { return m_flash; }
+    DeviceModel &model() { return m_model; }
+    Registers &registers() { return m_model.registers(); }
 
     /// Opens the bus or takes it away.
     bool setBusUp(bool up);
@@ -34,7 +37,6 @@ public:
 
     const QVector<RegisterWrite> &writes() const { return m_writes; }
     void clearWrites() { m_writes.clear(); }
-    QByteArray registerBytes(quint8 deviceType, quint32 address, int length) const;
 
     /// All four: false if no panel is on the bus.
     bool pushRead(quint32 address, const QByteArray &bytes, quint8 deviceType, quint8 ack);
@@ -42,7 +44,13 @@ public:
     bool pushRaw(const QByteArray &payload);
     bool pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray &payload);
 
-    /// Whether the device reports on its own; it does unless told otherwise.
+    /// Reports of something that happened at the device, at once. False if no panel is on the bus.
+    bool report(const Reports &reports);
+    /// A report out of the blue: the device holds what it tells from then on.
+    bool reportAndAdopt(const Report &report);
+
+    /// Whether the device reports by itself what it is and what a write has done; it does unless told
+    /// otherwise.
     void setReporting(bool on) { m_reporting = on; }
     /// The reports of the start, now. False if no panel is on the bus.
     bool reportAll();
@@ -53,18 +61,32 @@ public:
 signals:
     void written(const RegisterWrite &write);
     void joined();
+    /// A report has gone out; an answer is what a write of the panel has led to.
+    void reported(const Report &report, bool isAnswer);
+    void messageSent(qint16 largeLabel, qint16 smallLabel, const QByteArray &payload);
 
 private:
+    struct WaitingReport {
+        Report report;
+        qint64 dueMs;
+    };
+
     void handlePacket(int client, const QByteArray &packet);
-    void obeyWrite(const wire::Frame &request);
+    void keep(const wire::Frame &request);
     QByteArray answer(const wire::Frame &request) const;
+    bool send(const Report &report, bool isAnswer);
+    void sendLater(const Reports &reports);
+    void sendDue();
 
     PacketServer m_server;
     FlashImage m_flash;
+    DeviceModel m_model;
     int m_clients = 0;
     QVector<RegisterWrite> m_writes;
-    QMap<quint64, char> m_registers; ///< by device type and address
     QTimer m_heartbeat;
     QTimer m_startReports; ///< runs from the panel's joining to the reports
     bool m_reporting = true;
+    QVector<WaitingReport> m_waiting; ///< one a register
+    QTimer m_wait;
+    QElapsedTimer m_clock;
 };

@@ -3,7 +3,7 @@
 #include "emulator/bus/plausibledevice.h"
 #include "fpd_hostlink.h"
 
-#include <QFile>
+#include <algorithm>
 
 namespace
 {
@@ -15,16 +15,24 @@ struct Mirror {
 };
 
 constexpr quint8 sender = 0;
+constexpr quint8 receiver = 1;
 constexpr quint8 emitter = 4;
 
-/// Registers whose bytes stand in the flash in the same order.
+/// Says that the image is of this device.
+constexpr quint32 markAddress = 0xDFFF00;
+constexpr char mark[] = "fpd device 1";
+
+/// Registers whose bytes stand in the flash in the same order. Where two rows hold a register, the first
+/// counts.
 constexpr Mirror mirrors[] = {
+    // What the panel reads at start.
     {sender, 0x13000000, 161, 0x2000}, // device
     {sender, 0x13020000, 160, 0xE800}, // windows of the live record
     {sender, 0x13024000, 412, 0xEE00}, // crops of the live record
     {sender, 0x13030000, 28, 0x12600}, // load area
-    {sender, 0x13040007, 2, 0xF607},   // output rate
-    {sender, 0x13040010, 16, 0xF600},  // output
+    {sender, 0x13040003, 6, 0xF603},   // output
+    {sender, 0x13040010, 16, 0xF600},  // the same once more
+    {sender, 0x13041401, 6, 0xF60A},   // output of the software configuration
     {sender, 0x13042007, 1, 0x2F00},   // output mode
     {sender, 0x13050000, 160, 0xEA00}, // pictures of the live record
     {sender, 0x13120000, 53, 0x10600}, // input backup
@@ -33,6 +41,15 @@ constexpr Mirror mirrors[] = {
     {sender, 0x02000089, 4, 0x2403},   // 3D starts of the right eye
     {emitter, 0x02000001, 1, 0x2407},  // 3D emitter
     {emitter, 0x02000002, 3, 0x2408},  // 3D signal delay
+    // What the device keeps for itself.
+    {sender, 0x13010001, 9 * 32, 0xE00000}, // input records
+    {sender, 0x13060000, 48, 0xE00200},     // input mosaic
+    {sender, 0x13411000, 64, 0xE00300},     // OSD
+    {sender, 0x13412000, 8, 0xE00380},      // OSD pictures
+    {sender, 0x02000000, 0x200, 0xE01000},  // ports and switches of the sending card
+    {sender, 0x02100006, 4, 0xE01200},      // cabinet size
+    {sender, 0x02810000, 0x300, 0xE01400},  // screen configuration
+    {receiver, 0x02000000, 48, 0xE01800},   // receiving cards
 };
 
 /// HDCP and audio of the inputs: 16 registers an input, two bytes an input in the flash.
@@ -53,36 +70,51 @@ qint64 inputMirror(quint32 registerAddress)
 }
 } // namespace
 
-FlashImage::FlashImage(const QString &stateFolder) : m_file(stateFolder + hostlink::flashFile) {}
+FlashImage::FlashImage(const QString &stateFolder) : m_image(stateFolder + hostlink::flashFile) {}
 
 bool FlashImage::install()
 {
-    QFile image(m_file);
-    if (image.exists() && image.size() == qint64(hostlink::flashSize))
+    if (read(markAddress, int(sizeof mark)) == QByteArray(mark, sizeof mark))
         return true;
-    if (!image.open(QIODevice::ReadWrite) || !image.resize(0) || !image.resize(hostlink::flashSize))
+    m_image.close();
+    m_bytes = nullptr;
+    if (!m_image.open(QIODevice::ReadWrite) || !m_image.resize(0) || !m_image.resize(hostlink::flashSize))
         return false;
-    for (const FlashPiece &piece : plausibleDevice()) {
-        image.seek(piece.address);
-        image.write(piece.bytes);
-    }
-    return true;
+    for (const FlashPiece &piece : plausibleDevice())
+        write(piece.address, piece.bytes);
+    return write(markAddress, QByteArray(mark, sizeof mark));
 }
 
 QByteArray FlashImage::read(quint32 address, int length) const
 {
-    QFile image(m_file);
-    if (!image.open(QIODevice::ReadOnly) || !image.seek(address))
+    const quint32 size = hostlink::flashSize;
+    if (!bytes() || address >= size || length < 0)
         return QByteArray();
-    return image.read(length);
+    return QByteArray(m_bytes + address, int(qMin(quint32(length), size - address)));
 }
 
-bool FlashImage::write(quint32 address, const QByteArray &bytes)
+bool FlashImage::write(quint32 address, const QByteArray &written)
 {
-    QFile image(m_file);
-    if (quint64(address) + quint64(bytes.size()) > hostlink::flashSize || !image.open(QIODevice::ReadWrite))
+    if (quint64(address) + quint64(written.size()) > hostlink::flashSize || !bytes())
         return false;
-    return image.seek(address) && image.write(bytes) == bytes.size();
+    std::copy(written.begin(), written.end(), m_bytes + address);
+    return true;
+}
+
+char FlashImage::byte(quint32 address) const
+{
+    return bytes() && address < hostlink::flashSize ? m_bytes[address] : '\0';
+}
+
+char *FlashImage::bytes() const
+{
+    if (m_bytes)
+        return m_bytes;
+    if (!m_image.isOpen() && (!m_image.exists() || !m_image.open(QIODevice::ReadWrite)))
+        return nullptr;
+    if (m_image.size() == qint64(hostlink::flashSize))
+        m_bytes = reinterpret_cast<char *>(m_image.map(0, hostlink::flashSize));
+    return m_bytes;
 }
 
 qint64 FlashImage::mirrorAddress(quint8 deviceType, quint32 registerAddress)

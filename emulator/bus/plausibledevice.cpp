@@ -1,44 +1,36 @@
 #include "emulator/bus/plausibledevice.h"
 
-#include "emulator/bus/presets.h"
-
-#include <QtEndian>
+#include "emulator/model/block.h"
+#include "emulator/model/inputs.h"
+#include "emulator/model/layers.h"
+#include "emulator/model/pictures.h"
+#include "emulator/model/presets.h"
+#include "emulator/model/service.h"
 
 namespace
 {
 constexpr int wallWidth = 1920;
 constexpr int wallHeight = 1080;
 constexpr int rateCentiHz = 6000;
+constexpr int pipWidth = 480;
+constexpr int pipHeight = 270;
 
-/// Bytes of a block, put at their offsets.
-class Block
-{
-public:
-    explicit Block(int length) : m_bytes(length, 0) {}
-
-    template <class Number> Block &put(int offset, Number number)
-    {
-        qToLittleEndian(number, m_bytes.data() + offset);
-        return *this;
-    }
-    Block &u8(int offset, int number) { return put(offset, quint8(number)); }
-    Block &u16(int offset, int number) { return put(offset, quint16(number)); }
-    Block &i32(int offset, int number) { return put(offset, qint32(number)); }
-    operator QByteArray() const { return m_bytes; }
-
-private:
-    QByteArray m_bytes;
-};
+// Offsets in a preset's record and in the live one.
+constexpr int windowsOffset = 0x400;
+constexpr int picturesOffset = 0x600;
+constexpr int cropsOffset = 0xA00;
 
 QByteArray deviceBlock()
 {
     Block block(161);
     block.u8(1, 1).u16(2, 50);                                   // fade, 0.5 s
+    block.u8(4, 3).u8(5, 5);                                     // normal display, test pattern
     block.u16(6, 192).u16(8, 168).u16(10, 0).u16(12, 10);        // address
     block.u16(14, 255).u16(16, 255).u16(18, 255).u16(20, 0);     // mask
     block.u8(22, 192).u8(23, 168).u8(24, 0).u8(25, 1).u8(26, 0); // gateway, no DHCP
+    block.u8(43, 1);                                             // would follow HDMI 1
     block.u16(51, 50);                                           // to black in 0.5 s
-    block.u8(5, 5).u8(66, 3).u8(67, 5).u8(68, 3);                // test pattern
+    block.u8(66, 3).u8(67, 5).u8(68, 3);                         // test pattern
     block.u8(158, 1).u8(159, 50);                                // audio of the main layer
     return block;
 }
@@ -55,35 +47,29 @@ QByteArray stereoBlock()
         .u8(10, 7000 * 125 >> 16);
 }
 
-QByteArray windowsBlock()
+/// The main layer with HDMI 1 over the whole wall; small windows in its lower corners wait to be shown.
+QByteArray windowsBlock(bool withPip)
 {
-    constexpr int first = 0x10, stride = 48;
-    Block block(160);
-    block.u8(first, 1)
-        .u8(first + 3, 1)
-        .u8(first + 4, 17)
-        .i32(first + 13, wallWidth)
-        .i32(first + 17, wallHeight);
-    for (int pip : {1, 2}) {
-        const int at = first + pip * stride;
-        block.u8(at + 2, pip)
-            .u8(at + 3, pip + 1)
-            .i32(at + 5, 480 * (pip - 1))
-            .i32(at + 13, 480)
-            .i32(at + 17, 270);
-    }
+    constexpr int first = 0x10;
+    layers::Layer list[layers::count];
+    list[0] = {true, inputs::hdmi1, 0, 0, 0, wallWidth, wallHeight, 100};
+    list[1] = {withPip, inputs::hdmi1, 1, 0, 0, pipWidth, pipHeight, 100};
+    list[2] = {false, inputs::hdmi1, 2, pipWidth, 0, pipWidth, pipHeight, 100};
+    QByteArray block(160, 0);
+    for (int layer = 0; layer < layers::count; ++layer)
+        block.replace(first + layers::recordLength * layer, layers::recordLength,
+                      layers::record(list[layer]));
     return block;
 }
 
-QByteArray picturesBlock()
+QByteArray picturesBlock(int brightness)
 {
-    constexpr int sourceCodes[] = {17, 18, 105, 106, 48};
-    Block block(160);
-    for (int input = 0; input < 5; ++input) {
-        const int at = 20 * input;
-        block.u8(at, sourceCodes[input]).u8(at + 1, 50).u8(at + 2, 50).u8(at + 4, 50);
-    }
-    return block;
+    QByteArray block;
+    pictures::Picture picture;
+    picture.brightness = brightness;
+    for (int record = 0; record < pictures::count; ++record)
+        block += pictures::bytes(record, picture);
+    return block.leftJustified(160, '\0');
 }
 
 QByteArray cropsBlock()
@@ -97,6 +83,17 @@ QByteArray cropsBlock()
         }
     }
     return block;
+}
+
+/// What is on the wall, as the live record and the presets keep it.
+QByteArray wallRecord(bool withPip = false, int brightness = 50)
+{
+    QByteArray bytes(presets::recordLength, 0);
+    for (const auto &part : {std::make_pair(windowsOffset, windowsBlock(withPip)),
+                             std::make_pair(picturesOffset, picturesBlock(brightness)),
+                             std::make_pair(cropsOffset, cropsBlock())})
+        bytes.replace(part.first, part.second.size(), part.second);
+    return bytes;
 }
 
 QByteArray outputBlock()
@@ -119,32 +116,53 @@ QByteArray inputsBlock()
     return block;
 }
 
-QByteArray nameBlock()
+/// Registers that the device keeps for itself.
+QVector<FlashPiece> ownRegisters()
 {
-    Block block(64);
-    const QString name = "LED Wall 4x4";
-    for (int i = 0; i < name.size(); ++i)
-        block.u16(2 * i, name[i].unicode());
-    return block;
+    struct Value {
+        quint8 deviceType;
+        quint32 address;
+        QByteArray bytes;
+    };
+    QVector<Value> values = {
+        {sendingSide, 0x02100006, Block(4).u16(0, wallWidth / 4).u16(2, wallHeight / 4)}, // cabinets
+        {sendingSide, 0x0200001F, QByteArray(1, 0x0F)},                                   // four ports linked
+        {sendingSide, 0x020001E0, QByteArray("\xF0\x03", 2)},                             // the others idle
+        {sendingSide, 0x13411001, QByteArray(1, 14)},                                     // OSD in front
+        {sendingSide, 0x13412000, QByteArray(8, 1)},                                      // with all pictures
+        {sendingSide, 0x02810016, QByteArray(2, 4)},                                      // 4x4 cabinets
+        {receivingCard, 0x02000001, QByteArray(1, char(60 * 255 / 100))},                 // brightness
+        {receivingCard, 0x02000000, QByteArray(1, 28)},                                   // gamma
+    };
+    for (int input = 0; input < inputs::count; ++input) {
+        inputs::Signal signal;
+        signal.stable = input == inputs::hdmi1;
+        signal.mode = {wallWidth, wallHeight, rateCentiHz, false};
+        values.append({sendingSide, inputs::recordAddress(input), inputs::record(input, signal)});
+    }
+    QVector<FlashPiece> pieces;
+    for (const Value &value : values)
+        pieces.append({quint32(FlashImage::mirrorAddress(value.deviceType, value.address)), value.bytes});
+    return pieces;
 }
 } // namespace
 
 QVector<FlashPiece> plausibleDevice()
 {
-    return {
-        {0x2000, deviceBlock()},
-        {0x2400, stereoBlock()},
-        {presets::inUseAddress, QByteArray(1, 0)},
-        {presets::recordAddress(0), presets::record("Concert")},
-        {presets::recordAddress(1), presets::record(QString::fromUtf8("新闻直播"))},
-        {0xE800, windowsBlock()},
-        {0xEA00, picturesBlock()},
-        {0xEE00, cropsBlock()},
-        {0xF600, outputBlock()},
-        {0x10600, Block(53).u8(0, 255).u8(18, 255).u8(22, 255).u8(26, 255)},
-        {0x12600, Block(28).u16(24, wallWidth).u16(26, wallHeight)},
-        {0x15600, inputsBlock()},
-        {0xD14000, QByteArray(1, char(0x9A))},
-        {0xD14100, nameBlock()},
-    };
+    const QString news = QString::fromUtf8("新闻直播");
+    return QVector<FlashPiece>{
+               {0x2000, deviceBlock()},
+               {0x2400, stereoBlock()},
+               {presets::inUseAddress, QByteArray(1, 0)},
+               {presets::recordAddress(0), presets::record(wallRecord(), "Concert")},
+               {presets::recordAddress(1), presets::record(wallRecord(true, 60), news)},
+               {presets::liveAddress(), wallRecord()},
+               {0xF600, outputBlock()},
+               {0x10600, Block(53).u8(0, 255).u8(18, 255).u8(22, 255).u8(26, 255)},
+               {0x12600, Block(28).u16(24, wallWidth).u16(26, wallHeight)},
+               {0x15600, inputsBlock()},
+               {0xD14000, QByteArray(1, char(0x9A))},
+               {0xD14100, service::nameRecord("LED Wall 4x4")},
+           } +
+           ownRegisters();
 }

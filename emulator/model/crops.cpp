@@ -1,0 +1,93 @@
+#include "emulator/model/crops.h"
+
+#include "emulator/model/block.h"
+#include "emulator/model/inputs.h"
+#include "emulator/model/layers.h"
+
+namespace crops
+{
+namespace
+{
+constexpr quint32 firstRecord = 0x13024014;
+constexpr quint32 layerStride = 132;
+constexpr quint32 inputStride = 16;
+constexpr int croppedInputs = 8; ///< one of the synchronisation reference would reach into the next layer
+constexpr int pipInputs = 6;
+
+// Offsets in a crop record.
+constexpr int offsetOn = 2, offsetX = 3, offsetY = 5, offsetWidth = 7, offsetHeight = 9;
+
+constexpr int inputsOf(int layer)
+{
+    return layer == 0 ? croppedInputs : pipInputs;
+}
+
+/// A receiver takes any crop of a layer for the one that counts, so only that of the layer's input is told.
+template <int layer>
+Reports obeyCrop(Registers &registers, const RegisterRow &row, int input, const Write &write)
+{
+    Reports reports = obey::storeAndReport(registers, row, input, write);
+    for (Report &report : reports)
+        report.bytes.truncate(recordLength);
+    return layers::read(registers, layer).input == input ? reports : Reports();
+}
+
+template <int layer> RegisterRow rowOf()
+{
+    return {recordAddress(layer, 0), int(inputStride), inputsOf(layer), inputStride, obeyCrop<layer>};
+}
+
+QStringList describe(const Registers &registers)
+{
+    QStringList lines;
+    for (int layer = 0; layer < layers::count; ++layer) {
+        for (int input = 0; input < inputsOf(layer); ++input) {
+            const Crop crop = read(registers, layer, input);
+            if (crop.on)
+                lines.append(QString("%1 of %2: %3x%4 at %5,%6")
+                                 .arg(layers::nameOf(layer), inputs::nameOf(input))
+                                 .arg(crop.width)
+                                 .arg(crop.height)
+                                 .arg(crop.x)
+                                 .arg(crop.y));
+        }
+    }
+    return lines.isEmpty() ? QStringList{"all: off"} : lines;
+}
+} // namespace
+
+quint32 recordAddress(int layer, int input)
+{
+    return firstRecord + layerStride * quint32(layer) + inputStride * quint32(input);
+}
+
+Crop read(const Registers &registers, int layer, int input)
+{
+    const Block block(registers.read(recordAddress(layer, input), recordLength), recordLength);
+    return {block.u8(offsetOn) == 1, block.u16(offsetX), block.u16(offsetY), block.u16(offsetWidth),
+            block.u16(offsetHeight)};
+}
+
+Reports reportShown(const Registers &registers)
+{
+    Reports list;
+    for (int layer = 0; layer < layers::count; ++layer) {
+        const int input = layers::read(registers, layer).input;
+        if (input < inputsOf(layer)) {
+            const quint32 address = recordAddress(layer, input);
+            list.append({address, registers.read(address, recordLength)});
+        }
+    }
+    return list;
+}
+} // namespace crops
+
+Subject cropsSubject()
+{
+    return {"crops",
+            {crops::rowOf<0>(), crops::rowOf<1>(), crops::rowOf<2>()},
+            [](const Registers &) {
+                return Reports(); // the flash tells them at the start
+            },
+            crops::describe};
+}

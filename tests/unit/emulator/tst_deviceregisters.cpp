@@ -1,0 +1,190 @@
+// Every kind of register that the panel writes: what the flash holds of it and what the device tells of it.
+#include "modelrig.h"
+
+class TestDeviceRegisters : public QObject
+{
+    Q_OBJECT
+private slots:
+    void writesReachFlashAndReports_data();
+    void writesReachFlashAndReports();
+    void whatStaysTheSameIsNotTold();
+    void aSourceLeavesThePriorityAlone();
+    void onlyTheCropOnTheWallIsTold();
+    void picturesFindTheRecordOfTheirInput();
+    void theAddressOfAServerCounts();
+    void rightEyeStartsDoNotMix();
+    void aSendingCardMovesItsWindow();
+    void aReportFromOutsideIsHeld();
+};
+
+namespace
+{
+/// Hex digits of so many bytes, zeros behind those given.
+QByteArray padded(const QByteArray &hex, int length)
+{
+    return hex.leftJustified(2 * length, '0');
+}
+} // namespace
+
+void TestDeviceRegisters::writesReachFlashAndReports_data()
+{
+    QTest::addColumn<uint>("address");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<uint>("flashAddress");
+    QTest::addColumn<QByteArray>("flashBytes");
+    QTest::addColumn<uint>("reportAddress"); // 0: nothing is told
+    QTest::addColumn<QByteArray>("reportBytes");
+    const auto row = [](const char *name, uint address, const char *bytes, uint flashAddress,
+                        const char *flashBytes, uint reportAddress = 0, const QByteArray &reportBytes = {}) {
+        QTest::newRow(name) << address << QByteArray(bytes) << flashAddress << QByteArray(flashBytes)
+                            << reportAddress << reportBytes;
+    };
+    row("effect", 0x13000001, "00", 0x2001, "00");
+    row("freeze", 0x13000004, "04", 0x2004, "0405", 0x13000004, "04");
+    row("test pattern", 0x13000004, "0623", 0x2004, "0623", 0x13000004, "06");
+    row("another pattern in the same mode", 0x13000004, "0307", 0x2004, "0307");
+    row("address", 0x13000006, "0a0000000100020 0ff00ff00ff0000000a000001", 0x2006, "0a00000001000200",
+        0x13000006, "0a00000001000200ff00ff00ff0000000a000001");
+    row("sync switch", 0x1300002A, "01", 0x202A, "0101", 0x1300002A, "0101");
+    row("sync source", 0x1300002B, "03", 0x202A, "0003", 0x1300002A, "0003");
+    row("splicing", 0x13000053, "a8", 0x2053, "a8");
+    row("audio output", 0x1300009E, "f0", 0x209E, "f032", 0x1300009E, "f032");
+    row("volume", 0x1300009F, "14", 0x209E, "0114", 0x1300009E, "0114");
+    row("sound of HDMI 2", 0x13019015, "02", 0x15633, "02", 0x13019025, "02");
+    row("sound of DVI", 0x13019025, "02", 0x15635, "02", 0x13019035, "02");
+    row("layer off", 0x13020010, "00", 0xE810, "00", 0x13020010,
+        "0000000011000000000000000080070000380400000000000000000000000000000000000000000000000000000000 64");
+    row("window of PIP 2", 0x13020075, "0a000000ecffffff80020000e0010000", 0xE875,
+        "0a000000ecffffff80020000e0010000", 0x13020070,
+        "00000002110a000000ecffffff80020000e00100000000000000000000000000000000000000000000000000000000 64");
+    row("load area", 0x13030010, "01000000feffffff00032002", 0x12610, "01000000feffffff00032002", 0x13030000,
+        "0000000000000000000000000000000001000000feffffff00032002");
+    row("output rate", 0x13040007, "8813", 0xF603, "8007380 48813", 0x13040003, "80073804 8813");
+    row("size of software while the device's counts", 0x13041401, "0004000370 17", 0xF60A, "000400037017");
+    row("input backup", 0x13120000, "5b", 0x10600, "5b");
+    row("OSD on", 0x13411000, "01", 0xE00300, "010e00", 0x13411000, padded("010e", 40));
+    row("OSD behind", 0x13411001, "00", 0xE00300, "0000", 0x13411000, padded("", 40));
+    row("OSD position", 0x13411020, "9cffffff", 0xE00320, "9cffffff", 0x13411000,
+        "000e0000000000000000000000000000000000000000000000000000000000009cffffff00000000");
+    row("3D on", 0x02000039, "a8", 0x2400, "a8", 0x02000039, "a8");
+    row("3D format", 0x02000042, "08", 0x2402, "08", 0x02000042, "08");
+    row("3D eye", 0x02000041, "32", 0x2401, "32", 0x02000041, "32");
+    row("low latency", 0x02000074, "78", 0xE01074, "78", 0x02000074, "78");
+    row("backup of four ports", 0x02000018, "80808080", 0xE01018, "80808080", 0x02000018, "80808080");
+    row("backup of the last ports", 0x02000100, "80808080", 0xE01100, "80808080", 0x02000100, "8080");
+    row("sending card's own mode", 0x020001F8, "a5", 0xE011F8, "a5");
+}
+
+void TestDeviceRegisters::writesReachFlashAndReports()
+{
+    QFETCH(uint, address);
+    QFETCH(QByteArray, bytes);
+    QFETCH(uint, flashAddress);
+    QFETCH(uint, reportAddress);
+    QFETCH(QByteArray, flashBytes);
+    QFETCH(QByteArray, reportBytes);
+    flashBytes = QByteArray::fromHex(flashBytes).toHex();
+    reportBytes = QByteArray::fromHex(reportBytes).toHex();
+    ModelRig rig;
+    const Reports reports = rig.write(address, bytes);
+    QCOMPARE(rig.flashHex(flashAddress, flashBytes.size() / 2), flashBytes);
+    QCOMPARE(reports.isEmpty(), reportAddress == 0);
+    if (reportAddress != 0)
+        QCOMPARE(ModelRig::hexOf(reports, reportAddress), reportBytes);
+}
+
+void TestDeviceRegisters::whatStaysTheSameIsNotTold()
+{
+    ModelRig rig;
+    for (const Report &report : rig.model.reports()) {
+        const bool isMirror = FlashImage::mirrorAddress(sendingSide, report.address) >= 0;
+        const bool isSound = report.address >> 12 == 0x13019; // told under the address of the next input
+        // A report that comes back as a write must end there, or panel and device would never fall silent.
+        if (isMirror && !isSound)
+            QVERIFY2(rig.write(report.address, report.bytes.toHex()).isEmpty(),
+                     qPrintable(QString::number(report.address, 16)));
+    }
+}
+
+void TestDeviceRegisters::aSourceLeavesThePriorityAlone()
+{
+    ModelRig rig;
+    rig.write(0x13020043, "05");
+    const Reports reports = rig.write(0x13020042, "030030");
+    QCOMPARE(rig.flashHex(0xE842, 3), QByteArray("030530"));
+    QCOMPARE(ModelRig::hexOf(reports, 0x13020040).mid(0, 10), QByteArray("0000030530"));
+    QCOMPARE(rig.shown("PIP 1"), QString("PIP 1: off, sdi, 480x270 at 0,0, priority 5, opacity 100%"));
+}
+
+void TestDeviceRegisters::onlyTheCropOnTheWallIsTold()
+{
+    ModelRig rig;
+    const Reports ofMain = rig.write(0x13024014, "11000105000600000400 03");
+    QCOMPARE(ModelRig::hexOf(ofMain, 0x13024014), QByteArray("1100010500060000040003"));
+    QCOMPARE(rig.flashHex(0xEE14, 11), QByteArray("1100010500060000040003"));
+    QVERIFY(rig.write(0x13024034, "0002010500060000040003").isEmpty()); // DVI is on no layer
+    QCOMPARE(rig.flashHex(0xEE34, 11), QByteArray("0002010500060000040003"));
+    QCOMPARE(rig.shown("main layer of hdmi1"), QString("main layer of hdmi1: 1024x768 at 5,6"));
+}
+
+void TestDeviceRegisters::picturesFindTheRecordOfTheirInput()
+{
+    ModelRig rig;
+    rig.write(0x13050001 + 20 * 3, "46");   // brightness of input 3, SDI
+    rig.write(0x13050005 + 20 * 4, "f6ff"); // hue of input 4, the second DVI
+    rig.write(0x13050013 + 20 * 3, "01");   // range, by record
+    QCOMPARE(rig.shown("sdi: brightness"),
+             QString("sdi: brightness 70, contrast 50, saturation 50, hue 0, limited range"));
+    QCOMPARE(rig.shown("dvi2: brightness"),
+             QString("dvi2: brightness 50, contrast 50, saturation 50, hue -10, full range"));
+    rig.write(0x13050000 + 20 * 4, "3032320032000000000000000000000000000000");
+    QCOMPARE(rig.shown("sdi: brightness"),
+             QString("sdi: brightness 50, contrast 50, saturation 50, hue 0, limited range"));
+    QVERIFY(rig.shown("dvi2: brightness").contains("hue -10"));
+}
+
+void TestDeviceRegisters::theAddressOfAServerCounts()
+{
+    ModelRig rig;
+    const Reports reports = rig.write(0x1300001A, "a8");
+    QCOMPARE(ModelRig::hexOf(reports, 0x1300001A), QByteArray("a8"));
+    const Report *address = ModelRig::find(reports, 0x13000006);
+    QVERIFY(address && address->afterMs > ModelRig::find(reports, 0x1300001A)->afterMs);
+    QCOMPARE(rig.shown("address"), QString("address: 192.168.0.137"));
+    QVERIFY(rig.write(0x13000006, "0a000000010002000a000000010002000a000001").isEmpty());
+    QCOMPARE(rig.shown("address"), QString("address: 192.168.0.137"));
+}
+
+void TestDeviceRegisters::rightEyeStartsDoNotMix()
+{
+    ModelRig rig;
+    QCOMPARE(ModelRig::hexOf(rig.write(0x02000089, "e8031c02"), 0x02000089), QByteArray("e803"));
+    rig.write(0x02000042, "08");
+    QCOMPARE(ModelRig::hexOf(rig.write(0x02000089, "f401f401"), 0x0200008B), QByteArray("f401"));
+    QCOMPARE(rig.flashHex(0x2403, 4), QByteArray("e803f401"));
+}
+
+void TestDeviceRegisters::aSendingCardMovesItsWindow()
+{
+    ModelRig rig;
+    const QByteArray links = rig.model.registers().read(0x020001F2, 6);
+    const Reports reports = rig.write(0x020001F0, "64000000c8000000");
+    QVERIFY(ModelRig::find(reports, 0x13020010));
+    QVERIFY(rig.shown("main layer: ").contains("at 100,200"));
+    QCOMPARE(rig.model.registers().read(0x020001F2, 6), links);
+}
+
+void TestDeviceRegisters::aReportFromOutsideIsHeld()
+{
+    ModelRig rig;
+    rig.model.adopt({0x0200001F, QByteArray::fromHex("03")});
+    QCOMPARE(rig.shown("port 3"), QString("port 3: link off, backup off, engaged off"));
+    rig.model.adopt({0x13019025, QByteArray::fromHex("02")});
+    QCOMPARE(rig.shown("sound of hdmi2"), QString("sound of hdmi2: 2"));
+    const QByteArray before = rig.model.registers().read(0x020001F0, 8);
+    rig.model.adopt({0x020001F0, QByteArray(8, 1)});
+    QCOMPARE(rig.model.registers().read(0x020001F0, 8), before);
+}
+
+QTEST_GUILESS_MAIN(TestDeviceRegisters)
+#include "tst_deviceregisters.moc"
