@@ -8,8 +8,8 @@ constexpr const char *startedText = "init OK!";
 
 Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
     : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), device(stateFolder.path()),
-      bootFlag(stateFolder.path()), panel(stateFolder.path()), tools(stateFolder.path()),
-      lcd(stateFolder.path())
+      recorder(keypad, device), bootFlag(stateFolder.path()), panel(stateFolder.path()),
+      tools(stateFolder.path()), lcd(stateFolder.path())
 {
     tools.install();
     m_look.setInterval(lookMs);

@@ -6,6 +6,7 @@
 #include "emulator/keypad.h"
 #include "emulator/lcd.h"
 #include "emulator/panelprocess.h"
+#include "emulator/recorder.h"
 #include "emulator/shelltools.h"
 #include "emulator/statefolder.h"
 
@@ -26,6 +27,7 @@ public:
     StateFolder &folder;
     Keypad keypad;
     Device device;
+    Recorder recorder;
     BootFlag bootFlag;
     PanelProcess panel;
     ShellTools tools;

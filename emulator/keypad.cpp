@@ -46,6 +46,8 @@ bool Keypad::sendWords(const QVector<quint16> &words)
         for (int reader : readers)
             taken &= m_server.send(reader, QByteArray(reinterpret_cast<const char *>(&bytes), sizeof bytes));
     }
+    if (taken)
+        emit wordsSent(words);
     return taken;
 }
 

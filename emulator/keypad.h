@@ -29,6 +29,8 @@ public:
 
 signals:
     void ledsChanged();
+    /// Words have gone to the readers.
+    void wordsSent(const QVector<quint16> &words);
 
 private:
     void handlePacket(int client, const QByteArray &packet);

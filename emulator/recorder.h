@@ -1,0 +1,28 @@
+// Writes down a session while it happens: keys, reports and messages with their times. Main thread.
+#pragma once
+
+#include "emulator/bus/device.h"
+#include "emulator/keypad.h"
+#include "emulator/session.h"
+
+#include <QFile>
+
+class Recorder : public QObject
+{
+    Q_OBJECT
+public:
+    Recorder(Keypad &keypad, Device &device, QObject *parent = nullptr);
+
+    bool isRecording() const { return m_file.isOpen(); }
+    /// Empty, or why the file cannot be written.
+    QString start(const QString &file);
+    /// The number of events of the session. Empty second, or why some of them are not in the file.
+    std::pair<int, QString> stop();
+
+private:
+    void add(session::Event event);
+
+    QFile m_file;
+    QElapsedTimer m_clock;
+    int m_events = 0;
+};

@@ -1,0 +1,30 @@
+// A session of the panel as text: what its user and its device did, and when. One event a line, in the order
+// in which they happened:
+//
+//     MS key WORD                      a key word in hex, as the keypad gave it
+//     MS report ADDRESS DEVICE HEX     a report that the device gave on its own
+//     MS answered ADDRESS DEVICE HEX   one that a write of the panel led to: the device gives it anew
+//     MS message LARGE SMALL HEX       a message with those labels
+//
+// MS are milliseconds from the start; what stands behind # is a remark.
+#pragma once
+
+#include "emulator/model/subject.h"
+
+namespace session
+{
+enum class Kind { key, report, answered, message };
+
+struct Event {
+    qint64 atMs = 0;
+    Kind kind = Kind::key;
+    quint16 word = 0;            ///< of a key event
+    Report report;               ///< of a report
+    qint16 large = 0, small = 0; ///< labels of a message
+    QByteArray payload;          ///< of a message
+};
+
+QString toText(const Event &event);
+/// Empty, or what is wrong and in which line.
+QString parse(const QString &text, QVector<Event> &events);
+} // namespace session

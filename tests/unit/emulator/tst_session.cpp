@@ -1,0 +1,228 @@
+// Sessions as text, recorded from a keypad and a device and played again to both.
+#include "emulator/recorder.h"
+#include "emulator/replayer.h"
+#include "fpd_hostlink.h"
+#include "fpd_hostsocket.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+
+using session::Event;
+using session::Kind;
+
+namespace
+{
+constexpr int knobRight = 33 | 1 << 8;
+
+/// The panel's ends of keypad and bus: what came, and when.
+class Listener
+{
+public:
+    explicit Listener(const QString &folder)
+    {
+        const std::string base = folder.toStdString();
+        m_keypad = hostlink::connectSocket(base + hostlink::keypadSocket, SOCK_SEQPACKET);
+        m_bus = hostlink::connectSocket(base + hostlink::busSocket, SOCK_SEQPACKET);
+        (void)!send(m_keypad, "r", 1, 0);
+    }
+    ~Listener()
+    {
+        close(m_keypad);
+        close(m_bus);
+    }
+    QList<QByteArray> keys() const { return packets(m_keypad); }
+    QList<QByteArray> reports() const
+    {
+        QList<QByteArray> list;
+        for (const QByteArray &packet : packets(m_bus)) {
+            const auto frame = wire::decodeFrame(packet.mid(28));
+            if (frame)
+                list.append(QByteArray::number(frame->address, 16) + ' ' + frame->data.toHex());
+        }
+        return list;
+    }
+
+private:
+    static QList<QByteArray> packets(int descriptor)
+    {
+        QList<QByteArray> list;
+        char buffer[4096];
+        for (ssize_t size; (size = recv(descriptor, buffer, sizeof buffer, MSG_DONTWAIT)) > 0;)
+            list.append(QByteArray(buffer, int(size)));
+        return list;
+    }
+
+    int m_keypad;
+    int m_bus;
+};
+
+/// A device with its keypad and somebody at the other end.
+struct Rig {
+    Rig()
+    {
+        QDir(folder.path()).mkdir("run");
+        device = std::make_unique<Device>(folder.path());
+        keypad = std::make_unique<Keypad>(folder.path());
+        device->setReporting(false);
+        opened = device->flash().install() && device->setBusUp(true) && keypad->setPresent(true);
+        listener = std::make_unique<Listener>(folder.path());
+        opened = opened && QTest::qWaitFor([this] { return device->isJoined() && keypad->sendWords({1}); });
+        listener->keys();
+    }
+    QTemporaryDir folder;
+    std::unique_ptr<Device> device;
+    std::unique_ptr<Keypad> keypad;
+    std::unique_ptr<Listener> listener;
+    bool opened = false;
+};
+} // namespace
+
+class TestSession : public QObject
+{
+    Q_OBJECT
+private slots:
+    void linesRead_data();
+    void linesRead();
+    void damagedLinesAreRefused_data();
+    void damagedLinesAreRefused();
+    void recordedSessionPlaysAgain();
+    void speedSetsTheTimes_data();
+    void speedSetsTheTimes();
+    void nobodyAtTheKeypad();
+};
+
+void TestSession::linesRead_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("key") << "120 key 0122  # ok pressed";
+    QTest::newRow("key let go") << "140 key 01a2  # ok released";
+    QTest::newRow("knob") << "150 key 0521  # knob right";
+    QTest::newRow("report") << "0 report 0200001f 0 0f";
+    QTest::newRow("report of a card") << "7 report 02000001 1 80";
+    QTest::newRow("report without bytes") << "7 report 0ff00001 0";
+    QTest::newRow("answer") << "99 answered 13000004 0 04";
+    QTest::newRow("message") << "2000 message 7 4 c409";
+}
+
+void TestSession::linesRead()
+{
+    QFETCH(QString, line);
+    QVector<Event> events;
+    QCOMPARE(session::parse("# a remark\n\n" + line + "\n", events), QString());
+    QCOMPARE(events.size(), 1);
+    QCOMPARE(session::toText(events[0]), line);
+}
+
+void TestSession::damagedLinesAreRefused_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const char *line :
+         {"key 0122", "-1 key 0122", "1 key", "1 key 12222", "1 key xyz", "1 key 0122 0122", "1 knob 0121",
+          "1 report 0200001f", "1 report 0200001f 256 0f", "1 report 0200001f 0 0", "1 report 0200001f 0 0g",
+          "1 message 7", "1 message 7 99999 00", "1"})
+        QTest::newRow(line) << QString(line);
+}
+
+void TestSession::damagedLinesAreRefused()
+{
+    QFETCH(QString, line);
+    QVector<Event> events;
+    QVERIFY(session::parse("0 key 0122\n" + line, events).startsWith("line 2 "));
+    QCOMPARE(session::parse("5 key 0122\n4 key 0122", events),
+             QString("line 2 is earlier than the one before"));
+}
+
+void TestSession::recordedSessionPlaysAgain()
+{
+    const Report links{0x0200001F, QByteArray(1, 3)};
+    QByteArray text;
+    {
+        Rig rig;
+        QVERIFY(rig.opened);
+        Recorder recorder(*rig.keypad, *rig.device);
+        const QString file = rig.folder.path() + "/session.txt";
+        QCOMPARE(recorder.start(file), QString());
+        rig.keypad->turn(33, 3, 1);
+        QTest::qWait(60);
+        rig.device->reportAndAdopt(links);
+        rig.device->pushMessage(7, 4, QByteArray::fromHex("c409"));
+        rig.keypad->press({34});
+        const auto result = recorder.stop();
+        QCOMPARE(result.first, 6);
+        QCOMPARE(result.second, QString());
+        rig.keypad->press({35}); // no more
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        text = written.readAll();
+    }
+    QVector<Event> events;
+    QCOMPARE(session::parse(text, events), QString());
+    QCOMPARE(events.size(), 6);
+    QVERIFY(events[3].atMs - events[2].atMs >= 50);
+    Rig rig;
+    QVERIFY(rig.opened);
+    Replayer replayer(*rig.keypad, *rig.device, events, 1);
+    QSignalSpy ended(&replayer, &Replayer::ended);
+    replayer.start();
+    QVERIFY(ended.wait(3000));
+    QCOMPARE(ended[0][0].toString(), QString());
+    QCOMPARE(replayer.keysPlayed(), 4);
+    QCOMPARE(replayer.reportsPlayed(), 2);
+    const auto key = [](quint16 word) { return QByteArray(reinterpret_cast<const char *>(&word), 2); };
+    QCOMPARE(rig.listener->keys(),
+             (QList<QByteArray>{key(knobRight), key(knobRight), key(knobRight), key(34 | 1 << 8)}));
+    QCOMPARE(rig.listener->reports(), QList<QByteArray>{"200001f 03"});
+    QCOMPARE(rig.device->registers().u8(links.address), 3); // the device holds what it has told
+}
+
+void TestSession::speedSetsTheTimes_data()
+{
+    QTest::addColumn<double>("speed");
+    QTest::addColumn<int>("least");
+    QTest::addColumn<int>("most");
+    QTest::newRow("half") << 0.5 << 390 << 3000;
+    QTest::newRow("as it was") << 1.0 << 195 << 2000;
+    QTest::newRow("a hundred times") << 100.0 << 0 << 190;
+}
+
+void TestSession::speedSetsTheTimes()
+{
+    QFETCH(double, speed);
+    Rig rig;
+    QVERIFY(rig.opened);
+    QVector<Event> events;
+    QCOMPARE(session::parse("0 key 0122\n200 key 01a2\n200 answered 13000004 0 04", events), QString());
+    Replayer replayer(*rig.keypad, *rig.device, events, speed);
+    QSignalSpy ended(&replayer, &Replayer::ended);
+    QElapsedTimer passed;
+    passed.start();
+    replayer.start();
+    QVERIFY(ended.wait(5000));
+    QFETCH(int, least);
+    QFETCH(int, most);
+    QVERIFY2(passed.elapsed() >= least && passed.elapsed() <= most,
+             qPrintable(QString::number(passed.elapsed())));
+    QCOMPARE(rig.listener->keys().size(), 2);
+    QCOMPARE(rig.listener->reports(), QList<QByteArray>()); // an answer is not played
+}
+
+void TestSession::nobodyAtTheKeypad()
+{
+    Rig rig;
+    QVERIFY(rig.opened);
+    rig.keypad->setPresent(false);
+    QVector<Event> events;
+    QCOMPARE(session::parse("0 key 0122", events), QString());
+    Replayer replayer(*rig.keypad, *rig.device, events, 1);
+    QSignalSpy ended(&replayer, &Replayer::ended);
+    replayer.start();
+    QVERIFY(ended.wait(10000));
+    QCOMPARE(ended[0][0].toString(), QString("nobody takes 0 key 0122  # ok pressed"));
+    QCOMPARE(replayer.keysPlayed(), 0);
+}
+
+QTEST_GUILESS_MAIN(TestSession)
+#include "tst_session.moc"
