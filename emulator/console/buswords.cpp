@@ -59,8 +59,10 @@ void push(Session &session, const QStringList &arguments)
         answer(session, device.pushRaw(*bytes));
     else if (isWrite)
         answer(session, device.pushWrite(*address, *bytes, quint8(*deviceType)));
-    else
+    else if (*ack != 0)
         answer(session, device.pushRead(*address, *bytes, quint8(*deviceType), quint8(*ack)));
+    else
+        answer(session, device.reportAndAdopt({*address, *bytes, 0, quint8(*deviceType)}));
 }
 
 void ipc(Session &session, const QStringList &list)
@@ -101,7 +103,7 @@ QVector<Word> busWords()
         {"push", "ADDRESS BYTES [--device N] [--ack N]",
          "a report of the device; --write: a write; --raw HEX: any", push},
         {"ipc", "LARGE SMALL HEX", "a message with those labels", ipc},
-        {"reports", "on|off|now", "what the device reports on its own when the panel joins", reports},
+        {"reports", "on|off|now", "what the device tells by itself, at the start and after writes", reports},
         {"heartbeat", "on|off", "the packets of a PC's session, once a second", heartbeat},
     };
 }

@@ -17,8 +17,8 @@ QVector<Word> generalWords()
 
 const QVector<Word> &allWords()
 {
-    static const QVector<Word> words =
-        keypadWords() + panelWords() + busWords() + deviceWords() + faultWords() + generalWords();
+    static const QVector<Word> words = keypadWords() + panelWords() + busWords() + deviceWords() +
+                                       modelWords() + sessionWords() + faultWords() + generalWords();
     return words;
 }
 

@@ -17,6 +17,8 @@ QVector<Word> keypadWords();
 QVector<Word> panelWords();
 QVector<Word> busWords();
 QVector<Word> deviceWords();
+QVector<Word> modelWords();
+QVector<Word> sessionWords();
 QVector<Word> faultWords();
 
 /// Finds the word in the tables and lets it answer.

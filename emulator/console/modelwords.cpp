@@ -1,0 +1,135 @@
+// Words for what happens at the device: signals, ports, presets, name, calibration and update.
+#include "emulator/console/arguments.h"
+#include "emulator/console/words.h"
+#include "emulator/emulator.h"
+#include "emulator/model/inputs.h"
+#include "emulator/model/ports.h"
+#include "emulator/model/presets.h"
+#include "emulator/model/service.h"
+
+#include <QtEndian>
+
+namespace
+{
+/// The device has changed in any case; without a panel there is nobody to tell.
+void tell(Session &session, const Reports &reports)
+{
+    session.emulator.device.report(reports);
+    session.ok();
+}
+
+std::optional<bool> switchValue(const QString &text)
+{
+    if (text != "on" && text != "off")
+        return std::nullopt;
+    return text == "on";
+}
+
+void signalWord(Session &session, const QStringList &list)
+{
+    Registers &registers = session.emulator.device.registers();
+    const int input = inputs::byName(list.value(0));
+    const auto on = switchValue(list.value(1));
+    if (input < 0 || !on || (!*on && list.size() > 2) || list.size() > 4)
+        return failUsage(session, "signal");
+    inputs::Signal signal = inputs::signalOf(registers, input);
+    if (!signal.stable)
+        signal = inputs::Signal();
+    signal.stable = *on;
+    for (const QString &text : list.mid(2)) {
+        const auto mode = VideoMode::parse(text);
+        const auto sampling = inputs::samplingByName(text);
+        if (!mode && !sampling)
+            return session.fail("neither a mode such as 1920x1080@60 nor a sampling: " + text);
+        signal.mode = mode.value_or(signal.mode);
+        signal.sampling = sampling.value_or(signal.sampling);
+    }
+    tell(session, inputs::setSignal(registers, input, signal));
+}
+
+void port(Session &session, const QStringList &list)
+{
+    const QMap<QString, ports::State> states = {
+        {"link", ports::State::link},
+        {"backup", ports::State::backup},
+        {"engaged", ports::State::engaged},
+    };
+    const auto number = arguments::number(list.value(0), 1, ports::count);
+    const auto on = switchValue(list.value(2));
+    if (list.size() != 3 || !number || !states.contains(list[1]) || !on)
+        return failUsage(session, "port");
+    tell(session, ports::set(session.emulator.device.registers(), int(*number - 1), states[list[1]], *on));
+}
+
+void preset(Session &session, const QStringList &list)
+{
+    if (list != QStringList{"list"})
+        return failUsage(session, "preset");
+    for (const QString &line : presets::list(session.emulator.device.flash()))
+        session.print(line);
+    session.ok();
+}
+
+void device(Session &session, const QStringList &list)
+{
+    if (list != QStringList{"show"})
+        return failUsage(session, "device");
+    for (const QString &line : session.emulator.device.model().describe())
+        session.print(line);
+    session.ok();
+}
+
+void rename(Session &session, const QStringList &list)
+{
+    if (list.size() != 1)
+        return failUsage(session, "rename");
+    tell(session, service::rename(session.emulator.device.registers(), list[0]));
+}
+
+void calibrate(Session &session, const QStringList &list)
+{
+    const auto on = switchValue(list.value(0));
+    if (list.size() != 1 || !on)
+        return failUsage(session, "calibrate");
+    tell(session, service::calibrate(session.emulator.device.registers(), *on));
+}
+
+/// Progress goes out in hundredths of a percent, and errors above all of them.
+void update(Session &session, const QStringList &list)
+{
+    constexpr qint16 progressLarge = 7, progressSmall = 4, endSmall = 5;
+    constexpr int errorCodes[] = {25300, 25400, 25500};
+    constexpr int hundredths = 100;
+    Device &device = session.emulator.device;
+    const auto number = arguments::number(list.value(0), 0, 0xffff);
+    const bool isEnd = list == QStringList{"end"};
+    if (list.size() != 1 || (!isEnd && !number))
+        return failUsage(session, "update");
+    QByteArray count(2, 0);
+    if (number) {
+        const bool isError =
+            std::find(std::begin(errorCodes), std::end(errorCodes), *number) != std::end(errorCodes);
+        if (!isError && *number > hundredths)
+            return session.fail("neither a percentage nor 25300, 25400 or 25500: " + list[0]);
+        qToLittleEndian(quint16(isError ? *number : *number * hundredths), count.data());
+    }
+    if (!device.pushMessage(progressLarge, isEnd ? endSmall : progressSmall, count))
+        return session.fail("no panel is on the bus");
+    session.ok();
+}
+} // namespace
+
+QVector<Word> modelWords()
+{
+    return {
+        {"signal", "IN on|off [WxH[i]@RATE] [rgb444|ycc422|ycc444]",
+         "a source; IN: hdmi1 hdmi2 dvi sdi dvi2 opt1 opt2 mosaic reference", signalWord},
+        {"port", "N link|backup|engaged on|off", "an Ethernet port to the wall, from 1", port},
+        {"preset", "list", "the ten presets with state and name", preset},
+        {"device", "show", "the whole state of the device", device},
+        {"rename", "NAME", "a PC gives the device a name; \"\" takes it away", rename},
+        {"calibrate", "on|off", "a PC calibrates the wall", calibrate},
+        {"update", "PERCENT|ERRORCODE|end", "progress of a firmware update; errors: 25300, 25400, 25500",
+         update},
+    };
+}
