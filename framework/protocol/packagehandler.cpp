@@ -1,5 +1,7 @@
 #include "framework/protocol/packagehandler.h"
 
+#include <memory>
+
 namespace VASK
 {
 QList<ThirdProtoInfo> PackageHandler::m_listMessage;
@@ -72,25 +74,24 @@ void PackageHandler::setExit(bool exit)
 
 void PackageHandler::run()
 {
-    while (!m_exit) {
-        QMutexLocker lock(&m_MessageMutex);
-        if (!m_listMessage.isEmpty())
-            handleOldest();
-        // Asleep until a report comes, rather than looking every few milliseconds.
-        while (m_listMessage.isEmpty() && !m_exit)
-            m_added.wait(&m_MessageMutex);
-        lock.unlock();
-        // Between two reports of a burst the GUI thread gets its turn at the queue.
-        yieldCurrentThread();
+    ThirdProtoInfo entry;
+    while (takeOldest(entry)) {
+        // A refused report says nothing about the register.
+        const std::unique_ptr<PackageBase> package(entry.package);
+        if (package->getAckCode() == ACK_Success && m_reader)
+            m_reader(static_cast<const PackageRequestProto3rd &>(*package), entry.flag);
     }
 }
 
-void PackageHandler::handleOldest()
+/// Asleep until a report comes, rather than looking every few milliseconds. False when the thread shall end.
+bool PackageHandler::takeOldest(ThirdProtoInfo &entry)
 {
-    const ThirdProtoInfo entry = m_listMessage.first();
-    if (entry.package->getAckCode() == ACK_Success && m_reader)
-        m_reader(static_cast<const PackageRequestProto3rd &>(*entry.package), entry.flag);
-    m_listMessage.removeFirst();
-    delete entry.package;
+    QMutexLocker lock(&m_MessageMutex);
+    while (m_listMessage.isEmpty() && !m_exit)
+        m_added.wait(&m_MessageMutex);
+    if (m_exit)
+        return false;
+    entry = m_listMessage.takeFirst();
+    return true;
 }
 } // namespace VASK

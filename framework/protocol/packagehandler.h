@@ -1,6 +1,7 @@
 // The queue of reports between the protocol object and their reading. Reports come from the GUI thread and
-// are handled one by one on this thread of its own, with the queue locked: nothing that handles a report may
-// add one or wait for the GUI thread.
+// are handled one by one on this thread of its own. The queue is locked for one access only, so that the GUI
+// thread never waits for a report that takes long, such as a self test that runs the board's tools; nothing
+// that handles a report may wait for the GUI thread either.
 #pragma once
 
 #include "framework/protocol/packagerequestproto3rd.h"
@@ -42,7 +43,7 @@ protected:
 
 private:
     static void foldOlder(const PackageRequestProto3rd &newest);
-    void handleOldest();
+    bool takeOldest(ThirdProtoInfo &entry);
 
     static QList<ThirdProtoInfo> m_listMessage;
     static QMutex m_MessageMutex;

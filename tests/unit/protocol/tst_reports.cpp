@@ -4,6 +4,7 @@
 #include "framework/protocol/packagehandler.h"
 #include "framework/protocol/requestlist.h"
 
+#include <QElapsedTimer>
 #include <QSemaphore>
 #include <QtTest>
 
@@ -58,6 +59,7 @@ private slots:
     void folding();
     void refusedReportIsNotRead();
     void readerSeesTheFlag();
+    void slowReaderHoldsNobodyUp();
     void answerRetiresOlderRequests();
 };
 
@@ -117,6 +119,32 @@ void TestReports::readerSeesTheFlag()
     handler.AddMessage(report(2, "b"));
     QVERIFY(read.tryAcquire(1, 5000));
     QCOMPARE(flags, QList<bool>({true, false}));
+}
+
+/// Who adds reports does not wait for the one in hand, and what piles up behind it is folded.
+void TestReports::slowReaderHoldsNobodyUp()
+{
+    QStringList seen;
+    QSemaphore entered;
+    QSemaphore goOn;
+    PackageHandler handler([&](const PackageRequestProto3rd &r, bool) {
+        entered.release();
+        goOn.tryAcquire(1, 5000);
+        seen += QString(r.data());
+    });
+    handler.start();
+    handler.AddMessage(report(0x0200001F, "a"));
+    QVERIFY(entered.tryAcquire(1, 5000));
+    QElapsedTimer clock;
+    clock.start();
+    for (const char *payload : {"b", "c", "d"})
+        handler.AddMessage(report(0x0200001F, payload));
+    QVERIFY2(clock.elapsed() < 2500, "the queue was locked while a report was read");
+    goOn.release(2);
+    QVERIFY(entered.tryAcquire(1, 5000));
+    handler.setExit(true);
+    handler.wait();
+    QCOMPARE(seen, QStringList({"a", "d"}));
 }
 
 void TestReports::answerRetiresOlderRequests()
