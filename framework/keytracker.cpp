@@ -27,6 +27,9 @@ bool isKey(unsigned char key)
 KeyTracker::KeyTracker(Post post, CTimer &timer)
     : m_post(std::move(post)), m_timer(timer), m_listTimer(keyCount)
 {
+    for (size_t i = 0; i < m_notes.size(); ++i)
+        m_notes[i] = {this, static_cast<unsigned char>(i / notesPerKey),
+                      static_cast<unsigned int>(i % notesPerKey)};
 }
 
 void KeyTracker::reset()
@@ -70,7 +73,6 @@ void KeyTracker::startTimer(unsigned char key)
     entry.isLong = false;
     ++entry.press;
     TimerNote &note = m_notes[size_t(key) * notesPerKey + entry.press % notesPerKey];
-    note = {this, key, entry.press};
     qDebug() << "TIMER_SetTimer == " << key;
     entry.timerId = m_timer.SetTimer(longPressMs, 1, OnTimerEvent, &note);
 }
@@ -87,13 +89,13 @@ void KeyTracker::OnTimerEvent(int, void *argument)
 {
     auto *note = static_cast<TimerNote *>(argument);
     QMutexLocker lock(&note->tracker->m_mutex);
-    note->tracker->held(note->key, note->press);
+    note->tracker->held(note->key, note->turn);
 }
 
-void KeyTracker::held(unsigned char key, unsigned int press)
+void KeyTracker::held(unsigned char key, unsigned int turn)
 {
     LongPress &entry = m_listTimer[key];
-    if (entry.timerId == noTimer || entry.press != press)
+    if (entry.timerId == noTimer || entry.press % notesPerKey != turn)
         return;
     qDebug() << "OnTimerEvent == " << key;
     entry.isLong = true;

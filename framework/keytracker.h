@@ -41,19 +41,20 @@ public:
 private:
     static constexpr int keyCount = 36;
     /// A timer that fires while its key is let go can still be on its way when the key is pressed again, so
-    /// a few presses of a key have their own notes.
-    static constexpr int notesPerKey = 4;
+    /// the presses of a key take turns on a few notes.
+    static constexpr unsigned int notesPerKey = 8;
 
     struct Chord;
-    /// What a long-press timer is told: whose press it measures.
+    /// What a long-press timer is told: whose press it measures. Written once, as the timer thread reads it
+    /// before it has the lock.
     struct TimerNote {
         KeyTracker *tracker = nullptr;
         unsigned char key = 0;
-        unsigned int press = 0;
+        unsigned int turn = 0;
     };
 
     static void OnTimerEvent(int id, void *argument);
-    void held(unsigned char key, unsigned int press);
+    void held(unsigned char key, unsigned int turn);
     const Chord *chordOf(unsigned char key) const;
     void finishChord(const Chord &chord);
 
