@@ -5,6 +5,25 @@
 
 namespace VASK
 {
+namespace
+{
+/// HDMI and the first DVI input have codes of two families; a device lists its inputs by one of them.
+struct CodePair {
+    int code;
+    int alias;
+};
+
+constexpr CodePair codePairs[] = {{SOURCE_HDMI1, 17}, {SOURCE_HDMI2, 18}, {SOURCE_DVI1, 0}};
+
+int aliasOf(int code)
+{
+    for (const CodePair &pair : codePairs)
+        if (code == pair.code || code == pair.alias)
+            return code == pair.code ? pair.alias : pair.code;
+    return code;
+}
+} // namespace
+
 WorkMode DeviceView::workMode() const
 {
     return WorkMode(m_engine.GetParaFromIndex(MENU_WorkMode).toInt());
@@ -33,10 +52,21 @@ InputRecord DeviceView::input(int number) const
 
 int DeviceView::inputOfCode(int code) const
 {
-    for (int number = 0; number < ProcessData::inputCount; ++number)
-        if (input(number).sourceCode == code)
-            return number;
+    const int listed = listedInputs();
+    for (int wanted : {code, aliasOf(code)})
+        for (int number = 0; number < listed; ++number)
+            if (input(number).sourceCode == wanted)
+                return number;
     return noInput;
+}
+
+int DeviceView::listedInputs() const
+{
+    // The code 0 is an input's, too: what stands behind the last record that came is none.
+    int number = ProcessData::inputCount;
+    while (number > 0 && input(number - 1).sourceCode == 0)
+        --number;
+    return number;
 }
 
 int DeviceView::syncInput() const

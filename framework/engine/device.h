@@ -46,7 +46,7 @@ public:
     /// 3D is on in a format that doubles the frame rate.
     bool doublesRate() const;
 
-    /// The input with a source code, noInput if there is none.
+    /// The input with a source code of either family, noInput if there is none.
     int inputOfCode(int code) const;
     /// The input that the output is synchronised to.
     int syncInput() const;
@@ -69,6 +69,8 @@ public:
 
 private:
     int followedInput() const;
+    /// How many input records have come, as far as their codes tell.
+    int listedInputs() const;
     const ParaProcess &m_engine;
 };
 } // namespace VASK

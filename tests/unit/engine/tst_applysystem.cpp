@@ -54,6 +54,7 @@ private slots:
     void syncIsCheckedAtStart();
     void sdiMenu();
     void sourceNames();
+    void inputsOfEitherFamily();
     void messageOfTheTableOnly();
     void reportsFromAnotherThreadKeepTheirOrder();
 
@@ -539,6 +540,25 @@ void TestApplySystem::sourceNames()
     m_rig->input(2, 48, 3, 1920, 1080, 16667);
     QCOMPARE(m_rig->engine->FindKeyByValue(48), 2);
     QCOMPARE(m_rig->engine->FindKeyByValue(49), 255);
+}
+
+void TestApplySystem::inputsOfEitherFamily()
+{
+    for (int code : {97, 17, 105, 0, 254})
+        QCOMPARE(m_rig->engine->FindKeyByValue(code), 255); // nothing has been listed yet
+    const int listed[] = {17, 18, 0, 48, 106, 233, 234, 224, 254};
+    for (int number = 0; number < 9; ++number)
+        m_rig->input(number, listed[number], 0, 0, 0, 0);
+    const QMap<int, int> wanted = {{17, 0},  {97, 0}, {18, 1},  {98, 1},  {0, 2},
+                                   {105, 2}, {48, 3}, {106, 4}, {254, 8}, {49, 255}};
+    for (auto code = wanted.cbegin(); code != wanted.cend(); ++code)
+        QCOMPARE(m_rig->engine->FindKeyByValue(code.key()), code.value());
+    const int others[] = {97, 98, 105, 106};
+    for (int number = 0; number < 4; ++number)
+        m_rig->input(number, others[number], 0, 0, 0, 0);
+    QCOMPARE(m_rig->engine->FindKeyByValue(17), 0);
+    QCOMPARE(m_rig->engine->FindKeyByValue(0), 2);
+    QCOMPARE(m_rig->engine->FindKeyByValue(106), 3);
 }
 
 void TestApplySystem::messageOfTheTableOnly()
