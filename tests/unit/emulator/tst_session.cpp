@@ -1,8 +1,7 @@
 // Sessions as text, recorded from a keypad and a device and played again to both.
 #include "emulator/recorder.h"
 #include "emulator/replayer.h"
-#include "fpd_hostlink.h"
-#include "fpd_hostsocket.h"
+#include "panelend.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -17,48 +16,6 @@ namespace
 {
 constexpr int knobRight = 33 | 1 << 8;
 
-/// The panel's ends of keypad and bus: what came, and when.
-class Listener
-{
-public:
-    explicit Listener(const QString &folder)
-    {
-        const std::string base = folder.toStdString();
-        m_keypad = hostlink::connectSocket(base + hostlink::keypadSocket, SOCK_SEQPACKET);
-        m_bus = hostlink::connectSocket(base + hostlink::busSocket, SOCK_SEQPACKET);
-        (void)!send(m_keypad, "r", 1, 0);
-    }
-    ~Listener()
-    {
-        close(m_keypad);
-        close(m_bus);
-    }
-    QList<QByteArray> keys() const { return packets(m_keypad); }
-    QList<QByteArray> reports() const
-    {
-        QList<QByteArray> list;
-        for (const QByteArray &packet : packets(m_bus)) {
-            const auto frame = wire::decodeFrame(packet.mid(28));
-            if (frame)
-                list.append(QByteArray::number(frame->address, 16) + ' ' + frame->data.toHex());
-        }
-        return list;
-    }
-
-private:
-    static QList<QByteArray> packets(int descriptor)
-    {
-        QList<QByteArray> list;
-        char buffer[4096];
-        for (ssize_t size; (size = recv(descriptor, buffer, sizeof buffer, MSG_DONTWAIT)) > 0;)
-            list.append(QByteArray(buffer, int(size)));
-        return list;
-    }
-
-    int m_keypad;
-    int m_bus;
-};
-
 /// A device with its keypad and somebody at the other end.
 struct Rig {
     Rig()
@@ -68,14 +25,14 @@ struct Rig {
         keypad = std::make_unique<Keypad>(folder.path());
         device->setReporting(false);
         opened = device->flash().install() && device->setBusUp(true) && keypad->setPresent(true);
-        listener = std::make_unique<Listener>(folder.path());
+        listener = std::make_unique<PanelEnd>(folder.path());
         opened = opened && QTest::qWaitFor([this] { return device->isJoined() && keypad->sendWords({1}); });
         listener->keys();
     }
     QTemporaryDir folder;
     std::unique_ptr<Device> device;
     std::unique_ptr<Keypad> keypad;
-    std::unique_ptr<Listener> listener;
+    std::unique_ptr<PanelEnd> listener;
     bool opened = false;
 };
 } // namespace
