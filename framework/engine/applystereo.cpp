@@ -1,6 +1,6 @@
 // 3D: switch, format and the start of the right eye's picture.
 
-#include "framework/engine/change.h"
+#include "framework/engine/layers.h"
 
 #include "framework/engine/bandwidth.h"
 #include "framework/menuanalysis.h"
@@ -46,17 +46,6 @@ bool overloads(const ParaChange &change)
                                    uint16_t(2 * load.rateCentiHz), wholeOutputPixelRate, 1);
 }
 
-void turnOffPip(ParaChange &change, int layer)
-{
-    const ENUM_MenuIndex status = layerItem(MENU_MainLayer_Status, layer);
-    if (!change.isOn(status))
-        return;
-    change.enable(status, true);
-    change.show(status, "0");
-    change.send(status, "0");
-    change.windowState(layer, false);
-}
-
 void stereoOn(ParaChange &change)
 {
     if (change.fromUser())
@@ -68,8 +57,8 @@ void stereoOn(ParaChange &change)
     change.enable(MENU_TransitionDuration, false);
     change.refresh(MENU_TransitionDuration);
     if (change.fromUser()) {
-        turnOffPip(change, 1);
-        turnOffPip(change, 2);
+        switchLayer(change, layers[1], false);
+        switchLayer(change, layers[2], false);
         change.enableRowsWithText(MENU_MainLayer_InputSource, mosaicOption, true);
     }
     change.tail();
@@ -77,13 +66,8 @@ void stereoOn(ParaChange &change)
 
 void stereoOff(ParaChange &change)
 {
-    const bool onlyMain = change.item(MENU_PIP1_Status) == QLatin1String("0") &&
-                          change.item(MENU_PIP2_Status) == QLatin1String("0");
-    if (onlyMain && change.chosenOption(MENU_MainLayer_InputSource) != mosaicOption)
-        for (ENUM_MenuIndex item : {MENU_MainLayerTransition, MENU_TransitionDuration}) {
-            change.enable(item, true);
-            change.refresh(item);
-        }
+    if (bothPipsOff(change) && !mainShowsMosaic(change))
+        freeTransition(change);
     change.tail();
 }
 
