@@ -157,15 +157,18 @@ void SnapshotPush::audioAndOutputSize()
 void SnapshotPush::splicing()
 {
     const bool on = m_mirror.device.u8(DEVICE_Splicing) == deviceOn;
-    report(MENU_ImageMosaic_Status, on ? 1 : 0);
-    if (!on)
+    if (!on) {
+        report(MENU_ImageMosaic_Status, 0);
         return;
+    }
+    // The area first: the switch sends it.
     report(MENU_ImageMosaic_TotalHPixels, m_mirror.live.i32(LIVE_Windows + WINDOW_First + WINDOW_Width));
     report(MENU_ImageMosaic_TotalVPixels, m_mirror.live.i32(LIVE_Windows + WINDOW_First + WINDOW_Height));
     report(MENU_ImageMosaic_LoadAreaWidth, m_mirror.loadArea.u16(LOADAREA_Width));
     report(MENU_ImageMosaic_LoadAreaHeight, m_mirror.loadArea.u16(LOADAREA_Height));
     report(MENU_ImageMosaic_LoadAreaInitialX, m_mirror.loadArea.i32(LOADAREA_X));
     report(MENU_ImageMosaic_LoadAreaInitialY, m_mirror.loadArea.i32(LOADAREA_Y));
+    report(MENU_ImageMosaic_Status, 1);
 }
 
 void SnapshotPush::stereo()
