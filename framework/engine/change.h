@@ -100,4 +100,10 @@ ApplyFamily workModeFamily();
 ApplyFamily inputFamily();
 ApplyFamily outputReportFamily();
 ApplyFamily portFamily();
+ApplyFamily layersFamily();
+ApplyFamily sourceFamily();
+ApplyFamily geometryFamily();
+ApplyFamily layoutFamily();
+ApplyFamily cropFamily();
+ApplyFamily splicingFamily();
 } // namespace VASK

@@ -1,0 +1,79 @@
+// The part of its input that a layer shows.
+
+#include "framework/engine/layers.h"
+
+namespace VASK
+{
+namespace
+{
+/// Pixel for pixel, the window has the size of what it shows.
+void followCrop(ParaChange &change, const LayerItems &layer)
+{
+    if (change.item(layer.scaling) == pixelToPixel)
+        takeSize(change, layer, pictureSize(change, layer));
+}
+
+void applyCropStatus(ParaChange &change)
+{
+    const LayerItems &layer = layerOf(change.index);
+    followCrop(change, layer);
+    offerPixelToPixel(change, layer);
+    change.tail();
+}
+
+void applyCropSize(ParaChange &change)
+{
+    const LayerItems &layer = layerOf(change.index);
+    if (change.fromUser() && change.item(layer.scaling) == pixelToPixel && change.isOn(layer.cropStatus))
+        showAndSend(change, change.index == layer.cropWidth ? layer.width : layer.height, change.value);
+    offerPixelToPixel(change, layer);
+    change.tail();
+}
+
+/// The last number of a crop that the device tells.
+void applyCropY(ParaChange &change)
+{
+    const LayerItems &layer = layerOf(change.index);
+    if (change.fromDevice()) {
+        followCrop(change, layer);
+        offerPixelToPixel(change, layer);
+    }
+    change.tail();
+}
+
+void applyCropReset(ParaChange &change)
+{
+    const LayerItems &layer = layerOf(change.index);
+    const PictureSize input = inputSize(change, layer);
+    const QString height = QString::number(input.height);
+    change.show(layer.cropX, "0");
+    change.show(layer.cropY, "0");
+    change.show(layer.cropWidth, QString::number(input.width));
+    change.show(layer.cropHeight, height);
+    change.send(layer.cropHeight, height);
+    if (change.item(layer.scaling) == pixelToPixel)
+        takeSize(change, layer, input);
+    offerPixelToPixel(change, layer);
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_MainLayerCrop_Status, MENU_MainLayerCrop_Status, applyCropStatus},
+    {MENU_MainLayerCrop_HorWidth, MENU_MainLayerCrop_VerHeight, applyCropSize},
+    {MENU_MainLayerCrop_InitialY, MENU_MainLayerCrop_InitialY, applyCropY},
+    {MENU_MainLayerCrop_Reset, MENU_MainLayerCrop_Reset, applyCropReset},
+    {MENU_PIP1Crop_Status, MENU_PIP1Crop_Status, applyCropStatus},
+    {MENU_PIP1Crop_HorWidth, MENU_PIP1Crop_VerHeight, applyCropSize},
+    {MENU_PIP1Crop_InitialY, MENU_PIP1Crop_InitialY, applyCropY},
+    {MENU_PIP1Crop_Reset, MENU_PIP1Crop_Reset, applyCropReset},
+    {MENU_PIP2Crop_Status, MENU_PIP2Crop_Status, applyCropStatus},
+    {MENU_PIP2Crop_HorWidth, MENU_PIP2Crop_VerHeight, applyCropSize},
+    {MENU_PIP2Crop_InitialY, MENU_PIP2Crop_InitialY, applyCropY},
+    {MENU_PIP2Crop_Reset, MENU_PIP2Crop_Reset, applyCropReset},
+};
+} // namespace
+
+ApplyFamily cropFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK
