@@ -87,11 +87,14 @@ void followMainGeometry(ParaChange &change)
 void applyGeometry(ParaChange &change)
 {
     const LayerItems &layer = layerOf(change.index);
-    if (change.fromDevice())
+    // The device answers a window with the whole window: what stands already has not been moved.
+    const bool moved = change.fromUser() || change.changed();
+    if (moved && change.fromDevice())
         leaveScalingRule(change, layer);
     if (change.item(layer.scaling) == customScaling)
         change.set(layer.customOf(change.index), change.value);
-    leaveFixedLayout(change);
+    if (moved)
+        leaveFixedLayout(change);
     if (layer.isMain())
         followMainGeometry(change);
     change.tail();

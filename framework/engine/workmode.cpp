@@ -45,12 +45,6 @@ void enableAll(ParaChange &change, std::initializer_list<ENUM_MenuIndex> items, 
     }
 }
 
-void showAndSend(ParaChange &change, ENUM_MenuIndex item, const QString &value)
-{
-    change.show(item, value);
-    change.send(item, value);
-}
-
 void enableRowsFrom(ParaChange &change, ENUM_MenuIndex list, int firstRow, bool on)
 {
     ST_ItemInfo information = change.info(list);

@@ -2,7 +2,7 @@
 // back. For the cases of the work mode items only; thread as theirs.
 #pragma once
 
-#include "framework/engine/change.h"
+#include "framework/engine/layers.h"
 
 #include <initializer_list>
 
@@ -26,7 +26,6 @@ void selectFallbackInput(ParaChange &change);
 
 // Verbs of these cases, for items one by one in their order.
 void enableAll(ParaChange &change, std::initializer_list<ENUM_MenuIndex> items, bool on);
-void showAndSend(ParaChange &change, ENUM_MenuIndex item, const QString &value);
 /// Options of a list from one on; the widget is not reloaded.
 void enableRowsFrom(ParaChange &change, ENUM_MenuIndex list, int firstRow, bool on);
 } // namespace VASK
