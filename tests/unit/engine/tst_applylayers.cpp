@@ -299,6 +299,11 @@ void TestApplyLayers::fixedLayout()
     QVERIFY(!m_rig->mosaicOffered());
     QCOMPARE(m_rig->transition(), QString("n"));
     QCOMPARE(m_rig->value(MENU_Layout), layout);
+
+    // The device's answers leave it as it is.
+    for (ENUM_MenuIndex status : {MENU_MainLayer_Status, MENU_PIP1_Status, MENU_PIP2_Status})
+        m_rig->fromDevice(status, "1");
+    QCOMPARE(m_rig->value(MENU_Layout), layout);
 }
 
 void TestApplyLayers::layoutThatMovesNothing()
