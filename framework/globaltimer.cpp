@@ -54,6 +54,9 @@ bool GlobalTimer::ResetReturnToMain()
 bool GlobalTimer::ChangeMainWindow(MainWindow *mainWindow)
 {
     m_pmainwindow = mainWindow;
+    // A panel that has started as a fiber converter has no time to return until it gets a home screen.
+    if (!m_returnMainWindow)
+        Initialize(mainWindow);
     return true;
 }
 

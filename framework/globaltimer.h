@@ -25,7 +25,7 @@ public:
     /// Restarts the time, for every key. The item is read again, so a new setting counts from the next key.
     /// True.
     bool ResetReturnToMain();
-    /// Another window counts as home from now on. True.
+    /// Another window counts as home from now on; the time starts if start-up has left it out. True.
     bool ChangeMainWindow(MainWindow *mainWindow);
 
 public slots:
