@@ -52,6 +52,12 @@ QString outputText(int output)
     return output < int(std::size(names)) ? names[output] : QString("unknown %1").arg(output);
 }
 
+QString soundText(int sound)
+{
+    constexpr const char *names[] = {"none", "embedded", "audio in"};
+    return sound < int(std::size(names)) ? names[sound] : QString("unknown %1").arg(sound);
+}
+
 QStringList describe(const Registers &registers)
 {
     const Audio audio = read(registers);
@@ -60,7 +66,7 @@ QStringList describe(const Registers &registers)
     for (int input = 0; input < inputCount; ++input)
         lines.append(QString("sound of %1: %2")
                          .arg(inputNames[input])
-                         .arg(registers.u8(inputRegister + inputStride * quint32(input))));
+                         .arg(soundText(registers.u8(inputRegister + inputStride * quint32(input)))));
     return lines;
 }
 } // namespace

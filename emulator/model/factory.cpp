@@ -19,17 +19,23 @@ constexpr int bitOf(Kind kind)
 constexpr int always = bitOf(keepAddress) | bitOf(everything) | bitOf(keepUserData);
 constexpr int lastKind = keepUserData;
 
-constexpr Piece spared[] = {
-    {0x2006, 21, bitOf(keepAddress) | bitOf(keepUserData)}, // network
-    {0x2F10, 2, bitOf(keepUserData)},                       // preset in use
-    {0x3000, 10 * 0x1200, bitOf(keepUserData)},             // presets
-    {0xD14000, 1, bitOf(keepUserData)},                     // has a name
-    {0xD14100, 64, bitOf(keepUserData)},                    // name
-    {0xE00000, 9 * 32, always},                             // signals of the inputs
-    {0xE0101F, 1, always},                                  // links of the ports
-    {0xE0109F, 1, always},
-    {0xE01126, 1, always},
-    {0xE011E0, 2, always}, // and which of them are idle
+/// Pieces of the flash.
+constexpr Piece sparedFlash[] = {
+    {0x2F10, 2, bitOf(keepUserData)},           // preset in use
+    {0x3000, 10 * 0x1200, bitOf(keepUserData)}, // presets
+    {0xD14000, 1, bitOf(keepUserData)},         // has a name
+    {0xD14100, 64, bitOf(keepUserData)},        // name
+};
+
+/// Registers.
+constexpr Piece sparedRegisters[] = {
+    {0x13000006, 21, bitOf(keepAddress) | bitOf(keepUserData)}, // network
+    {0x13010001, 7 * 32, always},                               // signals of all inputs but the mosaic
+    {0x13010101, 32, always},                                   // signal of the reference
+    {0x0200001F, 1, always},                                    // links of the ports
+    {0x0200009F, 1, always},
+    {0x02000126, 1, always},
+    {0x020001E0, 2, always}, // and which of them are idle
 };
 
 /// What is empty at delivery, apart from what the plausible device brings.
@@ -47,15 +53,22 @@ bool reset(Registers &registers, int kind)
         return false;
     FlashImage &flash = registers.flash();
     QVector<FlashPiece> kept;
-    for (const Piece &piece : spared) {
+    for (const Piece &piece : sparedFlash) {
         if (piece.sparedBy & bitOf(Kind(kind)))
             kept.append({piece.address, flash.read(piece.address, piece.length)});
+    }
+    QVector<FlashPiece> keptRegisters;
+    for (const Piece &piece : sparedRegisters) {
+        if (piece.sparedBy & bitOf(Kind(kind)))
+            keptRegisters.append({piece.address, registers.read(piece.address, piece.length)});
     }
     for (const Piece &piece : cleared)
         flash.write(piece.address, QByteArray(piece.length, 0));
     registers.powerOff();
     for (const FlashPiece &piece : plausibleDevice() + kept)
         flash.write(piece.address, piece.bytes);
+    for (const FlashPiece &piece : keptRegisters)
+        registers.write(piece.address, piece.bytes);
     return true;
 }
 } // namespace factory

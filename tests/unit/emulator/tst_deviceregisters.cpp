@@ -180,7 +180,7 @@ void TestDeviceRegisters::aReportFromOutsideIsHeld()
     rig.model.adopt({0x0200001F, QByteArray::fromHex("03")});
     QCOMPARE(rig.shown("port 3"), QString("port 3: link off, backup off, engaged off"));
     rig.model.adopt({0x13019025, QByteArray::fromHex("02")});
-    QCOMPARE(rig.shown("sound of hdmi2"), QString("sound of hdmi2: 2"));
+    QCOMPARE(rig.shown("sound of hdmi2"), QString("sound of hdmi2: audio in"));
     const QByteArray before = rig.model.registers().read(0x020001F0, 8);
     rig.model.adopt({0x020001F0, QByteArray(8, 1)});
     QCOMPARE(rig.model.registers().read(0x020001F0, 8), before);
