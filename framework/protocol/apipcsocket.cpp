@@ -56,8 +56,9 @@ bool ApipcSocket::Initialize()
 {
     qDebug("APIPC Init before!");
     qDebug("APIPC Init before1!");
-    const int joined = apipc_init(panelTask(), 0);
+    const unsigned int task = panelTask();
     qDebug("APIPC Init after1!");
+    const int joined = apipc_init(task, 0);
     if (joined != 0) {
         qDebug("APIPC Init failed(%d)!", joined);
         return false;

@@ -55,6 +55,7 @@ Proto3rdSend::Proto3rdSend() : VaskObject(ENUM_PROTO3RD_SEND)
                                      layerRows(), inputRows(), gammaRows()})
         addRows(family);
     CreateObjectToPool(ENUM_PROTO3RD_SEND, this);
+    lookForPeers();
 }
 
 Proto3rdSend::~Proto3rdSend()
@@ -91,6 +92,16 @@ CommunicationClientInterface *Proto3rdSend::communication()
 Proto3rd *Proto3rdSend::protocol()
 {
     return peer<Proto3rd>(ENUM_PROTOCOINTERFER_3RD, "Proto3rdSend Proto3rd OBJ faild!");
+}
+
+/// Says at the start already what the first value would miss.
+void Proto3rdSend::lookForPeers()
+{
+    communication();
+    protocol();
+    peer<ProtocolInterface>(ENUM_PROTOCOINTERFER_3RD, "Inter OBJ faild!");
+    engine();
+    peer<MenuDirectory>(ENUM_MAIN_MENU, "MenuDir OBJ faild!");
 }
 
 bool Proto3rdSend::onGuiThread()

@@ -98,6 +98,7 @@ private:
     template <class Package> static int queueFrame(Package *package);
     static CommunicationClientInterface *communication();
     static Proto3rd *protocol();
+    static void lookForPeers();
     static bool onGuiThread();
 
     static std::atomic<Proto3rdSend *> m_pInstance;
