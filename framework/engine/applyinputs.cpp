@@ -1,6 +1,6 @@
 // The device tells what its inputs carry: layers, output rate, LEDs and the production test follow.
 
-#include "framework/engine/change.h"
+#include "framework/engine/layers.h"
 
 #include "framework/engine/bandwidth.h"
 #include "framework/menuanalysis.h"
@@ -59,17 +59,7 @@ bool isPixelToPixel(const ParaChange &change, int layer)
 
 void offerCrop(ParaChange &change, int layer, bool on)
 {
-    const ENUM_MenuIndex crop = layerItem(MENU_MainLayer_InputCrop, layer);
-    change.enable(crop, on);
-    change.refresh(crop);
-}
-
-void takeSize(ParaChange &change, const InputReport &input, int layer)
-{
-    const ENUM_MenuIndex height = layerItem(MENU_MainLayer_VerHeight, layer);
-    change.show(layerItem(MENU_MainLayer_HorWidth, layer), QString::number(input.width));
-    change.show(height, QString::number(input.height));
-    change.send(height, QString::number(input.height));
+    setEnabled(change, layerItem(MENU_MainLayer_InputCrop, layer), on);
 }
 
 void showSignal(ParaChange &change, const InputReport &input, int layer)
@@ -86,7 +76,7 @@ void followWithMainLayer(ParaChange &change, const InputReport &input, WorkMode 
     if (mode != WORK_SENDER)
         offerCrop(change, 0, input.stable());
     if (!isCropped(change, 0) && isPixelToPixel(change, 0))
-        takeSize(change, input, 0);
+        takeSize(change, layers[0], {input.width, input.height});
     showSignal(change, input, 0);
 }
 
@@ -94,12 +84,11 @@ void followWithMainLayer(ParaChange &change, const InputReport &input, WorkMode 
 void followWithPip(ParaChange &change, const InputReport &input, int layer, WorkMode mode)
 {
     constexpr int pipPixels = 3250000;
-    constexpr int pixelToPixelRow = 1;
     offerCrop(change, layer, input.stable());
     if (!isCropped(change, layer) && input.width * input.height <= pipPixels) {
         const ENUM_MenuIndex scaling = layerItem(MENU_MainLayer_ScalingMode, layer);
         if (isPixelToPixel(change, layer))
-            takeSize(change, input, layer);
+            takeSize(change, layers[size_t(layer)], {input.width, input.height});
         else if (change.item(MENU_ImageMosaic_Status) == QLatin1String("0") &&
                  change.info(scaling).params1.value(QString::number(pixelToPixelRow)) != optionEnable)
             change.enableRow(scaling, pixelToPixelRow, true);

@@ -1,6 +1,6 @@
 // The picture output: HDMI output, its resolution and rate lists, synchronisation and the genlock report.
 
-#include "framework/engine/change.h"
+#include "framework/engine/layers.h"
 
 #include "framework/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
@@ -135,14 +135,9 @@ void followChosenMode(ParaChange &change, const ChosenOutput &output)
         change.show(MENU_Mode3D_Status, "0");
         change.send(MENU_Mode3D_Status, "0");
     }
-    for (int layer = 0; layer < layerCount; ++layer) {
-        if (change.item(layerItem(MENU_MainLayer_ScalingMode, layer)) != QLatin1String("0"))
-            continue;
-        const ENUM_MenuIndex height = layerItem(MENU_MainLayer_VerHeight, layer);
-        change.show(layerItem(MENU_MainLayer_HorWidth, layer), QString::number(output.width));
-        change.show(height, QString::number(output.height));
-        change.send(height, QString::number(output.height));
-    }
+    for (const LayerItems &layer : layers)
+        if (change.item(layer.scaling) == fullScreen)
+            takeSize(change, layer, {output.width, output.height});
     change.send(MENU_Output_Mode, "1");
     if (change.isOn(MENU_ImageMosaic_Status))
         for (ENUM_MenuIndex scaling : {MENU_PIP1_ScalingMode, MENU_PIP2_ScalingMode})

@@ -1,7 +1,7 @@
 // The device tells the size of its output: the layers that fill it follow, and what fits into it can be
 // chosen.
 
-#include "framework/engine/change.h"
+#include "framework/engine/layers.h"
 
 #include "framework/engine/bandwidth.h"
 #include "framework/menuanalysis.h"
@@ -21,28 +21,19 @@ constexpr int fourColumns = 256;
 
 void offerLayouts(ParaChange &change, int width)
 {
-    ST_ItemInfo layout = change.info(MENU_Layout);
-    layout.params1["0"] = width >= threeColumns ? optionEnable : optionDisable;
-    layout.params1["1"] = width >= fourColumns ? optionEnable : optionDisable;
-    layout.value = "2";
-    change.store.updataMenuItem(MENU_Layout, layout);
-    change.show(MENU_Layout, layout.value);
-}
-
-void fillOutput(ParaChange &change, int layer, const QString &width, const QString &height)
-{
-    const ENUM_MenuIndex heightItem = layerItem(MENU_MainLayer_VerHeight, layer);
-    change.show(layerItem(MENU_MainLayer_HorWidth, layer), width);
-    change.show(heightItem, height);
-    change.send(heightItem, height);
+    change.store.changeItem(MENU_Layout, [width](ST_ItemInfo &layout) {
+        layout.params1["0"] = width >= threeColumns ? optionEnable : optionDisable;
+        layout.params1["1"] = width >= fourColumns ? optionEnable : optionDisable;
+    });
+    change.show(MENU_Layout, customLayout);
 }
 
 /// Splicing takes the full screen from the PIP layers; without it they may have it back.
 void offerFullScreen(ParaChange &change, ENUM_MenuIndex scaling)
 {
     if (change.item(MENU_ImageMosaic_Status) == QLatin1String("0") &&
-        change.info(scaling).params1.value("0") != optionEnable)
-        change.enableRow(scaling, 0, true);
+        change.info(scaling).params1.value(fullScreen) != optionEnable)
+        change.enableRow(scaling, fullScreenRow, true);
 }
 
 void applyOutputSize(ParaChange &change)
@@ -54,12 +45,11 @@ void applyOutputSize(ParaChange &change)
     if (DeviceView(change.engine).workMode() != WORK_SENDER)
         change.redoResolution(wholeRate(change.number(PARA_OutputRate)));
     offerLayouts(change, width.toInt());
-    for (int layer = 0; layer < layerCount; ++layer) {
-        const ENUM_MenuIndex scaling = layerItem(MENU_MainLayer_ScalingMode, layer);
-        if (change.item(scaling) == QLatin1String("0"))
-            fillOutput(change, layer, width, height);
-        else if (layer != 0)
-            offerFullScreen(change, scaling);
+    for (const LayerItems &layer : layers) {
+        if (change.item(layer.scaling) == fullScreen)
+            takeSize(change, layer, outputSize(change));
+        else if (!layer.isMain())
+            offerFullScreen(change, layer.scaling);
     }
     change.lowLayerUpdate();
 }

@@ -39,18 +39,16 @@ void selectFallbackInput(ParaChange &change)
 
 void enableAll(ParaChange &change, std::initializer_list<ENUM_MenuIndex> items, bool on)
 {
-    for (ENUM_MenuIndex item : items) {
-        change.enable(item, on);
-        change.refresh(item);
-    }
+    for (ENUM_MenuIndex item : items)
+        setEnabled(change, item, on);
 }
 
 void enableRowsFrom(ParaChange &change, ENUM_MenuIndex list, int firstRow, bool on)
 {
-    ST_ItemInfo information = change.info(list);
-    for (auto option = information.params.cbegin(); option != information.params.cend(); ++option)
-        if (option.key().toInt() >= firstRow)
-            information.params1[option.key()] = on ? optionEnable : optionDisable;
-    change.store.updataMenuItem(list, information);
+    change.store.changeItem(list, [firstRow, on](ST_ItemInfo &information) {
+        for (auto option = information.params.cbegin(); option != information.params.cend(); ++option)
+            if (option.key().toInt() >= firstRow)
+                information.params1[option.key()] = on ? optionEnable : optionDisable;
+    });
 }
 } // namespace VASK
