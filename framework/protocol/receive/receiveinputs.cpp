@@ -31,7 +31,8 @@ int ParseInputQualityInfo(const Report &report)
         qDebug() << "Error src index..." << report.member;
         return 2;
     }
-    const int values[] = {report.u8(1), report.u8(2), report.u8(4), report.u16(5)};
+    // The hue goes out as a signed number and comes back as one.
+    const int values[] = {report.u8(1), report.u8(2), report.u8(4), static_cast<qint16>(report.u16(5))};
     for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
         report.parse.report(first[report.member] + i, values[i]);
     return 0;
