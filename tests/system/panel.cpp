@@ -18,6 +18,7 @@ constexpr int patienceMs = 90000;
 constexpr int patienceMs = 30000;
 #endif
 constexpr int lookMs = 10;
+constexpr int stillMs = 50;
 const QString storeFile = "/usr/vask/etc/fpd/config/config.xml";
 
 QDomElement itemElement(const QDomDocument &store, int item)
@@ -110,14 +111,39 @@ QImage Panel::screen() const
     return picture;
 }
 
-bool Panel::shows(const QString &text)
+bool Panel::settle()
 {
-    return !lcdtext::find(screen(), text).isEmpty();
+    const auto changes = [this] {
+        QFile file(m_state + hostlink::lcdFile);
+        quint64 counter = 0;
+        if (file.open(QIODevice::ReadOnly) && file.seek(hostlink::lcdBytes))
+            file.read(reinterpret_cast<char *>(&counter), sizeof counter);
+        return counter;
+    };
+    quint64 seen = changes();
+    QElapsedTimer still, passed;
+    still.start();
+    passed.start();
+    while (!still.hasExpired(stillMs)) {
+        QThread::msleep(lookMs);
+        const quint64 now = changes();
+        if (now != seen)
+            still.restart();
+        seen = now;
+        if (passed.hasExpired(patienceMs))
+            return false;
+    }
+    return true;
 }
 
-bool Panel::waitFor(const QString &text)
+bool Panel::shows(const QString &text, const QRect &area)
 {
-    return waitUntil([this, &text] { return shows(text); });
+    return !lcdtext::find(screen(), text, area).isEmpty();
+}
+
+bool Panel::waitFor(const QString &text, const QRect &area)
+{
+    return waitUntil([this, &text, &area] { return shows(text, area); });
 }
 
 bool Panel::waitUntilGone(const QString &text)

@@ -47,9 +47,11 @@ public:
     Answer ask(const QStringList &words);
 
     QImage screen() const;
-    bool shows(const QString &text);
-    /// Waits until the LCD shows the text.
-    bool waitFor(const QString &text);
+    /// Waits until the LCD has stood still for a moment.
+    bool settle();
+    bool shows(const QString &text, const QRect &area = QRect());
+    /// Waits until the LCD shows the text, in the area if one is given, which is faster.
+    bool waitFor(const QString &text, const QRect &area = QRect());
     /// Waits until it does not.
     bool waitUntilGone(const QString &text);
     bool waitUntil(const std::function<bool()> &condition) const;

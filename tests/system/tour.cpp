@@ -1,0 +1,140 @@
+#include "tests/system/tour.h"
+
+#include <QDir>
+
+using namespace VASK;
+
+namespace
+{
+bool isFileRow(ENUM_MenuIndex item)
+{
+    return item >= MENU_CabinetFile1 && item <= MENU_CabinetFile8;
+}
+
+/// Buttons that ask before they act have a message of their own number.
+bool asksFirst(ENUM_MenuIndex item)
+{
+    return g_dialogConfig.contains(item);
+}
+} // namespace
+
+Tour::Tour(Panel &panel, const QString &language, const QString &folder) : m_panel(panel), m_walk(panel)
+{
+    m_walk.speak(language);
+    if (folder.isEmpty())
+        return;
+    m_folder = folder + (language.endsWith("EN") ? "/en" : "/zh");
+    QDir().mkpath(m_folder);
+}
+
+bool Tour::walk(ENUM_ConfigIndex root)
+{
+    const int before = m_faults.size();
+    m_lost = false;
+    if (!m_walk.openMenu(root))
+        fault(g_config.value(root).title, "does not open");
+    else
+        visitPage(g_config.value(root).title);
+    if (!m_lost && !m_walk.isHome())
+        fault(g_config.value(root).title, "ESC does not lead home");
+    if (m_lost)
+        m_walk.home();
+    return m_faults.size() == before;
+}
+
+void Tour::visitPage(const QString &name)
+{
+    const ENUM_ConfigIndex page = m_walk.page();
+    m_seen << page;
+    if (!m_walk.showsTitle())
+        fault(name, "its title is not there");
+    picture(name);
+    const ST_MenuConfig table = m_walk.table();
+    for (int position = 0; position < table.rows && !m_lost; ++position)
+        visitRow(table.rowsMap.value(position), name);
+    if (m_lost)
+        return;
+    if (!m_walk.back() || (m_walk.page() != CONFIG_END && !m_walk.showsTitle()))
+        fault(name, "ESC does not lead to the page above");
+}
+
+void Tour::visitRow(const st_MenuItemInfo &row, const QString &page)
+{
+    const QString name = page + "-" + g_MenuXmlConfig.value(row.menuIndex).tag;
+    const bool subPage = row.controlType == TYPE_SUBPAGE;
+    if (!g_MenuXmlConfig.value(row.menuIndex).focusable || (m_folder.isEmpty() && !subPage))
+        return;
+    if (!m_walk.moveTo(row.menuIndex)) {
+        if (!isFileRow(row.menuIndex)) // there are as many as there are files
+            fault(name, "the cursor does not come here");
+        return;
+    }
+    switch (row.controlType) {
+    case TYPE_SUBPAGE:
+        return openPage(row, name);
+    case TYPE_INTADJUST:
+    case TYPE_FLOATADJUST:
+    case TYPE_IPADJUST:
+    case TYPE_STRINGCOMBOX:
+    case TYPE_ICOCOMBOX:
+    case TYPE_MOSAIC:
+    case TYPE_TWOSTRINGCOMBOX:
+        return lookAtEdit(name);
+    default:
+        if (asksFirst(row.menuIndex))
+            lookAtQuestion(name);
+    }
+}
+
+void Tour::openPage(const st_MenuItemInfo &row, const QString &name)
+{
+    if (!m_walk.press(keys::Ok))
+        return fault(name, "OK is not heard");
+    if (m_walk.asked()) {
+        picture(name + "-question");
+        if (!m_walk.answer(true))
+            return fault(name, "the question cannot be answered");
+    }
+    if (m_panel.logLines("objID:").isEmpty())
+        return; // a row that is off
+    m_walk.opened(row.subPage);
+    visitPage(name);
+}
+
+void Tour::lookAtEdit(const QString &name)
+{
+    m_panel.settle();
+    const QImage before = m_panel.screen();
+    if (!m_walk.press(keys::Ok))
+        return fault(name, "OK is not heard");
+    if (m_panel.screen() == before)
+        return; // a row that is off
+    picture(name + "-edit");
+    if (!m_walk.press(keys::Esc) || (m_walk.asked() && !m_panel.waitForLog("slot_CloseDialog:")))
+        fault(name, "ESC does not end the edit");
+}
+
+void Tour::lookAtQuestion(const QString &name)
+{
+    if (!m_walk.press(keys::Ok))
+        return fault(name, "OK is not heard");
+    if (!m_walk.asked())
+        return; // a row that is off
+    picture(name + "-question");
+    if (!m_walk.press(keys::Esc) || m_panel.logLines("no Accept").isEmpty())
+        fault(name, "ESC does not leave the question");
+}
+
+void Tour::fault(const QString &where, const QString &what)
+{
+    m_faults << where + ": " + what;
+    m_lost = true;
+    picture(where + "-fault");
+}
+
+void Tour::picture(const QString &name)
+{
+    if (!m_folder.isEmpty())
+        m_panel.screen().save(
+            QString("%1/%2-%3.png").arg(m_folder).arg(++m_number, 3, 10, QChar('0')).arg(name));
+}

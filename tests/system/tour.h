@@ -1,0 +1,43 @@
+// The tour: every page of the three menus, every drop-down, every number under edit and every question,
+// reached with keys alone and left with ESC step by step; a picture of each stop if a folder is given. GUI
+// thread of its program.
+#pragma once
+
+#include "tests/system/menuwalk.h"
+
+#include <QSet>
+
+class Tour
+{
+public:
+    /// The panel is at home and speaks the language of that file, fpd_EN or fpd_ZH. No folder: pages only,
+    /// and no pictures.
+    Tour(Panel &panel, const QString &language, const QString &folder);
+
+    /// Walks everything below a menu's root, back to the home screen.
+    bool walk(VASK::ENUM_ConfigIndex root);
+    void homeScreen() { picture("home"); }
+
+    /// What was not as it should be, one line each.
+    const QStringList &faults() const { return m_faults; }
+    /// The pages that were seen.
+    const QSet<VASK::ENUM_ConfigIndex> &seen() const { return m_seen; }
+
+private:
+    void visitPage(const QString &name);
+    void visitRow(const VASK::st_MenuItemInfo &row, const QString &name);
+    void openPage(const VASK::st_MenuItemInfo &row, const QString &name);
+    void lookAtEdit(const QString &name);
+    void lookAtQuestion(const QString &name);
+    void picture(const QString &name);
+    /// Notes it and gives up this menu, as it is not known where the panel is now.
+    void fault(const QString &where, const QString &what);
+
+    Panel &m_panel;
+    MenuWalk m_walk;
+    QString m_folder;
+    int m_number = 0;
+    bool m_lost = false;
+    QStringList m_faults;
+    QSet<VASK::ENUM_ConfigIndex> m_seen;
+};

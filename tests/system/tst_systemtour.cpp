@@ -1,0 +1,44 @@
+// Every page of the three menus is reached with keys alone and left with ESC step by step.
+#include "tests/system/tour.h"
+
+#include <QTest>
+
+using namespace VASK;
+
+class TestSystemTour : public QObject
+{
+    Q_OBJECT
+private slots:
+    void everyPageIsReachedAndLeft();
+};
+
+namespace
+{
+/// The pages below a root, as the rows lead to them.
+QSet<ENUM_ConfigIndex> below(ENUM_ConfigIndex root)
+{
+    QSet<ENUM_ConfigIndex> pages{root};
+    for (const st_MenuItemInfo &row : qAsConst(g_config[root].rowsMap))
+        if (row.controlType == TYPE_SUBPAGE)
+            pages |= below(row.subPage);
+    return pages;
+}
+} // namespace
+
+void TestSystemTour::everyPageIsReachedAndLeft()
+{
+    Panel panel;
+    QVERIFY(panel.startReady());
+    Tour tour(panel, "fpd_ZH", QString());
+    for (ENUM_ConfigIndex root : {CONFIG_MainMenu, CONFIG_UserHiddenMenu, CONFIG_ProductHiddenMenu}) {
+        tour.walk(root);
+        if (!tour.faults().isEmpty())
+            panel.keepEvidence("tour");
+        QVERIFY2(tour.faults().isEmpty(), qPrintable(tour.faults().join(QChar(10))));
+        QCOMPARE(tour.seen() & below(root), below(root));
+    }
+    QCOMPARE(panel.damage(), QString());
+}
+
+QTEST_MAIN(TestSystemTour)
+#include "tst_systemtour.moc"

@@ -1,0 +1,84 @@
+// Pictures of the whole menu for the manual: starts a device and a panel of its own and walks through all
+// pages, lists and questions, in both languages.
+//   fpd-tour DIR      saves DIR/en/*.png and DIR/zh/*.png and a contact sheet of each, DIR/en-1.png and so
+//   on;
+//                     prints what was not as it should be
+#include "tests/system/tour.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <cstdio>
+
+using namespace VASK;
+
+namespace
+{
+/// The panel loads the Chinese texts at its start, whatever is chosen: for English their file is exchanged.
+bool setLanguage(Panel &panel, bool english)
+{
+    const QString folder = panel.file("/usr/vask/etc/fpd/config/");
+    if (english &&
+        !(QFile::remove(folder + "fpd_ZH.qm") && QFile::copy(folder + "fpd_EN.qm", folder + "fpd_ZH.qm")))
+        return false;
+    return panel.setStored(MENU_LanguageEn, english ? SELECTED : UNSELECTED, "Choice") &&
+           panel.setStored(MENU_LanguageZh, english ? UNSELECTED : SELECTED, "Choice");
+}
+
+QStringList walkThrough(bool english, const QString &folder)
+{
+    Panel panel;
+    // The first start makes the store in which the language is set.
+    if (!panel.powerDevice() || !panel.start() || !panel.ask({"panel", "stop"}).ok ||
+        !setLanguage(panel, english) || !panel.start() || !panel.ask({"wait", "ready"}).ok)
+        return {"the panel does not start"};
+    Tour tour(panel, english ? "fpd_EN" : "fpd_ZH", folder);
+    panel.waitForLog("StartComplate: 2");
+    panel.settle();
+    tour.homeScreen();
+    for (ENUM_ConfigIndex root : {CONFIG_MainMenu, CONFIG_UserHiddenMenu, CONFIG_ProductHiddenMenu})
+        tour.walk(root);
+    return tour.faults();
+}
+/// Sheets of forty pictures at half their size.
+void contactSheets(const QDir &pictures, const QString &name)
+{
+    constexpr int columns = 5, rows = 8, gap = 4;
+    constexpr QSize cell(160 + gap, 120 + gap);
+    const QStringList files = pictures.entryList({"*.png"}, QDir::Files, QDir::Name);
+    for (int first = 0; first < files.size(); first += columns * rows) {
+        const QStringList shown = files.mid(first, columns * rows);
+        QImage sheet(columns * cell.width(), (shown.size() + columns - 1) / columns * cell.height(),
+                     QImage::Format_RGB32);
+        sheet.fill(Qt::gray);
+        QPainter painter(&sheet);
+        for (int i = 0; i < shown.size(); ++i) {
+            const QImage picture(pictures.filePath(shown[i]));
+            painter.drawImage(i % columns * cell.width() + gap / 2, i / columns * cell.height() + gap / 2,
+                              picture.scaled(160, 120, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        }
+        painter.end();
+        sheet.convertToFormat(QImage::Format_Indexed8)
+            .save(QString("%1-%2.png").arg(name).arg(first / (columns * rows) + 1));
+    }
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        fprintf(stderr, "usage: fpd-tour DIR\n");
+        return 2;
+    }
+    const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
+    QStringList faults;
+    for (bool english : {true, false}) {
+        faults += walkThrough(english, folder);
+        const QString language = folder + (english ? "/en" : "/zh");
+        contactSheets(QDir(language), language);
+    }
+    for (const QString &fault : qAsConst(faults))
+        printf("%s\n", qPrintable(fault));
+    return faults.isEmpty() ? 0 : 1;
+}
