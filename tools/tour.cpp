@@ -34,6 +34,7 @@ QStringList walkThrough(bool english, const QString &folder)
         return {"the panel does not start"};
     Tour tour(panel, english ? "fpd_EN" : "fpd_ZH", folder);
     panel.waitForLog("StartComplate: 2");
+    panel.press("in1"); // the input with a signal
     panel.settle();
     tour.homeScreen();
     for (ENUM_ConfigIndex root : {CONFIG_MainMenu, CONFIG_UserHiddenMenu, CONFIG_ProductHiddenMenu})

@@ -95,8 +95,10 @@ void Tour::openPage(const st_MenuItemInfo &row, const QString &name)
         if (!m_walk.answer(true))
             return fault(name, "the question cannot be answered");
     }
-    if (m_panel.logLines("objID:").isEmpty())
-        return; // a row that is off
+    if (m_panel.logLines("objID:").isEmpty()) {
+        m_closed[row.subPage] = row.menuIndex; // a row that is off
+        return;
+    }
     m_walk.opened(row.subPage);
     visitPage(name);
 }

@@ -22,6 +22,8 @@ public:
     const QStringList &faults() const { return m_faults; }
     /// The pages that were seen.
     const QSet<VASK::ENUM_ConfigIndex> &seen() const { return m_seen; }
+    /// The pages whose row did not answer, and the row's item.
+    const QMap<VASK::ENUM_ConfigIndex, VASK::ENUM_MenuIndex> &closed() const { return m_closed; }
 
 private:
     void visitPage(const QString &name);
@@ -40,4 +42,5 @@ private:
     bool m_lost = false;
     QStringList m_faults;
     QSet<VASK::ENUM_ConfigIndex> m_seen;
+    QMap<VASK::ENUM_ConfigIndex, VASK::ENUM_MenuIndex> m_closed;
 };

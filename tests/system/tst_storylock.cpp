@@ -30,8 +30,8 @@ namespace
 {
 const QRect lockWindow(90, 71, 140, 98);
 constexpr int windowMs = 2000;
-constexpr int slackMs = 700; ///< a loaded machine looks late
-constexpr int layerLeds = 3; ///< the others blink with their inputs
+constexpr int slackMs = 1500; ///< a loaded machine looks late
+constexpr int layerLeds = 3;  ///< the others blink with their inputs
 const QString chord = "esc+ok";
 } // namespace
 
@@ -78,6 +78,7 @@ void TestStoryLock::lockedPanelShowsItsWindowForTwoSeconds()
     QFETCH(QString, key);
     QVERIFY(m_panel.ask({"writes", "--clear"}).ok);
     const QString leds = m_panel.leds().left(layerLeds);
+    QVERIFY(m_panel.settle());
     const QImage before = m_panel.screen();
     QVERIFY(m_panel.press(key));
     QElapsedTimer shown;
@@ -85,7 +86,8 @@ void TestStoryLock::lockedPanelShowsItsWindowForTwoSeconds()
     QVERIFY(m_panel.waitUntil([this] { return showsWindow(); }));
     QVERIFY(m_panel.waitUntil(
         [this, &before] { return m_panel.screen().copy(lockWindow) == before.copy(lockWindow); }));
-    QVERIFY2(qAbs(shown.elapsed() - windowMs) < slackMs, qPrintable(QString("%1 ms").arg(shown.elapsed())));
+    QVERIFY2(shown.elapsed() > windowMs - 300 && shown.elapsed() < windowMs + slackMs,
+             qPrintable(QString("%1 ms").arg(shown.elapsed())));
     // And does nothing else.
     QCOMPARE(m_panel.writes(), QStringList());
     QCOMPARE(m_panel.leds().left(layerLeds), leds);
