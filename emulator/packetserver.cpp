@@ -9,7 +9,19 @@
 namespace
 {
 constexpr int maximalPacket = 65536;
+constexpr int maximalWaiting = 100000; ///< packets to one client
+
+enum class Sent { Yes, Full, Never };
+
+Sent sendNow(int client, const QByteArray &packet)
+{
+    const ssize_t sent =
+        ::send(client, packet.constData(), size_t(packet.size()), MSG_NOSIGNAL | MSG_DONTWAIT);
+    if (sent == packet.size())
+        return Sent::Yes;
+    return sent < 0 && (errno == EAGAIN || errno == ENOBUFS) ? Sent::Full : Sent::Never;
 }
+} // namespace
 
 PacketServer::PacketServer(const QString &file, QObject *parent) : QObject(parent), m_file(file) {}
 
@@ -46,11 +58,32 @@ void PacketServer::close()
 
 bool PacketServer::send(int client, const QByteArray &packet)
 {
-    if (!m_clients.contains(client))
+    const auto found = m_clients.find(client);
+    if (found == m_clients.end())
         return false;
-    const ssize_t sent =
-        ::send(client, packet.constData(), size_t(packet.size()), MSG_NOSIGNAL | MSG_DONTWAIT);
-    return sent == packet.size();
+    if (found->waiting.isEmpty()) {
+        const Sent sent = sendNow(client, packet);
+        if (sent != Sent::Full)
+            return sent == Sent::Yes;
+    }
+    if (found->waiting.size() >= maximalWaiting)
+        return false;
+    found->waiting.enqueue(packet);
+    found->writable->setEnabled(true);
+    return true;
+}
+
+void PacketServer::sendWaiting(int client)
+{
+    const auto found = m_clients.find(client);
+    if (found == m_clients.end())
+        return;
+    while (!found->waiting.isEmpty()) {
+        if (sendNow(client, found->waiting.head()) == Sent::Full)
+            return;
+        found->waiting.dequeue();
+    }
+    found->writable->setEnabled(false);
 }
 
 int PacketServer::sendToAll(const QByteArray &packet)
@@ -66,9 +99,12 @@ void PacketServer::accept()
     const int client = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
     if (client < 0)
         return;
-    auto *notifier = new QSocketNotifier(client, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this, client] { read(client); });
-    m_clients.insert(client, notifier);
+    auto *readable = new QSocketNotifier(client, QSocketNotifier::Read, this);
+    connect(readable, &QSocketNotifier::activated, this, [this, client] { read(client); });
+    auto *writable = new QSocketNotifier(client, QSocketNotifier::Write, this);
+    writable->setEnabled(false);
+    connect(writable, &QSocketNotifier::activated, this, [this, client] { sendWaiting(client); });
+    m_clients.insert(client, {readable, writable, {}});
     emit connected(client);
 }
 
@@ -88,11 +124,14 @@ void PacketServer::read(int client)
 
 void PacketServer::drop(int client)
 {
-    QSocketNotifier *notifier = m_clients.take(client);
-    if (!notifier)
+    const auto found = m_clients.find(client);
+    if (found == m_clients.end())
         return;
-    notifier->setEnabled(false);
-    notifier->deleteLater();
+    for (QSocketNotifier *notifier : {found->readable, found->writable}) {
+        notifier->setEnabled(false);
+        notifier->deleteLater();
+    }
+    m_clients.erase(found);
     ::close(client);
     emit disconnected(client);
 }

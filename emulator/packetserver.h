@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QQueue>
 #include <QString>
 
 class QSocketNotifier;
@@ -19,7 +20,8 @@ public:
     void close();
     bool isOpen() const { return m_listener >= 0; }
 
-    /// One packet to one client. False if the client does not take it.
+    /// One packet to one client, in order: while its socket is full, packets wait here. False for a client
+    /// that has gone, or with too many packets waiting.
     bool send(int client, const QByteArray &packet);
     /// One packet to every client; how many took it.
     int sendToAll(const QByteArray &packet);
@@ -30,12 +32,19 @@ signals:
     void disconnected(int client);
 
 private:
+    struct Client {
+        QSocketNotifier *readable;
+        QSocketNotifier *writable; ///< enabled while packets wait
+        QQueue<QByteArray> waiting;
+    };
+
     void accept();
     void read(int client);
+    void sendWaiting(int client);
     void drop(int client);
 
     QString m_file;
     int m_listener = -1;
     QSocketNotifier *m_notifier = nullptr;
-    QHash<int, QSocketNotifier *> m_clients;
+    QHash<int, Client> m_clients;
 };

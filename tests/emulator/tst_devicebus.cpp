@@ -27,6 +27,7 @@ private slots:
     void mirroredRegistersReachTheFlash_data();
     void mirroredRegistersReachTheFlash();
     void deviceReportsOnItsOwn();
+    void floodArrivesWholeAndInOrder();
     void presetsFollowTheirRegisters();
     void busComesBack();
     void ledCommands();
@@ -200,6 +201,20 @@ void TestDeviceBus::deviceReportsOnItsOwn()
     for (int input = 0; input < 9; ++input)
         QCOMPARE(addresses.at(input), 0x13010001u + 32 * unsigned(input));
     QCOMPARE(addresses.mid(addresses.size() - 2), (QList<quint32>{0x14000000, 0x14000000}));
+}
+
+/// More than the socket holds: what does not fit waits for its turn.
+void TestDeviceBus::floodArrivesWholeAndInOrder()
+{
+    constexpr int reports = 5000;
+    const auto counted = [](int n) { return QByteArray(1, char(n)) + char(n >> 8); };
+    for (int n = 0; n < reports; ++n)
+        QVERIFY(m_device->pushRead(0x13040003, counted(n), 0, 0));
+    for (int n = 0; n < reports; ++n) {
+        const auto report = wire::decodeFrame(receive());
+        QVERIFY(report);
+        QCOMPARE(report->data, counted(n));
+    }
 }
 
 void TestDeviceBus::presetsFollowTheirRegisters()
