@@ -46,6 +46,8 @@ public:
     {
         takeOver(this);
         m_work();
+        // The poster may be the one who drops the parcel.
+        handOver(this);
     }
 
 private:
