@@ -160,6 +160,15 @@ void TestLimits::limitsOneValue_data()
     row("EDID width at least 800", {{MENU_HDMI1_EDIDHeight, 1080}}, MENU_HDMI1_EDIDWidth, 700, 800);
     row("EDID height at least 600", {{MENU_DVI_EDIDWidth, 1920}}, MENU_DVI_EDIDHeight, 500, 600);
 
+    // 24 Hz stands at row 1: the clock carries more than the 4092 that a size may have, and 460 us of
+    // blanking are 46 lines, which bring 4050 lines to 4096
+    State cinema{{MENU_HDMI2_EDIDHeight, 600}, {MENU_HDMI2_EDIDCustomRate, 1}};
+    row("EDID width at its end", cinema, MENU_HDMI2_EDIDWidth, 4091, 4091);
+    row("EDID width above its end", cinema, MENU_HDMI2_EDIDWidth, 5000, 4092);
+    cinema = {{MENU_DVI2_EDIDWidth, 800}, {MENU_DVI2_EDIDCustomRate, 1}};
+    row("EDID height by all its lines", cinema, MENU_DVI2_EDIDHeight, 4049, 4049);
+    row("EDID height above all its lines", cinema, MENU_DVI2_EDIDHeight, 4092, 4049);
+
     row("mosaic at its area", {{MENU_Mosaic_Height, 1080}}, MENU_Mosaic_Width, 2048, 2048);
     row("mosaic above its area", {{MENU_Mosaic_Height, 1080}}, MENU_Mosaic_Width, 2049, 2048);
     row("mosaic height above", {{MENU_Mosaic_Width, 2048}}, MENU_Mosaic_Height, 1200, 1080);
