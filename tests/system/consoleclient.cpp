@@ -52,6 +52,22 @@ Answer ConsoleClient::ask(const QStringList &words, int timeoutMs)
     return answer;
 }
 
+bool ConsoleClient::askAll(const QList<QStringList> &requests, int timeoutMs)
+{
+    QByteArray lines;
+    for (const QStringList &words : requests)
+        lines += requestLine(words);
+    if (send(m_descriptor, lines.constData(), size_t(lines.size()), MSG_NOSIGNAL) != lines.size())
+        return false;
+    bool allDone = true;
+    int answers = 0;
+    for (QString line; answers < requests.size() && readLine(line, timeoutMs);) {
+        answers += !line.startsWith('+');
+        allDone = allDone && !line.startsWith("error ");
+    }
+    return allDone && answers == requests.size();
+}
+
 void ConsoleClient::begin(const QStringList &words)
 {
     const QByteArray line = requestLine(words);

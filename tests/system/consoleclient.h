@@ -20,6 +20,9 @@ public:
     /// One request and its whole answer.
     Answer ask(const QStringList &words, int timeoutMs);
 
+    /// Many requests at once, for their number; false if one of them was refused.
+    bool askAll(const QList<QStringList> &requests, int timeoutMs);
+
     /// Starts a request whose answer goes on, such as log --follow.
     void begin(const QStringList &words);
     /// The lines of the answer that have come by now; waits at most so long for the first.

@@ -95,6 +95,11 @@ Answer Panel::ask(const QStringList &words)
     return m_console->ask(words, patienceMs);
 }
 
+bool Panel::askAll(const QList<QStringList> &requests)
+{
+    return m_console->askAll(requests, patienceMs);
+}
+
 QImage Panel::screen() const
 {
     QFile file(m_state + hostlink::lcdFile);

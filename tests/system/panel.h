@@ -45,6 +45,8 @@ public:
     bool hold(const QString &key) { return ask({"key", key, "hold"}).ok; }
     bool turn(Direction direction, int steps = 1, int speed = 1);
     Answer ask(const QStringList &words);
+    /// Many requests at once; false if one was refused.
+    bool askAll(const QList<QStringList> &requests);
 
     QImage screen() const;
     /// Waits until the LCD has stood still for a moment.

@@ -1,0 +1,60 @@
+// What the kernel tells of a process: CPU time, memory, and the CPU time of each of its threads.
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <unistd.h>
+
+namespace procfs
+{
+inline QByteArray read(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The panel of that state folder.
+inline int panelOf(const QString &stateFolder)
+{
+    const QByteArray mark = "FPD_STATE=" + QFile::encodeName(stateFolder);
+    for (const QString &id : QDir("/proc").entryList({"[1-9]*"}, QDir::Dirs))
+        if (read("/proc/" + id + "/comm") == "fpd\n" && read("/proc/" + id + "/environ").contains(mark))
+            return id.toInt();
+    return 0;
+}
+
+/// User and system time in ms, from a stat file.
+inline double statMs(const QString &file)
+{
+    const QByteArray text = read(file);
+    const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
+    return fields.size() < 13
+               ? 0
+               : (fields[11].toDouble() + fields[12].toDouble()) * 1000 / double(sysconf(_SC_CLK_TCK));
+}
+
+inline double cpuMs(int process)
+{
+    return statMs(QString("/proc/%1/stat").arg(process));
+}
+
+/// By the thread's name and number.
+inline QMap<QString, double> threadsMs(int process)
+{
+    QMap<QString, double> threads;
+    const QString folder = QString("/proc/%1/task/").arg(process);
+    for (const QString &id : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QString name = QString::fromUtf8(read(folder + id + "/comm")).trimmed();
+        threads[QString("%1 %2").arg(name).arg(id.toInt() - process)] = statMs(folder + id + "/stat");
+    }
+    return threads;
+}
+
+inline double memoryMb(int process)
+{
+    const QByteArray status = read(QString("/proc/%1/status").arg(process));
+    const int at = status.indexOf("VmRSS:");
+    return at < 0 ? 0 : status.mid(at + 6, 20).trimmed().split(' ').first().toDouble() / 1024;
+}
+} // namespace procfs
