@@ -79,7 +79,7 @@ void Tour::visitRow(const st_MenuItemInfo &row, const QString &page)
     case TYPE_ICOCOMBOX:
     case TYPE_MOSAIC:
     case TYPE_TWOSTRINGCOMBOX:
-        return lookAtEdit(name);
+        return lookAtEdit(row.menuIndex, name);
     default:
         if (asksFirst(row.menuIndex))
             lookAtQuestion(name);
@@ -103,7 +103,7 @@ void Tour::openPage(const st_MenuItemInfo &row, const QString &name)
     visitPage(name);
 }
 
-void Tour::lookAtEdit(const QString &name)
+void Tour::lookAtEdit(ENUM_MenuIndex item, const QString &name)
 {
     m_panel.settle();
     const QImage before = m_panel.screen();
@@ -112,7 +112,9 @@ void Tour::lookAtEdit(const QString &name)
     if (m_panel.screen() == before)
         return; // a row that is off
     picture(name + "-edit");
-    if (!m_walk.press(keys::Esc) || (m_walk.asked() && !m_panel.waitForLog("slot_CloseDialog:")))
+    // The brightness is saved, which takes its time.
+    const bool saved = item == MENU_ScreenBrightness;
+    if (!m_walk.press(keys::Esc) || (saved && !(m_panel.waitForLog("slot_CloseDialog:") && m_panel.settle())))
         fault(name, "ESC does not end the edit");
 }
 

@@ -29,7 +29,7 @@ private:
     void visitPage(const QString &name);
     void visitRow(const VASK::st_MenuItemInfo &row, const QString &name);
     void openPage(const VASK::st_MenuItemInfo &row, const QString &name);
-    void lookAtEdit(const QString &name);
+    void lookAtEdit(VASK::ENUM_MenuIndex item, const QString &name);
     void lookAtQuestion(const QString &name);
     void picture(const QString &name);
     /// Notes it and gives up this menu, as it is not known where the panel is now.
