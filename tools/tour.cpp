@@ -41,12 +41,14 @@ QStringList walkThrough(bool english, const QString &folder)
         tour.walk(root);
     return tour.faults();
 }
-/// Sheets of forty pictures at half their size.
+/// Sheets of forty pages and questions at half their size; what is under edit stands in its own file only.
 void contactSheets(const QDir &pictures, const QString &name)
 {
     constexpr int columns = 5, rows = 8, gap = 4;
     constexpr QSize cell(160 + gap, 120 + gap);
-    const QStringList files = pictures.entryList({"*.png"}, QDir::Files, QDir::Name);
+    QStringList files = pictures.entryList({"*.png"}, QDir::Files, QDir::Name);
+    for (const QString &edit : files.filter("-edit.png"))
+        files.removeOne(edit);
     for (int first = 0; first < files.size(); first += columns * rows) {
         const QStringList shown = files.mid(first, columns * rows);
         QImage sheet(columns * cell.width(), (shown.size() + columns - 1) / columns * cell.height(),
@@ -59,8 +61,7 @@ void contactSheets(const QDir &pictures, const QString &name)
                               picture.scaled(160, 120, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         }
         painter.end();
-        sheet.convertToFormat(QImage::Format_Indexed8)
-            .save(QString("%1-%2.png").arg(name).arg(first / (columns * rows) + 1));
+        sheet.save(QString("%1-%2.png").arg(name).arg(first / (columns * rows) + 1));
     }
 }
 } // namespace
