@@ -3,6 +3,7 @@
 #include "tests/system/lcdtext.h"
 
 #include <QRegularExpression>
+#include <QThread>
 
 using namespace VASK;
 
@@ -112,12 +113,19 @@ bool MenuWalk::moveToStop(int stop)
     return steps == 0 || turn(steps < 0 ? Left : Right, qAbs(steps));
 }
 
-/// As the panel's log has it; a cursor that did not move, or moved inside its row, leaves no word.
+/// As the panel's log has it, a little after the key; a cursor that did not move, or moved inside its row,
+/// leaves no word.
 bool MenuWalk::cursorIsIn(int position)
 {
     static const QRegularExpression move("(?:left:| ###Right) (\\d+)");
-    const QStringList moves = m_panel.logLines(QString()).filter(move);
-    return moves.isEmpty() || move.match(moves.last()).captured(1).toInt() == position;
+    constexpr int looks = 100, lookMs = 10;
+    for (int look = 0; look < looks; ++look) {
+        const QStringList moves = m_panel.logLines(QString()).filter(move);
+        if (moves.isEmpty() || move.match(moves.last()).captured(1).toInt() == position)
+            return true;
+        QThread::msleep(lookMs);
+    }
+    return false;
 }
 
 bool MenuWalk::enter(ENUM_MenuIndex item)
