@@ -10,6 +10,10 @@ namespace
 constexpr int tickMs = 10;
 constexpr int retries = 5;
 constexpr unsigned long longestStopMs = 1000;
+// So many packets may wait above the bus before no more are taken from it: a tenth of a second of the fastest
+// flood on their way to the reports' thread, three seconds of sending.
+constexpr int longestUnread = 1000;
+constexpr int longestUnsent = 300;
 } // namespace
 
 APiPCService::APiPCService(ENUM_ObjectIndex index) : CommunicationClientInterface(index) {}
@@ -18,8 +22,10 @@ APiPCService::~APiPCService()
 {
     Terminate();
     // The socket stays: its threads are in the library and cannot be called back.
-    if (m_socket)
+    if (m_socket) {
         m_socket->disconnect();
+        m_socket->setRoom({});
+    }
 }
 
 void APiPCService::ApipcInit()
@@ -27,6 +33,7 @@ void APiPCService::ApipcInit()
     if (m_socket)
         return;
     m_socket = new ApipcSocket;
+    m_socket->setRoom([this] { return hasRoom(); });
     m_socket->Initialize();
     connect(m_socket, &ApipcSocket::receivedInfos, this, &APiPCService::slot_receiveMessage);
     if (VaskObject *home = GetObjectFromPool(ENUM_MAIN_WINDOW))
@@ -92,6 +99,12 @@ int APiPCService::SendMsg(void *packet)
     qDebug() << "SendMsg";
     append(m_send, *static_cast<QByteArray *>(packet));
     return 1;
+}
+
+bool APiPCService::hasRoom() const
+{
+    const int unread = m_receive.waiting + (m_protocol ? m_protocol->waiting() : 0);
+    return unread < longestUnread && m_send.waiting < longestUnsent;
 }
 
 void APiPCService::slot_receiveMessage(QByteArray packet)

@@ -52,6 +52,8 @@ private:
     void append(Direction &direction, const QByteArray &packet);
     void start(Direction &direction, void (APiPCService::*slot)(bool));
     void stop(Direction &direction);
+    /// Those who work on what has arrived, and on what it has led to, keep up.
+    bool hasRoom() const;
     bool sendWithRetries(const QByteArray &packet);
 
     ApipcSocket *m_socket = nullptr;

@@ -1,7 +1,6 @@
 #include "framework/protocol/apipcsocket.h"
 
 #include "apipc.h"
-#include "framework/handover.h"
 #include "framework/protocol/ipcheaderinfo.h"
 #include "framework/protocol/packageframe.h"
 
@@ -219,13 +218,13 @@ int ApipcSocket::AddMessage(const char *packet, int length)
 {
     const QByteArray bytes(packet, length);
     qDebug() << "AddMessage, iLen: " << length << ",data:" << bytes.toHex();
-    runOnGui(this, [this, bytes] { emit receivedInfos(bytes); });
+    m_arrivals.post([this, bytes] { emit receivedInfos(bytes); });
     return 0;
 }
 
 void ApipcSocket::reportUpdate(quint8 mode, quint16 count)
 {
-    runOnGui(this, [=] { emit signal_update(mode, count); });
+    m_arrivals.post([=] { emit signal_update(mode, count); });
 }
 
 void ApipcSocket::SetReceiveSucessFlag(bool success)

@@ -3,6 +3,8 @@
 // emitted there, too. Once its threads run it must live until the process ends.
 #pragma once
 
+#include "framework/postqueue.h"
+
 #include <QByteArray>
 #include <QMutex>
 #include <QObject>
@@ -19,8 +21,11 @@ public:
     bool Initialize();
     /// Packs the packet into a message and sends it to the device service. True when the bus took it.
     bool SendData(QByteArray packet);
-    /// Passes a received packet up, from any thread. Returns 0.
+    /// Passes a received packet up, from any thread. Returns 0. While those before it wait for room above,
+    /// the thread at the queue waits, too, and the bus keeps what follows.
     int AddMessage(const char *packet, int length);
+    /// Whether more may be passed up now, asked on the GUI thread.
+    void setRoom(std::function<bool()> hasRoom) { m_arrivals.setRoom(std::move(hasRoom)); }
     void SetReceiveSucessFlag(bool success);
     /// Does what the labels of a whole received message ask for. Any thread.
     void dispatch(const QByteArray &message);
@@ -43,6 +48,8 @@ private:
     int ipc_event_deal_th();
     void reportUpdate(quint8 mode, quint16 count);
 
+    static constexpr int longestArrivals = 1000;
+
     struct Label;
     static const Label labels[];
 
@@ -52,5 +59,6 @@ private:
     std::atomic<bool> m_stopReceive{false};
     bool m_receiveSuccess = false;
     QMutex m_mutex;
+    PostQueue m_arrivals{this, longestArrivals};
 };
 } // namespace VASK

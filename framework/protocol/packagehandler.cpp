@@ -41,13 +41,13 @@ PackageHandler::~PackageHandler()
     m_listMessage.clear();
 }
 
+/// All that waits are packages of the third generation: AddMessage takes no others.
 void PackageHandler::foldOlder(const PackageRequestProto3rd &newest)
 {
     if (newest.getHighAddr() == inputRecordsHigh || isPicturePiece(newest))
         return;
     for (int i = m_listMessage.size() - 1; i >= 0; --i) {
-        const auto *waiting = dynamic_cast<PackageRequestProto3rd *>(m_listMessage[i].package);
-        if (waiting && sameRegister(*waiting, newest))
+        if (sameRegister(static_cast<const PackageRequestProto3rd &>(*m_listMessage[i].package), newest))
             delete m_listMessage.takeAt(i).package;
     }
 }
@@ -63,6 +63,12 @@ int PackageHandler::AddMessage(PackageBase *package, bool flag)
         delete package;
     }
     return 0;
+}
+
+int PackageHandler::waiting() const
+{
+    QMutexLocker lock(&m_MessageMutex);
+    return m_listMessage.size();
 }
 
 void PackageHandler::setExit(bool exit)

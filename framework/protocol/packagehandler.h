@@ -35,6 +35,8 @@ public:
     /// Queues a package, which is the handler's from here on. Of the reports of one register only the newest
     /// waits, at the newest place; input records and the moving picture registers all stay. Returns 0.
     int AddMessage(PackageBase *package, bool flag = false);
+    /// Reports in the queue. Any thread.
+    int waiting() const;
     /// With true the thread ends after the report in hand.
     void setExit(bool exit);
 

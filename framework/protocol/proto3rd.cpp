@@ -43,6 +43,11 @@ int Proto3rd::GetValueByIndexSYN(ENUM_MenuIndex index, QString *value)
     return 1;
 }
 
+int Proto3rd::waiting() const
+{
+    return m_waiting + (m_pMessageHandler ? m_pMessageHandler->waiting() : 0);
+}
+
 int Proto3rd::InsertPackToRequestList(PackageRequestWriteData *package)
 {
     m_requests.insert(package);

@@ -40,6 +40,7 @@ public:
     void ResetTimer();
     /// Only the list of cabinet files can be asked for: its names, joined with "+". Returns 1.
     int GetValueByIndexSYN(ENUM_MenuIndex index, QString *value) override;
+    int waiting() const override;
 
     /// A request that waits for an answer; the package is owned from here on. Returns 1.
     /// @{

@@ -18,6 +18,8 @@ public:
     /// Asks for the value of an item and waits for it; a string that nothing is known for stays as it is.
     /// Returns 1.
     virtual int GetValueByIndexSYN(ENUM_MenuIndex, QString *) { return 1; }
+    /// Datagrams that it has been given and has not worked on yet. Any thread.
+    virtual int waiting() const { return 0; }
 
 public slots:
     /// An item has a new value: bring it to the device. Thread of the caller of SetParaToXml.

@@ -84,7 +84,8 @@ int apipc_enq(void **messageCopy, void *, void *, unsigned int length)
 {
     if (!messageCopy || !*messageCopy)
         return -1;
-    return bus().queue.put(static_cast<const char *>(*messageCopy), length) ? 0 : -1;
+    bus().queue.put(static_cast<const char *>(*messageCopy), length);
+    return 0;
 }
 
 int apipc_deq(void **message)

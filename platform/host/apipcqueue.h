@@ -16,15 +16,13 @@ using ApipcMessage = std::vector<char>;
 class ApipcQueue
 {
 public:
-    /// False when the queue is full: a program that does not read must not eat all memory.
-    bool put(const char *message, unsigned int length)
+    /// Waits while the queue is full: what follows stays in the socket, where the sender sees it.
+    void put(const char *message, unsigned int length)
     {
-        const std::lock_guard<std::mutex> guard(m_lock);
-        if (m_messages.size() >= maximalMessages)
-            return false;
+        std::unique_lock<std::mutex> guard(m_lock);
+        m_taken.wait(guard, [this] { return m_messages.size() < maximalMessages; });
         m_messages.push_back(std::make_unique<ApipcMessage>(message, message + length));
         m_filled.notify_one();
-        return true;
     }
 
     /// The oldest message, which is now the caller's; null if none came for a while.
@@ -35,6 +33,7 @@ public:
             return nullptr;
         ApipcMessage *message = m_messages.front().release();
         m_messages.pop_front();
+        m_taken.notify_one();
         return message;
     }
 
@@ -43,7 +42,7 @@ private:
     static constexpr std::chrono::milliseconds longestWait{100};
 
     std::mutex m_lock;
-    std::condition_variable m_filled;
+    std::condition_variable m_filled, m_taken;
     std::deque<std::unique_ptr<ApipcMessage>> m_messages;
 };
 } // namespace host

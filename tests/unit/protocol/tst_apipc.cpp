@@ -37,7 +37,9 @@ class RecordingProtocol : public ProtocolInterface
 public:
     RecordingProtocol() : ProtocolInterface(ENUM_PROTOCOINTERFER_3RD) {}
     void slot_ReceivePackHandle(QByteArray datagram) override { arrived += datagram; }
+    int waiting() const override { return busy ? 1000000 : 0; }
     QList<QByteArray> arrived;
+    bool busy = false;
 };
 
 /// The device's end of the bus.
@@ -273,11 +275,23 @@ void TestApipc::arrivals(RecordingProtocol &protocol, FarEnd &device)
     device.push(message(28, 1, packet(1)).left(40)); // cut
     device.push(message(30, 1, packet(2)));          // about something else
     QList<QByteArray> expected;
-    for (int n = 0; n < 200; ++n) {
-        device.push(message(28, n % 2, packet(n)));
-        expected += packet(n);
-    }
+    const auto pushMany = [&](int count) {
+        for (int n = 0; n < count; ++n) {
+            expected += packet(n) + number(quint32(expected.size()), 4);
+            device.push(message(28, n % 2, expected.last()));
+        }
+    };
+    pushMany(200);
     QVERIFY(QTest::qWaitFor([&] { return protocol.arrived.size() >= 200; }, 5000));
+    QCOMPARE(protocol.arrived, expected);
+
+    // Nobody keeps up: what comes now waits on its way, more of it than any one queue takes, and comes later.
+    protocol.busy = true;
+    pushMany(3000);
+    QTest::qWait(100);
+    QCOMPARE(protocol.arrived.size(), 200);
+    protocol.busy = false;
+    QVERIFY(QTest::qWaitFor([&] { return protocol.arrived.size() >= 3200; }, 5000));
     QCOMPARE(protocol.arrived, expected);
 }
 
