@@ -148,7 +148,7 @@ void MenuAnalysis::repairFactoryFile()
     QDomDocument document = emptyMenuDocument();
     for (auto item = g_MenuXmlConfig.cbegin(); item != g_MenuXmlConfig.cend(); ++item)
         document.documentElement().appendChild(
-            menuItemToXml(document, m_elementNames, item.key(), item.value()));
+            CreateMenuItemConfig(document, m_elementNames, item.key(), item.value()));
     if (!writeFile(m_path + m_factoryName, document))
         qDebug() << m_path + m_factoryName << "open fail!";
 }
@@ -334,7 +334,7 @@ void MenuAnalysis::ensureDocument()
 void MenuAnalysis::addItemToXML(ENUM_MenuIndex index, const ST_ItemInfo &item)
 {
     ensureDocument();
-    m_xmldoc.documentElement().appendChild(menuItemToXml(m_xmldoc, m_elementNames, index, item));
+    m_xmldoc.documentElement().appendChild(CreateMenuItemConfig(m_xmldoc, m_elementNames, index, item));
 }
 
 void MenuAnalysis::modityItemToXML(ENUM_MenuIndex index, const ST_ItemInfo &item,
@@ -345,7 +345,7 @@ void MenuAnalysis::modityItemToXML(ENUM_MenuIndex index, const ST_ItemInfo &item
         qDebug() << "Xml No this Index:" << int(index);
         return;
     }
-    QDomElement element = menuItemToXml(m_xmldoc, m_elementNames, index, item);
+    QDomElement element = CreateMenuItemConfig(m_xmldoc, m_elementNames, index, item);
     old.parentNode().replaceChild(element, old);
     elements.insert(index, element);
 }

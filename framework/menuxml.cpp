@@ -166,8 +166,8 @@ QDomDocument emptyMenuDocument()
     return document;
 }
 
-QDomElement menuItemToXml(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
-                          const ST_ItemInfo &item)
+QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
+                                 const ST_ItemInfo &item)
 {
     QDomElement element = document.createElement(names[XML_ITEMS]);
     element.setAttribute(names[XML_INDEX], int(index));

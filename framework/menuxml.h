@@ -44,8 +44,8 @@ XmlNames menuXmlNames();
 QDomDocument emptyMenuDocument();
 
 /// A new Items element with all children, in the file's order.
-QDomElement menuItemToXml(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
-                          const ST_ItemInfo &item);
+QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
+                                 const ST_ItemInfo &item);
 
 /// Fills the fields from the children, in any order. What it cannot read is logged and leaves the field as it
 /// was.
