@@ -70,7 +70,7 @@ bool MainWindow::Init()
         complete = false;
     }
     SetIp(firstAddress);
-    ui->labDeviceName->clear();
+    SetDeviceRename(QString());
     InitLayer();
     InitWindow();
     SetScreenRes(firstResolution);

@@ -18,6 +18,9 @@ const char syncStyle[] = "*{font-family: \"Arial\";font-size: 12px; font-weight:
                          "#SyncState[switch=true]{color:#888796;}#SyncState[switch=false]{color:#525252;}"
                          "#labSynName[switch=false]{color:#525252;}";
 
+/// What the device is; the maker's sign.
+const char deviceModel[] = "K2860";
+
 const char switchProperty[] = "switch";
 const char keyProperty[] = "textKey";
 
@@ -36,7 +39,7 @@ void Ui_MainWindow::setupUi(QWidget *window)
     constexpr auto left = Qt::AlignLeft | Qt::AlignVCenter;
     constexpr auto centre = Qt::AlignCenter;
     const Place places[] = {
-        {&labDeviceName, "labDeviceName", {25, 6, 118, 16}, "", left},
+        {&labDeviceName, "labDeviceName", {25, 6, 118, 16}, deviceModel, left},
         {&labLock, "labLock", {147, 4, 26, 20}, "", centre},
         {&labIp, "labIp", {187, 6, 126, 16}, "", left},
         {&labWindow[0], "WinState", {0, 30, 55, 31}, "Main", centre},

@@ -14,10 +14,18 @@ private slots:
     void panelIsOnTheBus();
     void busComesAndGoes();
     void flashIsReadAtTheStart();
+    void makersSignCanBeLeftOut();
 
 private:
     Panel m_panel;
 };
+
+namespace
+{
+const QString model = "K2860";
+const QRect modelPlace(25, 0, 118, 24);
+constexpr int itemMakersSign = 3091;
+} // namespace
 
 void TestSystemHome::initTestCase()
 {
@@ -39,6 +47,7 @@ void TestSystemHome::cleanupTestCase()
 void TestSystemHome::showsTheDevicesState()
 {
     QVERIFY(m_panel.waitFor("60%"));
+    QVERIFY(m_panel.waitFor(model, modelPlace));
     QVERIFY(m_panel.waitFor("192.168.0.10"));
     QVERIFY(!m_panel.shows("61%"));
 }
@@ -68,6 +77,15 @@ void TestSystemHome::flashIsReadAtTheStart()
     QVERIFY(m_panel.ask({"flash", "write", "200C", "6300"}).ok);
     QVERIFY(m_panel.start());
     QVERIFY(m_panel.waitFor("192.168.0.99"));
+}
+
+void TestSystemHome::makersSignCanBeLeftOut()
+{
+    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+    QVERIFY(m_panel.setStored(itemMakersSign, "0"));
+    QVERIFY(m_panel.start());
+    QVERIFY(m_panel.waitFor("60%"));
+    QVERIFY(!m_panel.shows(model, modelPlace));
 }
 
 QTEST_MAIN(TestSystemHome)
