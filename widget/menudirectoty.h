@@ -53,6 +53,8 @@ public:
     void keypadOkEvent(KeypadEvent *event);
     /// Ends the edit of the row, or leaves the page for its parent.
     void keypadEScEvent(KeypadEvent *event);
+    /// A key with a digit, while a row is edited: no row of this model takes digits.
+    void keypadNumEvent(KeypadEvent *) {}
     /// Leaves the menu altogether.
     void ReturnToMainWindows(KeypadEvent *event);
     /// @}

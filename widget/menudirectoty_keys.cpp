@@ -66,6 +66,8 @@ void MenuDirectory::keyEvent(KeypadEvent *event)
     }
     if (!m_edit)
         runPanelKey(this, PanelScreen::Page, *event);
+    else if (GetkeypadNum(event->key()) != noDigit)
+        keypadNumEvent(event);
 }
 
 void MenuDirectory::escKey(KeypadEvent *event)

@@ -2,6 +2,8 @@
 
 #include "framework/paraprocess.h"
 
+#include <iterator>
+
 namespace VASK
 {
 namespace
@@ -53,6 +55,9 @@ constexpr PanelKey panelKeys[] = {
     {KEY_PRESET, KEY_RELEASED, InController, InController, keypadPresetEvent},
 };
 
+/// From the first input key upward.
+constexpr unsigned char digits[] = {1, 2, 3, 6, noDigit, 9, 7, noDigit, 0, 8, noDigit, 5};
+
 unsigned modeBit(const QString &workMode)
 {
     if (workMode == workModeConverter)
@@ -60,6 +65,12 @@ unsigned modeBit(const QString &workMode)
     return workMode == workModeSendingCard ? InSendingCard : InController;
 }
 } // namespace
+
+unsigned char GetkeypadNum(unsigned char key)
+{
+    const int place = key - KEY_INPUT1;
+    return place >= 0 && place < int(std::size(digits)) ? digits[place] : noDigit;
+}
 
 QString currentWorkMode()
 {

@@ -51,6 +51,10 @@ constexpr unsigned char noSource = 255;
 /// The source number of an input key; noSource for a key without one and for SDI in a device without it.
 unsigned char GetSourceNum(unsigned char key);
 
+constexpr unsigned char noDigit = 255;
+/// The digit on a key; noDigit for a key without one.
+unsigned char GetkeypadNum(unsigned char key);
+
 /// Opens the last page of a path that starts at the main menu, as if the user had walked it: every page on it
 /// has the one above as its parent and its cursor on the row that leads on. False, and nothing changes, if a
 /// page is missing.
