@@ -14,6 +14,7 @@ private slots:
     void startsWithoutKeypad();
     void startsWithoutConfigFolder();
     void startsWithReadOnlyConfigFolder();
+    void fiberConverterShowsNothing();
     void killedPanelStartsAgain();
     void runLeavesNothingRunning();
 };
@@ -94,6 +95,26 @@ void TestSystemStart::startsWithReadOnlyConfigFolder()
     QVERIFY(!QFile::exists(folder + "/config.xml"));
     QCOMPARE(panel.damage(), QString());
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void TestSystemStart::fiberConverterShowsNothing()
+{
+    constexpr int itemWorkMode = 3210;
+    Panel panel;
+    QVERIFY(panel.startReady());
+    QVERIFY(panel.waitUntil([&panel] { return panel.leds().contains('1'); }));
+    QVERIFY(panel.ask({"panel", "stop"}).ok);
+    QVERIFY(panel.setStored(itemWorkMode, "1"));
+    QVERIFY(panel.start());
+    QVERIFY(panel.waitForLog("StartComplate: 2"));
+    // No home screen, so no way home either, and the keys stay dark.
+    QCOMPARE(panel.logLines("m_returnMainWindow").size(), 0);
+    QCOMPARE(panel.leds(), QString(16, '0'));
+    QVERIFY(panel.press(keys::Ok));
+    QVERIFY(panel.waitForLog("null == activeWid 34"));
+    QVERIFY(panel.settle());
+    QCOMPARE(panel.screen().pixelColor(160, 120), QColor(Qt::black));
+    QCOMPARE(panel.damage(), QString());
 }
 
 void TestSystemStart::killedPanelStartsAgain()

@@ -73,6 +73,18 @@ private slots:
         g_config[CONFIG_Fn] = whole;
     }
 
+    void aPageIsWiredByText()
+    {
+        MenuDirectory *page = PageRig::open(ENUM_PAGE_PIP1, m_rig->home);
+        const QMap<QString, QString> wires{{SIGNAL(objectNameChanged(QString)), SLOT(hide())}};
+        QCOMPARE(page->BuildHandshake(nullptr, wires), 0);
+        DirectoryEngineer peer(ENUM_DIRECTORY_ENGINEER);
+        QCOMPARE(page->BuildHandshake(&peer, wires), 0);
+        QVERIFY(page->isVisible());
+        peer.setObjectName("new");
+        QVERIFY(!page->isVisible());
+    }
+
     void aboutWithoutTheMakersSign()
     {
         m_rig->set(MENU_MakerSign, "0");

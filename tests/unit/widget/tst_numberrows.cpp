@@ -125,15 +125,35 @@ private slots:
         QCOMPARE(RowBench::takeApplied(), QList<int>{});
     }
 
+    void typedDigits_data()
+    {
+        QTest::addColumn<QList<int>>("digits");
+        QTest::addColumn<QString>("max");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("one") << QList<int>{7} << "1920"
+                             << "7";
+        QTest::newRow("one above the maximum") << QList<int>{7} << "5"
+                                               << "5";
+        QTest::newRow("behind the first") << QList<int>{1, 9} << "1920"
+                                          << "19";
+        QTest::newRow("onto the maximum") << QList<int>{5, 5} << "30"
+                                          << "30";
+        QTest::newRow("a third begins anew") << QList<int>{1, 9, 2} << "1920"
+                                             << "2";
+    }
     void typedDigits()
     {
-        setRange(*m_bench, whole, "50", "0", "1920", "1");
+        QFETCH(QList<int>, digits);
+        QFETCH(QString, max);
+        QFETCH(QString, end);
+        setRange(*m_bench, whole, "50", "0", max, "1");
         typeintadjust row(whole, ENUM_OBJECT_END);
-        row.NumberEntry(whole, 7);
-        QVERIFY(shows(row, "7 mm"));
+        for (int digit : digits)
+            row.NumberEntry(whole, static_cast<unsigned char>(digit));
+        QVERIFY(shows(row, end + " mm"));
         QCOMPARE(RowBench::takeApplied(), QList<int>{});
         row.EnterEntry(whole, 1, 1);
-        QCOMPARE(m_bench->value(whole), QString("7"));
+        QCOMPARE(m_bench->value(whole), end);
         QCOMPARE(RowBench::takeApplied(), QList<int>{whole});
     }
 
@@ -161,6 +181,31 @@ private slots:
         row.SetParaEntry(whole, reported, SET_XML_DEVICE);
         QVERIFY(shows(row, shown + " mm"));
         QCOMPARE(RowBench::takeApplied(), sentBack ? QList<int>{whole} : QList<int>{});
+    }
+
+    /// No input is known here, so the engine would allow no crop at all.
+    void aReportedCropStandsAsItIs_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("reported");
+        QTest::addColumn<QString>("shown");
+        for (int index : {MENU_MainLayerCrop_HorWidth, MENU_PIP1Crop_VerHeight, MENU_PIP2Crop_InitialY})
+            QTest::addRow("%d", index) << index << "500"
+                                       << "500";
+        QTest::newRow("not beyond its own limits") << int(MENU_PIP1Crop_HorWidth) << "40000"
+                                                   << "0";
+        QTest::newRow("any other size is limited") << int(MENU_Mosaic_Width) << "40000"
+                                                   << "2048";
+    }
+    void aReportedCropStandsAsItIs()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, reported);
+        QFETCH(QString, shown);
+        typeintadjust row(ENUM_MenuIndex(index), ENUM_OBJECT_END);
+        row.SetParaEntry(MENU_OWN, reported, SET_XML_DEVICE);
+        QVERIFY(shows(row, shown));
+        QCOMPARE(RowBench::takeApplied(), shown == reported ? QList<int>{} : QList<int>{index});
     }
 
     void storeModeStoresSilently()
