@@ -16,9 +16,11 @@ constexpr int tolerance = 44;     ///< of 255, for other roundings of the edges
 /// Text that is aligned to the right or centred begins between two pixels, and each of its glyphs is drawn in
 /// the quarter of a pixel where it falls: eighths find them all.
 constexpr int phases = 8;
+/// Where several glyphs share few of these places, for a text of which the font is known.
+constexpr int finePhases = 32;
 
 /// The text as coverage from 0 to 255, cut to what is inked, with a free border of one pixel.
-QImage coverage(const QString &text, const QFont &font, int phase)
+QImage coverage(const QString &text, const QFont &font, double phase)
 {
     const QFontMetrics metrics(font);
     QImage picture(metrics.horizontalAdvance(text) + 24, metrics.height() + 12, QImage::Format_RGB32);
@@ -26,7 +28,7 @@ QImage coverage(const QString &text, const QFont &font, int phase)
     QPainter painter(&picture);
     painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(QPointF(8 + double(phase) / phases, metrics.ascent() + 4), text);
+    painter.drawText(QPointF(8 + phase, metrics.ascent() + 4), text);
     painter.end();
     const QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
     QRect inked;
@@ -106,7 +108,7 @@ private:
     QVector<Sample> m_samples;
     Sample m_inked{};
 };
-QRect findPhase(const QImage &screen, const QString &text, const QFont &font, const QRect &area, int phase)
+QRect findPhase(const QImage &screen, const QString &text, const QFont &font, const QRect &area, double phase)
 {
     const QImage mask = coverage(text, font, phase);
     const QRect within = area.isNull() ? screen.rect() : area & screen.rect();
@@ -121,16 +123,21 @@ QRect findPhase(const QImage &screen, const QString &text, const QFont &font, co
     }
     return QRect();
 }
-} // namespace
 
-QRect find(const QImage &screen, const QString &text, const QFont &font, const QRect &area)
+QRect findInPhases(const QImage &screen, const QString &text, const QFont &font, const QRect &area, int count)
 {
-    for (int phase = 0; phase < phases; ++phase) {
-        const QRect place = findPhase(screen, text, font, area, phase);
+    for (int phase = 0; phase < count; ++phase) {
+        const QRect place = findPhase(screen, text, font, area, double(phase) / count);
         if (!place.isEmpty())
             return place;
     }
     return QRect();
+}
+} // namespace
+
+QRect find(const QImage &screen, const QString &text, const QFont &font, const QRect &area)
+{
+    return findInPhases(screen, text, font, area, finePhases);
 }
 
 QRect find(const QImage &screen, const QString &text, const QRect &area)
@@ -141,7 +148,7 @@ QRect find(const QImage &screen, const QString &text, const QRect &area)
                 QFont font(QString::fromUtf8(family));
                 font.setPixelSize(size);
                 font.setBold(bold);
-                const QRect place = find(screen, text, font, area);
+                const QRect place = findInPhases(screen, text, font, area, phases);
                 if (!place.isEmpty())
                     return place;
             }

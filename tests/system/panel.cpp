@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QThread>
+#include <QXmlStreamReader>
 
 namespace
 {
@@ -27,6 +28,32 @@ QDomElement itemElement(const QDomDocument &store, int item)
     while (!element.isNull() && element.attribute("Index").toInt() != item)
         element = element.nextSiblingElement("Items");
     return element;
+}
+
+/// False if the file does not end as it should.
+bool readFields(QFile &file, QMap<QString, QString> &fields)
+{
+    QXmlStreamReader xml(&file);
+    QString item;
+    QString list;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QString name = xml.name().toString();
+        QString field;
+        if (name == "Items")
+            item = xml.attributes().value("Index").toString();
+        else if (name == "Params" || name == "Params1")
+            list = item + '/' + name;
+        else if (name == "param")
+            field = list + '/' + xml.attributes().value("paramName").toString();
+        else
+            field = name == "Value" ? item : item + '/' + name;
+        if (!item.isEmpty() && !field.isEmpty())
+            fields.insert(field, xml.readElementText());
+    }
+    file.close();
+    return !xml.hasError();
 }
 
 QString buildFolder()
@@ -205,6 +232,18 @@ QDomDocument Panel::store() const
 QString Panel::stored(int item, const QString &field) const
 {
     return itemElement(store(), item).firstChildElement(field).text();
+}
+
+QMap<QString, QString> Panel::storedFields() const
+{
+    QMap<QString, QString> fields;
+    QFile file(m_state + storeFile);
+    // The panel writes the file in place: it may be empty or cut off at this moment.
+    const bool whole = waitUntil([&fields, &file] {
+        fields.clear();
+        return file.open(QIODevice::ReadOnly) && readFields(file, fields);
+    });
+    return whole ? fields : QMap<QString, QString>();
 }
 
 bool Panel::setStored(int item, const QString &value, const QString &field)

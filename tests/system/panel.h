@@ -6,6 +6,7 @@
 
 #include <QDomDocument>
 #include <QImage>
+#include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <functional>
@@ -70,6 +71,8 @@ public:
     QStringList writes() { return ask({"writes"}).lines; }
     /// A field of an item in config.xml, as "Value".
     QString stored(int item, const QString &field = "Value") const;
+    /// All of config.xml: values by "ITEM", other fields by "ITEM/Enable" and "ITEM/Params1/KEY".
+    QMap<QString, QString> storedFields() const;
 
     /// Changes a field in config.xml, while the panel is off.
     bool setStored(int item, const QString &value, const QString &field = "Value");

@@ -1,5 +1,5 @@
 // What the device tells of its inputs, its ports and its work mode, as a user sees it on the home screen.
-#include "tests/system/panel.h"
+#include "tests/system/homescreen.h"
 
 #include <QTest>
 
@@ -29,36 +29,18 @@ private slots:
     void fiberConverterGetsItsScreenBack();
 
 private:
-    /// The colour of a port's picture, from 1: green linked, yellow backup, dark.
-    QString portColour(int port) const;
+    QString portColour(int port) const { return homescreen::portColour(m_panel, port); }
     bool portTurns(int port, const QString &colour)
     {
         return m_panel.waitUntil([=] { return portColour(port) == colour; });
     }
+    bool sees(const QString &sight) { return homescreen::waitToSee(m_panel, sight); }
     bool wasWritten(const QString &line)
     {
         return m_panel.waitUntil([=] { return m_panel.writes().contains(line); });
     }
     Panel m_panel;
 };
-
-QString TestSystemReports::portColour(int port) const
-{
-    constexpr int strong = 150; // of 255
-    constexpr int weak = 90;
-    const QPoint corner(63 + 40 * ((port - 1) % 3), port <= 3 ? 180 : 208);
-    const QImage picture = m_panel.screen().copy(QRect(corner, QSize(24, 21)));
-    int green = 0;
-    int yellow = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x) {
-            const QColor pixel = picture.pixelColor(x, y);
-            if (pixel.green() > strong && pixel.blue() < weak)
-                ++(pixel.red() > strong ? yellow : green);
-        }
-    constexpr int much = 50; // pixels
-    return yellow > much ? "yellow" : green > much ? "green" : "dark";
-}
 
 void TestSystemReports::initTestCase()
 {
@@ -90,17 +72,17 @@ void TestSystemReports::layerShowsWhatItsSourceCarries()
 {
     QFETCH(QString, mode);
     QVERIFY(m_panel.ask({"signal", "hdmi1", "on", mode}).ok);
-    QVERIFY(m_panel.waitFor(mode));
+    QVERIFY(sees("main:" + mode));
 }
 
 void TestSystemReports::layerTellsOfALostSource()
 {
     QVERIFY(m_panel.ask({"signal", "hdmi1", "on", "1280x720@50"}).ok);
-    QVERIFY(m_panel.waitFor("1280x720@50"));
+    QVERIFY(sees("main:1280x720@50"));
     QVERIFY(m_panel.ask({"signal", "hdmi2", "on", "800x600@60"}).ok); // nobody shows it
     QVERIFY(m_panel.ask({"signal", "hdmi1", "off"}).ok);
-    QVERIFY(m_panel.waitUntilGone("1280x720@50"));
-    QVERIFY(!m_panel.shows("800x600@60"));
+    QVERIFY(m_panel.waitUntil([this] { return !homescreen::sees(m_panel, "main:1280x720@50"); }));
+    QVERIFY(!homescreen::sees(m_panel, "main:800x600@60"));
 }
 
 void TestSystemReports::portsShowTheirLinks_data()
@@ -137,11 +119,11 @@ void TestSystemReports::sendingCardFollowsItsInput()
     QVERIFY(m_panel.ask({"signal", "dvi", "on", "1280x1024@75"}).ok);
     QVERIFY(m_panel.ask({"push", workModeRegister, "10"}).ok);
     QVERIFY(wasWritten(senderOn));
-    QVERIFY(m_panel.waitFor("1280x1024@75"));
-    QVERIFY(m_panel.waitFor("1920x1080@75"));
+    QVERIFY(sees("main:1280x1024@75"));
+    QVERIFY(sees("screen:1920x1080@75"));
     QVERIFY(m_panel.ask({"push", workModeRegister, "00"}).ok);
     QVERIFY(wasWritten(senderOff));
-    QVERIFY(m_panel.waitFor("1920x1080@60"));
+    QVERIFY(sees("screen:1920x1080@60"));
 }
 
 void TestSystemReports::fiberConverterGetsItsScreenBack()
@@ -151,10 +133,10 @@ void TestSystemReports::fiberConverterGetsItsScreenBack()
     m_panel.mark();
     QVERIFY(m_panel.ask({"panel", "start"}).ok);
     QVERIFY(m_panel.waitForLog("StartComplate: 2"));
-    QVERIFY(!m_panel.shows("60%"));
+    QVERIFY(!homescreen::sees(m_panel, "bright:60%"));
     QCOMPARE(m_panel.leds(), QString(16, '0'));
     QVERIFY(m_panel.ask({"push", workModeRegister, "00"}).ok);
-    QVERIFY(m_panel.waitFor("60%"));
+    QVERIFY(sees("bright:60%"));
     QVERIFY(m_panel.press(keys::Ok));
     QVERIFY(m_panel.waitUntilGone("192.168.0.10"));
 }
