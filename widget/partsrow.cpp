@@ -14,6 +14,8 @@ void PartsRow::setParts(const QList<QWidget *> &parts)
 void PartsRow::UpEntry(ENUM_MenuIndex, unsigned char &speed, bool first)
 {
     qDebug() << "UP, m_currentItem:" << m_currentItem << ",uKeySpeed" << speed;
+    if (speed == 0) // the keypad's own number: from the right it would lead to a part behind the last
+        return;
     if (first && m_currentItem == 1) {
         qDebug() << "up is limit";
         speed = 0;

@@ -73,6 +73,20 @@ private slots:
                  applied);
     }
 
+    void aTurnWithoutSpeedReachesNoPart()
+    {
+        typeapplyreset row(MENU_Net_Apply, ENUM_OBJECT_END);
+        for (bool left : {true, false}) {
+            unsigned char speed = 0;
+            if (left)
+                row.UpEntry(MENU_Net_Apply, speed, false);
+            else
+                row.DownEntry(MENU_Net_Apply, speed, false);
+            row.EnterEntry(MENU_Net_Apply);
+            QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        }
+    }
+
     void fourPicturesActOnTheRowItself()
     {
         typefourpic row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
