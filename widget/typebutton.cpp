@@ -9,4 +9,11 @@ typebutton::typebutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
 {
     CreatEntry(createValueLabel());
 }
+
+/// The value of a file is its name, which its row shows as such.
+QString typebutton::valueText() const
+{
+    const bool isFile = ownIndex() >= MENU_CabinetFile1 && ownIndex() <= MENU_CabinetFile8;
+    return isFile ? QString() : FramedRow::valueText();
+}
 } // namespace VASK

@@ -13,5 +13,8 @@ public:
 
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+
+protected:
+    QString valueText() const override;
 };
 } // namespace VASK

@@ -4,6 +4,7 @@
 #include "rowbench.h"
 #include "widget/typeapply.h"
 #include "widget/typeapplyreset.h"
+#include "widget/typebutton.h"
 #include "widget/typecheckitem.h"
 #include "widget/typefourpic.h"
 #include "widget/typetwostringcombox.h"
@@ -128,6 +129,25 @@ private slots:
             walk(row, MENU_InputBackup_Status, clicks);
             QVERIFY(!row.focusWidget() || row.focusWidget()->objectName() == "Btn");
         }
+    }
+
+    void aFileShowsItsNameOnce()
+    {
+        // As it stands in the store when the panel starts again.
+        const QString name = "wall 480x270.cab";
+        m_bench->store().UpdataItemCurValue(MENU_CabinetFile3, name);
+        typebutton row(MENU_CabinetFile3, ENUM_OBJECT_END);
+        const auto shown = [&row, &name] {
+            int count = 0;
+            for (const QLabel *label : row.findChildren<QLabel *>())
+                count += label->text() == name;
+            return count;
+        };
+        row.UpdateTagName(MENU_CabinetFile3, name);
+        QCOMPARE(shown(), 1);
+        row.SetParaEntry(MENU_OWN, "", SET_XML_DEVICE);
+        row.UpdateTagName(MENU_CabinetFile3, name);
+        QCOMPARE(shown(), 1);
     }
 
     void theTickOfASlowChangeComesFirst_data()
