@@ -111,6 +111,8 @@ bool Device::report(const Reports &reports)
 bool Device::reportAndAdopt(const Report &report)
 {
     m_model.adopt(report);
+    // What waits of that register is older.
+    forget(report);
     return send(report, false);
 }
 
@@ -169,13 +171,18 @@ bool Device::send(const Report &report, bool isAnswer)
     return pushRead(report.address, report.bytes, report.deviceType, 0);
 }
 
+void Device::forget(const Report &report)
+{
+    const auto same = [&report](const WaitingReport &other) {
+        return other.report.address == report.address && other.report.deviceType == report.deviceType;
+    };
+    m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), same), m_waiting.end());
+}
+
 void Device::sendLater(const Reports &reports)
 {
     for (const Report &report : reports) {
-        const auto same = [&report](const WaitingReport &other) {
-            return other.report.address == report.address && other.report.deviceType == report.deviceType;
-        };
-        m_waiting.erase(std::remove_if(m_waiting.begin(), m_waiting.end(), same), m_waiting.end());
+        forget(report);
         m_waiting.append({report, m_clock.elapsed() + report.afterMs});
     }
     sendDue();

@@ -75,6 +75,8 @@ private:
     void keep(const wire::Frame &request);
     QByteArray answer(const wire::Frame &request) const;
     bool send(const Report &report, bool isAnswer);
+    /// A waiting report of that register will not be sent.
+    void forget(const Report &report);
     void sendLater(const Reports &reports);
     void sendDue();
 

@@ -27,6 +27,7 @@ private slots:
     void mirroredRegistersReachTheFlash_data();
     void mirroredRegistersReachTheFlash();
     void deviceReportsOnItsOwn();
+    void aReportTakesTheOlderOnesPlace();
     void floodArrivesWholeAndInOrder();
     void presetsFollowTheirRegisters();
     void busComesBack();
@@ -201,6 +202,29 @@ void TestDeviceBus::deviceReportsOnItsOwn()
     for (int input = 0; input < 9; ++input)
         QCOMPARE(addresses.at(input), 0x13010001u + 32 * unsigned(input));
     QCOMPARE(addresses.mid(addresses.size() - 2), (QList<quint32>{0x14000000, 0x14000000}));
+}
+
+void TestDeviceBus::aReportTakesTheOlderOnesPlace()
+{
+    constexpr quint32 displayMode = 0x13000004, nextWritten = 0x13020010;
+    const QByteArray freeze("\4"), black("\5"), hidden("\0", 1);
+    QStringList answers;
+    const auto connection =
+        connect(m_device.get(), &Device::reported, [&](const Report &report, bool isAnswer) {
+            if (isAnswer)
+                answers.append(QString::number(report.address, 16));
+        });
+    m_device->setReporting(true);
+    QVERIFY(write(displayMode, freeze));
+    QVERIFY(m_device->reportAndAdopt({displayMode, black}));
+    QVERIFY(write(nextWritten, hidden));
+    QVERIFY(QTest::qWaitFor([&] { return !answers.isEmpty(); }));
+    QCOMPARE(answers, QStringList{QString::number(nextWritten, 16)});
+    disconnect(connection);
+    m_device->setReporting(false);
+    constexpr int answersAndReports = 4;
+    for (int i = 0; i < answersAndReports; ++i)
+        QVERIFY(!receive().isEmpty());
 }
 
 /// More than the socket holds: what does not fit waits for its turn.
