@@ -14,12 +14,17 @@ void answer(Session &session, bool taken)
         session.fail(nobodyOnBus);
 }
 
-void printWrite(Session &session, const RegisterWrite &write)
+QString hex(quint32 value, int digits)
 {
-    session.print(QString("%1 %2 %3")
-                      .arg(write.address, 8, 16, QChar('0'))
-                      .arg(write.deviceType, 2, 16, QChar('0'))
-                      .arg(QString::fromLatin1(write.bytes.toHex())));
+    return QString("%1").arg(value, digits, 16, QChar('0'));
+}
+
+void printWrite(Session &session, const RegisterWrite &write, bool whole)
+{
+    QStringList words = {hex(write.address, 8), hex(write.deviceType, 2)};
+    if (whole)
+        words << hex(write.port, 2) << hex(write.board, 4);
+    session.print((words << QString::fromLatin1(write.bytes.toHex())).join(' '));
 }
 
 void writes(Session &session, const QStringList &arguments)
@@ -28,16 +33,17 @@ void writes(Session &session, const QStringList &arguments)
     Device &device = session.emulator.device;
     const bool clear = arguments::takeFlag(list, "--clear");
     const bool follow = arguments::takeFlag(list, "--follow");
+    const bool whole = arguments::takeFlag(list, "--whole");
     if (!list.isEmpty())
         return failUsage(session, "writes");
     for (const RegisterWrite &write : device.writes())
-        printWrite(session, write);
+        printWrite(session, write, whole);
     if (clear)
         device.clearWrites();
     if (!follow)
         return session.ok();
     QObject::connect(&device, &Device::written, session.request(),
-                     [&session](const RegisterWrite &write) { printWrite(session, write); });
+                     [&session, whole](const RegisterWrite &write) { printWrite(session, write, whole); });
 }
 
 void push(Session &session, const QStringList &arguments)
@@ -98,7 +104,8 @@ void heartbeat(Session &session, const QStringList &list)
 QVector<Word> busWords()
 {
     return {
-        {"writes", "[--clear] [--follow]", "register writes, oldest first: ADDRESS DEVTYPE BYTES in hex",
+        {"writes", "[--clear] [--follow] [--whole]",
+         "register writes, oldest first: ADDRESS DEVTYPE BYTES in hex; --whole: PORT BOARD before the bytes",
          writes},
         {"push", "ADDRESS BYTES [--device N] [--ack N]",
          "a report of the device; --write: a write; --raw HEX: any", push},
