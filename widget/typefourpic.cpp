@@ -1,5 +1,7 @@
 #include "widget/typefourpic.h"
 
+#include "widget/picturelabel.h"
+
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -23,7 +25,7 @@ typefourpic::typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
         part->setAttribute(Qt::WA_StyledBackground);
         part->setFixedSize(partSize);
         part->setProperty("canSelected", true);
-        picture = new QLabel(part);
+        picture = new PictureLabel(part);
         picture->setGeometry(pictureLeft, 0, partSize.width() - 2 * pictureLeft, partSize.height());
         picture->setAlignment(Qt::AlignCenter);
         layout->addWidget(part);
