@@ -1,6 +1,7 @@
 #include "widget/partsrow.h"
 
 #include <QDebug>
+#include <QEvent>
 
 namespace VASK
 {
@@ -67,6 +68,14 @@ bool PartsRow::setfocus(int part)
     }
     m_parts.at(part - 1)->setFocus(Qt::OtherFocusReason);
     return true;
+}
+
+void PartsRow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange && isEnabled() && m_currentItem > 0 &&
+        !window()->focusWidget())
+        focus(m_currentItem);
+    MenuRow::changeEvent(event);
 }
 
 bool PartsRow::logEnter(ENUM_MenuIndex index) const

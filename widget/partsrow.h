@@ -20,6 +20,9 @@ public:
     void DownEntry(ENUM_MenuIndex index, unsigned char &speed, bool last) override;
 
 protected:
+    /// Disabled parts lose the focus: the one that OK acts on gets it back.
+    void changeEvent(QEvent *event) override;
+
     /// The parts from left to right. Only the cursor gives them the focus, never the opening of the page.
     void setParts(const QList<QWidget *> &parts);
     /// Gives the focus to a part, from 1; 0 takes it from all.

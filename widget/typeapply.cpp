@@ -2,6 +2,7 @@
 
 #include "widget/language.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -42,10 +43,19 @@ typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : M
 
 void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
 {
-    if (on != 0)
+    m_marked = on != 0;
+    if (m_marked)
         m_button->setFocus();
     else
         m_button->clearFocus();
+}
+
+/// A disabled button has lost the focus, though the cursor may stand on it still.
+void typeapply::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange && isEnabled() && m_marked)
+        m_button->setFocus();
+    MenuRow::changeEvent(event);
 }
 
 void typeapply::redraw()

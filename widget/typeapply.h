@@ -20,8 +20,10 @@ public:
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
     void redraw() override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    bool m_marked = false; ///< the cursor stands on it
     QPushButton *m_button = nullptr;
 };
 } // namespace VASK
