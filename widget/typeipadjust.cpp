@@ -55,12 +55,16 @@ void typeipadjust::CreatEntry()
     layout->addWidget(m_name);
     layout->addStretch();
     layout->addSpacing(4);
-    addNumbers(layout);
+    // The smaller digits stand on the line of the name.
+    auto *lower = new QVBoxLayout;
+    lower->setContentsMargins(0, 4, 0, 0);
+    addNumbers(lower);
+    layout->addLayout(lower);
     layout->addSpacing(4);
     layout->addWidget(m_rightIcon);
 }
 
-void typeipadjust::addNumbers(QHBoxLayout *layout)
+void typeipadjust::addNumbers(QBoxLayout *layout)
 {
     constexpr QSize numberSize(32, 27); // pixels, as all below
     constexpr QSize dotSize(3, 24);

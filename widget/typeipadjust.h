@@ -7,7 +7,7 @@
 
 #include <array>
 
-class QHBoxLayout;
+class QBoxLayout;
 class QLabel;
 
 namespace VASK
@@ -41,7 +41,7 @@ private:
     static constexpr int numberCount = 4;
 
     void CreatEntry();
-    void addNumbers(QHBoxLayout *layout);
+    void addNumbers(QBoxLayout *layout);
     QString getIpText() const;
     void setIpText(const QString &text);
     void showParts(const QString &text);
