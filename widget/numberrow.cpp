@@ -6,13 +6,14 @@ namespace VASK
 {
 namespace
 {
-constexpr int valueHeight = 25; ///< pixels, when an edit has ended
+constexpr int valueHeight = 25; ///< pixels, the frame of an edit
 }
 
 NumberRow::NumberRow(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
     : FramedRow(menuIndex, objectIndex)
 {
     CreatEntry(createValueLabel());
+    valueLabel()->setFixedHeight(valueHeight);
     showNumber();
 }
 
