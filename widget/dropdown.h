@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/vaskobject.h"
+#include "widget/elidinglabel.h"
 
 #include <QPointer>
 #include <memory>
@@ -28,8 +29,15 @@ public:
         m_table->setParent(page);
         m_table->show();
         m_table->setGeometry(QRect(QPoint(130, 24), QPoint(319, 239)));
+        ElidingLabel::cover(*page, m_table->x());
     }
-    void close() { delete m_table; }
+    void close()
+    {
+        if (!m_table)
+            return;
+        ElidingLabel::uncover(*m_table->parentWidget());
+        delete m_table;
+    }
 
     void up(ENUM_MenuIndex index)
     {

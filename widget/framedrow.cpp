@@ -3,6 +3,7 @@
 #include "framework/handover.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
+#include "widget/picturelabel.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -15,6 +16,7 @@ constexpr int iconSize = 24; ///< pixels, as all below
 constexpr int rowHeight = 36;
 constexpr int leftSpace = 8;
 constexpr int iconSpace = 4;
+constexpr int nameGap = 6;
 constexpr int rightMargin = 8;
 } // namespace
 
@@ -32,16 +34,24 @@ QPushButton *createRightPicture(QWidget *parent)
 
 QLabel *createRowIcon(QWidget *parent, int width, int height)
 {
-    auto *label = new QLabel(parent);
+    auto *label = new PictureLabel(parent);
     label->setFixedSize(width, height);
     label->setAlignment(Qt::AlignCenter);
     return label;
 }
 
+QLabel *createRowValue(QWidget *parent, Qt::Alignment alignment)
+{
+    constexpr int mostOfTheRow = 220; // pixels
+    auto *value = new ElidingLabel(parent);
+    value->setKept(mostOfTheRow);
+    value->setAlignment(alignment);
+    return value;
+}
+
 QLabel *FramedRow::createValueLabel()
 {
-    m_value = new ElidingLabel(this);
-    m_value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_value = createRowValue(this, Qt::AlignRight | Qt::AlignVCenter);
     return m_value;
 }
 
@@ -59,8 +69,9 @@ void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
     if (!m_item.icon.isEmpty())
         layout->addSpacing(iconSpace);
     layout->addWidget(m_name);
-    // The gap takes what name and value leave; a width of its own would cut them short.
-    layout->addSpacerItem(new QSpacerItem(0, rowHeight, QSizePolicy::Expanding, QSizePolicy::Minimum));
+    // The gap takes what name and value leave; a shortened name still ends in front of the value.
+    layout->addSpacerItem(
+        new QSpacerItem(nameGap, rowHeight, QSizePolicy::MinimumExpanding, QSizePolicy::Minimum));
     if (valuePart)
         layout->addWidget(valuePart);
     layout->addSpacing(spaceBeforeRight);
@@ -73,7 +84,7 @@ void FramedRow::drawIcons()
 {
     m_icon->setVisible(!m_item.icon.isEmpty());
     m_icon->setPixmap(QPixmap(m_item.icon));
-    m_rightButton->setIcon(QIcon(m_item.iconRight));
+    m_rightButton->setIcon(dimmableIcon(m_item.iconRight));
 }
 
 void FramedRow::drawName()

@@ -44,6 +44,8 @@ private:
     QPushButton *m_rightButton = nullptr;
 };
 
+/// The value of a row; of the two it is the name that is shortened.
+QLabel *createRowValue(QWidget *parent, Qt::Alignment alignment);
 /// The small button-shaped picture at the right end of a row.
 QPushButton *createRightPicture(QWidget *parent);
 /// A picture of the row in front of the name; hidden while the item has none.

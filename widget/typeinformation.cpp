@@ -3,6 +3,7 @@
 #include "widget/elidinglabel.h"
 #include "widget/framedrow.h"
 #include "widget/language.h"
+#include "widget/picturelabel.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -20,12 +21,12 @@ void typeinformation::CreatEntry()
 {
     constexpr int iconSize = 24; // pixels, as all below
     constexpr int spaceBehindIcon = 10;
+    constexpr int spaceBehindName = 6;
     constexpr int spaceBeforeRight = 6;
     m_icon = createRowIcon(this, iconSize, iconSize);
     m_name = new ElidingLabel(this);
-    m_value = new ElidingLabel(this);
-    for (QLabel *label : {m_name, m_value})
-        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_value = createRowValue(this, Qt::AlignLeft | Qt::AlignVCenter);
     m_rightButton = createRightPicture(this);
 
     auto *layout = new QHBoxLayout(this);
@@ -35,6 +36,7 @@ void typeinformation::CreatEntry()
     if (!m_item.icon.isEmpty())
         layout->addSpacing(spaceBehindIcon);
     layout->addWidget(m_name);
+    layout->addSpacing(spaceBehindName);
     layout->addStretch();
     layout->addWidget(m_value);
     if (!m_item.iconRight.isEmpty())
@@ -48,7 +50,7 @@ void typeinformation::redraw()
     m_icon->setVisible(!m_item.icon.isEmpty());
     m_icon->setPixmap(QPixmap(m_item.icon));
     m_rightButton->setVisible(!m_item.iconRight.isEmpty());
-    m_rightButton->setIcon(QIcon(m_item.iconRight));
+    m_rightButton->setIcon(dimmableIcon(m_item.iconRight));
     m_name->setText(translated(m_item.tag));
     m_value->setText(translated(m_item.value));
 }
