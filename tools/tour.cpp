@@ -4,10 +4,10 @@
 //   on;
 //                     prints what was not as it should be
 #include "tests/system/tour.h"
+#include "tests/contactsheet.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QPainter>
 #include <cstdio>
 
 using namespace VASK;
@@ -41,28 +41,16 @@ QStringList walkThrough(bool english, const QString &folder)
         tour.walk(root);
     return tour.faults();
 }
+
 /// Sheets of forty pages and questions at half their size; what is under edit stands in its own file only.
 void contactSheets(const QDir &pictures, const QString &name)
 {
-    constexpr int columns = 5, rows = 8, gap = 4;
-    constexpr QSize cell(160 + gap, 120 + gap);
-    QStringList files = pictures.entryList({"*.png"}, QDir::Files, QDir::Name);
-    for (const QString &edit : files.filter("-edit.png"))
-        files.removeOne(edit);
-    for (int first = 0; first < files.size(); first += columns * rows) {
-        const QStringList shown = files.mid(first, columns * rows);
-        QImage sheet(columns * cell.width(), (shown.size() + columns - 1) / columns * cell.height(),
-                     QImage::Format_RGB32);
-        sheet.fill(Qt::gray);
-        QPainter painter(&sheet);
-        for (int i = 0; i < shown.size(); ++i) {
-            const QImage picture(pictures.filePath(shown[i]));
-            painter.drawImage(i % columns * cell.width() + gap / 2, i / columns * cell.height() + gap / 2,
-                              picture.scaled(160, 120, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        }
-        painter.end();
-        sheet.save(QString("%1-%2.png").arg(name).arg(first / (columns * rows) + 1));
-    }
+    constexpr int columns = 5, rows = 8;
+    ContactSheet sheet(name, columns, rows, QSize(160, 120));
+    const QStringList files = pictures.entryList({"*.png"}, QDir::Files, QDir::Name);
+    for (const QString &file : files)
+        if (!file.endsWith("-edit.png"))
+            sheet.add(QImage(pictures.filePath(file)));
 }
 } // namespace
 

@@ -1,74 +1,10 @@
 // The pages and messages as they come up in both languages: after a switch of the language nothing is left of
 // the other one, and no text is cut off. Each is kept as a picture under the build folder to look at.
 
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/widget/looks.h"
 #include "widget/dialog_msgbox.h"
-#include "widget/elidinglabel.h"
-
-#include <QPushButton>
-#include <QTableWidget>
-#include <QTranslator>
 
 using namespace VASK;
-
-namespace
-{
-struct Language {
-    const char *name;
-    ENUM_MenuIndex item;
-    const char *file;
-    const char *font;
-};
-constexpr Language languages[] = {{"English", MENU_LanguageEn, "fpd_EN.qm", "Arial"},
-                                  {"Chinese", MENU_LanguageZh, "fpd_ZH.qm", "宋体"}};
-
-QString builtFile(const QString &name)
-{
-    return QCoreApplication::applicationDirPath() + "/../translation/" + name;
-}
-
-void keepPicture(QWidget &widget, const Language &language, const QString &name)
-{
-    const QString folder =
-        QCoreApplication::applicationDirPath() + "/../pictures/texts/" + QString(language.name).toLower();
-    QDir().mkpath(folder);
-    widget.grab().save(folder + '/' + name + ".png");
-}
-
-/// A page that is not of the three trees is built on demand.
-MenuDirectory *pageOf(ENUM_ConfigIndex config)
-{
-    if (builtPages().contains(config))
-        return PageRig::page(g_config[config].object);
-    return DirectoryEngineer(ENUM_DIRECTORY_ENGINEER).buildMenu(config);
-}
-
-bool isCut(const QLabel &label)
-{
-    // The dots of an address stand between its boxes: they may reach into the space beside them.
-    if (label.text() == QLatin1String("."))
-        return false;
-    const QSize room = label.contentsRect().size();
-    const int flags = int(label.alignment()) | (label.wordWrap() ? Qt::TextWordWrap : 0);
-    const QSize needed =
-        label.fontMetrics().boundingRect(QRect(0, 0, room.width(), 1000), flags, label.text()).size();
-    return needed.width() > room.width() || needed.height() > room.height();
-}
-
-/// The texts that the page or box cannot show whole.
-QStringList cutTexts(const QWidget &window)
-{
-    QStringList cut;
-    for (const QLabel *label : window.findChildren<QLabel *>())
-        if (label->isVisibleTo(&window) && !label->text().isEmpty() && isCut(*label))
-            cut << label->text();
-    for (const QPushButton *button : window.findChildren<QPushButton *>())
-        if (button->isVisibleTo(&window) &&
-            button->fontMetrics().horizontalAdvance(button->text()) > button->width())
-            cut << button->text();
-    return cut;
-}
-} // namespace
 
 class TestPageTexts : public QObject
 {
@@ -76,16 +12,8 @@ class TestPageTexts : public QObject
 private slots:
     void initTestCase()
     {
-        m_rig.reset(new PageRig(PageRig::Real));
+        m_rig.reset(new LookRig);
         QVERIFY(m_rig->built);
-        QVERIFY(m_rig->home->Init());
-        QVERIFY(m_rig->engine->Initialize());
-        for (const Language &language : languages) {
-            const QString place = "/usr/vask/etc/fpd/config/";
-            QVERIFY(QFile::copy(builtFile(language.file), board::filePath(place + language.file)));
-        }
-        QVERIFY(m_atStart.load(builtFile("fpd_ZH.qm")));
-        QVERIFY(QCoreApplication::installTranslator(&m_atStart));
     }
 
     void theHomeScreen_data() { eachLanguage(); }
@@ -103,7 +31,7 @@ private slots:
         QCOMPARE(shown("labLayerSrc2_Res"), QString("Off"));
         QCOMPARE(shown("labWindowOffDisplay_2"), QString(english ? "Inactive" : "未开启"));
         home.show();
-        keepPicture(home, language, "home");
+        keep(home, "home");
         home.hide();
     }
 
@@ -113,14 +41,13 @@ private slots:
         const Language &language = switchLanguage();
         QStringList faults;
         for (auto config = g_config.cbegin(); config != g_config.cend(); ++config) {
-            MenuDirectory *page = pageOf(config.key());
+            MenuDirectory *page = m_rig->pageOf(config.key());
             QVERIFY(page);
             page->show();
             QCoreApplication::processEvents();
-            keepPicture(*page, language,
-                        QString("%1 %2").arg(int(config.key()), 2, 10, QChar('0')).arg(config->title));
+            keep(*page, QString("%1 %2").arg(int(config.key()), 2, 10, QChar('0')).arg(config->title));
             for (const QString &text : cutTexts(*page))
-                faults << config->title + ": cut off: " + text;
+                faults << config->title + ": " + text;
             for (const ElidingLabel *label : page->findChildren<ElidingLabel *>())
                 if (label->font().family() != language.font)
                     faults << config->title + ": in the font of the other language: " + label->text();
@@ -132,13 +59,13 @@ private slots:
     void everyMessage_data() { eachLanguage(); }
     void everyMessage()
     {
-        const Language &language = switchLanguage();
+        switchLanguage();
         QStringList faults;
         for (auto message = g_dialogConfig.cbegin(); message != g_dialogConfig.cend(); ++message) {
             dialog_msgBox box(nullptr, message->text, message->buttonType, 0, QString());
             box.show();
             QApplication::setActiveWindow(&box); // at once: with the next event the bench answers it
-            keepPicture(box, language, QString("message %1 %2").arg(int(message.key())).arg(message->text));
+            keep(box, QString("message %1 %2").arg(int(message.key())).arg(message->text));
             faults << cutTexts(box);
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join("\n")));
@@ -154,12 +81,16 @@ private:
     const Language &switchLanguage()
     {
         const Language &language = languages[*static_cast<int *>(QTest::qData("number", qMetaTypeId<int>()))];
-        m_rig->engine->SetParaToXml(QString(), language.item, SET_XML_USER);
+        m_rig->speak(language);
         return language;
     }
+    void keep(QWidget &widget, const QString &name) const
+    {
+        m_rig->keep(widget.grab().toImage(), QCoreApplication::applicationDirPath() + "/../pictures/texts",
+                    name);
+    }
 
-    std::unique_ptr<PageRig> m_rig;
-    QTranslator m_atStart;
+    std::unique_ptr<LookRig> m_rig;
 };
 
 QTEST_MAIN(TestPageTexts)
