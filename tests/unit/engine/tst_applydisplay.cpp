@@ -50,6 +50,14 @@ private:
             text += m_rig->choice(item) == SELECTED ? 'x' : m_rig->enabled(item) ? 'o' : '-';
         return text;
     }
+    /// The mode's picture stands on the home screen.
+    bool pictureStands(int mode) const
+    {
+        static const char *const files[] = {"Normal", "FRZ", "Black", "Test"};
+        const QPixmap wanted(QString(":/resource/image/mainWindow/2960-Test_%1.png").arg(files[mode]));
+        const auto *shown = m_rig->home->findChild<QLabel *>("labTestMode");
+        return shown && !wanted.isNull() && shown->pixmap(Qt::ReturnByValue).toImage() == wanted.toImage();
+    }
     EngineRig *m_rig = nullptr;
     LedPanel *m_leds = nullptr;
 };
@@ -101,21 +109,37 @@ void TestApplyDisplay::entersMode()
     QCOMPARE(m_leds->lit(LED_FREEZE), mode == 1);
     QCOMPARE(m_leds->lit(LED_TEST), mode == 3);
     QTEST(m_leds->lit(LED_FN), "fnLit");
+    QVERIFY(pictureStands(mode));
     QTEST(m_rig->device->sent.take(), "sent");
 }
 
 void TestApplyDisplay::reportedModeIsShownNotSent_data()
 {
     QTest::addColumn<int>("mode");
-    for (int mode = 0; mode < 4; ++mode)
-        QTest::addRow("mode %d", mode) << mode;
+    QTest::addColumn<QString>("function"); ///< of the Fn key, which is that mode's
+    QTest::addColumn<QString>("marks");
+    QTest::newRow("normal") << 0 << "0"
+                            << "xooo";
+    QTest::newRow("freeze") << 1 << "3"
+                            << "oxo-";
+    QTest::newRow("black") << 2 << "2"
+                           << "oox-";
+    QTest::newRow("test pattern") << 3 << "4"
+                                  << "o--o";
 }
 
 void TestApplyDisplay::reportedModeIsShownNotSent()
 {
     QFETCH(int, mode);
+    QFETCH(QString, function);
+    m_rig->set(MENU_FnMode, function);
     m_rig->process(PARA_DisplayMode, mode == 0 ? 1 : 0);
     m_rig->fromDevice(modeItems[mode], "1");
+    QTEST(marks(), "marks");
+    QVERIFY(pictureStands(mode));
+    QCOMPARE(m_leds->lit(LED_FREEZE), mode == 1);
+    QCOMPARE(m_leds->lit(LED_TEST), mode == 3);
+    QCOMPARE(m_leds->lit(LED_FN), mode != 0);
     QCOMPARE(m_rig->value(PARA_DisplayMode).toInt(), mode);
     QCOMPARE(m_rig->device->sent.take(), QStringList());
     const QStringList told = m_rig->reported.take();
@@ -215,7 +239,14 @@ void TestApplyDisplay::fnKey()
                  other == function);
     QCOMPARE(m_rig->value(MENU_FnMode).toInt(), function);
     QTEST(m_leds->lit(LED_FN), "lit");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{QString("%1=1").arg(item)});
+    const QStringList line{QString("%1=1").arg(item)};
+    QCOMPARE(m_rig->device->sent.take(), line);
+    m_rig->set(MENU_FnMode, "9");
+    m_rig->fromDevice(item, "1");
+    QCOMPARE(m_rig->value(MENU_FnMode).toInt(), function);
+    QTEST(m_leds->lit(LED_FN), "lit");
+    QCOMPARE(m_rig->device->sent.take(), QStringList());
+    QCOMPARE(m_rig->reported.take(), line);
 }
 
 void TestApplyDisplay::patternTypeSendsItsPattern_data()
@@ -235,6 +266,13 @@ void TestApplyDisplay::patternTypeSendsItsPattern()
     m_rig->fromUser(MENU_Test_Type, type);
     QCOMPARE(m_rig->value(PARA_TestPatternFamily), type);
     QTEST(m_rig->device->sent.take(), "sent");
+    if (!m_rig->info(MENU_Test_Type).params.contains(type))
+        return; // the row itself takes back what its list does not have
+    m_rig->process(PARA_TestPatternFamily, 9);
+    m_rig->fromDevice(MENU_Test_Type, type);
+    QCOMPARE(m_rig->value(PARA_TestPatternFamily), type);
+    QVERIFY(m_rig->reported.take().contains("2325=" + type));
+    QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
 void TestApplyDisplay::patternPageTakesThePlace()
@@ -275,7 +313,13 @@ void TestApplyDisplay::patternChoosesItsFamily()
     m_rig->process(PARA_TestPatternFamily, 4);
     m_rig->fromUser(ENUM_MenuIndex(pattern), "1");
     QTEST(m_rig->value(PARA_TestPatternFamily), "family");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{QString("%1=1").arg(pattern)});
+    const QString line = QString("%1=1").arg(pattern);
+    QCOMPARE(m_rig->device->sent.take(), QStringList{line});
+    m_rig->process(PARA_TestPatternFamily, 4);
+    m_rig->fromDevice(ENUM_MenuIndex(pattern), "1");
+    QTEST(m_rig->value(PARA_TestPatternFamily), "family");
+    QVERIFY(m_rig->reported.take().contains(line));
+    QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
 void TestApplyDisplay::lowestLayer_data()
