@@ -16,13 +16,16 @@ private slots:
     void keepsWhatSurvives_data();
     void keepsWhatSurvives();
     void fnKeyIsMarkedAgain();
+    void sendingCardStaysOne_data();
     void sendingCardStaysOne();
+    void resetAllEndsTheSendingCard();
     void clearsPictures_data();
     void clearsPictures();
     void tellsTheOutcome_data();
     void tellsTheOutcome();
-    void reportedResetIsTold();
+    void runsOnce_data();
     void runsOnce();
+    void reportedClearAllIsTold();
     void clearAll();
 
 private:
@@ -49,9 +52,13 @@ void TestApplyReset::keepsWhatSurvives_data()
     QTest::addColumn<int>("reset");
     QTest::addColumn<bool>("keepsNetwork");
     QTest::addColumn<bool>("keepsFn");
-    QTest::newRow("save IP") << int(MENU_SaveIP) << true << false;
-    QTest::newRow("save user data") << int(MENU_SaveUserData) << true << true;
-    QTest::newRow("reset all") << int(MENU_ResetAll) << false << false;
+    QTest::addColumn<bool>("fromUser");
+    for (bool fromUser : {true, false}) {
+        const char *who = fromUser ? "user" : "device";
+        QTest::addRow("save IP, %s", who) << int(MENU_SaveIP) << true << false << fromUser;
+        QTest::addRow("save user data, %s", who) << int(MENU_SaveUserData) << true << true << fromUser;
+        QTest::addRow("reset all, %s", who) << int(MENU_ResetAll) << false << false << fromUser;
+    }
 }
 
 void TestApplyReset::keepsWhatSurvives()
@@ -59,6 +66,7 @@ void TestApplyReset::keepsWhatSurvives()
     QFETCH(int, reset);
     QFETCH(bool, keepsNetwork);
     QFETCH(bool, keepsFn);
+    QFETCH(bool, fromUser);
     struct Kept {
         ENUM_MenuIndex item;
         const char *value;
@@ -82,15 +90,18 @@ void TestApplyReset::keepsWhatSurvives()
     for (const Kept &item : items)
         m_rig->set(item.item, item.value);
     set_pc_connect_priority(0);
+    QSignalSpy told(m_rig->engine, &ParaProcess::signal_factory_reset);
 
-    m_rig->fromUser(ENUM_MenuIndex(reset), "0");
+    m_rig->engine->SetParaToXml("0", ENUM_MenuIndex(reset), fromUser ? SET_XML_USER : SET_XML_DEVICE);
     for (const Kept &item : items)
         QVERIFY2(m_rig->value(item.item) == (item.kept ? QString(item.value) : factory(item.item)),
                  QByteArray::number(item.item));
     QCOMPARE(m_rig->value(MENU_RestoreDone), QString("1"));
     QCOMPARE(get_pc_connect_priority(), reset == MENU_ResetAll ? 1 : 0);
-    QCOMPARE(m_rig->device->sent.take(), QStringList{QString("%1=").arg(reset)});
-    QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
+    // What the device did itself is told at home, and neither sent nor probed.
+    QCOMPARE(told.count(), fromUser ? 0 : 1);
+    QCOMPARE(m_rig->device->sent.take(), fromUser ? QStringList{QString("%1=").arg(reset)} : QStringList());
+    QCOMPARE(m_rig->messages, fromUser ? QStringList({"IsResting", "ResetSucceed"}) : QStringList());
 
     // The file says the same, for the next start.
     MenuAnalysis next(ENUM_MENUANALYSIS);
@@ -109,11 +120,23 @@ void TestApplyReset::fnKeyIsMarkedAgain()
                  function == 4);
 }
 
+void TestApplyReset::sendingCardStaysOne_data()
+{
+    QTest::addColumn<int>("reset");
+    QTest::newRow("save IP") << int(MENU_SaveIP);
+    QTest::newRow("save user data") << int(MENU_SaveUserData);
+}
+
 void TestApplyReset::sendingCardStaysOne()
 {
+    QFETCH(int, reset);
     m_rig->set(MENU_WorkMode, "2");
-    m_rig->set(MENU_MainLayer_InputSource, "1");
-    m_rig->fromUser(MENU_SaveIP, "0");
+    ST_ItemInfo source = m_rig->info(MENU_MainLayer_InputSource);
+    source.value = "1";
+    source.params1["3"] = optionDisable;
+    m_rig->store->updataMenuItem(MENU_MainLayer_InputSource, source);
+    m_rig->fromUser(ENUM_MenuIndex(reset), "0");
+    QVERIFY(!m_rig->rowEnabled(MENU_MainLayer_InputSource, 3)); // the whole list is kept
     QCOMPARE(m_rig->value(MENU_MainLayer_InputSource), QString("1"));
     for (ENUM_MenuIndex item : {MENU_MainLayer_Status, MENU_MainLayer_ScalingMode, MENU_MainLayerTransition})
         QCOMPARE(m_rig->value(item), QString("1"));
@@ -124,6 +147,17 @@ void TestApplyReset::sendingCardStaysOne()
                  m_rig->choice(MENU_SendingCard),
              QString("001"));
     QCOMPARE(m_rig->value(MENU_WorkMode), QString("2"));
+}
+
+void TestApplyReset::resetAllEndsTheSendingCard()
+{
+    m_rig->set(MENU_WorkMode, "2");
+    m_rig->store->UpdataItemEnable(MENU_PIP1, false);
+    m_rig->fromUser(MENU_ResetAll, "0");
+    QCOMPARE(m_rig->value(MENU_WorkMode), QString("0"));
+    QCOMPARE(m_rig->value(MENU_MainLayer_InputSource), QString("2"));
+    QVERIFY(m_rig->enabled(MENU_PIP1));
+    QCOMPARE(m_rig->choice(MENU_VideoController) + m_rig->choice(MENU_SendingCard), QString("10"));
 }
 
 void TestApplyReset::clearsPictures_data()
@@ -154,6 +188,9 @@ void TestApplyReset::tellsTheOutcome_data()
     QTest::newRow("all well") << QByteArray("case $1 in -v) echo 'FPGA version is V1';; r) echo 0x01;; esac")
                               << "ResetSucceed";
     QTest::newRow("FPGA is silent") << QByteArray("exit 1") << "FPGACommunication";
+    QTest::newRow("FPGA has no version") << QByteArray("echo FPGA version") << "FPGACommunication";
+    QTest::newRow("memory is silent")
+        << QByteArray("case $1 in -v) echo 'FPGA version is V1';; esac") << "FPGADDRCheckError";
     QTest::newRow("memory check failed")
         << QByteArray("case $1 in -v) echo 'FPGA version is V1';; r) echo 0x00;; esac")
         << "FPGADDRCheckError";
@@ -168,24 +205,41 @@ void TestApplyReset::tellsTheOutcome()
     QCOMPARE(m_rig->messages, (QStringList{"IsResting", outcome}));
 }
 
-void TestApplyReset::reportedResetIsTold()
+void TestApplyReset::runsOnce_data()
 {
-    QSignalSpy told(m_rig->engine, &ParaProcess::signal_factory_reset);
-    m_rig->set(MENU_ScreenBrightness, "13");
-    m_rig->fromDevice(MENU_ResetAll, "");
-    QCOMPARE(told.count(), 1);
-    QCOMPARE(m_rig->value(MENU_ScreenBrightness), factory(MENU_ScreenBrightness));
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
+    QTest::addColumn<int>("reset");
+    QTest::addColumn<bool>("fromUser");
+    for (int reset : {MENU_SaveIP, MENU_SaveUserData, MENU_ResetAll, MENU_ClearAllParameters})
+        for (bool fromUser : {true, false})
+            QTest::addRow("%d, %s", reset, fromUser ? "user" : "device") << reset << fromUser;
 }
 
 void TestApplyReset::runsOnce()
 {
-    m_rig->fromUser(MENU_SaveIP, "0");
+    QFETCH(int, reset);
+    QFETCH(bool, fromUser);
+    m_rig->engine->SetParaToXml("0", ENUM_MenuIndex(reset), fromUser ? SET_XML_USER : SET_XML_DEVICE);
     m_rig->forget();
     m_rig->set(MENU_ScreenBrightness, "13");
-    for (ENUM_MenuIndex reset : {MENU_SaveIP, MENU_SaveUserData, MENU_ResetAll, MENU_ClearAllParameters})
-        m_rig->fromUser(reset, "0");
+    QSignalSpy told(m_rig->engine, &ParaProcess::signal_factory_reset);
+    for (ENUM_MenuIndex next : {MENU_SaveIP, MENU_SaveUserData, MENU_ResetAll, MENU_ClearAllParameters}) {
+        m_rig->fromUser(next, "0");
+        m_rig->fromDevice(next, "0");
+    }
     QCOMPARE(m_rig->value(MENU_ScreenBrightness), QString("13"));
+    QCOMPARE(told.count(), 0);
+    QCOMPARE(m_rig->device->sent.take() + m_rig->messages, QStringList());
+}
+
+void TestApplyReset::reportedClearAllIsTold()
+{
+    QSignalSpy told(m_rig->engine, &ParaProcess::signal_factory_reset);
+    set_pc_connect_priority(0);
+    m_rig->set(MENU_ScreenBrightness, "13");
+    m_rig->engine->SetParaToXml("", MENU_ClearAllParameters, SET_XML_DEVICE);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(get_pc_connect_priority(), 1);
+    QCOMPARE(m_rig->value(MENU_ScreenBrightness), factory(MENU_ScreenBrightness));
     QCOMPARE(m_rig->device->sent.take() + m_rig->messages, QStringList());
 }
 
