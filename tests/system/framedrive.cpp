@@ -12,7 +12,11 @@ using namespace VASK;
 namespace
 {
 /// The device tells what a write has done 150 ms after it, and a turning knob is held back for 100 ms.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int stillMs = 1000;
+#else
 constexpr int stillMs = 250;
+#endif
 /// For what is expected and has not come.
 constexpr int lateMs = 5000;
 constexpr int lookMs = 10;
@@ -74,7 +78,7 @@ bool FrameDrive::home()
     return m_walk.home();
 }
 
-/// From page to page by the shortest way: a page that already is open stays.
+/// A page that already is open stays.
 bool FrameDrive::reach(const QList<ENUM_MenuIndex> &path)
 {
     const QList<ENUM_MenuIndex> pages = path.mid(0, path.size() - 1);

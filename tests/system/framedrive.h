@@ -35,10 +35,13 @@ public:
 
     /// Device and panel: the home screen, and the device has told all of itself.
     bool start() { return m_panel.powerDevice() && startPanel(); }
-    /// The panel goes down and comes up again.
+    /// The panel comes up, or goes down and comes up again.
+    bool startPanel();
     bool restartPanel() { return m_panel.ask({"panel", "stop"}).ok && startPanel(); }
     /// Goes to the row, plays the keys and compares; what is wrong, empty if nothing.
     QString drive(const KeyFrames &line);
+    /// Opens the row, from page to page by the shortest way.
+    bool reach(const QList<VASK::ENUM_MenuIndex> &path);
     /// The next row is reached from the home screen.
     bool home();
     /// What is sent until the panel falls silent, at least so many writes if they come.
@@ -50,8 +53,6 @@ public:
 private:
     enum Place { AtHome, InMenu, Elsewhere };
 
-    bool startPanel();
-    bool reach(const QList<VASK::ENUM_MenuIndex> &path);
     bool play(const QString &word);
     QStringList written();
 

@@ -1,6 +1,7 @@
 // What the rows of the inputs send: picture, range, protection, sound.
 #include "tests/system/framedrive.h"
 
+#include <QElapsedTimer>
 #include <QTest>
 
 using namespace VASK;
@@ -10,6 +11,8 @@ class TestFramesInputs : public FramesTest
 {
     Q_OBJECT
     QVector<NamedFrames> table() const override;
+private slots:
+    void aFastTurnIsThinnedOut();
 };
 
 namespace
@@ -103,6 +106,11 @@ QVector<NamedFrames> TestFramesInputs::table() const
                 {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput}, "r1 ok", {"1300009e 00 00"}}},
                {"volume",
                 {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume}, "R9 ok", twice("1300009f 00 3b")}},
+               // Not held back: each step arrives.
+               {"volume, step by step",
+                {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume},
+                 "l3 ok",
+                 {"1300009f 00 3a", "1300009f 00 39", "1300009f 00 38", "1300009f 00 38"}}},
                // HDMI has a sound of its own, the others have none.
                {"HDMI 1: line", {sound(MENU_AudioInput_HDMI1), "r1 ok", {"13019005 00 02"}}},
                {"HDMI 1: own sound", {sound(MENU_AudioInput_HDMI1), "r1 ok", {"13019005 00 01"}}},
@@ -111,6 +119,25 @@ QVector<NamedFrames> TestFramesInputs::table() const
                {"DVI: none", {sound(MENU_AudioInput_DVI), "r1 ok", {"13019025 00 00"}}},
                {"SDI: line", {sound(MENU_AudioInput_SDI), "r1 ok", {"13019045 00 02"}}},
            };
+}
+
+void TestFramesInputs::aFastTurnIsThinnedOut()
+{
+    const Input &hdmi1 = inputs[0];
+    QVERIFY(m_drive.reach({MENU_InputSettings, hdmi1.page, hdmi1.colour, hdmi1.brightness}));
+    QElapsedTimer turning;
+    turning.start();
+    QVERIFY(m_walk.turn(Right, 30));
+    const QStringList writes = m_drive.sent(2);
+    // The first step at once, then one in 100 ms at most, and the last step in any case.
+    constexpr int heldMs = 100;
+    QVERIFY2(writes.size() >= 2 && writes.size() <= 2 + turning.elapsed() / heldMs,
+             qPrintable(writes.join('\n')));
+    QCOMPARE(writes.first(), picture(hdmi1.number, 1, le(51, 1)));
+    QCOMPARE(writes.last(), picture(hdmi1.number, 1, le(80, 1)));
+    QVERIFY(m_walk.press(keys::Ok));
+    QCOMPARE(m_drive.sent(writes.size() + 1).mid(writes.size()),
+             QStringList{picture(hdmi1.number, 1, le(80, 1))});
 }
 
 QTEST_MAIN(TestFramesInputs)

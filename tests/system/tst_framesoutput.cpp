@@ -9,6 +9,8 @@ class TestFramesOutput : public FramesTest
 {
     Q_OBJECT
     QVector<NamedFrames> table() const override;
+private slots:
+    void aSendingCardHasAStartOfItsOwn();
 };
 
 namespace
@@ -84,6 +86,28 @@ QVector<NamedFrames> TestFramesOutput::table() const
         {"address of a server", {network(MENU_Net_NetMode), "r1 ok", {"1300001a 00 a8"}}},
         {"address by hand", {network(MENU_Net_NetMode), "r1 ok", {"1300001a 00 00"}}},
     };
+}
+
+void TestFramesOutput::aSendingCardHasAStartOfItsOwn()
+{
+    // No page leads into this work mode; the device is in it when the panel starts.
+    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+    QVERIFY(m_panel.setStored(MENU_WorkMode, "2"));
+    QVERIFY(m_drive.startPanel());
+    const QString x7 = "07000000", ym9 = "f7ffffff", zero = "00000000", size = "8007000038040000";
+    const auto window = [&size](const QString &start) { return "13020015 00 " + start + size; };
+    const auto card = [](const QString &start) { return "020001f0 00 " + start; };
+    // Each of the two numbers that the device tells again goes to that register, too.
+    QCOMPARE(m_drive.drive({{MENU_LayerSettings, MENU_MainLayer, MENU_MainLayer_InitialX},
+                            "R7 still ok",
+                            {card(x7 + zero), window(x7 + zero), card(x7 + zero), card(x7 + zero),
+                             card(x7 + zero), window(x7 + zero)}}),
+             QString());
+    QCOMPARE(m_drive.drive({{MENU_LayerSettings, MENU_MainLayer, MENU_MainLayer_InitialY},
+                            "L9 still ok",
+                            {card(x7 + ym9), window(x7 + ym9), card(x7 + ym9), card(x7 + ym9), card(x7 + ym9),
+                             window(x7 + ym9)}}),
+             QString());
 }
 
 QTEST_MAIN(TestFramesOutput)
