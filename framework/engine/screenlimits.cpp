@@ -27,13 +27,15 @@ struct Screen {
         shownRate = DeviceView(engine).doublesRate() ? uint16_t(rate * 2) : rate;
     }
     uint16_t number(ENUM_MenuIndex index) const { return uint16_t(engine.GetParaFromIndex(index).toInt()); }
+    /// A size of 16 bits; a larger one counts as the largest, so that it does not come round as a small one.
+    static uint16_t size(int pixels) { return uint16_t(qBound(0, pixels, int(UINT16_MAX))); }
     bool outputOverloads(int width, int height) const
     {
-        return VideoBandwidthConstrain(uint16_t(width), uint16_t(height), shownRate, wholeOutputPixelRate, 1);
+        return VideoBandwidthConstrain(size(width), size(height), shownRate, wholeOutputPixelRate, 1);
     }
     bool portOverloads(int width, int height) const
     {
-        return VideoBandwidthConstrain(uint16_t(width), uint16_t(height), shownRate, portPixelRate, 0);
+        return VideoBandwidthConstrain(size(width), size(height), shownRate, portPixelRate, 0);
     }
     int widthOf(int columns) const { return columns * cabinetWidth; }
     int heightOf(int rows) const { return rows * cabinetHeight; }
