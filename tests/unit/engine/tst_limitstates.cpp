@@ -1,0 +1,269 @@
+// The limits in the states that move them: cabinet size unknown and known, 3D off, doubling and not, the
+// other ports of a wall, each layer and each input, and the output of either mode.
+
+#include "enginerig.h"
+
+using namespace VASK;
+
+using State = QMap<int, int>; ///< items and process data that a limit reads
+
+class TestLimitStates : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase() { m_rig = new EngineRig; }
+    void cleanupTestCase() { delete m_rig; }
+    void init() { m_rig->reset(); }
+
+    void screenLimits_data();
+    void screenLimits();
+    void cropOfEachLayer_data();
+    void cropOfEachLayer();
+    void edidOfEachInput_data();
+    void edidOfEachInput();
+    void frameStoreLimits_data();
+    void frameStoreLimits();
+    void outputInForceCounts();
+
+private:
+    void put(const State &state)
+    {
+        for (auto entry = state.cbegin(); entry != state.cend(); ++entry)
+            m_rig->engine->SetParaToXml(QString::number(entry.value()), ENUM_MenuIndex(entry.key()),
+                                        SET_XML_STORE);
+    }
+    int permitted(int index, int value)
+    {
+        return m_rig->engine->CalParaLimit(QString::number(value), ENUM_MenuIndex(index)).toInt();
+    }
+    EngineRig *m_rig = nullptr;
+};
+
+namespace
+{
+enum Stereo { off, doubling, sequential };
+
+/// A wall of cabinets of that size on the second port, at 60 Hz: 4,108,800 dots a picture with blanking,
+/// 659,722 dots a port; 3D halves both.
+State wall(int cabinet, Stereo stereo = off, const State &more = {})
+{
+    State state{{PARA_CabinetWidth, cabinet},
+                {PARA_CabinetHeight, cabinet},
+                {PARA_OutputRate, 6000},
+                {MENU_Mode3D_Status, stereo != off},
+                {MENU_Mode3D_Format, stereo == sequential ? 2 : 0},
+                {MENU_Quick_CabinetRow, 8},
+                {MENU_Quick_CabinetCol, 15},
+                {MENU_Quick_FlowWay, 0},
+                {MENU_Advanced_EthernetPort, 2},
+                {MENU_Advanced_CabinetRow, 2},
+                {MENU_Advanced_CabinetCol, 2},
+                {MENU_Advanced_HorOffset, 0},
+                {MENU_Advanced_VerOffset, 0}};
+    for (auto entry = more.cbegin(); entry != more.cend(); ++entry)
+        state[entry.key()] = entry.value();
+    return state;
+}
+} // namespace
+
+Q_DECLARE_METATYPE(State)
+
+void TestLimitStates::screenLimits_data()
+{
+    QTest::addColumn<State>("state");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("most"); ///< what stays; one more becomes this, and so does much more
+    auto row = [](const char *name, const State &state, int index, int most) {
+        QTest::newRow(name) << state << index << most;
+    };
+    // 15 columns are 1952 dots with blanking: 2104 lines, 1052 when doubled, 20 of them blank
+    row("quick rows", wall(128), MENU_Quick_CabinetRow, 16);
+    row("quick rows, doubled", wall(128, doubling), MENU_Quick_CabinetRow, 8);
+    row("quick rows, sequential", wall(128, sequential), MENU_Quick_CabinetRow, 16);
+    // 8 rows are 1044 lines with blanking: 3935 dots, 1967 when doubled
+    row("quick columns", wall(128), MENU_Quick_CabinetCol, 30);
+    row("quick columns, doubled", wall(128, doubling), MENU_Quick_CabinetCol, 15);
+    row("quick columns, sequential", wall(128, sequential), MENU_Quick_CabinetCol, 30);
+
+    const State total50{{MENU_Quick_CabinetRow, 10}, {MENU_Quick_CabinetCol, 5}};
+    row("port one", wall(128, off, total50), MENU_Quick_PortOneCab, 40);
+    row("port one, doubled", wall(128, doubling, total50), MENU_Quick_PortOneCab, 20);
+    row("port one, sequential", wall(128, sequential, total50), MENU_Quick_PortOneCab, 40);
+    row("port one, cabinet unknown", wall(0, doubling, total50), MENU_Quick_PortOneCab, 50);
+
+    // 256 lines: 2577 dots a port, 1288 when doubled
+    row("port's rows", wall(128), MENU_Advanced_CabinetRow, 20);
+    row("port's rows, doubled", wall(128, doubling), MENU_Advanced_CabinetRow, 10);
+    row("port's columns", wall(128), MENU_Advanced_CabinetCol, 20);
+    row("port's columns, doubled", wall(128, doubling), MENU_Advanced_CabinetCol, 10);
+    row("port's columns, sequential", wall(128, sequential), MENU_Advanced_CabinetCol, 20);
+    row("port's rows, cabinet unknown", wall(0, doubling, {{MENU_Advanced_CabinetCol, 8}}),
+        MENU_Advanced_CabinetRow, 128);
+    row("port's columns, cabinet unknown", wall(0, off, {{MENU_Advanced_CabinetRow, 32}}),
+        MENU_Advanced_CabinetCol, 32);
+
+    // The first port has 1920 lines, 1940 with blanking: the wall may be 2084 pixels wide; and the other way
+    // round. The doubling does not count here.
+    const State tall{{MENU_AdvancedPort1_Rows, 15}};
+    const State wide{{MENU_AdvancedPort1_Cols, 15}};
+    row("port's columns beside a tall port", wall(128, off, tall), MENU_Advanced_CabinetCol, 16);
+    row("port's rows beside a wide port", wall(128, off, wide), MENU_Advanced_CabinetRow, 16);
+    row("port's X beside a tall port", wall(128, off, tall), MENU_Advanced_HorOffset, 2084 - 128);
+    row("port's X beside a tall port, doubled", wall(128, doubling, tall), MENU_Advanced_HorOffset,
+        2084 - 128);
+    row("port's Y beside a wide port", wall(128, off, wide), MENU_Advanced_VerOffset, 2084 - 128);
+    const State full{{MENU_AdvancedPort1_Rows, 64}, {MENU_AdvancedPort1_Cols, 64}};
+    row("one column beside a port that takes all", wall(128, off, full), MENU_Advanced_CabinetCol, 1);
+    row("no X beside a port that takes all", wall(128, off, full), MENU_Advanced_HorOffset, 0);
+
+    // 2048 lines, 2068 with blanking: 1954 pixels, 960 when doubled. 2048 pixels: 1955 lines, 967.
+    const State low{{MENU_Advanced_VerOffset, 2048 - 256}};
+    const State right{{MENU_Advanced_HorOffset, 2048 - 256}};
+    row("port's X", wall(128, off, low), MENU_Advanced_HorOffset, 1954 - 256);
+    row("port's X, doubled", wall(128, doubling, low), MENU_Advanced_HorOffset, 960 - 256);
+    row("port's X, sequential", wall(128, sequential, low), MENU_Advanced_HorOffset, 1954 - 256);
+    row("port's Y", wall(128, off, right), MENU_Advanced_VerOffset, 1955 - 256);
+    row("port's Y, doubled", wall(128, doubling, right), MENU_Advanced_VerOffset, 967 - 256);
+    row("port's X, cabinet unknown", wall(0), MENU_Advanced_HorOffset, 10240);
+    row("port's Y, cabinet unknown", wall(0, doubling), MENU_Advanced_VerOffset, 8192);
+}
+
+void TestLimitStates::screenLimits()
+{
+    QFETCH(State, state);
+    QFETCH(int, index);
+    QFETCH(int, most);
+    put(state);
+    QCOMPARE(permitted(index, most), most);
+    QCOMPARE(permitted(index, most + 1), most);
+    // 512 cabinets of 128 pixels are as many pixels as 16 bits do not hold.
+    for (int value : {most + 2, 512, 520, 65535})
+        QCOMPARE(permitted(index, qMax(value, most)), most);
+}
+
+void TestLimitStates::cropOfEachLayer_data()
+{
+    QTest::addColumn<int>("layer");
+    QTest::addColumn<int>("field");
+    QTest::addColumn<int>("most");
+    for (int layer = 0; layer < 3; ++layer) {
+        QTest::addRow("layer %d, width", layer) << layer << 0 << 1900 + layer - 100;
+        QTest::addRow("layer %d, height", layer) << layer << 1 << 1000 + layer - 50;
+        QTest::addRow("layer %d, X", layer) << layer << 2 << 1900 + layer - 1600;
+        QTest::addRow("layer %d, Y", layer) << layer << 3 << 1000 + layer - 800;
+    }
+}
+
+void TestLimitStates::cropOfEachLayer()
+{
+    QFETCH(int, layer);
+    QFETCH(int, field);
+    QFETCH(int, most);
+    // Every layer shows another input, every input has another size.
+    for (int i = 0; i < 3; ++i) {
+        m_rig->input(i, 97 + i, 3, 1900 + 2 - i, 1000 + 2 - i, 16667);
+        const int crop = MENU_MainLayerCrop_HorWidth + i * STRIDE_Crop;
+        put({{MENU_MainLayer_InputSource + i * STRIDE_Layer, 2 - i},
+             {crop, 1600},
+             {crop + 1, 800},
+             {crop + 2, 100},
+             {crop + 3, 50}});
+    }
+    const int index = MENU_MainLayerCrop_HorWidth + layer * STRIDE_Crop + field;
+    for (int value : {most - 1, most, most + 1, 32768})
+        QCOMPARE(permitted(index, value), qMin(value, most));
+}
+
+void TestLimitStates::edidOfEachInput_data()
+{
+    QTest::addColumn<int>("input");
+    for (int input = 0; input < 4; ++input)
+        QTest::addRow("input %d", input) << input;
+}
+
+void TestLimitStates::edidOfEachInput()
+{
+    QFETCH(int, input);
+    const int width = MENU_HDMI1_EDIDWidth + input * STRIDE_InputPicture;
+    const int height = width + 1;
+    const int rate = width + 2;
+    // At 60 Hz: 165e6 / 60 / (1080 + 39) = 2457.5 dots a line; 165e6 / 60 / 2080 = 1322.1 lines, 39 blank.
+    put({{width, 1920}, {height, 1080}, {rate, 9}});
+    QCOMPARE(permitted(width, 2296), 2296);
+    QCOMPARE(permitted(width, 2298), 2296);
+    QCOMPARE(permitted(height, 1283), 1283);
+    QCOMPARE(permitted(height, 1284), 1283);
+    // At 24 Hz and 600 lines the slow clock asks for 25e6 / 24 / 639 = 1630.2 dots.
+    put({{height, 600}, {rate, 1}});
+    QCOMPARE(permitted(width, 800), 1471);
+    QCOMPARE(permitted(width, 1472), 1472);
+    // The rates of this input, and of no other: 1920x1080 up to 71 Hz.
+    put({{height, 1080}});
+    m_rig->forget();
+    QCOMPARE(permitted(rate, 1), 1);
+    for (int other = 0; other < 4; ++other) {
+        const auto list = ENUM_MenuIndex(MENU_HDMI1_EDIDCustomRate + other * STRIDE_InputPicture);
+        QVERIFY(m_rig->rowEnabled(list, 9));
+        QCOMPARE(m_rig->rowEnabled(list, 10), other != input);
+    }
+    QCOMPARE(m_rig->reloaded.take(), QStringList{QString("%1=").arg(rate)});
+}
+
+void TestLimitStates::frameStoreLimits_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("other");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("permitted");
+    // Twelve times the store's 64-byte units: 0x10000000 / 512 = 524288 of them hold a frame.
+    QTest::newRow("width beside 4092 lines") << int(MENU_HDMI1_EDIDWidth) << 4092 << 4092 << 2730;
+    QTest::newRow("width that just fits") << int(MENU_HDMI1_EDIDWidth) << 4092 << 2730 << 2730;
+    QTest::newRow("odd width that does not") << int(MENU_HDMI1_EDIDWidth) << 4092 << 2731 << 2729;
+    QTest::newRow("height beside 4092 pixels") << int(MENU_HDMI1_EDIDHeight) << 4092 << 4092 << 2730;
+}
+
+void TestLimitStates::frameStoreLimits()
+{
+    QFETCH(int, index);
+    QFETCH(int, other);
+    QFETCH(int, value);
+    // No rate of the menu is slow enough to come here.
+    ST_ItemInfo rates = m_rig->info(MENU_HDMI1_EDIDCustomRate);
+    rates.params["0"] = "8";
+    rates.value = "0";
+    m_rig->store->updataMenuItem(MENU_HDMI1_EDIDCustomRate, rates);
+    put({{index == MENU_HDMI1_EDIDWidth ? MENU_HDMI1_EDIDHeight : MENU_HDMI1_EDIDWidth, other}});
+    QTEST(permitted(index, value), "permitted");
+}
+
+void TestLimitStates::outputInForceCounts()
+{
+    auto areaAndRate = [this] {
+        const int width = permitted(MENU_ImageMosaic_LoadAreaWidth, 9000);
+        const int height = permitted(MENU_ImageMosaic_LoadAreaHeight, 9000);
+        permitted(MENU_OutputFrameRate, 0);
+        return QString("%1x%2, 120 Hz %3")
+            .arg(width)
+            .arg(height)
+            .arg(m_rig->rowEnabled(MENU_OutputFrameRate, 16));
+    };
+    QCOMPARE(areaAndRate(), QString("0x0, 120 Hz 1")); // nothing is known yet
+    m_rig->process(PARA_ReportedWidth, 1920);
+    m_rig->fromDevice(PARA_ReportedHeight, "1080");
+    QCOMPARE(areaAndRate(), QString("1920x1080, 120 Hz 0"));
+    // The software's output: 1024x768 at 60 Hz.
+    put({{MENU_Output_Mode, 1}});
+    m_rig->fromDevice(MENU_Output_Resolution, "0");
+    put({{MENU_Output_FrameRate, 3}});
+    m_rig->fromUser(MENU_Output_Apply, "");
+    QCOMPARE(areaAndRate(), QString("1024x768, 120 Hz 1"));
+    QCOMPARE(m_rig->value(PARA_OutputRate), QString("6000"));
+    // Back to the own one: the device tells its size.
+    put({{MENU_Output_Mode, 0}});
+    m_rig->fromUser(MENU_Output_Apply, "");
+    m_rig->fromDevice(PARA_ReportedHeight, "1080");
+    QCOMPARE(areaAndRate(), QString("1920x1080, 120 Hz 0"));
+}
+
+QTEST_MAIN(TestLimitStates)
+#include "tst_limitstates.moc"
