@@ -338,16 +338,38 @@ private slots:
         // Does the key do anything? At home and on a page, each in the modes 0, 1, 2.
         QTest::addColumn<QByteArray>("atHome");
         QTest::addColumn<QByteArray>("onPage");
-        QTest::newRow("main layer") << int(KEY_MAIN) << false << QByteArray("y-y") << QByteArray("y--");
-        QTest::newRow("PIP") << int(KEY_PIP1) << false << QByteArray("y--") << QByteArray("y--");
-        QTest::newRow("layer off") << int(KEY_MAIN) << true << QByteArray("y-y") << QByteArray("y--");
-        QTest::newRow("scale") << int(KEY_SCALE) << false << QByteArray("y--") << QByteArray("y--");
-        QTest::newRow("source") << int(KEY_INPUT1) << false << QByteArray("y-y") << QByteArray("y-y");
-        QTest::newRow("input page") << int(KEY_INPUT1) << true << QByteArray("y-y") << QByteArray("y-y");
-        QTest::newRow("Fn") << int(KEY_FN) << false << QByteArray("y-y") << QByteArray("y-y");
-        QTest::newRow("freeze") << int(KEY_FREEZE) << false << QByteArray("y-y") << QByteArray("y-y");
-        QTest::newRow("test") << int(KEY_TEST) << false << QByteArray("y-y") << QByteArray("y-y");
-        QTest::newRow("preset") << int(KEY_PRESET) << false << QByteArray("y--") << QByteArray("y--");
+        struct Keys {
+            const char *name;
+            QList<ENUM_KeyCode> keys;
+            bool held;
+            const char *atHome, *onPage;
+        };
+        const QList<ENUM_KeyCode> inputs{KEY_INPUT1, KEY_INPUT2, KEY_INPUT3, KEY_INPUT4};
+        const QList<ENUM_KeyCode> bareInputs{KEY_INPUT6, KEY_INPUT7, KEY_INPUT8};
+        const Keys groups[] = {
+            {"main layer", {KEY_MAIN}, false, "y-y", "y--"},
+            {"PIP", {KEY_PIP1, KEY_PIP2}, false, "y--", "y--"},
+            {"layer off", {KEY_MAIN, KEY_PIP1, KEY_PIP2}, true, "y-y", "y--"},
+            {"scale", {KEY_SCALE}, false, "y--", "y--"},
+            {"scale or Fn held", {KEY_SCALE, KEY_FN}, true, "---", "---"},
+            {"source", inputs, false, "y-y", "y-y"},
+            {"source that no layer can have", bareInputs, false, "---", "---"},
+            {"input page", inputs, true, "y-y", "y-y"},
+            {"input without a page", bareInputs, true, "--y", "--y"},
+            {"Fn", {KEY_FN}, false, "y-y", "y-y"},
+            {"freeze", {KEY_FREEZE}, false, "y-y", "y-y"},
+            {"test", {KEY_TEST}, false, "y-y", "y-y"},
+            {"preset", {KEY_PRESET}, false, "y--", "y--"},
+            {"preset held, as its release comes extra", {KEY_PRESET}, true, "---", "---"},
+            {"hidden menu", {KEY_USER_HIDDEN_MENU, KEY_PRODUCT_HIDDEN_MENU}, true, "yyy", "---"},
+            {"lock", {KEY_LOCK}, true, "---", "yyy"},
+            {"OK", {KEY_OK}, false, "yyy", "yyy"},
+            {"ESC", {KEY_ESC}, false, "---", "yyy"},
+        };
+        for (const Keys &group : groups)
+            for (ENUM_KeyCode key : group.keys)
+                QTest::addRow("%s %d", group.name, key)
+                    << int(key) << group.held << QByteArray(group.atHome) << QByteArray(group.onPage);
     }
     void workModes()
     {
@@ -357,8 +379,10 @@ private slots:
             QByteArray acts;
             for (const char *mode : {"0", "1", "2"}) {
                 m_rig->reset();
+                for (ENUM_MenuIndex status : {MENU_MainLayer_Status, MENU_PIP1_Status, MENU_PIP2_Status})
+                    m_rig->set(status, "1");
                 if (onPage)
-                    PageRig::open(ENUM_PAGE_NetworkSettings, m_rig->home);
+                    PageRig::open(ENUM_PAGE_SystemSetting, m_rig->home)->setCurrentRow(0);
                 m_rig->set(MENU_WorkMode, mode);
                 notes().clear();
                 QWidget *before = m_rig->shown();
@@ -367,6 +391,7 @@ private slots:
                 else
                     m_rig->press(static_cast<unsigned char>(key));
                 acts += m_rig->shown() != before || !notes().isEmpty() ? 'y' : '-';
+                m_rig->home->SetLockState(PANEL_UNLOCK, false);
             }
             if (onPage)
                 QTEST(acts, "onPage");
