@@ -17,18 +17,23 @@ public:
     void cleanUp(const QString &faultyCase);
     QString damage() { return m_panel.damage(); }
 
-private:
-    QString prepare(const keytable::Given &given, keytable::Mode mode);
+    /// The device reports another work mode.
+    bool changeMode(keytable::Mode mode);
     QString goTo(keytable::Place place);
-    QString pressKey(const keytable::Row &row);
-    QString screenIs(const keytable::Row &row, keytable::Place place);
     QString wayBack();
     QString ledsShow(const QString &leds);
     QString deviceShows(const QString &line);
+    QString prepare(const keytable::Given &given, keytable::Mode mode);
+    Panel &panel() { return m_panel; }
+    MenuWalk &walk() { return m_walk; }
+    LedWatch &leds() { return m_leds; }
+
+private:
+    QString pressKey(const keytable::Row &row);
+    QString screenIs(const keytable::Row &row, keytable::Place place);
     QStringList deviceLines(const QString &begin);
     /// The same LEDs away from the page of a layer.
     QString atHome(const QString &leds);
-    bool changeMode(keytable::Mode mode);
     bool changeSdi(bool present);
     bool assignFn(keytable::FnFunction function);
     bool cursorLeadsTo(VASK::ENUM_ConfigIndex child);
