@@ -62,7 +62,9 @@ int PanelLeds::set(unsigned char led, enLedStatus state)
         return 0;
     }
     m_listLed[led].state = state;
-    return show(led, state);
+    const unsigned int mask = 1u << led;
+    const bool isLit = m_lit & mask;
+    return m_known & mask && isLit == (state != LED_OFF) ? 0 : show(led, state);
 }
 
 int PanelLeds::flash(unsigned char led, enLedStatus state)
@@ -148,7 +150,10 @@ int PanelLeds::sendMask(unsigned int mask, bool on)
     putWord(block, lowMaskOffset, mask & 0xFF);
     putWord(block, highMaskOffset, mask >> 8 & 0xFF);
     putWord(block, commandOffset, on ? switchOn : switchOff);
-    return m_send(block);
+    m_lit = on ? m_lit | mask : m_lit & ~mask;
+    const int result = m_send(block);
+    m_known = result == 0 ? m_known | mask : m_known & ~mask;
+    return result;
 }
 
 /// The state to return to is that of normal running: of two modes one inside the other, the first keeps it.

@@ -22,6 +22,8 @@ public:
     /// Commands do nothing until the keypad driver is there.
     void setDriverReady();
     void clear();
+    /// Sent at once, unless the LED is known to be lit that way already: reports of the device set the same
+    /// states again and again, and each command waits for the driver.
     int set(unsigned char led, enLedStatus state);
     int flash(unsigned char led, enLedStatus state);
     int setInTest(unsigned char led, enLedStatus state);
@@ -40,6 +42,9 @@ private:
     QMutex m_mutex;
     Send m_send;
     bool m_driverReady = false;
+    /// What the driver was told last, and of which LEDs that is known.
+    unsigned int m_lit = 0;
+    unsigned int m_known = 0;
     QList<LedStatus> m_listLed;
     /// What the LEDs return to when a special mode ends.
     QList<LedStatus> m_listLedSave;

@@ -103,6 +103,31 @@ private slots:
         QCOMPARE(sent, 1);
     }
 
+    void sameStateIsSentOnce()
+    {
+        Panel panel;
+        const auto sends = [&panel](enLedStatus state) {
+            const int before = panel.blocks.size();
+            panel.leds.set(6, state);
+            return panel.blocks.size() - before;
+        };
+        QCOMPARE(sends(LED_OFF), 1); // nobody knows how the driver starts
+        QCOMPARE(sends(LED_OFF), 0);
+        QCOMPARE(sends(LED_BLINK), 1);
+        QCOMPARE(sends(LED_ON), 0);
+        panel.leds.flash(6, LED_OFF);
+        QCOMPARE(sends(LED_ON), 1);
+        QCOMPARE(sends(LED_BLINK), 0);
+        panel.leds.blink(); // dark by now
+        QCOMPARE(sends(LED_BLINK), 1);
+        panel.result = 1;
+        QCOMPARE(sends(LED_OFF), 1);
+        QCOMPARE(sends(LED_OFF), 1); // the driver did not take it
+        panel.result = 0;
+        QCOMPARE(sends(LED_OFF), 1);
+        QCOMPARE(sends(LED_OFF), 0);
+    }
+
     void ledsThatDoNotExist()
     {
         Panel panel;
