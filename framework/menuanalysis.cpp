@@ -16,6 +16,11 @@ constexpr ENUM_MenuIndex clearableItem = MENU_Mode3D_RightEyeStart;
 
 MenuAnalysis::MenuAnalysis(ENUM_ObjectIndex index) : VaskObject(index) {}
 
+MenuAnalysis::~MenuAnalysis()
+{
+    endSync();
+}
+
 bool MenuAnalysis::initlize()
 {
     m_path = QStringLiteral("/usr/vask/etc/fpd/config/");
@@ -170,7 +175,7 @@ void MenuAnalysis::storeChanged(ENUM_MenuIndex index, const ST_ItemInfo &item)
     if (item == stored)
         return;
     stored = item;
-    m_activityElementList.append(index);
+    m_activityElementList.insert(index);
 }
 
 void MenuAnalysis::addMenuItem(ENUM_MenuIndex index, const ST_ItemInfo &item)

@@ -12,8 +12,10 @@
 #include <QList>
 #include <QMap>
 #include <QMutex>
+#include <QSet>
 #include <QTimer>
 #include <functional>
+#include <thread>
 
 namespace VASK
 {
@@ -22,6 +24,7 @@ class MenuAnalysis : public VaskObject
     Q_OBJECT
 public:
     explicit MenuAnalysis(ENUM_ObjectIndex index);
+    ~MenuAnalysis() override;
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 
     /// Repairs the files, loads them or makes new ones from the table, and starts the write timer. True. GUI
@@ -64,6 +67,8 @@ public:
     bool LoadXmlFile(const QString &name);
     /// Writes what has changed since the last write. True in every case but a file that cannot be written.
     bool updateActivittyItem();
+    /// Waits until the last save is on the disk and not only in its file.
+    void endSync();
 
 public slots:
     /// The flush: added items, changed items, deleted items.
@@ -87,6 +92,7 @@ private:
     bool createXmlFile();
     bool saveDataToFile(const QString &name);
     bool saveFile();
+    void startSync();
 
     void ensureDocument();
     bool updateCacheList();
@@ -106,6 +112,8 @@ private:
     /// inside it.
     QMutex m_documentMutex;
     QDomDocument m_xmldoc;
+    /// Brings the last save to the disk, which can take longer than a user at the knob should notice.
+    std::thread m_sync;
     /// The file does not hold the whole table yet: nothing worth a backup.
     bool m_creating = false;
 
@@ -114,8 +122,9 @@ private:
     QMap<ENUM_MenuIndex, ST_ItemInfo> m_items;
     /// Added since the last flush.
     QMap<ENUM_MenuIndex, ST_ItemInfo> cacheList;
-    /// Changed since the last flush; an index can stand here more than once.
-    QList<ENUM_MenuIndex> m_activityElementList;
+    /// Changed since the last flush, each once: while keys put the flush off, reports change the same items
+    /// again and again.
+    QSet<ENUM_MenuIndex> m_activityElementList;
     QList<ENUM_MenuIndex> m_deleteItemList;
 };
 } // namespace VASK

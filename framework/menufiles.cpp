@@ -364,6 +364,17 @@ QHash<int, QDomElement> MenuAnalysis::elementsByIndex() const
     return elements;
 }
 
+void MenuAnalysis::startSync()
+{
+    m_sync = std::thread([] { board::runCommand(sync); });
+}
+
+void MenuAnalysis::endSync()
+{
+    if (m_sync.joinable())
+        m_sync.join();
+}
+
 /// Called under the document's lock, which orders the saves of different threads.
 bool MenuAnalysis::saveFile()
 {
@@ -372,6 +383,7 @@ bool MenuAnalysis::saveFile()
     if (m_path.isEmpty())
         return false;
     const QString config = m_path + m_fileName;
+    endSync(); // the backup of the save before is on the disk now
     // The file is truncated in a moment: the backup must hold what it holds.
     if (!m_creating && contents(config) != contents(m_path + m_backupName) && CheckXmlfileIsVaild(config)) {
         board::runCommand(configToBackup);
@@ -381,7 +393,7 @@ bool MenuAnalysis::saveFile()
     if (!writeFile(config, m_xmldoc))
         return false;
     board::runCommand(configToBackup);
-    board::runCommand(sync);
+    startSync();
     logTime();
     return true;
 }

@@ -96,6 +96,8 @@ int dieWhileSaving(MenuAnalysis *store, int value, const std::function<void()> &
     int pipes[2];
     if (pipe(pipes) != 0)
         return -1;
+    if (store)
+        store->endSync(); // its thread would be missing in the child
     const pid_t child = fork();
     if (child == 0) {
         setpgid(0, 0);
@@ -293,14 +295,16 @@ private slots:
         for (const Death &death : qAsConst(deaths)) {
             const int begun = dieWhileSaving(store.get(), value, arm(death), -1);
             removeTools();
+            // The next save may have begun, but it does not touch the file while the disk is waited for.
+            const int latest = value + (death.place == Death::IN_SYNC ? 2 : 1);
             QVERIFY2(
-                begun == value + 1,
+                begun > value && begun <= latest,
                 qPrintable(QString("place %1, byte %2 of %3").arg(death.place).arg(death.bytes).arg(size)));
             QCOMPARE(isWhole("config.xml"), death.place != Death::IN_FILE);
             QCOMPARE(isWhole("config_backup.xml"), death.place != Death::IN_COPY);
             store = std::make_unique<MenuAnalysis>(ENUM_MENUANALYSIS);
             QVERIFY(store->initlize());
-            QCOMPARE(valueOf(*store).toInt(), death.place == Death::IN_FILE ? value : begun);
+            QCOMPARE(valueOf(*store).toInt(), death.place == Death::IN_FILE ? value : value + 1);
             value = valueOf(*store).toInt();
         }
     }
