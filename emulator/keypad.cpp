@@ -3,6 +3,7 @@
 #include "fpd_hostlink.h"
 
 #include <QtEndian>
+#include <chrono>
 
 namespace
 {
@@ -40,6 +41,7 @@ bool Keypad::setPresent(bool present)
 bool Keypad::sendWords(const QVector<quint16> &words)
 {
     const QSet<int> readers = m_readers;
+    m_sentNs = std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1);
     bool taken = !readers.isEmpty();
     for (quint16 word : words) {
         const quint16 bytes = qToLittleEndian(word);

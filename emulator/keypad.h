@@ -21,6 +21,9 @@ public:
     bool release(const QVector<int> &keys);
     bool turn(int key, int steps, int speed);
 
+    /// When the last key word went out, in ns of the monotonic clock; the LCD tells its changes by the same.
+    qint64 sentNs() const { return m_sentNs; }
+
     /// State of the LEDs as last commanded, LED 0 in bit 0.
     quint16 leds() const { return m_leds; }
     /// The same as 16 characters, LED 0 first.
@@ -40,4 +43,5 @@ private:
     PacketServer m_server;
     QSet<int> m_readers;
     quint16 m_leds = 0;
+    qint64 m_sentNs = 0;
 };

@@ -3,12 +3,17 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <csignal>
+#include <fcntl.h>
 #include <sys/prctl.h>
+#include <unistd.h>
 
 namespace
 {
 constexpr int gentleEndMs = 3000;
 constexpr int keptLines = 200000;
+
+/// Of unread log, so that a panel with much to say need not wait for a busy emulator.
+constexpr int pipeBytes = 1024 * 1024;
 
 /// A panel that ends with the emulator, even when that is killed.
 class Child : public QProcess
@@ -17,7 +22,11 @@ public:
     using QProcess::QProcess;
 
 protected:
-    void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
+    void setupChildProcess() override
+    {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        fcntl(STDERR_FILENO, F_SETPIPE_SZ, pipeBytes);
+    }
 };
 
 QProcessEnvironment panelEnvironment(const QString &stateFolder)
@@ -106,12 +115,12 @@ void PanelProcess::readLines()
         from = end + 1;
     }
     m_rest.remove(0, from);
+    m_file.flush();
 }
 
 void PanelProcess::addLine(const QByteArray &text)
 {
     m_file.write(text + '\n');
-    m_file.flush();
     if (m_log.size() >= keptLines)
         m_log.erase(m_log.begin(), m_log.begin() + keptLines / 2);
     m_log.append(QString::fromUtf8(text));
@@ -123,6 +132,7 @@ void PanelProcess::finish(int code, QProcess::ExitStatus status)
     readLines();
     if (!m_rest.isEmpty())
         addLine(m_rest);
+    m_file.flush();
     m_rest.clear();
     if (!m_told)
         m_failure = status == QProcess::CrashExit ? QString("crashed with signal %1").arg(code)

@@ -72,6 +72,14 @@ void word(Session &session, const QStringList &list)
     answer(session, session.emulator.keypad.sendWords(words));
 }
 
+void sent(Session &session, const QStringList &list)
+{
+    if (!list.isEmpty())
+        return failUsage(session, "sent");
+    session.print(QString::number(session.emulator.keypad.sentNs()));
+    session.ok();
+}
+
 void printLeds(Session &session)
 {
     session.print(QDateTime::currentDateTime().toString("HH:mm:ss.zzz ") + session.emulator.keypad.ledText());
@@ -101,6 +109,7 @@ QVector<Word> keypadWords()
          "presses a key, or several joined by '+'; hold is 3.2 s", key},
         {"knob", "left|right [STEPS] [SPEED]", "turns the knob by so many steps with that speed byte", knob},
         {"word", "HEX...", "raw 16-bit key words", word},
+        {"sent", "", "when the last key word went out, in ns of the monotonic clock", sent},
         {"leds", "[--watch SECONDS]", "the 16 LEDs, LED 0 first; or each change with its time", leds},
     };
 }

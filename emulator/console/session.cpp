@@ -75,7 +75,8 @@ void Session::finish(const QString &line)
         return;
     m_request.release()->deleteLater();
     m_socket->write(line.toUtf8() + '\n');
-    m_socket->flush();
+    if (!m_socket->canReadLine()) // the answers to requests in a row go together
+        m_socket->flush();
     QMetaObject::invokeMethod(this, &Session::read, Qt::QueuedConnection);
 }
 
