@@ -220,6 +220,12 @@ QStringList Panel::logLines(const QString &text)
     return m_log.mid(m_mark).filter(text);
 }
 
+void Panel::stopFollowingLog()
+{
+    readLog(0);
+    m_logConsole.reset();
+}
+
 QDomDocument Panel::store() const
 {
     QFile file(m_state + storeFile);

@@ -65,6 +65,8 @@ public:
     bool waitForLog(const QString &text);
     /// Lines behind the mark with that text, by now.
     QStringList logLines(const QString &text);
+    /// What is logged from now on is left to another reader: too much of it would come.
+    void stopFollowingLog();
 
     QString leds() { return ask({"leds"}).lines.value(0); }
     /// Register writes as the console prints them.

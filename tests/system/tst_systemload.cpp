@@ -1,5 +1,6 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
-#include "tests/system/panel.h"
+#include "tests/system/flood.h"
+#include "tests/system/menuwalk.h"
 
 #include <QTest>
 
@@ -7,7 +8,15 @@ class TestSystemLoad : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase() { QVERIFY(m_panel.startReady()); }
+    void cleanupTestCase() { QCOMPARE(m_panel.damage(), QString()); }
     void reportsWhileKeysArePressed();
+    void nothingOfAFloodIsLost();
+
+private:
+    void pressKeysFor(Flood &flood, int milliseconds);
+
+    Panel m_panel;
 };
 
 namespace
@@ -68,11 +77,10 @@ bool push(Panel &panel, const Pushed &report)
 
 void TestSystemLoad::reportsWhileKeysArePressed()
 {
-    constexpr int rounds = 60;
+    constexpr int rounds = 40;
     const QStringList walk{keys::Main, keys::Ok, "right",   keys::Ok,     "left",    keys::Esc, keys::Pip1,
                            "in1",      keys::Fn, keys::Esc, keys::Preset, keys::Esc, keys::Esc};
-    Panel panel;
-    QVERIFY(panel.startReady());
+    Panel &panel = m_panel;
     for (int round = 0; round < rounds; ++round) {
         const QString key = walk[round % walk.size()];
         const QList<Pushed> reports = reportsOf(round);
@@ -98,7 +106,60 @@ void TestSystemLoad::reportsWhileKeysArePressed()
     if (!home)
         panel.keepEvidence("systemload");
     QVERIFY(home);
-    QCOMPARE(panel.damage(), QString());
+}
+
+/// Turns the knob on a page and opens others.
+void TestSystemLoad::pressKeysFor(Flood &flood, int milliseconds)
+{
+    QElapsedTimer passed;
+    passed.start();
+    for (int i = 0; !passed.hasExpired(milliseconds); ++i) {
+        QVERIFY(m_panel.turn(i % 2 ? Left : Right));
+        if (i % 20 == 10) {
+            QVERIFY(m_panel.press(keys::Ok));
+            QVERIFY(m_panel.press(keys::Esc));
+        }
+        QTest::qWait(25);
+        QVERIFY(flood.readLog());
+    }
+}
+
+void TestSystemLoad::nothingOfAFloodIsLost()
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    constexpr int perSecond = 500;
+#else
+    constexpr int perSecond = 4000;
+#endif
+    constexpr int floodMs = 10000;
+    MenuWalk walk(m_panel);
+    QVERIFY(walk.openMenu());
+    Flood flood(m_panel);
+    QVERIFY(flood.start(perSecond));
+    pressKeysFor(flood, floodMs);
+    const bool ended = flood.stop();
+    QCOMPARE(flood.lost(), QString());
+    QVERIFY(ended);
+    QVERIFY2(flood.pushed() > perSecond, qPrintable(QString::number(flood.pushed())));
+
+    // What was read last is what the store keeps.
+    const QMap<int, QString> items = flood.expected();
+    const auto differences = [&] {
+        QStringList list;
+        const QMap<QString, QString> stored = m_panel.storedFields();
+        for (auto item = items.begin(); item != items.end(); ++item)
+            if (stored.contains(QString::number(item.key())) &&
+                stored[QString::number(item.key())] != item.value())
+                list += QString("%1: %2, not %3")
+                            .arg(item.key())
+                            .arg(stored[QString::number(item.key())], item.value());
+        return list.join('\n');
+    };
+    const QMap<QString, QString> stored = m_panel.storedFields();
+    QVERIFY(std::count_if(items.keyBegin(), items.keyEnd(),
+                          [&](int item) { return stored.contains(QString::number(item)); }) > 60);
+    m_panel.waitUntil([&] { return differences().isEmpty(); });
+    QCOMPARE(differences(), QString());
 }
 
 QTEST_MAIN(TestSystemLoad)
