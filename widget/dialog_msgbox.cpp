@@ -109,7 +109,8 @@ void dialog_msgBox::initBtns()
 int dialog_msgBox::exec()
 {
     if (m_type == MSGBOX_TIMED)
-        QTimer::singleShot(int(m_timeMs), this, SLOT(slot_CloseDialog()));
+        // A timer of this length that is not precise comes up to a twentieth early.
+        QTimer::singleShot(int(m_timeMs), Qt::PreciseTimer, this, SLOT(slot_CloseDialog()));
     return QDialog::exec();
 }
 

@@ -563,12 +563,6 @@ void TestApplySystem::inputsOfEitherFamily()
 
 void TestApplySystem::messageOfTheTableOnly()
 {
-    m_rig->set(MENU_ScreenConfigKind, "0");
-    m_rig->engine->Initialize();
-    QVERIFY(!m_rig->engine->CreateDialog(MENU_QuickConfiguration, {}));
-    std::unique_ptr<QDialog> asked(m_rig->engine->CreateDialog(MENU_AdvancedCfg, {}));
-    QVERIFY(asked);
-    QVERIFY(!m_rig->engine->CreateDialog(MENU_ScreenBrightness, {}));
     QCOMPARE(m_rig->engine->runMessage(MSG_SyncNeedsLowLatencyOff), 0);
 }
 

@@ -60,9 +60,12 @@ private slots:
     void everyMessage()
     {
         switchLanguage();
+        const QMap<ENUM_MenuIndex, QString> extras{{MSG_UpdateStart, "100 %"},
+                                                   {MSG_IfCoverPreset, " 新闻直播 Evening Show?"},
+                                                   {MSG_DeletePresetConfirm, " 新闻直播 Evening Show?"}};
         QStringList faults;
         for (auto message = g_dialogConfig.cbegin(); message != g_dialogConfig.cend(); ++message) {
-            dialog_msgBox box(nullptr, message->text, message->buttonType, 0, QString());
+            dialog_msgBox box(nullptr, message->text, message->buttonType, 0, extras.value(message.key()));
             box.show();
             QApplication::setActiveWindow(&box); // at once: with the next event the bench answers it
             keep(box, QString("message %1 %2").arg(int(message.key())).arg(message->text));

@@ -1,43 +1,87 @@
-// Message boxes: which keys answer what, which ignore keys, the time of those that close themselves, and that
-// every text of the table has room.
+// All messages of the table, shown as the engine shows them and answered through the keypad's way to the
+// active window: which keys answer what, which are not heard, the time of those that close by themselves.
 
-#include "framework/keypadevent.h"
-#include "menuconfig_k2860.h"
+#include "framework/globaltimer.h"
+#include "framework/keydispatcher.h"
+#include "tests/unit/widget/pagerig.h"
 #include "widget/dialog_msgbox.h"
 #include "widget/lock.h"
 
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
-#include <QTimer>
-#include <QtTest>
 
 using namespace VASK;
 
 namespace
 {
-void press(dialog_msgBox &box, unsigned char key, KEY_TYPE type = KEY_RELEASED)
-{
-    QCoreApplication::postEvent(&box, new KeypadEvent(type, key, 1, false));
-}
-
 constexpr int stillOpen = -7;
 
-/// The result of a box that gets these keys; stillOpen if they do not close it.
-int answer(dialog_msgBox &box, const QList<int> &keys)
+/// Keys one after the other, and what exec() gives then; stillOpen if the box stays.
+struct Way {
+    QList<unsigned char> keys;
+    int result;
+};
+
+constexpr unsigned char knobLeft = KEY_KNOB_LEFT, knobRight = KEY_KNOB_RIGHT, ok = KEY_OK, esc = KEY_ESC;
+
+QList<Way> waysOf(ENUM_MsgBoxBtnType type)
 {
-    for (int key : keys)
-        press(box, static_cast<unsigned char>(key));
-    bool ended = true;
-    QTimer::singleShot(0, &box, [&] {
-        QCoreApplication::sendPostedEvents(&box);
-        if (!box.isVisible())
-            return;
-        ended = false;
-        box.done(stillOpen);
-    });
-    const int result = box.exec();
-    return ended ? result : stillOpen;
+    switch (type) {
+    case MSGBOX_CHECK:
+        return {{{ok}, 1}, {{esc}, 1}, {{knobRight, ok}, 1}, {{knobLeft, KEY_FN, ok}, 1}};
+    case MSGBOX_NO:
+        return {{{ok}, 0}, {{esc}, 0}};
+    case MSGBOX_CHECK_CANCEL:
+        return {{{ok}, 1}, {{esc}, 2}};
+    case MSGBOX_YES_NO:
+        return {{{ok}, 0},
+                {{knobRight, ok}, 1},
+                {{knobLeft, ok}, 1},
+                {{knobRight, knobLeft, ok}, 0},
+                {{knobRight, esc}, 0},
+                {{esc}, 0},
+                {{KEY_FN}, stillOpen}};
+    case MSGBOX_NONE:
+    case MSGBOX_TIMED:
+        break;
+    }
+    return {{{knobRight, ok, knobLeft, ok, esc, KEY_FN}, stillOpen}};
+}
+
+/// The buttons from left to right.
+QList<const QPushButton *> buttonsOf(const QDialog &box)
+{
+    QList<const QPushButton *> buttons;
+    for (const char *name : {"btnYes", "btnNo"}) {
+        const auto *button = box.findChild<QPushButton *>(name);
+        if (button->isVisible())
+            buttons << button;
+    }
+    return buttons;
+}
+
+/// How a box that has just come up differs from what it should be; empty if it does not.
+QString faultOf(QDialog &box, const ST_DialogInfo &row, const QString &extra)
+{
+    if (QApplication::activeWindow() != &box || box.geometry() != QRect(QPoint(34, 17), QPoint(283, 222)))
+        return "not the active window in its place";
+    const auto *text = box.findChild<QLabel *>("lab_Info");
+    if (text->text() != row.text + extra)
+        return "text: " + text->text();
+    const bool question = row.buttonType == MSGBOX_YES_NO;
+    const QList<const QPushButton *> buttons = buttonsOf(box);
+    const int expected = question ? 2 : waysOf(row.buttonType).first().result == stillOpen ? 0 : 1;
+    if (buttons.size() != expected)
+        return QString("%1 buttons").arg(buttons.size());
+    const QImage picture = box.grab().toImage();
+    for (const QPushButton *button : buttons) {
+        const QPoint inside = button->mapTo(&box, QPoint(6, 6));
+        const bool marked = picture.pixelColor(inside) == QColor("#3939ad");
+        if (marked != button->hasFocus() || marked != (button == buttons.last()))
+            return "the focus is not on the last button";
+    }
+    return {};
 }
 } // namespace
 
@@ -45,86 +89,119 @@ class TestMessages : public QObject
 {
     Q_OBJECT
 private slots:
-    void answers_data()
+    void initTestCase()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QList<int>>("keys");
-        QTest::addColumn<int>("result");
-        const int left = KEY_KNOB_LEFT;
-        const int right = KEY_KNOB_RIGHT;
-        const int ok = KEY_OK;
-        const int esc = KEY_ESC;
-        const auto row = [](const char *name, int type, const QList<int> &keys, int result) {
-            QTest::newRow(name) << type << keys << result;
-        };
-        row("none, OK", MSGBOX_NONE, {ok}, stillOpen);
-        row("none, ESC", MSGBOX_NONE, {right, esc}, stillOpen);
-        row("check, OK", MSGBOX_CHECK, {ok}, 1);
-        row("check, ESC", MSGBOX_CHECK, {esc}, 1);
-        row("check, turned, OK", MSGBOX_CHECK, {right, ok}, 1);
-        row("no, OK", MSGBOX_NO, {ok}, 0);
-        row("no, ESC", MSGBOX_NO, {esc}, 0);
-        row("check or leave, OK", MSGBOX_CHECK_CANCEL, {ok}, 1);
-        row("check or leave, ESC", MSGBOX_CHECK_CANCEL, {esc}, 2);
-        row("question, OK at once", MSGBOX_YES_NO, {ok}, 0);
-        row("question, right, OK", MSGBOX_YES_NO, {right, ok}, 1);
-        row("question, left, OK", MSGBOX_YES_NO, {left, ok}, 1);
-        row("question, there and back", MSGBOX_YES_NO, {right, left, ok}, 0);
-        row("question, on yes, ESC", MSGBOX_YES_NO, {left, esc}, 0);
-        row("question, other key", MSGBOX_YES_NO, {KEY_FN}, stillOpen);
-        row("timed, OK", MSGBOX_TIMED, {ok}, stillOpen);
-        row("timed, ESC", MSGBOX_TIMED, {esc}, stillOpen);
-    }
-    void answers()
-    {
-        QFETCH(int, type);
-        QFETCH(QList<int>, keys);
-        dialog_msgBox box(nullptr, "IFResetAll", ENUM_MsgBoxBtnType(type), 60000, QString());
-        QTEST(answer(box, keys), "result");
+        m_rig.reset(new PageRig);
+        m_rig->answering = false;
+        QCoreApplication::processEvents(); // the keypad's keys are dropped until the event loop runs
     }
 
-    void pressedOkWaitsForItsRelease()
+    void quickOrAdvancedConfigurationAsks()
     {
-        dialog_msgBox box(nullptr, "IFResetAll", MSGBOX_CHECK, 0, QString());
-        press(box, KEY_OK, KEY_PRESSED);
-        QCOMPARE(answer(box, {}), stillOpen);
+        // As long as the engine does not know which of the two is in force, the quick one does not ask.
+        QVERIFY(!m_rig->engine->CreateDialog(MENU_QuickConfiguration, QString()));
+        for (const bool advanced : {false, true}) {
+            m_rig->set(MENU_ScreenConfigKind, advanced ? "0" : "1");
+            QVERIFY(m_rig->engine->Initialize());
+            for (const auto &asks :
+                 {qMakePair(MENU_QuickConfiguration, !advanced), qMakePair(MENU_AdvancedCfg, advanced)}) {
+                const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(asks.first, QString()));
+                QCOMPARE(bool(box), asks.second);
+            }
+        }
+        QVERIFY(!m_rig->engine->CreateDialog(MENU_ScreenBrightness, QString())); // has no message
     }
 
-    void aTimedBoxClosesItself()
+    void eachIsShownAndAnswered_data()
     {
-        constexpr int timeMs = 120;
-        dialog_msgBox box(nullptr, "Waiting", MSGBOX_TIMED, timeMs, QString());
+        QTest::addColumn<int>("index");
+        QCOMPARE(g_dialogConfig.size(), 70);
+        for (auto row = g_dialogConfig.cbegin(); row != g_dialogConfig.cend(); ++row)
+            QTest::addRow("%d %s", int(row.key()), qPrintable(row->text)) << int(row.key());
+    }
+    void eachIsShownAndAnswered()
+    {
+        QFETCH(int, index);
+        const auto number = ENUM_MenuIndex(index);
+        g_dialogConfig[number].enabled = true; // both of the two that take turns
+        const ST_DialogInfo row = g_dialogConfig.value(number);
+        for (const Way &way : waysOf(row.buttonType)) {
+            const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(number, " 42 %"));
+            QVERIFY(box);
+            QString fault;
+            QCOMPARE(answer(*box, way.keys, [&] { fault = faultOf(*box, row, " 42 %"); }), way.result);
+            QCOMPARE(fault, QString());
+        }
+    }
+
+    /// The two kinds that no message of the table has.
+    void otherKinds()
+    {
+        for (ENUM_MsgBoxBtnType type : {MSGBOX_NO, MSGBOX_CHECK_CANCEL}) {
+            for (const Way &way : waysOf(type)) {
+                dialog_msgBox box(m_rig->engine, "IFResetAll", type, 0, QString());
+                QCOMPARE(answer(box, way.keys, [] {}), way.result);
+            }
+        }
+    }
+
+    void aPressedKeyWaitsForItsRelease()
+    {
+        const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(MSG_UpdateError, QString()));
+        int seen = 0;
+        QTimer::singleShot(0, box.get(), [&] {
+            if (!QTest::qWaitForWindowActive(box.get()))
+                return box->done(stillOpen);
+            for (unsigned char key : {ok, esc})
+                deliver(KEY_PRESSED, key);
+            seen = box->isVisible();
+            deliver(KEY_RELEASED, ok);
+        });
+        QCOMPARE(box->exec(), 1);
+        QCOMPARE(seen, 1);
+    }
+
+    /// All of them at once, one over the other, so that it takes no longer than the longest.
+    void timedOnesCloseByThemselves()
+    {
+        m_timed.clear();
+        for (auto row = g_dialogConfig.cbegin(); row != g_dialogConfig.cend(); ++row)
+            if (row->buttonType == MSGBOX_TIMED)
+                m_timed << Timed{row.key(), row->timeMs, -1, stillOpen};
+        QCOMPARE(m_timed.size(), 38);
+        openTimed(0);
+        for (const Timed &message : qAsConst(m_timed)) {
+            const QByteArray name = g_dialogConfig.value(message.index).text.toUtf8();
+            QVERIFY2(message.afterMs >= message.timeMs && message.afterMs <= message.timeMs + 400,
+                     name + ' ' + QByteArray::number(message.afterMs));
+            QVERIFY2(message.result == 2, name);
+        }
+    }
+
+    /// A key that no button hears starts the time to return anew: the page below stays as long as after any.
+    void everyKeyHoldsTheReturnToHomeOff()
+    {
+        constexpr int lastKeyMs = 1600, closedMs = 1700, returnMs = 1000;
+        m_rig->set(MENU_ReturntoHome, "1");
+        GlobalTimer::getInstance()->Initialize(m_rig->home);
         QElapsedTimer time;
         time.start();
-        QCOMPARE(box.exec(), 2);
-        QVERIFY(time.elapsed() >= timeMs - 10);
+        PageRig::open(ENUM_MAIN_MENU, m_rig->home);
+        const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(MSG_ResetSucceed, QString()));
+        for (int at : {lastKeyMs / 2, lastKeyMs})
+            QTimer::singleShot(at, Qt::PreciseTimer, box.get(), [this] { deliver(KEY_PRESSED, knobRight); });
+        QTimer::singleShot(closedMs, Qt::PreciseTimer, box.get(), [&box] { box->done(0); });
+        box->exec();
+        QApplication::setActiveWindow(PageRig::page(ENUM_MAIN_MENU));
+        QTRY_VERIFY_WITH_TIMEOUT(m_rig->home->isVisible(), 5000);
+        // Timers of this length may come a twentieth early.
+        QVERIFY2(time.elapsed() >= lastKeyMs + returnMs * 9 / 10, QByteArray::number(time.elapsed()));
     }
 
-    void extraTextAndLineBreaks()
+    void lineBreaksAndExtraText()
     {
         dialog_msgBox box(nullptr, "first\\r\\nsecond", MSGBOX_NONE, 0, " third");
         QCOMPARE(box.findChild<QLabel *>("lab_Info")->text(), QString("first\r\nsecond third"));
-    }
-
-    void everyMessageHasRoom()
-    {
-        QCOMPARE(g_dialogConfig.size(), 70);
-        for (const ST_DialogInfo &row : qAsConst(g_dialogConfig)) {
-            dialog_msgBox box(nullptr, row.text, row.buttonType, 0, QString());
-            box.ensurePolished();
-            auto *label = box.findChild<QLabel *>("lab_Info");
-            label->ensurePolished();
-            const QRect needed = label->fontMetrics().boundingRect(
-                QRect(0, 0, label->width(), 1000), int(label->alignment()) | Qt::TextWordWrap, label->text());
-            QVERIFY2(needed.height() <= label->height(), qPrintable(row.text));
-            int buttons = 0;
-            for (const QPushButton *button : box.findChildren<QPushButton *>())
-                buttons += !button->isHidden() && button->parentWidget()->isVisibleTo(&box);
-            const int expected = row.buttonType == MSGBOX_YES_NO                                   ? 2
-                                 : row.buttonType == MSGBOX_NONE || row.buttonType == MSGBOX_TIMED ? 0
-                                                                                                   : 1;
-            QCOMPARE(buttons, expected);
-        }
     }
 
     void theLockWindowIsPartOfTheHomeScreen()
@@ -141,6 +218,60 @@ private slots:
         QCOMPARE(lock.findChild<QLabel *>("labTip")->text(),
                  QCoreApplication::translate("MainWindow", "Unlocked"));
     }
+
+private:
+    struct Timed {
+        ENUM_MenuIndex index;
+        int timeMs;
+        qint64 afterMs;
+        int result;
+    };
+
+    void deliver(KEY_TYPE type, unsigned char key)
+    {
+        m_keypad.post(type, key, 1, false);
+        QCoreApplication::sendPostedEvents();
+    }
+    /// The result of a box that gets these keys, and is looked at before.
+    int answer(QDialog &box, const QList<unsigned char> &keys, const std::function<void()> &look)
+    {
+        bool ended = true;
+        QTimer::singleShot(0, &box, [&] {
+            if (!QTest::qWaitForWindowActive(&box))
+                return box.done(stillOpen);
+            look();
+            for (unsigned char key : keys) {
+                deliver(KEY_PRESSED, key);
+                if (key == ok || key == esc)
+                    deliver(KEY_RELEASED, key);
+            }
+            if (!box.isVisible())
+                return;
+            ended = false;
+            box.done(stillOpen);
+        });
+        const int result = box.exec();
+        return ended ? result : stillOpen;
+    }
+    void openTimed(int number)
+    {
+        if (number >= m_timed.size())
+            return;
+        const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(m_timed[number].index, QString()));
+        QVERIFY(box);
+        QElapsedTimer time;
+        connect(box.get(), &QDialog::finished, this, [&](int result) {
+            m_timed[number].result = result;
+            m_timed[number].afterMs = time.elapsed();
+        });
+        QTimer::singleShot(0, box.get(), [this, number] { openTimed(number + 1); });
+        time.start();
+        box->exec();
+    }
+
+    std::unique_ptr<PageRig> m_rig;
+    KeyDispatcher m_keypad;
+    QVector<Timed> m_timed;
 };
 
 QTEST_MAIN(TestMessages)
