@@ -8,6 +8,8 @@ int main(int argc, char *argv[])
 {
     runTime1 = QTime::currentTime();
     QApplication application(argc, argv);
+    // A fiber converter has no window but a message now and then: its end is not the panel's.
+    QApplication::setQuitOnLastWindowClosed(false);
     VASK::KeyEvent *keys = VASK::KeyEvent::getInstance();
     if (!keys->InitKeyDriver(&application))
         qDebug() << "Init key failed";

@@ -114,6 +114,14 @@ void TestSystemStart::fiberConverterShowsNothing()
     QVERIFY(panel.waitForLog("null == activeWid 34"));
     QVERIFY(panel.settle());
     QCOMPARE(panel.screen().pixelColor(160, 120), QColor(Qt::black));
+    // A message is a window that opens and closes: the panel outlives it.
+    panel.mark();
+    QVERIFY(panel.ask({"calibrate", "on"}).ok);
+    QVERIFY(panel.waitForLog("str:"));
+    QVERIFY(panel.ask({"calibrate", "off"}).ok);
+    QVERIFY(panel.waitForLog("slot_CloseDialog:"));
+    QVERIFY(panel.press(keys::Ok));
+    QVERIFY(panel.waitForLog("null == activeWid 34"));
     QCOMPARE(panel.damage(), QString());
 }
 
