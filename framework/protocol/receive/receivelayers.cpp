@@ -47,10 +47,11 @@ int ParseInterceptReceiveParse(const Report &report)
     };
     qDebug() << "strStable:" << values[0] << "strWidth:" << values[1] << "strHeight" << values[2]
              << "strXStart" << values[3] << "strYStart" << values[4];
-    for (int i = 0; i < static_cast<int>(std::size(values)); ++i) {
+    // All of it stands in the store before any of it is worked out: a layer follows its crop as a whole.
+    for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
         report.parse.store().UpdataItemCurValue(ENUM_MenuIndex(first + i), values[i]);
+    for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
         report.parse.ReportMsgToParaProcess(ENUM_MenuIndex(first + i), values[i]);
-    }
     return 0;
 }
 
