@@ -16,11 +16,13 @@ struct Place {
 };
 
 const Place places[] = {
-    {"main", {136, 36, 184, 22}, 16, false},   {"mainname", {58, 34, 74, 24}, 14, true},
-    {"pip1", {136, 68, 184, 22}, 16, false},   {"pip1name", {58, 67, 74, 24}, 14, true},
-    {"pip2", {136, 101, 184, 22}, 16, false},  {"pip2name", {58, 100, 74, 24}, 14, true},
-    {"screen", {60, 139, 178, 23}, 16, false}, {"bright", {262, 138, 58, 23}, 16, false},
-    {"ip", {184, 4, 136, 20}, 13, false},      {"sync", {212, 174, 78, 28}, 12, true},
+    {"mainoff", {60, 34, 200, 24}, 16, false}, {"pip1off", {60, 66, 200, 24}, 16, false},
+    {"pip2off", {60, 99, 200, 24}, 16, false}, {"main", {132, 33, 188, 27}, 16, false},
+    {"mainname", {58, 34, 74, 24}, 14, true},  {"pip1", {132, 65, 188, 27}, 16, false},
+    {"pip1name", {58, 67, 74, 24}, 14, true},  {"pip2", {132, 98, 188, 27}, 16, false},
+    {"pip2name", {58, 100, 74, 24}, 14, true}, {"screen", {60, 139, 178, 23}, 16, false},
+    {"bright", {262, 138, 58, 23}, 16, false}, {"ip", {184, 4, 136, 20}, 13, false},
+    {"sync", {212, 174, 78, 28}, 12, true},
 };
 
 bool seesText(Panel &panel, const Place &place, const QString &text)

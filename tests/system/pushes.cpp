@@ -23,6 +23,14 @@ constexpr Mark marks[] = {
 };
 } // namespace
 
+QString littleEndian(int value, int bytes)
+{
+    QByteArray wire;
+    for (int i = 0; i < bytes; ++i)
+        wire.append(char(value >> 8 * i));
+    return QString::fromLatin1(wire.toHex());
+}
+
 bool Pushes::begin()
 {
     return m_panel.waitForLog("StartComplate: 2") && m_panel.ask({"reports", "off"}).ok && push({}) &&
@@ -117,8 +125,9 @@ void Pushes::runRow(const PushRow &row)
         if (!homescreen::waitToSee(m_panel, sight))
             complain(row.name, "the LCD does not show " + sight);
     m_writes += row.writes;
-    m_panel.ask({"state"}); // what lay on the bus by now is read before the next request
-    const QStringList writes = m_panel.writes();
+    // The bus takes its time; what is too much is seen once more when the group has ended.
+    QStringList writes;
+    m_panel.waitUntil([&] { return (writes = m_panel.writes()).size() >= m_writes.size(); });
     if (writes != m_writes) {
         complain(row.name, "writes " + writes.mid(m_writes.size() - row.writes.size()).join(", "));
         m_writes = writes;

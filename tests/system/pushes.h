@@ -8,6 +8,9 @@
 #include <QMap>
 #include <QVector>
 
+/// A number as it stands in a report, in hex.
+QString littleEndian(int value, int bytes);
+
 /// A row of such a table; what it does not name does not happen.
 class PushRow
 {
