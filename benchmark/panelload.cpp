@@ -1,7 +1,9 @@
 // What the whole panel costs, measured from outside with the floor beside each number. One line a question:
 // name, measured, floor, ratio.
 #include "benchmark/procfs.h"
+#include "benchmark/tickspy.h"
 #include "fpd_hostlink.h"
+#include "framework/ctimer.h"
 #include "framework/protocol/packageframe.h"
 #include "framework/protocol/packagerequestproto3rd.h"
 #include "tests/system/flood.h"
@@ -97,20 +99,92 @@ void measureStart(Panel &panel)
     printf("%-34s %10.1f MB\n", "memory at the home screen", procfs::memoryMb(id));
 }
 
-void measureIdle(Panel &panel)
+constexpr int idleSeconds = 30;
+
+/// Share of a core in per cent that something took in a time of idling.
+double share(double ms)
 {
-    constexpr int seconds = 10;
-    const int id = procfs::panelOf(panel.statePath());
+    return ms / idleSeconds / 10;
+}
+
+/// One line a thread, each with its floor: nothing would be least.
+void measureThreads(int id)
+{
     const QMap<QString, double> before = procfs::threadsMs(id);
-    QThread::sleep(seconds);
-    const QMap<QString, double> after = procfs::threadsMs(id);
+    const QMap<QString, double> wakesBefore = procfs::wakes(id);
+    QThread::sleep(idleSeconds);
+    const QMap<QString, double> after = procfs::threadsMs(id), wakesAfter = procfs::wakes(id);
     double sum = 0;
     for (auto thread = after.begin(); thread != after.end(); ++thread)
         sum += thread.value() - before.value(thread.key());
-    printf("%-34s %10.2f %% of a core, of which\n", "idle", sum / seconds / 10);
+    printf("%-34s %10.3f %% of a core, of which\n", "idle on the home screen", share(sum));
     for (auto thread = after.begin(); thread != after.end(); ++thread)
-        printf("    %-30s %10.2f %%\n", qPrintable(thread.key()),
-               (thread.value() - before.value(thread.key())) / seconds / 10);
+        printf("    thread %-23s %10.3f %%  %6.1f wakes/s\n", qPrintable(thread.key()),
+               share(thread.value() - before.value(thread.key())),
+               (wakesAfter.value(thread.key()) - wakesBefore.value(thread.key())) / idleSeconds);
+}
+
+/// The timer thread with nothing to fire, in this process.
+double emptyTimerMs()
+{
+    CTimer timer;
+    timer.Initialize();
+    const auto timerMs = [] {
+        double sum = 0;
+        const QMap<QString, double> threads = procfs::threadsMs(int(getpid()));
+        for (auto thread = threads.begin(); thread != threads.end(); ++thread)
+            if (thread.key().startsWith("timer "))
+                sum += thread.value();
+        return sum;
+    };
+    constexpr int seconds = 10;
+    QThread::msleep(100); // it has its name by then
+    const double before = timerMs();
+    QThread::sleep(seconds);
+    const double spent = timerMs() - before;
+    timer.UnInitialize();
+    return spent * idleSeconds / seconds;
+}
+
+/// What each ticker's work costs by itself, in a panel with a spy inside.
+void measureTickers()
+{
+    Panel panel;
+    qputenv("LD_PRELOAD", (QCoreApplication::applicationDirPath() + "/../benchmark/libtickspy.so").toUtf8());
+    panel.startReady();
+    qunsetenv("LD_PRELOAD");
+    panel.settle();
+    QThread::sleep(3); // the reports of the start are read and their changes saved
+    QFile file(panel.statePath() + tickspy::file);
+    const auto read = [&file] {
+        QVector<tickspy::Ticker> tickers(tickspy::mostTickers);
+        if (file.isOpen() || file.open(QIODevice::ReadOnly)) {
+            file.seek(0);
+            file.read(reinterpret_cast<char *>(tickers.data()),
+                      qint64(sizeof(tickspy::Ticker)) * tickers.size());
+        }
+        return tickers;
+    };
+    const QVector<tickspy::Ticker> before = read();
+    QThread::sleep(idleSeconds);
+    const QVector<tickspy::Ticker> after = read();
+    for (int i = 0; i < after.size() && after[i].ticks > 0; ++i) {
+        const double ticks = double(after[i].ticks - before[i].ticks);
+        const double ms = double(after[i].cpuNs - before[i].cpuNs) / 1e6;
+        printf("    work of %-22s %10.4f %%  %6.1f ticks/s  %8.2f us a tick\n", after[i].name, share(ms),
+               ticks / idleSeconds, ticks > 0 ? ms * 1000 / ticks : 0);
+    }
+    constexpr double timerTicks = 100 * idleSeconds;
+    const double ms = emptyTimerMs();
+    printf("    work of %-22s %10.4f %%  %6.1f ticks/s  %8.2f us a tick, with the sleep\n",
+           "timer, nothing armed", share(ms), timerTicks / idleSeconds, ms * 1000 / timerTicks);
+}
+
+void measureIdle(Panel &panel)
+{
+    QThread::sleep(3);
+    measureThreads(procfs::panelOf(panel.statePath()));
+    measureTickers();
 }
 
 void measureKeys(Panel &panel)

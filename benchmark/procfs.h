@@ -39,14 +39,29 @@ inline double cpuMs(int process)
     return statMs(QString("/proc/%1/stat").arg(process));
 }
 
-/// By the thread's name and number.
+/// Time on a processor in ms, from the scheduler's own nanoseconds, by the thread's name and number.
 inline QMap<QString, double> threadsMs(int process)
 {
     QMap<QString, double> threads;
     const QString folder = QString("/proc/%1/task/").arg(process);
     for (const QString &id : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         const QString name = QString::fromUtf8(read(folder + id + "/comm")).trimmed();
-        threads[QString("%1 %2").arg(name).arg(id.toInt() - process)] = statMs(folder + id + "/stat");
+        threads[QString("%1 %2").arg(name).arg(id.toInt() - process)] =
+            read(folder + id + "/schedstat").split(' ').first().toDouble() / 1e6;
+    }
+    return threads;
+}
+
+/// How often each thread has gone to sleep of its own accord, by the same keys.
+inline QMap<QString, double> wakes(int process)
+{
+    QMap<QString, double> threads;
+    const QString folder = QString("/proc/%1/task/").arg(process);
+    for (const QString &key : threadsMs(process).keys()) {
+        const int id = process + key.section(' ', -1).toInt();
+        const QByteArray status = read(folder + QString::number(id) + "/status");
+        const int at = status.indexOf("voluntary_ctxt_switches:");
+        threads[key] = status.mid(at + 24, 20).trimmed().split('\n').first().toDouble();
     }
     return threads;
 }

@@ -32,6 +32,7 @@ int CTimer::Initialize()
     m_stop = 0;
     if (pthread_create(&m_thread, nullptr, runTimer, this) != 0)
         return -2;
+    pthread_setname_np(m_thread, "timer");
     m_running = true;
     return 0;
 }

@@ -33,6 +33,7 @@ void GlobalTimer::Initialize(MainWindow *mainWindow)
     m_pmainwindow = mainWindow;
     m_presetPage = GetObjectFromPool(ENUM_PAGE_PresetSettings);
     m_returnMainWindow = new QTimer(this);
+    m_returnMainWindow->setObjectName("return home");
     m_returnTimeMs = readReturnTime();
     m_returnMainWindow->setInterval(m_returnTimeMs);
     qDebug() << "m_returnMainWindow" << m_returnMainWindow << m_returnTimeMs;

@@ -52,6 +52,7 @@ KeyEvent::KeyEvent()
           post(type, key, speed, longPress);
       })
 {
+    setObjectName("keypad");
     TIMER_Initialize();
 }
 

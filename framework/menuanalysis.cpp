@@ -35,6 +35,7 @@ bool MenuAnalysis::initlize()
     }
     if (!m_updateTimer) {
         m_updateTimer = new QTimer(this);
+        m_updateTimer->setObjectName("store write");
         connect(m_updateTimer, &QTimer::timeout, this, &MenuAnalysis::slot_updateXml);
     }
     m_updateTimer->start(writeDelayMs);

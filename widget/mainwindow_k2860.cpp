@@ -90,6 +90,7 @@ bool MainWindow::Init()
     complete = findMenus() && complete;
     ui->setStyles();
     m_pTwinkledisplayTimer = new QTimer(this);
+    m_pTwinkledisplayTimer->setObjectName("home blink");
     connect(m_pTwinkledisplayTimer, &QTimer::timeout, this, &MainWindow::slot_Twinkledisplay);
     m_pTwinkledisplayTimer->start(m_TwinkledisplayTimer);
     return complete;

@@ -48,18 +48,19 @@ int APiPCService::Initalize()
     };
     if (running(m_receive) || running(m_send))
         Terminate();
-    start(m_receive, &APiPCService::slot_notifyThreadFun);
-    start(m_send, &APiPCService::slot_sendThreadFun);
+    start(m_receive, "tick receive", &APiPCService::slot_notifyThreadFun);
+    start(m_send, "tick send", &APiPCService::slot_sendThreadFun);
     m_protocol = dynamic_cast<ProtocolInterface *>(GetObjectFromPool(ENUM_PROTOCOINTERFER_3RD));
     if (!m_protocol)
         qDebug() << "APiPCService:get PROTOCOINTERFER_3RD faild!";
     return 1;
 }
 
-void APiPCService::start(Direction &direction, void (APiPCService::*slot)(bool))
+void APiPCService::start(Direction &direction, const char *name, void (APiPCService::*slot)(bool))
 {
     direction.stopped = false;
     direction.ticker = std::make_unique<MsgThread>(tickMs);
+    direction.ticker->setObjectName(QLatin1String(name));
     direction.gate.open(
         direction.ticker.get(), this, [&direction] { return direction.waiting > 0; },
         [this, slot](bool finishing) { (this->*slot)(finishing); });

@@ -50,7 +50,7 @@ private:
         std::atomic<int> waiting{0}; ///< length of the list, for the ticker's thread
     };
     void append(Direction &direction, const QByteArray &packet);
-    void start(Direction &direction, void (APiPCService::*slot)(bool));
+    void start(Direction &direction, const char *name, void (APiPCService::*slot)(bool));
     void stop(Direction &direction);
     /// Those who work on what has arrived, and on what it has led to, keep up.
     bool hasRoom() const;

@@ -75,9 +75,11 @@ int ApipcSocket::CreateThread()
 {
     if (pthread_create(&m_waitThread, nullptr, ApipcThreadProc, this) != 0)
         return -1;
+    pthread_setname_np(m_waitThread, "bus wait");
     pthread_detach(m_waitThread);
     if (pthread_create(&m_receiveThread, nullptr, RecvThreadProc, this) != 0)
         return -1;
+    pthread_setname_np(m_receiveThread, "bus receive");
     pthread_detach(m_receiveThread);
     return 0;
 }

@@ -56,6 +56,8 @@ LinkRule linkRule(const LinkState &state)
 
 LinkSupervision::LinkSupervision(QObject *parent) : QObject(parent)
 {
+    m_linkTimer.setObjectName("link poll");
+    m_unlockTimer.setObjectName("unlock");
     connect(&m_linkTimer, &QTimer::timeout, this, &LinkSupervision::slot_ComLinkState);
     connect(&m_unlockTimer, &QTimer::timeout, this, &LinkSupervision::slot_Unlock);
 }

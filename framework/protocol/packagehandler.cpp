@@ -29,6 +29,7 @@ bool sameRegister(const PackageRequestProto3rd &one, const PackageRequestProto3r
 
 PackageHandler::PackageHandler(Reader reader, QObject *parent) : QThread(parent), m_reader(std::move(reader))
 {
+    setObjectName("reports");
 }
 
 PackageHandler::~PackageHandler()

@@ -14,6 +14,7 @@ namespace VASK
 {
 Proto3rd::Proto3rd(ENUM_ObjectIndex index) : ProtocolInterface(index)
 {
+    m_sendTimer.setObjectName("held value");
     connect(&m_sendTimer, &QTimer::timeout, this, &Proto3rd::slot_SendData);
     connectSupervision();
 }

@@ -24,6 +24,7 @@ int Proto3rd::initialize()
     Proto3rdSend::getInstance();
     qDebug() << "create m_notifyThread";
     m_notifyThread = std::make_unique<MsgThread>(drainMs);
+    m_notifyThread->setObjectName("tick drain");
     m_notifyGate.open(
         m_notifyThread.get(), this, [this] { return m_waiting > 0; },
         [this](bool finishing) { slot_notifyThreadFun(finishing); });
