@@ -54,6 +54,12 @@ Rows rowsTo(Place place)
         return {MENU_LayerSettings, MENU_MainLayer};
     case EditedRow:
         return {MENU_SystemSetting, MENU_ReturntoHome};
+    case PresetPage:
+        return {MENU_PresetSettings};
+    case TestPage:
+        return {MENU_DisplayControl, MENU_TestPattern};
+    case SyncPage:
+        return {MENU_AdvancedSetting, MENU_Synchronization};
     default:
         return {};
     }

@@ -5,8 +5,9 @@
 
 #include "tests/system/keytable.h"
 
-#include <QMap>
+#include <QAtomicInt>
 #include <QObject>
+#include <QVector>
 
 class KeyStory : public QObject
 {
@@ -20,11 +21,12 @@ private slots:
     void keyDoesItsWork();
 
 private:
-    /// Works off some of the cases with a panel of its own, in a thread of its own.
-    void work(int first, int end);
+    /// Works off cases that nobody has taken yet, with a panel of its own, in a thread of its own.
+    void work();
 
     const int m_panels;
     const QList<keytable::Case> m_cases;
+    QAtomicInt m_next; ///< case to be taken
     /// What was wrong, by the number of the case; written by the thread that has the case.
     QVector<QString> m_faults;
 };

@@ -40,7 +40,7 @@ QList<Row> layerRows()
     return {
         {Controller, HomeAndPage, "main", tap, start.with("000"), mainLayer, "B000 B001 0000 0000",
          "main layer: on, hdmi1"},
-        {Controller, HomeAndPage, "main", tap, start, mainLayer, "B000 B001 0000 0000", "main layer: on"},
+        {Controller, Home | MainPage, "main", tap, start, mainLayer, "B000 B001 0000 0000", "main layer: on"},
         {Controller, HomeAndPage, "pip1", tap, start, pip1, "1B00 B001 0000 0000", "PIP 1: on, hdmi1"},
         {Controller, HomeAndPage, "pip2", tap, start, pip2, "10B0 B001 0000 0000", "PIP 2: on, hdmi1"},
         {Controller, Home | Pip1Page, "pip2", tap, start.with("110"), pip2, "11B0 B001 0000 0000",
@@ -122,9 +122,12 @@ QList<Row> displayRows()
         {InBoth, HomeAndPage, "test", tap, testing, stays, plain, isNormal},
         {Controller, HomeAndPage, "test", tap, frozen, testPattern, freeze, isFrozen},
         {Controller, HomeAndPage, "test", tap, black, testPattern, plain, isBlack},
-        {Controller, HomeAndPage, "preset", tap, start, presets, plain, {}, LED_PRESET},
+        {Controller, HomeAndPage | PresetPage, "preset", tap, start, presets, plain, {}, LED_PRESET},
         {Sender, HomeAndPage, "preset", tap, start, stays, plain, {}},
         {InBoth, HomeAndPage, "fn", tap, start, synchronization, plain, {}, LED_FN},
+        {Controller, SyncPage, "fn", tap, start, synchronization, plain, {}, LED_FN},
+        {InBoth, TestPage, "test", tap, start, stays, plain, isNormal},
+        {Controller, TestPage, "freeze", tap, start, stays, test, isTest},
         // A sending card has no such function.
         {Controller, HomeAndPage, "fn", tap, fnOutput, hdmiOutput, plain, {}, LED_FN},
         {InBoth, HomeAndPage, "fn", tap, fnBlack, stays, onlyFn, isBlack},
@@ -154,6 +157,9 @@ QString nameOf(Place place)
         {Pip2Page, "PIP 2"},
         {MainPage, "the main layer"},
         {EditedRow, "an edited row"},
+        {PresetPage, "the presets"},
+        {TestPage, "the test patterns"},
+        {SyncPage, "the synchronization"},
     };
     return names.value(place);
 }
@@ -233,7 +239,8 @@ QList<Case> cases(Press press)
     QList<Case> list;
     for (Mode mode : {Controller, Sender})
         for (const Row &row : rows)
-            for (Place place : {Home, DeepPage, Pip1Page, Pip1Crop, Pip2Page, MainPage, EditedRow})
+            for (Place place : {Home, DeepPage, Pip1Page, Pip1Crop, Pip2Page, MainPage, EditedRow, PresetPage,
+                                TestPage, SyncPage})
                 if (row.press == press && (row.modes & mode) && (row.places & place))
                     list.append({&row, mode, place});
     return list;

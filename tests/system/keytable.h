@@ -21,6 +21,9 @@ enum Place : unsigned {
     Pip2Page = 1u << 4,
     MainPage = 1u << 5,
     EditedRow = 1u << 6,
+    PresetPage = 1u << 7,
+    TestPage = 1u << 8, ///< OK on its row has started the pattern
+    SyncPage = 1u << 9,
     HomeAndPage = Home | DeepPage,
 };
 
