@@ -123,10 +123,10 @@ bool FrameDrive::play(const QString &word)
             return m_panel.logLines("slot_CloseDialog:").size() >= count;
         }) && m_panel.settle();
     }
-    if (word == "yes" || word == "no")
-        return m_walk.asked() && m_walk.answer(word == "yes");
-    if (word == "message")
-        return m_panel.waitUntil([this] { return m_walk.asked(); }) && m_panel.settle();
+    const bool isAnswer = word == "yes" || word == "no";
+    if (isAnswer || word == "message")
+        return m_panel.waitUntil([this] { return m_walk.asked(); }) && m_panel.settle() &&
+               (!isAnswer || m_walk.answer(word == "yes"));
     if (word == "still")
         return (sent(0), true);
     if (word == keys::Ok || word == keys::Esc)
