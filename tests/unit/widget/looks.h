@@ -32,6 +32,8 @@ public:
             built = built && QFile::copy(builtFile(language.file), board::filePath(place + language.file));
         built = built && home->Init() && engine->Initialize() && m_atStart.load(builtFile("fpd_ZH.qm")) &&
                 QCoreApplication::installTranslator(&m_atStart);
+        // Nothing is read back from the file, and each write waits for the disk.
+        store->findChild<QTimer *>()->blockSignals(true);
     }
     ~LookRig() { QCoreApplication::removeTranslator(&m_atStart); }
 

@@ -176,6 +176,7 @@ private:
             QVERIFY(m_page);
             m_table = m_page->findChild<QTableWidget *>();
             m_name = QString("%1 %2").arg(int(config.key()), 2, 10, QChar('0')).arg(config->title);
+            m_engineMoved = true;
             restore();
             m_page->show();
             QApplication::setActiveWindow(m_page);
@@ -205,9 +206,17 @@ private:
     void restore()
     {
         QSet<int> changed{m_row.menuIndex};
+        put(m_row.menuIndex, g_MenuXmlConfig.value(m_row.menuIndex));
+        if (!m_engineMoved)
+            return draw(changed);
         for (auto item = g_MenuXmlConfig.cbegin(); item != g_MenuXmlConfig.cend(); ++item)
             if (put(item.key(), item.value()))
                 changed << item.key();
+        m_engineMoved = false;
+        draw(changed);
+    }
+    void draw(const QSet<int> &changed)
+    {
         const ST_MenuConfig page = pageTable();
         for (int row = 0; row < page.rows; ++row) {
             m_page->setRowHidden(row, false);
@@ -226,8 +235,10 @@ private:
             item.enableSelect = true; // as if there were as many files
         if (index == MENU_LanguageEn || index == MENU_LanguageZh)
             item.choice = old.choice;
+        if (old == item)
+            return false;
         m_rig->store->updataMenuItem(index, item);
-        return !(old == item);
+        return true;
     }
     /// Shows the item as it is now in m_item.
     void store()
@@ -275,6 +286,7 @@ private:
         store();
         look(value);
         m_rig->press(KEY_OK);
+        m_engineMoved = true;
         check(m_page->isEditing(), "OK does not start the edit");
         look(value + " edit");
         check(countPixels(m_picture, rowPlace(), editColour, 60) > 5, "nothing is yellow under edit");
@@ -287,6 +299,7 @@ private:
         m_item.value = "223.255.255.255";
         m_item.enable = true;
         store();
+        m_engineMoved = true;
         for (int number = 1; number <= 4; ++number) {
             m_rig->press(KEY_OK);
             look(QString("edit %1").arg(number));
@@ -303,6 +316,7 @@ private:
         store();
         look(state);
         m_rig->press(KEY_OK);
+        m_engineMoved = true;
         check(m_page->isEditing(), "OK does not open the list");
         const QWidget *list = m_page->findChild<stringcomboxtable *>();
         if (!list)
@@ -443,6 +457,7 @@ private:
     QString m_state;
     st_MenuItemInfo m_row{};
     ST_ItemInfo m_item;
+    bool m_engineMoved = false; ///< an edit may have changed any item
     QImage m_picture;
 };
 
