@@ -3,6 +3,7 @@
 
 #include "tests/unit/widget/looks.h"
 #include "widget/dialog_msgbox.h"
+#include "widget/lock.h"
 
 using namespace VASK;
 
@@ -72,6 +73,21 @@ private slots:
             faults << cutTexts(box);
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join("\n")));
+    }
+
+    void theLockWindow_data() { eachLanguage(); }
+    void theLockWindow()
+    {
+        switchLanguage();
+        Lock lock(m_rig->home);
+        m_rig->home->show();
+        lock.show();
+        for (bool locked : {true, false}) {
+            lock.SetLockState(locked);
+            keep(lock, locked ? "locked" : "unlocked");
+            QCOMPARE(cutTexts(lock) + overlaps(lock), QStringList());
+        }
+        m_rig->home->hide();
     }
 
 private:
