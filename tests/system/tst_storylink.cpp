@@ -21,6 +21,8 @@ private slots:
     void heartbeatLocksAndItsEndUnlocks();
 
 private:
+    /// The network's cable, and the panel has seen it: a new link ends a session.
+    bool plugIn();
     bool setLinks(const QString &usb, const QString &ethernet, const QString &loop, const QString &priority);
     QImage connection() const { return m_panel.screen().copy(QRect(268, 208, 46, 30)); }
     bool locked() const { return m_panel.stored(MENU_ScreenLock) == "1"; }
@@ -69,6 +71,12 @@ bool TestStoryLink::setLinks(const QString &usb, const QString &ethernet, const 
            m_panel.ask({"link", "loop", loop}).ok && m_panel.ask({"link", "priority", priority}).ok;
 }
 
+bool TestStoryLink::plugIn()
+{
+    return setLinks("0", "1", "0", "0") &&
+           m_panel.waitUntil([this] { return connection() == m_pictures["network"]; });
+}
+
 void TestStoryLink::pictureShowsTheLinks_data()
 {
     QTest::addColumn<QString>("usb");
@@ -106,21 +114,28 @@ void TestStoryLink::pictureShowsTheLinks()
 void TestStoryLink::newLinkTakesALockedSessionHome()
 {
     // Someone works in a menu; a PC takes over: home, and locked. Its cables go: unlocked again.
-    QVERIFY(setLinks("0", "1", "0", "0"));
+    QVERIFY(plugIn());
     QVERIFY(m_walk.go({MENU_AdvancedSetting, MENU_Audio}));
     QVERIFY(m_panel.ask({"heartbeat", "on"}).ok);
     QVERIFY(m_panel.waitForLog("slot_ReturnToMain start!!!!!!"));
     QVERIFY(m_panel.waitUntil([this] { return locked(); }));
+    // What the PC changes meanwhile goes past the menu into the flash: an address and the volume.
+    QVERIFY(m_panel.ask({"flash", "write", "2006", "0A00010002004D00"}).ok);
+    QVERIFY(m_panel.ask({"flash", "write", "209F", "57"}).ok);
     QVERIFY(m_panel.ask({"heartbeat", "off"}).ok);
     QVERIFY(setLinks("0", "0", "0", "0"));
     QVERIFY(m_panel.waitUntil([this] { return !locked(); }));
     QVERIFY(m_walk.isHome());
     m_walk.assume({});
+    QVERIFY(m_panel.waitFor("10.1.2.77", QRect(160, 0, 160, 26)));
+    QVERIFY(m_walk.go({MENU_AdvancedSetting, MENU_Audio}));
+    QVERIFY(m_panel.waitFor("87", QRect(160, 60, 160, 36)));
+    QVERIFY(m_walk.home());
 }
 
 void TestStoryLink::heartbeatLocksAndItsEndUnlocks()
 {
-    QVERIFY(setLinks("0", "1", "0", "0"));
+    QVERIFY(plugIn());
     QVERIFY(m_panel.ask({"heartbeat", "on"}).ok);
     QVERIFY(m_panel.waitUntil([this] { return locked(); }));
     QVERIFY(m_panel.ask({"heartbeat", "off"}).ok);
