@@ -17,6 +17,7 @@ private slots:
     void cleanupTestCase();
     void noReports();
     void servicesStart();
+    void protectionIsSwitchedOff();
     void deviceGetsAName();
     void cabinetFilesArrive();
     void wallIsCalibrated();
@@ -100,6 +101,22 @@ void TestPushesEvents::servicesStart()
         PushRow("manual address", "1300001a 00")
             .stores("2374=0 " + QString(addressOff).replace("false", "true")),
         PushRow("sender, manual address", "14000000 02").tells("3428=2"),
+    };
+    QCOMPARE(m_pushes.run(rows), QString());
+}
+
+/// Protection that is not kept is switched off at each of the inputs.
+void TestPushesEvents::protectionIsSwitchedOff()
+{
+    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+    QVERIFY(m_panel.setStored(MENU_HDCPMemory, "0"));
+    QVERIFY(m_panel.ask({"reports", "on"}).ok);
+    QVERIFY(m_panel.start());
+    QVERIFY(m_pushes.begin());
+    const QVector<PushRow> rows{
+        PushRow("video", "14000000 01")
+            .tells("3427=1")
+            .answers({"13019004 00 01", "13019014 00 01", "13019024 00 01", "13019034 00 01"}),
     };
     QCOMPARE(m_pushes.run(rows), QString());
 }

@@ -14,6 +14,7 @@ private slots:
     void initTestCase();
     void cleanup();
     void cleanupTestCase();
+    void deviceListsItsInputs();
     void records();
     void outputFollowsItsSource();
     void pixelToPixelFollowsTheInput();
@@ -90,6 +91,46 @@ void TestPushesInputs::cleanup()
 void TestPushesInputs::cleanupTestCase()
 {
     QCOMPARE(m_panel.damage(), QString());
+}
+
+/// A device of the other family of codes, without SDI. The reference closes the list, in the order of
+/// arrival.
+void TestPushesInputs::deviceListsItsInputs()
+{
+    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+    QVERIFY(m_panel.start());
+    QVERIFY(m_panel.ask({"wait", "ready"}).ok);
+    QVERIFY(m_pushes.flush());
+    const QString sampled = "0003800738041a41" + QString(2 * 17, '0');
+    const QVector<PushRow> rows{
+        PushRow("HDMI 1", "13010001 61" + sampled + "01")
+            .stores("2304=YCbCr 4:2:2 2108/Enable=true 2118/Enable=true 2128/Enable=true")
+            .shows({"main:1920x1080@60"}),
+        PushRow("HDMI 2", "13010021 62" + sampled + "02").stores("2309=YCbCr 4:4:4"),
+        PushRow("DVI", "13010041 69" + sampled + "01").stores("2314=YCbCr 4:2:2"),
+        PushRow("DVI 2", "13010061 6a" + sampled + "02").stores("2319=YCbCr 4:4:4"),
+        PushRow("OPT 1", "13010081 e9"),
+        PushRow("OPT 2", "130100a1 ea"),
+        PushRow("mosaic", "130100c1 e0"),
+        PushRow("reference", "13010101 fe")
+            .stores("1017/Enable=false 3084/Enable=false 2101/Params1/3=Disable 2111/Params1/3=Disable "
+                    "2121/Params1/3=Disable 2351/Params1/3=Disable"),
+        PushRow("SDI, too late", "130100e1 30"),
+    };
+    QCOMPARE(m_pushes.run(rows), QString());
+    QVERIFY(m_panel.press("in2"));
+    QVERIFY(m_panel.waitUntil([this] { return m_panel.writes().contains("13020012 00 010062"); }));
+    QVERIFY(m_walk.home());
+    // And the usual device again.
+    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+    for (const char *input : {"hdmi2", "dvi", "sdi", "dvi2", "opt1", "opt2", "mosaic", "reference"})
+        QVERIFY(m_panel.ask({"signal", input, "off"}).ok);
+    QVERIFY(m_panel.ask({"signal", "hdmi1", "on", "1920x1080@60", "rgb444"}).ok);
+    QVERIFY(m_panel.ask({"reports", "on"}).ok);
+    QVERIFY(m_panel.start());
+    QVERIFY(m_pushes.begin());
+    QVERIFY(m_pushes.push({window(0, 1, 0)}));
+    QVERIFY(m_pushes.flush());
 }
 
 void TestPushesInputs::records()
