@@ -10,6 +10,7 @@ using namespace VASK;
 namespace
 {
 constexpr int imageCount = 3;
+constexpr int rowsOfTheLcd = 6;
 
 /// Bytes of a field in an image, and what the panel makes of them; no bytes: the field is as it was.
 struct State {
@@ -343,13 +344,9 @@ QString TestStorySnapshot::shownText(const Field &field, int image) const
 
 bool TestStorySnapshot::rowShows(const st_MenuItemInfo &row, int position, const QString &text)
 {
-    constexpr int rowsOfTheLcd = 6, rowHeight = 36, titleHeight = 24, width = 320;
-    if (position >= rowsOfTheLcd && !m_walk.moveTo(row.menuIndex))
-        return false;
-    // Behind the sixth row the page has moved, so that the row stands last.
+    constexpr int rowHeight = 36, titleHeight = 24, width = 320;
+    // Behind the last row of the LCD the page has moved, so that the row stands there.
     const QRect area(0, titleHeight + rowHeight * qMin(position, rowsOfTheLcd - 1), width, rowHeight);
-    if (!m_panel.settle())
-        return false;
     if (row.controlType != TYPE_IPADJUST)
         return m_panel.shows(text, area);
     constexpr int firstNumber = 134, numberWidth = 45;
@@ -380,7 +377,11 @@ QStringList TestStorySnapshot::wrongRows(int image, const QList<ENUM_MenuIndex> 
                 continue;
             ++seen;
             const QString text = shownText(field, image);
-            if (!rowShows(row, position, text))
+            if (position >= rowsOfTheLcd)
+                m_walk.moveTo(row.menuIndex);
+            // Where one row is wrong the next is not waited for.
+            const auto shows = [&] { return rowShows(row, position, text); };
+            if (wrong.isEmpty() ? !m_panel.waitUntil(shows) : !shows())
                 wrong << QString("%1, %2: not %3").arg(name, field.what, text);
         }
     }
