@@ -292,12 +292,14 @@ private slots:
     void cleanupTestCase();
     void panelComesUpWithTheDevicesState_data();
     void panelComesUpWithTheDevicesState();
+    void refusedAddressGivesWayToTheFlash();
 
 private:
     /// Starts the panel on a flash with this image.
     bool startOn(int image);
     /// What is wrong, a line a thing.
     QStringList wrongItems(int image);
+    /// Of the page at the end of the path, or of the open one.
     QStringList wrongRows(int image, const QList<ENUM_MenuIndex> &path);
     bool rowShows(const st_MenuItemInfo &row, int position, const QString &text);
     QString shownText(const Field &field, int image) const;
@@ -370,8 +372,8 @@ bool TestStorySnapshot::rowShows(const st_MenuItemInfo &row, int position, const
 
 QStringList TestStorySnapshot::wrongRows(int image, const QList<ENUM_MenuIndex> &path)
 {
-    const QString name = g_MenuXmlConfig.value(path.last()).tag;
-    if (!m_walk.go(path))
+    const QString name = path.isEmpty() ? QString("page") : g_MenuXmlConfig.value(path.last()).tag;
+    if (!path.isEmpty() && !m_walk.go(path))
         return {"no way to " + name};
     QStringList wrong;
     int seen = 0;
@@ -408,7 +410,8 @@ void TestStorySnapshot::initTestCase()
 void TestStorySnapshot::cleanup()
 {
     if (QTest::currentTestFailed())
-        m_panel.keepEvidence(QString("snapshot %1").arg(QTest::currentDataTag()));
+        m_panel.keepEvidence(
+            QString("snapshot %1%2").arg(QTest::currentTestFunction(), QTest::currentDataTag()));
     m_panel.ask({"panel", "stop"});
 }
 
@@ -471,6 +474,23 @@ void TestStorySnapshot::panelComesUpWithTheDevicesState()
     for (int page = image; page < pages.size(); page += imageCount)
         wrong += wrongRows(image, pages.at(page));
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+}
+
+void TestStorySnapshot::refusedAddressGivesWayToTheFlash()
+{
+    QVERIFY(startOn(0));
+    const QList<ENUM_MenuIndex> page{MENU_CommunicationSettings, MENU_NetworkSettings};
+    QVERIFY(m_walk.go(page));
+    QVERIFY(m_walk.enter(MENU_Net_IPAddress));
+    QVERIFY(m_walk.turn(Right, 1)); // 11.1.2.200, which the gateway 10.1.2.3 does not reach
+    QVERIFY(m_walk.press(keys::Esc));
+    QVERIFY(m_panel.waitUntil([this] { return m_panel.stored(MENU_Net_IPAddress) == "11.1.2.200"; }));
+    QVERIFY(m_panel.ask({"writes", "--clear"}).ok);
+    QVERIFY(m_walk.enter(MENU_Net_Apply));
+    QVERIFY(m_walk.asked());
+    QVERIFY(m_panel.waitUntil([this] { return m_panel.stored(MENU_Net_IPAddress) == "10.1.2.200"; }));
+    QCOMPARE(wrongRows(0, {}), QStringList());
+    QCOMPARE(m_panel.writes(), QStringList());
 }
 
 QTEST_MAIN(TestStorySnapshot)
