@@ -1,0 +1,153 @@
+#include "tests/system/mirrored.h"
+
+#include "menuindex.h"
+#include "tests/system/panel.h"
+
+#include <QRegularExpression>
+#include <QVector>
+
+using namespace VASK;
+
+namespace
+{
+using Words = QMap<QString, QString>;
+
+struct Row {
+    int item;
+    QString line; ///< one capture: the value, in the device's words
+    Words values; ///< for each word the value in the store; without any it is the same
+};
+
+const Words switches{{"off", "0"}, {"on", "1"}};
+constexpr const char *number = "(-?\\d+)";
+constexpr const char *any = "-?\\d+";
+
+QVector<Row> layerRows()
+{
+    QVector<Row> rows;
+    constexpr const char *names[] = {"main layer", "PIP 1", "PIP 2"};
+    for (int n = 0; n < 3; ++n) {
+        const int base = STRIDE_Layer * n;
+        const QString name = QString(names[n]) + ": ";
+        const auto window = [&](const char *w, const char *h, const char *x, const char *y) {
+            return name + QString("\\w+, [^,]+, %1x%2 at %3,%4, priority .*").arg(w, h, x, y);
+        };
+        rows += {
+            {MENU_MainLayer_Status + base, name + "(on|off), .*", switches},
+            {MENU_MainLayer_HorWidth + base, window(number, any, any, any), {}},
+            {MENU_MainLayer_VerHeight + base, window(any, number, any, any), {}},
+            {MENU_MainLayer_InitialX + base, window(any, any, number, any), {}},
+            {MENU_MainLayer_InitialY + base, window(any, any, any, number), {}},
+            {MENU_MainLayer_Priority + base, name + ".*, priority (\\d+), .*", {}},
+            {MENU_MainLayer_Opacity + base, name + ".*, opacity (\\d+)%", {}},
+        };
+    }
+    return rows;
+}
+
+QVector<Row> inputRows()
+{
+    QVector<Row> rows;
+    struct Picture {
+        const char *name;
+        int first;
+    };
+    constexpr Picture pictures[] = {{"hdmi1", MENU_HDMI1_Brightness},
+                                    {"hdmi2", MENU_HDMI2_Brightness},
+                                    {"dvi", MENU_DVI_Brightness},
+                                    {"dvi2", MENU_DVI2_Brightness},
+                                    {"sdi", MENU_SDI_Brightness}};
+    for (const Picture &picture : pictures) {
+        const QString name = QString(picture.name) + ": ";
+        rows += {{picture.first, name + "brightness (\\d+), .*", {}},
+                 {picture.first + 1, name + "brightness .*, contrast (\\d+), .*", {}},
+                 {picture.first + 2, name + "brightness .*, saturation (\\d+), .*", {}},
+                 {picture.first + 3, name + "brightness .*, hue (-?\\d+), .*", {}}};
+    }
+    constexpr const char *sounds[] = {"hdmi1", "hdmi2", "dvi", "dvi2", "sdi", "opt1", "opt2", "mosaic"};
+    for (int k = 0; k < 8; ++k) {
+        const Words hdmi{{"embedded", "0"}, {"none", "1"}, {"audio in", "1"}};
+        const Words others{{"none", "0"}, {"embedded", "1"}, {"audio in", "1"}};
+        rows +=
+            {MENU_AudioInput_HDMI1 + k, QString("sound of %1: (.*)").arg(sounds[k]), k < 2 ? hdmi : others};
+    }
+    return rows;
+}
+
+QVector<Row> settingRows()
+{
+    const auto osd = [](const char *picture, const char *x, const char *y) {
+        return QString("OSD: \\w+, picture %1 at %2,%3, .*").arg(picture, x, y);
+    };
+    QVector<Row> rows{
+        {MENU_ScreenBrightness, "brightness: (\\d+)%", {}},
+        {MENU_Audio_Volume, "volume: (\\d+)", {}},
+        {MENU_Audio_AudioOutput,
+         "audio output: (.*)",
+         {{"off", "0"}, {"main layer", "1"}, {"PIP 1", "2"}, {"PIP 2", "3"}, {"line in", "4"}}},
+        {MENU_OSDState, "OSD: (on|off), .*", switches},
+        {MENU_OSDChoice, osd(number, any, any), {}},
+        {MENU_OSDInitialX, osd(any, number, any), {}},
+        {MENU_OSDInitialY, osd(any, any, number), {}},
+        {MENU_OSDPriority, "OSD: .*, (in front|behind)", {{"in front", "1"}, {"behind", "0"}}},
+        {MENU_Net_IPAddress, "address: (.*)", {}},
+        {MENU_Net_SubnetMask, "mask: (.*)", {}},
+        {MENU_Net_Gateway, "gateway: (.*)", {}},
+        {MENU_Net_NetMode, "automatic: (on|off)", switches},
+        {MENU_Mode3D_Status, "3D: (on|off)", switches},
+        {MENU_Mode3D_Format,
+         "format: (.*)",
+         {{"side by side", "0"}, {"top and bottom", "1"}, {"frame sequential", "2"}}},
+        {MENU_Mode3D_EyePriority, "first eye: (left|right)", {{"left", "0"}, {"right", "1"}}},
+        {MENU_Sync_Status, "sync: (on|off) to .*", switches},
+        {MENU_LowLatency, "low latency: (on|off)", switches},
+        {MENU_ImageMosaic_Status, "splicing: (on|off)", switches},
+    };
+    constexpr int firstPreset = 1026, presets = 10;
+    for (int preset = 0; preset < presets; ++preset)
+        rows += {firstPreset + preset,
+                 QString("preset %1: (\\w+)\\b.*").arg(preset + 1),
+                 {{"used", "Used"}, {"saved", "Saved"}, {"blank", "Blank"}}};
+    return rows;
+}
+
+const QVector<Row> &rows()
+{
+    static const QVector<Row> all = settingRows() + layerRows() + inputRows();
+    return all;
+}
+
+QString toldBy(const QStringList &lines, const Row &row, QString &line)
+{
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern("\\s*" + row.line));
+    for (const QString &text : lines) {
+        const QRegularExpressionMatch match = pattern.match(text);
+        if (!match.hasMatch())
+            continue;
+        line = text.trimmed();
+        return row.values.isEmpty() ? match.captured(1) : row.values.value(match.captured(1), "?");
+    }
+    line = "no line " + row.line;
+    return "?";
+}
+} // namespace
+
+QStringList mirrored::differences(Panel &panel)
+{
+    const QStringList lines = panel.ask({"device", "show"}).lines;
+    const QMap<QString, QString> stored = panel.storedFields();
+    QStringList list;
+    for (const Row &row : rows()) {
+        QString line;
+        const QString told = toldBy(lines, row, line);
+        const QString kept = stored.value(QString::number(row.item));
+        if (kept != told)
+            list += QString("%1: %2 in the store, %3 at the device (%4)").arg(row.item).arg(kept, told, line);
+    }
+    return list;
+}
+
+int mirrored::count()
+{
+    return rows().size();
+}

@@ -1,0 +1,106 @@
+// A long session, played at speed: at its end the store holds what the device holds. FPD_SOAK_SECONDS makes
+// it longer: 600 play a whole hour. FPD_SOAK_SPEED and FPD_SOAK_SEED choose another speed and another
+// session.
+#include "tests/system/consoleclient.h"
+#include "tests/system/mirrored.h"
+#include "tests/system/panel.h"
+#include "tests/system/soaksession.h"
+
+#include <QTest>
+#include <atomic>
+#include <thread>
+
+class TestStorySoak : public QObject
+{
+    Q_OBJECT
+private slots:
+    void storeEqualsDevice();
+
+private:
+    QString replay(const QString &file, int speed, int seconds);
+    bool comesToRest();
+
+    Panel m_panel;
+};
+
+namespace
+{
+int setting(const char *name, int otherwise)
+{
+    const int value = qEnvironmentVariableIntValue(name);
+    return value > 0 ? value : otherwise;
+}
+} // namespace
+
+/// Plays the session on a connection of its own, while cables are pulled and put back. Empty, or what went
+/// wrong.
+QString TestStorySoak::replay(const QString &file, int speed, int seconds)
+{
+    std::atomic<bool> ended{false};
+    Answer answer;
+    std::thread player([&] {
+        ConsoleClient console;
+        if (console.connectTo(m_panel.statePath()))
+            answer = console.ask({"replay", file, QString::number(speed)}, seconds * 3000 + 60000);
+        ended = true;
+    });
+    constexpr const char *cables[] = {"eth", "usb", "loop", "priority"};
+    for (int i = 0; !ended; ++i) {
+        m_panel.ask({"link", cables[i / 2 % 4], i % 2 ? "0" : "1"});
+        for (int waited = 0; waited < 30 && !ended; ++waited)
+            QTest::qWait(100);
+        m_panel.mark(); // the log so far has been read
+    }
+    player.join();
+    qInfo("%s", qPrintable(answer.lines.join(' ')));
+    return answer.ok ? QString() : "replay: " + answer.error;
+}
+
+/// Whatever is held back or told late has come, and the store is written.
+bool TestStorySoak::comesToRest()
+{
+    constexpr int stillMs = 3000;
+    QElapsedTimer still;
+    still.start();
+    int seen = -1;
+    return m_panel.waitUntil([&] {
+        const int now = m_panel.writes().size();
+        if (now != seen)
+            still.restart();
+        seen = now;
+        return still.hasExpired(stillMs);
+    });
+}
+
+void TestStorySoak::storeEqualsDevice()
+{
+    const int seconds = setting("FPD_SOAK_SECONDS", 25);
+    const int speed = setting("FPD_SOAK_SPEED", 6);
+    const auto seed = unsigned(setting("FPD_SOAK_SEED", 1));
+    QVERIFY(m_panel.startReady());
+    QVERIFY(m_panel.waitForLog("StartComplate: 2"));
+    QVERIFY(comesToRest());
+    m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
+    QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
+
+    const QString file = m_panel.statePath() + "/soak.txt";
+    QFile session(file);
+    QVERIFY(session.open(QIODevice::WriteOnly));
+    session.write(soakSession(seed, qMax(1, seconds * speed / 60), speed));
+    session.close();
+    QCOMPARE(replay(file, speed, seconds), QString());
+    for (int i = 0; i < 8; ++i)
+        m_panel.press(keys::Esc);
+    QVERIFY(comesToRest());
+    m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
+    qInfo("%d registers written by the panel, %d items compared", m_panel.writes().size(), mirrored::count());
+    const QStringList differences = mirrored::differences(m_panel);
+    if (!differences.isEmpty())
+        m_panel.keepEvidence("storysoak");
+    QCOMPARE(differences.join('\n'), QString());
+    QVERIFY(mirrored::count() > 70);
+    QCOMPARE(m_panel.damage(), QString());
+}
+
+QTEST_GUILESS_MAIN(TestStorySoak)
+#include "tst_storysoak.moc"
