@@ -67,7 +67,7 @@ double bareLabelMs(const Panel &panel)
 }
 
 /// From the key word, as the emulator hands it out, to the next change of the LCD, in ms; negative if nothing
-/// changes. A key is only pressed: its release is another word.
+/// changes. One word is measured: the press of a key or its release.
 double lcdAnswerMs(Panel &panel, const QStringList &words)
 {
     constexpr qint64 patienceNs = 2000000000;
@@ -312,8 +312,9 @@ void measureLoad(Panel &panel)
         answers << lcdAnswerMs(panel, {"word", answers.size() % 2 ? "0120" : "0121"});
         QThread::msleep(20);
         if (answers.size() % keysPerPage == 0) {
-            pages << lcdAnswerMs(panel, {"key", keys::Ok, "press"});
-            panel.ask({"key", keys::Ok, "release"});
+            panel.ask({"key", keys::Ok, "press"});
+            QThread::msleep(30);
+            pages << lcdAnswerMs(panel, {"key", keys::Ok, "release"}); // then a page opens
             panel.press(keys::Esc);
             QThread::msleep(100);
         }
