@@ -88,7 +88,7 @@ void dialog_msgBox::setDialogStyleSheet()
             .arg(family));
 }
 
-void dialog_msgBox::initBtns()
+void dialog_msgBox::showTexts()
 {
     QString text = translated(strMessage);
     text.replace(QLatin1String("\\r\\n"), QLatin1String("\r\n"));
@@ -99,11 +99,26 @@ void dialog_msgBox::initBtns()
     const BoxKind kind = kindOf(m_type);
     showButton(ui->btnYes, kind.yes);
     showButton(ui->btnNo, kind.no);
+}
+
+void dialog_msgBox::initBtns()
+{
+    showTexts();
+    const BoxKind kind = kindOf(m_type);
     // A question is answered with yes on purpose only: "No" has the focus first.
     if (kind.no)
         ui->btnNo->setFocus(Qt::OtherFocusReason);
     else if (kind.yes)
         ui->btnYes->setFocus(Qt::OtherFocusReason);
+}
+
+void dialog_msgBox::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setDialogStyleSheet();
+        showTexts();
+    }
+    QDialog::changeEvent(event);
 }
 
 int dialog_msgBox::exec()

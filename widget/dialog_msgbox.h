@@ -32,10 +32,13 @@ public slots:
 
 protected:
     bool event(QEvent *event) override;
+    /// The language has changed: texts and style again.
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void setDialogStyleSheet();
+    void showTexts();
     void initBtns();
     void handleKey(const VASK::KeypadEvent &event);
     bool takesAnswers() const;

@@ -59,7 +59,22 @@ void Lock::SetLockState(bool locked)
         qDebug() << "lock Image set faild!";
     else
         labPic->setPixmap(picture);
-    labTip->setText(translated(locked ? QStringLiteral("Locked") : QStringLiteral("Unlocked")));
+    m_locked = locked;
+    showText();
+}
+
+void Lock::showText()
+{
+    labTip->setText(translated(m_locked ? QStringLiteral("Locked") : QStringLiteral("Unlocked")));
+}
+
+void Lock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTextStyle();
+        showText();
+    }
+    QDialog::changeEvent(event);
 }
 
 void Lock::SetBackGroundImg(QString path, QWidget *w)

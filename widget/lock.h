@@ -17,9 +17,15 @@ public:
     /// A picture of the resources as the background of a widget.
     void SetBackGroundImg(QString path, QWidget *w);
 
+protected:
+    /// The language has changed: text and style again.
+    void changeEvent(QEvent *event) override;
+
 private:
     void setTextStyle();
+    void showText();
 
     QLabel *labPic = nullptr;
     QLabel *labTip = nullptr;
+    bool m_locked = false;
 };

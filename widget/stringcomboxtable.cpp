@@ -100,13 +100,29 @@ void stringcomboxtable::fill(const QString &value)
 {
     for (int row = 0; row < m_mapParams.size(); ++row) {
         const QString key = keyOfRow(row);
-        auto *option = new QStandardItem(translated(m_mapParams.value(key)));
+        auto *option = new QStandardItem;
         option->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         // What is in force can be looked at, even where it could not be chosen again.
         option->setEnabled(getItemEnabled(row) || key == value);
         m_model->appendRow(option);
     }
+    showOptions();
     m_view->setColumnWidth(0, viewWidth);
+}
+
+void stringcomboxtable::showOptions()
+{
+    for (int row = 0; row < m_mapParams.size(); ++row)
+        m_model->item(row)->setText(translated(m_mapParams.value(keyOfRow(row))));
+}
+
+void stringcomboxtable::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange && m_view) {
+        m_view->setStyleSheet(viewStyle());
+        showOptions();
+    }
+    VaskUiObject::changeEvent(event);
 }
 
 QString stringcomboxtable::keyOfRow(int row) const

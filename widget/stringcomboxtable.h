@@ -32,8 +32,13 @@ public:
     /// The value under the cursor changes from outside.
     void SetParaEntry(ENUM_MenuIndex index, QString value, ENUM_MODE_SET_XML mode) override;
 
+protected:
+    /// The language has changed: the options again.
+    void changeEvent(QEvent *event) override;
+
 private:
     void CreatEntry();
+    void showOptions();
     void fill(const QString &value);
     void move(bool backwards);
     void showRow(int row);
