@@ -10,6 +10,7 @@
 #include "framework/protocol/protomemory20m.h"
 #include "framework/transport.h"
 #include "widget/directoryengineer.h"
+#include "widget/language.h"
 #include "widget/mainwindow_k2860.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,6 @@ QTime runTime1;
 
 namespace
 {
-const QString translationFile = "/usr/vask/etc/fpd/config/fpd_ZH.qm";
 /// This program has come so far that the device side may go on.
 const QString panelFlag = "/etc/init.d/flag_fpdspi";
 /// The FPGA link is up.
@@ -214,14 +214,17 @@ bool StartUp::initializeStore()
 bool StartUp::loadTranslation()
 {
     auto *translator = new QTranslator(QCoreApplication::instance());
-    if (!translator->load(board::filePath(translationFile))) {
+    if (translator->load(board::filePath(languageFile(false)))) {
+        if (!QCoreApplication::installTranslator(translator))
+            qDebug() << "install qm failed!";
+        qDebug() << "######Install qm ok!";
+    } else {
         qWarning() << "main:load qm failed!";
         delete translator;
-        return true;
     }
-    if (!QCoreApplication::installTranslator(translator))
-        qDebug() << "install qm failed!";
-    qDebug() << "######Install qm ok!";
+    // The store's choice already rules the styles, and what is shown must be in the same language.
+    if (englishChosen())
+        installLanguage(m_paraProcess, true);
     return true;
 }
 

@@ -14,13 +14,8 @@ using namespace VASK;
 
 namespace
 {
-/// The panel loads the Chinese texts at its start, whatever is chosen: for English their file is exchanged.
 bool setLanguage(Panel &panel, bool english)
 {
-    const QString folder = panel.file("/usr/vask/etc/fpd/config/");
-    if (english &&
-        !(QFile::remove(folder + "fpd_ZH.qm") && QFile::copy(folder + "fpd_EN.qm", folder + "fpd_ZH.qm")))
-        return false;
     return panel.setStored(MENU_LanguageEn, english ? SELECTED : UNSELECTED, "Choice") &&
            panel.setStored(MENU_LanguageZh, english ? UNSELECTED : SELECTED, "Choice");
 }

@@ -1,8 +1,11 @@
 #include "widget/language.h"
 
+#include "boardio.h"
 #include "framework/menuanalysis.h"
 
 #include <QCoreApplication>
+#include <QDebug>
+#include <QTranslator>
 
 namespace VASK
 {
@@ -16,6 +19,27 @@ bool englishChosen()
     QString choice;
     auto *store = dynamic_cast<MenuAnalysis *>(ObjectPool::getInstance()->GetObject(ENUM_MENUANALYSIS));
     return store && store->GetItemCurChoice(MENU_LanguageEn, choice) && choice == SELECTED;
+}
+
+QString languageFile(bool english)
+{
+    return english ? QStringLiteral("/usr/vask/etc/fpd/config/fpd_EN.qm")
+                   : QStringLiteral("/usr/vask/etc/fpd/config/fpd_ZH.qm");
+}
+
+bool installLanguage(QObject *owner, bool english)
+{
+    const auto former = owner->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly);
+    auto *translator = new QTranslator(owner);
+    const QString file = board::filePath(languageFile(english));
+    if (!translator->load(file) || !QCoreApplication::installTranslator(translator)) {
+        qWarning() << "load qm failed!" << file;
+        delete translator;
+        return false;
+    }
+    qDeleteAll(former);
+    qDebug() << "install qm succeed!";
+    return true;
 }
 
 QString fontFamily()

@@ -63,6 +63,7 @@ public:
     bool SetTestMode(ENUM_MainWindowTESTMode mode);
     bool SetNetState(ENUM_MainWindowNetIndex port, ENUM_MainWindowNetState state);
     bool SetOPTWorkMode(ENUM_MainWindowOPTWorkMode mode);
+    /// The address, or the translation key of what is said while there is none.
     bool SetIp(QString ip);
     /// The user's name of the device, shown in turn with the address; empty for none.
     bool SetDeviceRename(QString name);
@@ -144,6 +145,8 @@ private:
     void lockKey(VASK::KeypadEvent *event);
     void knobKey(VASK::KeypadEvent *event);
     void openMainMenu(VASK::KeypadEvent *event);
+    void chooseLanguage(VASK::KeypadEvent *event);
+    void changeLanguage(bool english);
     void openUserMenu(VASK::KeypadEvent *event);
     void openProductMenu(VASK::KeypadEvent *event);
     void openMenu(VASK::ENUM_ObjectIndex object);

@@ -34,6 +34,7 @@ const QVector<MainWindow::HomeKey> &MainWindow::homeKeys()
         {KEY_KNOB_LEFT, anyType, &MainWindow::knobKey},
         {KEY_KNOB_RIGHT, anyType, &MainWindow::knobKey},
         {KEY_OK, KEY_RELEASED, &MainWindow::openMainMenu},
+        {KEY_OK, KEY_LONG_PRESS, &MainWindow::chooseLanguage},
         {KEY_USER_HIDDEN_MENU, KEY_LONG_PRESS, &MainWindow::openUserMenu},
         {KEY_PRODUCT_HIDDEN_MENU, KEY_LONG_PRESS, &MainWindow::openProductMenu},
     };

@@ -43,11 +43,6 @@ bool MainWindow::setPicture(QLabel *label, const QString &path, const char *fail
     return true;
 }
 
-void MainWindow::SetParaEntry(ENUM_MenuIndex, QString, ENUM_MODE_SET_XML)
-{
-    runOnGui(this, [this] { ui->translateAgain(); });
-}
-
 bool MainWindow::SetWindowName(ENUM_MainWindowWindowIndex window, QString name)
 {
     if (!isLayer(window))
@@ -216,7 +211,7 @@ bool MainWindow::SetIp(QString ip)
         QMutexLocker lock(&m_mutex);
         m_strIp = ip;
     }
-    runOnGui(this, [this, ip] { ui->labIp->setText(ip); });
+    runOnGui(this, [this, ip] { Ui_MainWindow::showKey(ui->labIp, ip); });
     return true;
 }
 
@@ -230,7 +225,7 @@ bool MainWindow::SetDeviceRename(QString name)
     }
     // Without a name the address must not stay hidden behind the last one.
     if (name.isEmpty())
-        runOnGui(this, [this, ip] { ui->labIp->setText(ip); });
+        runOnGui(this, [this, ip] { Ui_MainWindow::showKey(ui->labIp, ip); });
     return true;
 }
 
@@ -265,7 +260,10 @@ void MainWindow::slot_Twinkledisplay()
     if (++ticks % 2 == 0) {
         QMutexLocker lock(&m_mutex);
         if (!m_strDeviceRename.isEmpty()) {
-            ui->labIp->setText(m_namePhase ? m_strDeviceRename : m_strIp);
+            if (m_namePhase)
+                Ui_MainWindow::showText(ui->labIp, m_strDeviceRename);
+            else
+                Ui_MainWindow::showKey(ui->labIp, m_strIp);
             m_namePhase = !m_namePhase;
         }
     }

@@ -5,7 +5,6 @@
 #include "framework/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 
-#include <QCoreApplication>
 #include <array>
 
 namespace VASK
@@ -72,7 +71,7 @@ void applyMode(ParaChange &change)
     if (change.value == QLatin1String("1")) {
         enableAddress(change, false);
         change.set(MENU_DhcpDone, "0");
-        change.home()->SetIp(QCoreApplication::translate("MainWindow", "WaitIP"));
+        change.home()->SetIp("WaitIP");
     } else {
         change.home()->SetIp(change.item(MENU_Net_IPAddress));
         enableAddress(change, true);

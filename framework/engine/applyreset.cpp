@@ -6,6 +6,7 @@
 #include "boardio.h"
 #include "framework/menuanalysis.h"
 #include "netstatus.h"
+#include "widget/language.h"
 
 namespace VASK
 {
@@ -107,6 +108,15 @@ bool claimReset()
     return !ParaProcess::m_ResetFlg.exchange(true);
 }
 
+/// The language is among what the copy brings back.
+void loadFactoryCopy(ParaChange &change)
+{
+    const bool english = englishChosen();
+    change.store.LoadXmlFile(factoryFile);
+    if (englishChosen() != english)
+        speakLanguage(change.engine, !english);
+}
+
 void applyReset(ParaChange &change)
 {
     if (!claimReset())
@@ -117,7 +127,7 @@ void applyReset(ParaChange &change)
     const QString workMode = change.item(MENU_WorkMode);
     if (change.index != MENU_SaveUserData)
         board::runCommand(removePictures);
-    change.store.LoadXmlFile(factoryFile);
+    loadFactoryCopy(change);
     restoreMosaicSource(change);
     if (sendingCard && change.index != MENU_ResetAll) {
         change.set(MENU_WorkMode, workMode);
@@ -152,7 +162,7 @@ void clearAllParameters(ParaChange &change)
     board::runCommand(removePictures);
     board::runCommand("sync");
     // The file is what counts from now on: what memory still holds must not be written over it.
-    change.store.LoadXmlFile(factoryFile);
+    loadFactoryCopy(change);
     set_pc_connect_priority(1);
     if (!change.fromUser()) {
         change.engine.raiseFactoryReset();

@@ -6,12 +6,12 @@
 #include "boardio.h"
 #include "framework/handover.h"
 #include "framework/menuanalysis.h"
+#include "widget/language.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/menudirectoty.h"
 
 #include <QApplication>
 #include <QThread>
-#include <QTranslator>
 
 namespace VASK
 {
@@ -22,22 +22,13 @@ constexpr unsigned long cabinetLoadSeconds = 3;
 struct Language {
     ENUM_MenuIndex item;
     ENUM_MenuIndex other;
-    const char *file;
+    bool english;
     const char *already;
 };
 constexpr Language languages[] = {
-    {MENU_LanguageEn, MENU_LanguageZh, "/usr/vask/etc/fpd/config/fpd_EN.qm", "now is en!"},
-    {MENU_LanguageZh, MENU_LanguageEn, "/usr/vask/etc/fpd/config/fpd_ZH.qm", "now is zh!"},
+    {MENU_LanguageEn, MENU_LanguageZh, true, "now is en!"},
+    {MENU_LanguageZh, MENU_LanguageEn, false, "now is zh!"},
 };
-
-/// The translation that was installed last is asked first; the engine keeps one.
-void installTranslation(ParaProcess &engine, const char *file)
-{
-    delete engine.findChild<QTranslator *>();
-    auto *translator = new QTranslator(&engine);
-    if (translator->load(board::filePath(file)) && QCoreApplication::installTranslator(translator))
-        qDebug() << "install qm succeed!";
-}
 
 void translateEverything()
 {
@@ -60,10 +51,11 @@ void applyLanguage(ParaChange &change)
     change.choice(language.other, false);
     change.refresh(language.item);
     change.refresh(language.other);
-    runOnGui(&change.engine, [engine = &change.engine, file = language.file] {
-        installTranslation(*engine, file);
-        translateEverything();
-        if (auto *page = poolObject<MenuDirectory>(ENUM_PAGE_Language))
+    speakLanguage(change.engine, language.english);
+    runOnGui(&change.engine, [] {
+        // From elsewhere the page above, that it was opened from once, must not come up.
+        auto *page = poolObject<MenuDirectory>(ENUM_PAGE_Language);
+        if (page && page->isVisible())
             page->keypadEScEvent(nullptr);
     });
 }
@@ -155,6 +147,14 @@ constexpr ApplyCase cases[] = {
     {EVENT_VideoServiceStarted, EVENT_SenderServiceStarted, applyServiceStarted},
 };
 } // namespace
+
+void speakLanguage(ParaProcess &engine, bool english)
+{
+    runOnGui(&engine, [&engine, english] {
+        installLanguage(&engine, english);
+        translateEverything();
+    });
+}
 
 ApplyFamily systemFamily()
 {

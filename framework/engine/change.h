@@ -68,6 +68,9 @@ struct ParaChange {
     void tail();
 };
 
+/// All that is shown speaks that language from now on; its choice stands in the store already.
+void speakLanguage(ParaProcess &engine, bool english);
+
 /// A case of the engine: the items that it serves and what it does.
 struct ApplyCase {
     ENUM_MenuIndex first;

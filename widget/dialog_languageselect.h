@@ -1,0 +1,33 @@
+// Asks for the language of the panel, in both languages at once, as it can stand in front of either. A
+// language must be chosen: ESC does not close it. Its owner runs it with exec(); GUI thread.
+#pragma once
+
+#include <QDialog>
+
+class QPushButton;
+namespace VASK
+{
+class KeypadEvent;
+}
+
+class dialog_languageSelect : public QDialog
+{
+    Q_OBJECT
+public:
+    /// What exec() gives; any other result is nobody's answer.
+    enum Result { CHINESE = 0, ENGLISH = 1 };
+
+    explicit dialog_languageSelect(QWidget *parent = nullptr);
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    QPushButton *createButton(const QString &name, const QString &text, const QRect &place);
+    void handleKey(const VASK::KeypadEvent &event);
+    /// OK: the language of the button that has the focus.
+    void finishDialog();
+
+    QPushButton *btn_CH = nullptr;
+    QPushButton *btn_EN = nullptr;
+};
