@@ -3,9 +3,48 @@
 
 #include "tests/unit/widget/looks.h"
 #include "widget/dialog_msgbox.h"
+#include "widget/language.h"
 #include "widget/lock.h"
+#include "widget/stringcomboxtable.h"
+
+#include <QXmlStreamReader>
 
 using namespace VASK;
+
+namespace
+{
+/// What only the other language may show: its texts, and the keys that stand for them.
+QSet<QString> foreignTexts(const Language &language)
+{
+    QSet<QString> own, foreign;
+    for (const Language &each : languages) {
+        QFile file(QCoreApplication::applicationDirPath() + "/../translation/" +
+                   QString(each.file).replace(".qm", ".ts"));
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        QXmlStreamReader xml(&file);
+        while (!xml.atEnd()) {
+            xml.readNext();
+            const bool text = xml.isStartElement() && xml.name() == QLatin1String("translation");
+            if (text && &each == &language)
+                own << xml.readElementText();
+            else if (text || (xml.isStartElement() && xml.name() == QLatin1String("source")))
+                foreign << xml.readElementText();
+        }
+    }
+    return foreign - own;
+}
+
+QStringList allTexts(const QWidget &window)
+{
+    QStringList texts;
+    for (const QLabel *label : window.findChildren<QLabel *>())
+        texts << label->text();
+    for (const QAbstractButton *button : window.findChildren<QAbstractButton *>())
+        texts << button->text();
+    return texts;
+}
+} // namespace
 
 class TestPageTexts : public QObject
 {
@@ -24,6 +63,7 @@ private slots:
         home.SetLayerName(LAYER_MAIN, "MOSAIC");
         home.SetLayerState(LAYER_MAIN, LAYER_NO_SIGNAL);
         home.SetLayerRes(LAYER_PIP1, "Off"); // what the device reports is no key
+        m_rig->engine->SetParaToXml("1", MENU_Net_NetMode, SET_XML_USER);
         const Language &language = switchLanguage();
         const bool english = language.item == MENU_LanguageEn;
         const auto shown = [&](const char *label) { return home.findChild<QLabel *>(label)->text(); };
@@ -31,6 +71,7 @@ private slots:
         QCOMPARE(shown("labLayerSrc1_Res"), QString(english ? "No Signal" : "无信号"));
         QCOMPARE(shown("labLayerSrc2_Res"), QString("Off"));
         QCOMPARE(shown("labWindowOffDisplay_2"), QString(english ? "Inactive" : "未开启"));
+        QCOMPARE(shown("labIp"), QString(english ? "Getting IP..." : "正在获取IP..."));
         home.show();
         keep(home, "home");
         home.hide();
@@ -40,6 +81,8 @@ private slots:
     void everyPage()
     {
         const Language &language = switchLanguage();
+        const QSet<QString> foreign = foreignTexts(language);
+        QVERIFY(foreign.size() > 200);
         QStringList faults;
         for (auto config = g_config.cbegin(); config != g_config.cend(); ++config) {
             MenuDirectory *page = m_rig->pageOf(config.key());
@@ -47,6 +90,11 @@ private slots:
             page->show();
             QCoreApplication::processEvents();
             keep(*page, QString("%1 %2").arg(int(config.key()), 2, 10, QChar('0')).arg(config->title));
+            // Never shown itself: its rows follow the page that comes up in its place.
+            const bool standIn = config.key() == CONFIG_AboutUs;
+            for (const QString &text : allTexts(*page))
+                if (foreign.contains(text) && !standIn)
+                    faults << config->title + ": of the other language: " + text;
             for (const QString &text : cutTexts(*page))
                 faults << config->title + ": " + text;
             for (const ElidingLabel *label : page->findChildren<ElidingLabel *>())
@@ -88,6 +136,75 @@ private slots:
             QCOMPARE(cutTexts(lock) + overlaps(lock), QStringList());
         }
         m_rig->home->hide();
+    }
+
+    void whatIsOpen_data() { eachLanguage(); }
+    void whatIsOpen()
+    {
+        m_rig->answering = false;
+        const ST_ItemInfo list = g_MenuXmlConfig[MENU_Color_ColorTemp];
+        Lock lock(m_rig->home);
+        lock.SetLockState(true);
+        dialog_msgBox box(nullptr, "IFResetAll", MSGBOX_YES_NO, 0, " 7");
+        box.show();
+        stringcomboxtable options(list.index, ENUM_OBJECT_END, list);
+        const Language &language = switchLanguage();
+        QCoreApplication::processEvents();
+
+        QCOMPARE(lock.findChild<QLabel *>("labTip")->text(), translated("Locked"));
+        QVERIFY(lock.findChild<QLabel *>("labTip")->styleSheet().contains(language.font));
+        QCOMPARE(box.findChild<QLabel *>("lab_Info")->text(),
+                 translated("IFResetAll").replace("\\r\\n", "\r\n") + " 7");
+        QCOMPARE(box.findChild<QPushButton *>("btnYes")->text(), translated("Yes"));
+        QVERIFY(box.styleSheet().contains(language.font, Qt::CaseInsensitive));
+        const auto *view = options.findChild<QTableView *>();
+        QVERIFY(view->styleSheet().contains(language.font));
+        for (int row = 0; row < list.params.size(); ++row)
+            QCOMPARE(view->model()->index(row, 0).data().toString(),
+                     translated(list.params.value(QString::number(row))));
+        m_rig->answering = true;
+    }
+
+    void textsThatAreMissingChangeNothing()
+    {
+        m_rig->engine->SetParaToXml(QString(), MENU_LanguageZh, SET_XML_USER);
+        QCOMPARE(m_rig->engine->findChildren<QTranslator *>().size(), 1);
+        const QString file = board::filePath(languageFile(true));
+        QVERIFY(QFile::rename(file, file + ".away"));
+        m_rig->engine->SetParaToXml(QString(), MENU_LanguageEn, SET_XML_USER);
+        QCOMPARE(translated("Locked"), QString("已锁定"));
+        QVERIFY(QFile::rename(file + ".away", file));
+        for (ENUM_MenuIndex item : {MENU_LanguageZh, MENU_LanguageEn, MENU_LanguageZh, MENU_LanguageEn})
+            m_rig->engine->SetParaToXml(QString(), item, SET_XML_USER);
+        QCOMPARE(translated("Locked"), QString("Locked"));
+        // However often it is switched, no texts pile up.
+        QCOMPARE(m_rig->engine->findChildren<QTranslator *>().size(), 1);
+    }
+
+    void theSwitchClosesItsPageOnlyIfItIsOpen()
+    {
+        MenuDirectory *page = m_rig->pageOf(CONFIG_Language);
+        ObjectPool::getInstance()->InsertData(ENUM_PAGE_Language, page);
+        QWidget above;
+        page->m_pparerentdirectory = &above;
+        page->hide();
+        m_rig->engine->SetParaToXml(QString(), MENU_LanguageZh, SET_XML_USER);
+        QVERIFY(!above.isVisible());
+        page->show();
+        m_rig->engine->SetParaToXml(QString(), MENU_LanguageEn, SET_XML_USER);
+        QVERIFY(above.isVisible());
+        QVERIFY(!page->isVisible());
+        page->m_pparerentdirectory = nullptr;
+    }
+
+    void aResetSpeaksTheLanguageThatItBringsBack()
+    {
+        QVERIFY(englishChosen());
+        QCOMPARE(translated("Locked"), QString("Locked"));
+        m_rig->engine->SetParaToXml(QString(), MENU_ResetAll, SET_XML_USER);
+        QVERIFY(!englishChosen());
+        QCOMPARE(translated("Locked"), QString("已锁定"));
+        QCOMPARE(m_rig->home->findChild<QLabel *>("labWindowOffDisplay_2")->text(), QString("未开启"));
     }
 
 private:
