@@ -16,6 +16,16 @@ bool asksFirst(ENUM_MenuIndex item)
 {
     return g_dialogConfig.contains(item);
 }
+
+/// The pages below a root, as the rows lead to them.
+QSet<ENUM_ConfigIndex> below(ENUM_ConfigIndex root)
+{
+    QSet<ENUM_ConfigIndex> pages{root};
+    for (const st_MenuItemInfo &row : qAsConst(g_config[root].rowsMap))
+        if (row.controlType == TYPE_SUBPAGE)
+            pages |= below(row.subPage);
+    return pages;
+}
 } // namespace
 
 Tour::Tour(Panel &panel, const QString &language, const QString &folder) : m_panel(panel), m_walk(panel)
@@ -40,6 +50,15 @@ bool Tour::walk(ENUM_ConfigIndex root)
     if (m_lost)
         m_walk.home();
     return m_faults.size() == before;
+}
+
+QStringList Tour::missed(ENUM_ConfigIndex root) const
+{
+    QStringList titles;
+    for (ENUM_ConfigIndex page : below(root) - m_seen)
+        if (!m_closed.contains(page) || m_panel.stored(m_closed.value(page), "Enable") != "false")
+            titles << g_config.value(page).title;
+    return titles;
 }
 
 void Tour::visitPage(const QString &name)

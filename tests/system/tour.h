@@ -20,10 +20,8 @@ public:
 
     /// What was not as it should be, one line each.
     const QStringList &faults() const { return m_faults; }
-    /// The pages that were seen.
-    const QSet<VASK::ENUM_ConfigIndex> &seen() const { return m_seen; }
-    /// The pages whose row did not answer, and the row's item.
-    const QMap<VASK::ENUM_ConfigIndex, VASK::ENUM_MenuIndex> &closed() const { return m_closed; }
+    /// The titles of pages below a root that were not seen, though no row that is off leads to them.
+    QStringList missed(VASK::ENUM_ConfigIndex root) const;
 
 private:
     void visitPage(const QString &name);
@@ -42,5 +40,6 @@ private:
     bool m_lost = false;
     QStringList m_faults;
     QSet<VASK::ENUM_ConfigIndex> m_seen;
+    /// The pages whose row did not answer, and the row's item.
     QMap<VASK::ENUM_ConfigIndex, VASK::ENUM_MenuIndex> m_closed;
 };
