@@ -27,7 +27,7 @@ QString littleEndian(int value, int bytes)
 {
     QByteArray wire;
     for (int i = 0; i < bytes; ++i)
-        wire.append(char(value >> 8 * i));
+        wire.append(i < int(sizeof value) ? char(value >> 8 * i) : '\0');
     return QString::fromLatin1(wire.toHex());
 }
 

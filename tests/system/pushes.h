@@ -8,7 +8,7 @@
 #include <QMap>
 #include <QVector>
 
-/// A number as it stands in a report, in hex.
+/// A number as it stands in a report, in hex; bytes beyond its own are 0.
 QString littleEndian(int value, int bytes);
 
 /// A row of such a table; what it does not name does not happen.
