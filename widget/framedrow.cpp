@@ -83,7 +83,9 @@ void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
 void FramedRow::drawIcons()
 {
     m_icon->setVisible(!m_item.icon.isEmpty());
-    m_icon->setPixmap(QPixmap(m_item.icon));
+    if (m_drawnIcon != m_item.icon)
+        m_icon->setPixmap(QPixmap(m_item.icon));
+    m_drawnIcon = m_item.icon;
     m_rightButton->setIcon(dimmableIcon(m_item.iconRight));
 }
 

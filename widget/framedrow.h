@@ -39,6 +39,7 @@ protected:
 
 private:
     QLabel *m_icon = nullptr;
+    QString m_drawnIcon; ///< path of the picture that it shows
     QLabel *m_name = nullptr;
     QLabel *m_value = nullptr;
     QPushButton *m_rightButton = nullptr;

@@ -1,5 +1,6 @@
 #include "widget/picturelabel.h"
 
+#include <QHash>
 #include <QPainter>
 #include <QStyle>
 
@@ -21,9 +22,14 @@ QPixmap dimmed(const QPixmap &picture)
 
 QIcon dimmableIcon(const QString &path)
 {
-    const QPixmap picture(path);
-    QIcon icon(picture);
-    icon.addPixmap(dimmed(picture), QIcon::Disabled);
+    // Rows ask with every value that they take. Kept for the life of the process, as the pictures are.
+    static auto *icons = new QHash<QString, QIcon>;
+    QIcon &icon = (*icons)[path];
+    if (icon.isNull() && !path.isEmpty()) {
+        const QPixmap picture(path);
+        icon = QIcon(picture);
+        icon.addPixmap(dimmed(picture), QIcon::Disabled);
+    }
     return icon;
 }
 
