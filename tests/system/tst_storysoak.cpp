@@ -102,5 +102,15 @@ void TestStorySoak::storeEqualsDevice()
     QCOMPARE(m_panel.damage(), QString());
 }
 
-QTEST_GUILESS_MAIN(TestStorySoak)
+int main(int argc, char **argv)
+{
+    // The test library's own patience of five minutes would end a long session.
+    constexpr int msPerSecond = 1000, forTheRest = 300;
+    qputenv("QTEST_FUNCTION_TIMEOUT",
+            QByteArray::number((setting("FPD_SOAK_SECONDS", 0) * 2 + forTheRest) * msPerSecond));
+    QCoreApplication application(argc, argv);
+    TestStorySoak test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_storysoak.moc"
