@@ -176,7 +176,8 @@ void MenuAnalysis::storeChanged(ENUM_MenuIndex index, const ST_ItemInfo &item)
     if (item == stored)
         return;
     stored = item;
-    m_activityElementList.insert(index);
+    if (!m_activityElementList.contains(index))
+        m_activityElementList.append(index);
 }
 
 void MenuAnalysis::addMenuItem(ENUM_MenuIndex index, const ST_ItemInfo &item)

@@ -12,7 +12,6 @@
 #include <QList>
 #include <QMap>
 #include <QMutex>
-#include <QSet>
 #include <QTimer>
 #include <functional>
 #include <thread>
@@ -124,7 +123,7 @@ private:
     QMap<ENUM_MenuIndex, ST_ItemInfo> cacheList;
     /// Changed since the last flush, each once: while keys put the flush off, reports change the same items
     /// again and again.
-    QSet<ENUM_MenuIndex> m_activityElementList;
+    QList<ENUM_MenuIndex> m_activityElementList;
     QList<ENUM_MenuIndex> m_deleteItemList;
 };
 } // namespace VASK
