@@ -152,12 +152,8 @@ bool MainWindow::SetLockState(ENUM_MainWindowLockState state, bool showDialog)
 
 void MainWindow::storeLockState(ENUM_MainWindowLockState state)
 {
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    ST_ItemInfo item;
-    if (!store || !store->GetMenuItem(MENU_ScreenLock, item))
-        return;
-    item.value = state == PANEL_LOCK ? "1" : "0";
-    store->updataMenuItem(MENU_ScreenLock, item);
+    if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
+        store->UpdataItemCurValue(MENU_ScreenLock, state == PANEL_LOCK ? "1" : "0");
 }
 
 Lock *MainWindow::lockDialog()

@@ -32,15 +32,13 @@ QString nameInField(const QByteArray &index, int number)
 void storeFile(MenuAnalysis &store, int number, const QString &name, bool present)
 {
     const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + number);
-    ST_ItemInfo info;
-    if (!store.GetMenuItem(item, info))
-        return;
-    if (present) {
-        info.value = name;
-        info.perBase = QString::number(number);
-    }
-    info.enableSelect = present;
-    store.updataMenuItem(item, info);
+    store.changeItem(item, [&](ST_ItemInfo &info) {
+        if (present) {
+            info.value = name;
+            info.perBase = QString::number(number);
+        }
+        info.enableSelect = present;
+    });
 }
 } // namespace
 
