@@ -57,7 +57,9 @@ QLabel *FramedRow::createValueLabel()
 
 void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
 {
-    m_icon = createRowIcon(this, iconSize, iconSize);
+    // The gap belongs to the icon, so that it comes and goes with it.
+    m_icon = createRowIcon(this, iconSize + iconSpace, iconSize);
+    m_icon->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_name = new ElidingLabel(this);
     m_rightButton = createRightPicture(this);
 
@@ -66,8 +68,6 @@ void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
     layout->setContentsMargins(0, 0, rightMargin, 0);
     layout->addSpacing(leftSpace);
     layout->addWidget(m_icon);
-    if (!m_item.icon.isEmpty())
-        layout->addSpacing(iconSpace);
     layout->addWidget(m_name);
     // The gap takes what name and value leave; a shortened name still ends in front of the value.
     layout->addSpacerItem(
@@ -83,15 +83,21 @@ void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
 void FramedRow::drawIcons()
 {
     m_icon->setVisible(!m_item.icon.isEmpty());
-    if (m_drawnIcon != m_item.icon)
-        m_icon->setPixmap(QPixmap(m_item.icon));
-    m_drawnIcon = m_item.icon;
+    const QString icon = iconPath();
+    if (m_drawnIcon != icon)
+        m_icon->setPixmap(QPixmap(icon));
+    m_drawnIcon = icon;
     m_rightButton->setIcon(dimmableIcon(m_item.iconRight));
 }
 
 void FramedRow::drawName()
 {
     m_name->setText(translated(m_item.tag));
+}
+
+QString FramedRow::iconPath() const
+{
+    return m_item.icon;
 }
 
 QString FramedRow::valueText() const

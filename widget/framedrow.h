@@ -34,6 +34,8 @@ protected:
     QLabel *valueLabel() const { return m_value; }
     QPushButton *rightButton() const { return m_rightButton; }
 
+    /// The picture in front of the name; that of the item by default. None leaves the item's room free.
+    virtual QString iconPath() const;
     /// How the value of the item reads; its translation by default.
     virtual QString valueText() const;
 

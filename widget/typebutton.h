@@ -15,6 +15,7 @@ public:
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
 
 protected:
+    QString iconPath() const override;
     QString valueText() const override;
 };
 } // namespace VASK
