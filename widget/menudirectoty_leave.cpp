@@ -79,10 +79,12 @@ void MenuDirectory::enableCopiedPreset()
         return;
     if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
         store->UpdataItemEnable(ENUM_MenuIndex(MENU_Preset1 + preset), true);
-    // The copy page is built only where presets can be copied.
-    const auto copyRow = ENUM_ObjectIndex(ENUM_ROW_PresetCopy1 + preset);
-    if (auto *row = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(copyRow)))
-        row->UpdateALLUI(ENUM_MenuIndex(MENU_Preset1 + preset));
+    // Both pages have shown it as off.
+    for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1}) {
+        const auto object = ENUM_ObjectIndex(first + preset);
+        if (auto *row = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(object)))
+            row->UpdateALLUI(ENUM_MenuIndex(MENU_Preset1 + preset));
+    }
 }
 
 void MenuDirectory::hideAllPages()

@@ -295,6 +295,8 @@ void ParaProcess::pushPresets()
         const ENUM_MenuIndex index = raised(MENU_Preset1, preset);
         ST_ItemInfo item;
         store->GetMenuItem(index, item);
+        // The panel may have gone off while a copy had the preset as its source.
+        item.enable = true;
         item.tag = QString("Preset%1").arg(preset + 1);
         item.value = "Blank";
         m_presetNamed[size_t(preset)] = record.u8(PRESET_Stored) == deviceOn;

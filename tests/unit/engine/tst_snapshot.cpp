@@ -209,7 +209,9 @@ void TestSnapshot::presets()
     preset(9, QByteArray());
     preset(4, QByteArray(40, 'x'));
     put(0x2F10, 2, 1);
+    m_rig->store->UpdataItemEnable(MENU_Preset1, false); // its copy was never ended
     start();
+    QVERIFY(m_rig->enabled(MENU_Preset1));
     const QString used = ":/resource/image/sceneSetting/sceneused.png";
     const QString unused = ":/resource/image/sceneSetting/sceneunused.png";
     const struct {
