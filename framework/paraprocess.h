@@ -79,6 +79,11 @@ public:
     /// Start of the right eye's picture in pixels as kept for a 3D format: 0 side by side, 1 top and bottom.
     int rightEyeStart(int format) const;
     void setRightEyeStart(int format, int pixels);
+    /// Does a preset, from 0, stand under a name that the device keeps? GUI thread.
+    bool presetNamed(int preset) const { return m_presetNamed[size_t(preset)]; }
+    void setPresetNamed(int preset, bool named) { m_presetNamed[size_t(preset)] = named; }
+    /// Loads a preset, from 0, without its dialog; tells if it is empty. GUI thread.
+    void QuickLoadScene(int preset);
 
     /// The device reports its display mode: 3 normal, 4 freeze, 5 black, 6 test pattern. Any thread.
     void UpdataDispMode(int code);
@@ -115,6 +120,7 @@ public:
     static std::atomic<bool> m_ResetFlg;
     /// The preset that is being copied, 0 to 9; -1 for none.
     static int m_CopySceneNum;
+    static constexpr int presetCount = 10;
 
 signals:
     void signal_sync_state(qint8 state, QString text);
@@ -156,8 +162,6 @@ public:
     void raiseSourceStable() { emit signal_Source_Stable(); }
 
 private:
-    static constexpr int presetCount = 10;
-
     void InitParaFrom20M();
     void pushPresets();
     QString readRootVersion();

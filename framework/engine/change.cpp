@@ -190,6 +190,7 @@ const QVector<ApplyFamily> &applyFamilies()
         stereoFamily(),   networkFamily(),  colourFamily(),       resetFamily(),       systemFamily(),
         workModeFamily(), inputFamily(),    outputReportFamily(), portFamily(),        layersFamily(),
         sourceFamily(),   geometryFamily(), layoutFamily(),       cropFamily(),        splicingFamily(),
+        presetFamily(),
     };
     return families;
 }

@@ -109,4 +109,5 @@ ApplyFamily geometryFamily();
 ApplyFamily layoutFamily();
 ApplyFamily cropFamily();
 ApplyFamily splicingFamily();
+ApplyFamily presetFamily();
 } // namespace VASK

@@ -20,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
+#include <functional>
 
 namespace VASK
 {
@@ -57,9 +58,15 @@ public:
 class RecordingRow : public VaskUiObject
 {
 public:
-    RecordingRow(ENUM_ObjectIndex object, Notes &reported, Notes &reloaded)
-        : VaskUiObject(object), m_reported(reported), m_reloaded(reloaded)
+    RecordingRow(ENUM_ObjectIndex object, Notes &reported, Notes &reloaded, Notes &redrawn)
+        : VaskUiObject(object), m_reported(reported), m_reloaded(reloaded), m_redrawn(redrawn)
     {
+    }
+    void UpdateALLUI(ENUM_MenuIndex index) override
+    {
+        ENUM_ObjectIndex object = ENUM_OBJECT_END;
+        GetObectIndex(object);
+        m_redrawn.add(index, QString::number(object));
     }
     void SetParaEntry(ENUM_MenuIndex index, QString value, ENUM_MODE_SET_XML mode) override
     {
@@ -69,6 +76,7 @@ public:
 private:
     Notes &m_reported;
     Notes &m_reloaded;
+    Notes &m_redrawn;
 };
 
 class EngineRig : public QObject
@@ -91,7 +99,7 @@ public:
         home->Init();
         for (const ST_MenuConfig &page : qAsConst(g_config))
             for (const st_MenuItemInfo &row : page.rowsMap)
-                enter(row.itemObject, new RecordingRow(row.itemObject, reported, reloaded));
+                enter(row.itemObject, new RecordingRow(row.itemObject, reported, reloaded, redrawn));
         connect(&m_closer, &QTimer::timeout, this, [this] { answerMessages(); });
         m_closer.start(0);
     }
@@ -118,6 +126,7 @@ public:
         device->sent.take();
         reported.take();
         reloaded.take();
+        redrawn.take();
         messages.clear();
     }
     /// Lets queued work run.
@@ -177,8 +186,11 @@ public:
     RecordingProtocol *device = nullptr;
     Notes reported; ///< values that rows got as the device's
     Notes reloaded; ///< values that rows got to show; empty to reload
+    Notes redrawn;  ///< objects of the rows that were told to load all of their item again
     QStringList messages;
     int answer = 1; ///< of every message
+    /// Plays the user of the dialogs that are no messages.
+    std::function<void(QDialog &)> operate;
 
 private:
     void enter(ENUM_ObjectIndex index, VaskObject *object)
@@ -196,6 +208,8 @@ private:
         if (!box)
             return;
         const auto *text = box->findChild<QLabel *>("lab_Info");
+        if (!text && operate)
+            return operate(*box);
         messages << (text ? text->text() : QString());
         box->done(answer);
     }
