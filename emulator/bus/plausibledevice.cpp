@@ -147,15 +147,12 @@ QVector<FlashPiece> ownRegisters()
 }
 } // namespace
 
-QVector<FlashPiece> plausibleDevice()
+QVector<FlashPiece> deliveredDevice()
 {
-    const QString news = QString::fromUtf8("新闻直播");
     return QVector<FlashPiece>{
                {0x2000, deviceBlock()},
                {0x2400, stereoBlock()},
-               {presets::inUseAddress, QByteArray(1, 0)},
-               {presets::recordAddress(0), presets::record(wallRecord(), "Concert")},
-               {presets::recordAddress(1), presets::record(wallRecord(true, 60), news)},
+               {presets::inUseAddress, QByteArray(1, presets::noneInUse)},
                {presets::liveAddress(), wallRecord()},
                {0xF600, outputBlock()},
                {0x10600, Block(53).u8(0, 255).u8(18, 255).u8(22, 255).u8(26, 255)},
@@ -165,4 +162,14 @@ QVector<FlashPiece> plausibleDevice()
                {0xD14100, service::nameRecord("LED Wall 4x4")},
            } +
            ownRegisters();
+}
+
+QVector<FlashPiece> plausibleDevice()
+{
+    const QString news = QString::fromUtf8("新闻直播");
+    return deliveredDevice() + QVector<FlashPiece>{
+                                   {presets::inUseAddress, QByteArray(1, 0)},
+                                   {presets::recordAddress(0), presets::record(wallRecord(), "Concert")},
+                                   {presets::recordAddress(1), presets::record(wallRecord(true, 60), news)},
+                               };
 }

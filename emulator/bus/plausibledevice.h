@@ -9,4 +9,7 @@ struct FlashPiece {
     QByteArray bytes;
 };
 
+/// What every device is delivered with: no preset is stored.
+QVector<FlashPiece> deliveredDevice();
+/// A delivered device on which two presets have been saved, the first in use.
 QVector<FlashPiece> plausibleDevice();

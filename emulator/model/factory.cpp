@@ -38,7 +38,7 @@ constexpr Piece sparedRegisters[] = {
     {0x020001E0, 2, always}, // and which of them are idle
 };
 
-/// What is empty at delivery, apart from what the plausible device brings.
+/// What is empty at delivery, apart from what a delivered device brings.
 constexpr Piece cleared[] = {
     {0x2000, 0x1000, always},
     {0x3000, 11 * 0x1200, always},
@@ -65,7 +65,7 @@ bool reset(Registers &registers, int kind)
     for (const Piece &piece : cleared)
         flash.write(piece.address, QByteArray(piece.length, 0));
     registers.powerOff();
-    for (const FlashPiece &piece : plausibleDevice() + kept)
+    for (const FlashPiece &piece : deliveredDevice() + kept)
         flash.write(piece.address, piece.bytes);
     for (const FlashPiece &piece : keptRegisters)
         registers.write(piece.address, piece.bytes);

@@ -21,7 +21,6 @@ constexpr int nameOffset = 512;
 constexpr int nameLength = 19;
 constexpr int contentOffset = 0x400;
 constexpr char storedMark = char(168);
-constexpr char noneInUse = char(255);
 
 QTextCodec *nameCodec()
 {

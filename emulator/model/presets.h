@@ -8,6 +8,7 @@ namespace presets
 {
 constexpr int count = 10;
 constexpr quint32 inUseAddress = 0x2F10;
+constexpr char noneInUse = char(255);
 constexpr int recordLength = 0x1200;
 
 struct Preset {

@@ -135,6 +135,7 @@ void TestDevicePresets::resetsSpareWhatTheyShould()
     QCOMPARE(rig.shown("low latency"), QString("low latency: off"));
     QCOMPARE(rig.shown("address"), QString(sparesAddress ? "address: 10.0.1.2" : "address: 192.168.0.10"));
     QCOMPARE(rig.shown("preset 5"), QString(sparesUserData ? "preset 5: saved" : "preset 5: blank"));
+    QCOMPARE(rig.shown("preset 1"), QString(sparesUserData ? "preset 1: used Concert" : "preset 1: blank"));
     QCOMPARE(rig.shown("name"), QString(sparesUserData ? "name: Stage" : "name: LED Wall 4x4"));
     // Cables stay where they are, whatever is reset; the device tells what it is now.
     QVERIFY(!inputs::signalOf(registers, inputs::hdmi1).stable);
