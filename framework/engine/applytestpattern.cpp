@@ -1,10 +1,10 @@
 // The test pattern pages, which take each other's place, and the custom pictures.
 
 #include "framework/engine/change.h"
+#include "framework/engine/pages.h"
 #include "framework/handover.h"
 
 #include "framework/keypadevent.h"
-#include "widget/directoryengineer.h"
 #include "widget/menudirectoty.h"
 
 #include <QApplication>
@@ -13,25 +13,6 @@ namespace VASK
 {
 namespace
 {
-/// A page under its number, built on demand.
-MenuDirectory *pageOrBuild(ENUM_ObjectIndex object, ENUM_ConfigIndex config, VaskObject &registrar)
-{
-    ObjectPool *pool = ObjectPool::getInstance();
-    if (!pool->IsExist(object)) {
-        DirectoryEngineer engineer(ENUM_DIRECTORY_ENGINEER);
-        registrar.CreateObjectToPool(object, engineer.buildMenu(config));
-    }
-    return dynamic_cast<MenuDirectory *>(pool->GetObject(object));
-}
-
-void showInstead(MenuDirectory *page, MenuDirectory *parent)
-{
-    page->m_pparerentdirectory = parent;
-    if (parent)
-        parent->hide();
-    page->show();
-}
-
 void applyType(ParaChange &change)
 {
     static const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
@@ -46,17 +27,8 @@ void applyType(ParaChange &change)
     if (type < int(std::size(patterns)) && change.fromUser())
         change.send(patterns[type], change.item(patterns[type]));
     change.set(PARA_TestPatternFamily, QString::number(type));
-    runOnGui(&change.engine, [engine = &change.engine, type] {
-        if (auto *shown =
-                dynamic_cast<MenuDirectory *>(ObjectPool::getInstance()->GetObject(ENUM_PAGE_TestPattern)))
-            shown->hide();
-        MenuDirectory *page = pageOrBuild(ENUM_ObjectIndex(ENUM_PAGE_TestPureColor + type),
-                                          ENUM_ConfigIndex(CONFIG_TestPureColor + type), *engine);
-        if (!page)
-            return;
-        engine->CreateObjectToPool(ENUM_PAGE_TestPattern, page);
-        showInstead(page, poolObject<MenuDirectory>(ENUM_PAGE_DisplayControl));
-    });
+    swapPage(change.engine, {ENUM_PAGE_TestPattern, ENUM_ObjectIndex(ENUM_PAGE_TestPureColor + type),
+                             ENUM_ConfigIndex(CONFIG_TestPureColor + type), ENUM_PAGE_DisplayControl});
     change.tail();
 }
 
@@ -69,9 +41,9 @@ void applyPattern(ParaChange &change)
 void openSnapshotPage(ParaChange &change)
 {
     runOnGui(&change.engine, [engine = &change.engine] {
-        MenuDirectory *page = pageOrBuild(ENUM_PAGE_SnapshotSlots, CONFIG_SnapshotSlots, *engine);
+        MenuDirectory *page = pageOrBuild(*engine, ENUM_PAGE_SnapshotSlots, CONFIG_SnapshotSlots);
         if (page)
-            showInstead(page, poolObject<MenuDirectory>(ENUM_PAGE_CustomPictures));
+            openBelow(page, poolObject<MenuDirectory>(ENUM_PAGE_CustomPictures));
     });
 }
 
