@@ -1,12 +1,9 @@
 // Cases of the output, 3D, network and colour in one table, as the user and as the device bring them: what is
 // handed to the protocol, what the row is told, what is asked, what follows and what can be chosen then.
 
-#include "enginerig.h"
+#include "casetable.h"
 
 using namespace VASK;
-
-using Values = QMap<int, QString>;
-Q_DECLARE_METATYPE(Values)
 
 class TestApplyCases : public QObject
 {
@@ -33,63 +30,6 @@ private:
 
 namespace
 {
-/// One value on its way; what is not said is expected to be empty, or not looked at.
-struct Case {
-    QString what;
-    Values before; ///< items and process data
-    ENUM_MODE_SET_XML mode = SET_XML_USER;
-    ENUM_MenuIndex index = MENU_END;
-    QString value;
-    QStringList sent;     ///< to the device
-    QStringList reported; ///< what rows are told as the device's
-    QStringList messages;
-    Values after;
-    QString enabled; ///< "1019+" can be chosen then, "1019-" cannot
-    QString label;   ///< of the home screen
-    QString text;    ///< in it
-
-    explicit Case(const char *name, const Values &start = {}) : what(name), before(start) {}
-    Case &byUser(ENUM_MenuIndex item, const QString &newValue)
-    {
-        index = item;
-        value = newValue;
-        return *this;
-    }
-    Case &byDevice(ENUM_MenuIndex item, const QString &newValue)
-    {
-        mode = SET_XML_DEVICE;
-        return byUser(item, newValue);
-    }
-    Case &sends(const QStringList &lines)
-    {
-        sent = lines;
-        return *this;
-    }
-    Case &tells(const QStringList &lines)
-    {
-        reported = lines;
-        return *this;
-    }
-    Case &asks(const QStringList &keys)
-    {
-        messages = keys;
-        return *this;
-    }
-    Case &leaves(const Values &values, const QString &enables = QString())
-    {
-        after = values;
-        enabled = enables;
-        return *this;
-    }
-    Case &shows(const char *name, const QString &shown)
-    {
-        label = name;
-        text = shown;
-        return *this;
-    }
-};
-using Cases = QVector<Case>;
-
 Cases syncCases()
 {
     const char *resolution = "labScreenRes";
@@ -315,33 +255,13 @@ void TestApplyCases::init()
 
 void TestApplyCases::valueIsApplied_data()
 {
-    QTest::addColumn<int>("row");
-    for (int row = 0; row < allCases().size(); ++row)
-        QTest::addRow("%s, %s", qPrintable(allCases().at(row).what),
-                      allCases().at(row).mode == SET_XML_USER ? "user" : "device")
-            << row;
+    addCaseRows(allCases());
 }
 
 void TestApplyCases::valueIsApplied()
 {
     QFETCH(int, row);
-    const Case &line = allCases().at(row);
-    for (auto item = line.before.cbegin(); item != line.before.cend(); ++item)
-        m_rig->engine->SetParaToXml(item.value(), ENUM_MenuIndex(item.key()), SET_XML_STORE);
-    m_rig->engine->SetParaToXml(line.value, line.index, line.mode);
-    m_rig->settle();
-    QCOMPARE(m_rig->device->sent.take(), line.sent);
-    QCOMPARE(m_rig->reported.take(), line.reported);
-    QCOMPARE(m_rig->messages, line.messages);
-    for (auto item = line.after.cbegin(); item != line.after.cend(); ++item)
-        QVERIFY2(
-            m_rig->value(ENUM_MenuIndex(item.key())) == item.value(),
-            qPrintable(QString("%1 is %2").arg(item.key()).arg(m_rig->value(ENUM_MenuIndex(item.key())))));
-    for (const QString &entry : line.enabled.split(' ', Qt::SkipEmptyParts))
-        QVERIFY2(m_rig->enabled(ENUM_MenuIndex(entry.chopped(1).toInt())) == entry.endsWith('+'),
-                 qPrintable(entry));
-    if (!line.label.isEmpty())
-        QCOMPARE(m_rig->shown(qPrintable(line.label)), line.text);
+    runCase(*m_rig, allCases().at(row));
 }
 
 void TestApplyCases::reportedRateListFollows()
