@@ -108,12 +108,6 @@ void showCabinetFiles(ParaChange &change)
     });
 }
 
-void openAdvancedConfiguration(ParaChange &change)
-{
-    if (!change.engine.GetPortLinkStatus())
-        change.dialog(MSG_ScreenConfigFailWarning);
-}
-
 void applyOsdPicture(ParaChange &change)
 {
     change.enableRow(MENU_OSDChoice, change.index - EVENT_OSDPictureFirst,
@@ -140,7 +134,6 @@ constexpr ApplyCase cases[] = {
     {MENU_BootLogo, MENU_BootLogo, applyBootLogo},
     {MENU_MakerSign, MENU_MakerSign, applyMakerSign},
     {MENU_CabinetFile1, MENU_CabinetFile8, loadCabinetFile},
-    {MENU_AdvancedCfg, MENU_AdvancedCfg, openAdvancedConfiguration},
     {EVENT_OSDPictureFirst, ENUM_MenuIndex(EVENT_OSDPictureFirst + osdPictureCount - 1), applyOsdPicture},
     {EVENT_CabinetListLoaded, EVENT_CabinetListLoaded, showCabinetFiles},
     {EVENT_SoftCalibrate, EVENT_SoftCalibrate, applySoftCalibration},

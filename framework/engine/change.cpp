@@ -123,6 +123,11 @@ int ParaChange::dialog(ENUM_MenuIndex item)
     return engine.runMessage(item);
 }
 
+void ParaChange::eachWidget(ENUM_MenuIndex item, const std::function<void(VaskUiObject &)> &work) const
+{
+    forWidgets(item, [&work](VaskUiObject *widget) { work(*widget); });
+}
+
 void ParaChange::enableRow(ENUM_MenuIndex list, int row, bool on)
 {
     store.changeItem(list, [row, on](ST_ItemInfo &information) {
@@ -186,11 +191,11 @@ void ParaChange::tail()
 const QVector<ApplyFamily> &applyFamilies()
 {
     static const QVector<ApplyFamily> families{
-        plainFamily(),    commandFamily(),  displayFamily(),      testPatternFamily(), outputFamily(),
-        stereoFamily(),   networkFamily(),  colourFamily(),       resetFamily(),       systemFamily(),
-        workModeFamily(), inputFamily(),    outputReportFamily(), portFamily(),        layersFamily(),
-        sourceFamily(),   geometryFamily(), layoutFamily(),       cropFamily(),        splicingFamily(),
-        presetFamily(),
+        plainFamily(),    commandFamily(),       displayFamily(),      testPatternFamily(), outputFamily(),
+        stereoFamily(),   networkFamily(),       colourFamily(),       resetFamily(),       systemFamily(),
+        workModeFamily(), inputFamily(),         outputReportFamily(), portFamily(),        layersFamily(),
+        sourceFamily(),   geometryFamily(),      layoutFamily(),       cropFamily(),        splicingFamily(),
+        presetFamily(),   configurationFamily(), latencyFamily(),      advancedFamily(),
     };
     return families;
 }

@@ -7,6 +7,7 @@
 #include "framework/paraprocess.h"
 
 #include <QVector>
+#include <functional>
 
 namespace VASK
 {
@@ -52,6 +53,8 @@ struct ParaChange {
     /// Runs the message of an item and gives its result; 0 if there is none. From the report thread the home
     /// screen shows it instead.
     int dialog(ENUM_MenuIndex item);
+    /// Does something with every widget of an item that is built.
+    void eachWidget(ENUM_MenuIndex item, const std::function<void(VaskUiObject &)> &work) const;
     /// Makes options of a list available or not, and reloads its widget.
     void enableRow(ENUM_MenuIndex list, int row, bool on);
     /// The same for every option with that text, without reloading the widget.
@@ -110,4 +113,7 @@ ApplyFamily layoutFamily();
 ApplyFamily cropFamily();
 ApplyFamily splicingFamily();
 ApplyFamily presetFamily();
+ApplyFamily configurationFamily();
+ApplyFamily latencyFamily();
+ApplyFamily advancedFamily();
 } // namespace VASK

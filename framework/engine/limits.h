@@ -22,6 +22,10 @@ const LimitCase *findLimitCase(ENUM_MenuIndex index);
 /// A list has other options available: its row, if its page is built, shows them.
 void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list);
 
+/// True when so many cabinets, in the whole columns or rows of the quick screen configuration, are more than
+/// the first port carries.
+bool firstPortOverloads(const ParaProcess &engine, int cabinets);
+
 struct LimitFamily {
     const LimitCase *cases;
     int count;

@@ -75,11 +75,11 @@ QString limitQuickColumns(ParaProcess &engine, const QString &value, ENUM_MenuIn
     return QString::number(columns);
 }
 
-/// The cabinets on the first port, rounded up to a multiple of the columns or rows as the cable runs.
-int wholeLines(const Screen &screen, int cabinets, int rows, int columns)
+/// Cabinets rounded up to whole columns or rows, as the cable runs.
+int wholeLines(const Screen &screen, int cabinets)
 {
     const bool byColumn = screen.number(MENU_Quick_FlowWay) % 2 == 0;
-    const int line = qMax(1, byColumn ? columns : rows);
+    const int line = qMax(1, int(screen.number(byColumn ? MENU_Quick_CabinetCol : MENU_Quick_CabinetRow)));
     if (byColumn)
         qDebug() << "(LineMode+1)%2 =" << line;
     else
@@ -97,9 +97,7 @@ QString limitPortOne(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
     });
     const int total = uint16_t(rows * columns);
     cabinets = cabinets > total ? total : qMax(cabinets, (total + quickPorts - 1) / quickPorts);
-    const int loaded = wholeLines(screen, cabinets, rows, columns);
-    qDebug() << "Port1Cabinet =" << loaded;
-    if (screen.portOverloads(screen.widthOf(loaded), screen.cabinetHeight))
+    if (firstPortOverloads(engine, cabinets))
         engine.runMessage(MSG_OverLoad);
     return QString::number(cabinets);
 }
@@ -182,6 +180,14 @@ constexpr LimitCase cases[] = {
     {MENU_OutputFrameRate, MENU_OutputFrameRate, limitOutputRate},
 };
 } // namespace
+
+bool firstPortOverloads(const ParaProcess &engine, int cabinets)
+{
+    const Screen screen(engine);
+    const int loaded = wholeLines(screen, cabinets);
+    qDebug() << "Port1Cabinet =" << loaded;
+    return screen.portOverloads(screen.widthOf(loaded), screen.cabinetHeight);
+}
 
 LimitFamily screenLimits()
 {

@@ -1,0 +1,98 @@
+// Low latency, and whether the screen allows it.
+
+#include "framework/engine/screenform.h"
+
+#include "framework/engine/advancedports.h"
+#include "framework/engine/layers.h"
+#include "widget/mainwindowstates.h"
+
+namespace VASK
+{
+bool quickFormSuitsLowLatency(const ParaChange &change)
+{
+    if (change.number(MENU_Quick_FlowWay) % 2 != 0)
+        return true;
+    const int columns = qMax(1, change.number(MENU_Quick_CabinetCol));
+    const int cabinets = change.number(MENU_Quick_PortOneCab);
+    return change.number(MENU_Quick_CabinetRow) == (columns + cabinets - 1) / columns;
+}
+
+bool advancedFormSuitsLowLatency(const ParaChange &change)
+{
+    const AdvancedPorts ports(change.engine);
+    for (int port = 0; port < AdvancedPorts::count; ++port)
+        if (ports.startLinesDiffer(port))
+            return false;
+    return true;
+}
+
+void keepLowLatencyIf(ParaChange &change, bool suits)
+{
+    if (suits || !change.isOn(MENU_LowLatency))
+        return;
+    change.set(MENU_LowLatency, "0");
+    change.refresh(MENU_LowLatency);
+    change.send(MENU_LowLatency, "0");
+    change.dialog(MSG_FlowWayClosesLowLatency);
+}
+
+namespace
+{
+void stayOff(ParaChange &change)
+{
+    change.set(MENU_LowLatency, "0");
+    change.refresh(MENU_LowLatency);
+}
+
+/// A sending card has either synchronisation or low latency. True when the user gives the former up.
+bool syncGivesWay(ParaChange &change)
+{
+    if (change.dialog(MSG_OpenLowLatencyNeedsSyncOff) != 1)
+        return false;
+    change.show(MENU_Sync_Status, "0");
+    change.send(MENU_Sync_Status, "0");
+    const int rate = DeviceView(change.engine).outputRate();
+    change.redoResolution(rate);
+    change.syncState(SYN_OFF);
+    change.set(PARA_OutputRate, QString::number(rate));
+    return true;
+}
+
+/// What software on a computer has configured is its own matter.
+bool screenSuits(const ParaChange &change)
+{
+    if (change.item(MENU_SoftwareConfigured) != QLatin1String("0"))
+        return true;
+    return change.item(MENU_ScreenConfigKind) == QLatin1String("0") ? advancedFormSuitsLowLatency(change)
+                                                                    : quickFormSuitsLowLatency(change);
+}
+
+void applyLowLatency(ParaChange &change)
+{
+    if (!change.fromUser() || change.value != QLatin1String("1")) {
+        change.tail();
+        return;
+    }
+    if (isSendingCard(change) && change.isOn(MENU_Sync_Status) && !syncGivesWay(change)) {
+        stayOff(change);
+        return;
+    }
+    if (!screenSuits(change)) {
+        stayOff(change);
+        change.dialog(MSG_CantOpenLowLatencyTip);
+        return;
+    }
+    change.dialog(MSG_OpenLowLatencyTip);
+    change.tail();
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_LowLatency, MENU_LowLatency, applyLowLatency},
+};
+} // namespace
+
+ApplyFamily latencyFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK
