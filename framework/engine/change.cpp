@@ -195,7 +195,8 @@ const QVector<ApplyFamily> &applyFamilies()
         stereoFamily(),   networkFamily(),       colourFamily(),       resetFamily(),       systemFamily(),
         workModeFamily(), inputFamily(),         outputReportFamily(), portFamily(),        layersFamily(),
         sourceFamily(),   geometryFamily(),      layoutFamily(),       cropFamily(),        splicingFamily(),
-        presetFamily(),   configurationFamily(), latencyFamily(),      advancedFamily(),
+        presetFamily(),   configurationFamily(), latencyFamily(),      advancedFamily(),    mosaicFamily(),
+        backupFamily(),
     };
     return families;
 }

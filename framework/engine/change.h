@@ -113,6 +113,8 @@ ApplyFamily layoutFamily();
 ApplyFamily cropFamily();
 ApplyFamily splicingFamily();
 ApplyFamily presetFamily();
+ApplyFamily mosaicFamily();
+ApplyFamily backupFamily();
 ApplyFamily configurationFamily();
 ApplyFamily latencyFamily();
 ApplyFamily advancedFamily();
