@@ -196,7 +196,7 @@ const QVector<ApplyFamily> &applyFamilies()
         workModeFamily(), inputFamily(),         outputReportFamily(), portFamily(),        layersFamily(),
         sourceFamily(),   geometryFamily(),      layoutFamily(),       cropFamily(),        splicingFamily(),
         presetFamily(),   configurationFamily(), latencyFamily(),      advancedFamily(),    mosaicFamily(),
-        backupFamily(),
+        backupFamily(),   edidFamily(),
     };
     return families;
 }

@@ -118,4 +118,5 @@ ApplyFamily backupFamily();
 ApplyFamily configurationFamily();
 ApplyFamily latencyFamily();
 ApplyFamily advancedFamily();
+ApplyFamily edidFamily();
 } // namespace VASK

@@ -1,0 +1,86 @@
+// The mode that an input asks of its source, its EDID: one of the standard modes or a custom one, each with a
+// page of its own in the same place.
+
+#include "framework/engine/layers.h"
+#include "framework/engine/pages.h"
+
+namespace VASK
+{
+namespace
+{
+constexpr int inputPages = ENUM_PAGE_HDMI2_EDID - ENUM_PAGE_HDMI1_EDID;
+constexpr int inputConfigs = CONFIG_HDMI2_EDID - CONFIG_HDMI1_EDID;
+
+constexpr ENUM_ObjectIndex parentPages[] = {ENUM_PAGE_HDMI1, ENUM_PAGE_HDMI2, ENUM_PAGE_DVI, ENUM_PAGE_DVI2};
+
+/// Input of an EDID item, counted from 0.
+int inputOf(ENUM_MenuIndex item)
+{
+    return (item - MENU_HDMI1_EDIDChoice) / STRIDE_InputPicture;
+}
+
+/// The item of that input that corresponds to one of HDMI 1.
+ENUM_MenuIndex itemOf(int input, ENUM_MenuIndex ofHdmi1)
+{
+    return ENUM_MenuIndex(ofHdmi1 + input * STRIDE_InputPicture);
+}
+
+void applyChoice(ParaChange &change)
+{
+    const bool custom = change.value == QLatin1String("1");
+    if (!custom && change.value != QLatin1String("0"))
+        return;
+    const int input = inputOf(change.index);
+    swapPage(change.engine,
+             {ENUM_ObjectIndex(ENUM_PAGE_HDMI1_EDID + input * inputPages),
+              ENUM_ObjectIndex((custom ? ENUM_PAGE_HDMI1_EDIDCustom : ENUM_PAGE_HDMI1_EDIDStandard) +
+                               input * inputPages),
+              ENUM_ConfigIndex((custom ? CONFIG_HDMI1_EDIDCustom : CONFIG_HDMI1_EDIDStandard) +
+                               input * inputConfigs),
+              parentPages[input]});
+    // The row stands on all pages; the one that opens may have been left with the other choice.
+    change.refresh(change.index);
+}
+
+QString standardMode(const ParaChange &change, int input)
+{
+    const QStringList size = change.chosenOption(itemOf(input, MENU_HDMI1_EDIDResolution)).split('*');
+    return size.value(0) + 'x' + size.value(1) + 'x' +
+           change.chosenOption(itemOf(input, MENU_HDMI1_EDIDFrameRate));
+}
+
+QString customMode(const ParaChange &change, int input)
+{
+    return change.item(itemOf(input, MENU_HDMI1_EDIDWidth)) + 'x' +
+           change.item(itemOf(input, MENU_HDMI1_EDIDHeight)) + 'x' +
+           change.chosenOption(itemOf(input, MENU_HDMI1_EDIDCustomRate));
+}
+
+void applyEdid(ParaChange &change)
+{
+    if (!change.fromUser())
+        return;
+    const int input = inputOf(change.index);
+    change.value = change.isOn(itemOf(input, MENU_HDMI1_EDIDChoice)) ? customMode(change, input)
+                                                                     : standardMode(change, input);
+    change.dialog(MSG_Waiting);
+    change.tail();
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_HDMI1_EDIDChoice, MENU_HDMI1_EDIDChoice, applyChoice},
+    {MENU_HDMI2_EDIDChoice, MENU_HDMI2_EDIDChoice, applyChoice},
+    {MENU_DVI_EDIDChoice, MENU_DVI_EDIDChoice, applyChoice},
+    {MENU_DVI2_EDIDChoice, MENU_DVI2_EDIDChoice, applyChoice},
+    {MENU_HDMI1_EDIDApply, MENU_HDMI1_EDIDApply, applyEdid},
+    {MENU_HDMI2_EDIDApply, MENU_HDMI2_EDIDApply, applyEdid},
+    {MENU_DVI_EDIDApply, MENU_DVI_EDIDApply, applyEdid},
+    {MENU_DVI2_EDIDApply, MENU_DVI2_EDIDApply, applyEdid},
+};
+} // namespace
+
+ApplyFamily edidFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK
