@@ -127,6 +127,8 @@ bool FrameDrive::play(const QString &word)
     if (isAnswer || word == "message")
         return m_panel.waitUntil([this] { return m_walk.asked(); }) && m_panel.settle() &&
                (!isAnswer || m_walk.answer(word == "yes"));
+    if (word == "next" || word == "previous")
+        return m_panel.turn(word == "next" ? Right : Left) && m_panel.settle();
     if (word == "still")
         return (sent(0), true);
     if (word == keys::Ok || word == keys::Esc)

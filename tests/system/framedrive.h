@@ -13,8 +13,9 @@ struct KeyFrames {
     /// screen.
     QList<VASK::ENUM_MenuIndex> path;
     /// Words: R5 or L5 is one step of the knob with that speed, r5 or l5 are so many slow steps; ok, esc, yes
-    /// and no; message is one that comes up later; closed is the end of a message that closes by itself,
-    /// closed2 of two; "still" waits until nothing more is sent; any other is a key of the console, with a
+    /// and no; next and previous are a step of the knob in a dialog; message is one that comes up later;
+    /// closed is the end of a message that closes by itself, closed2 of two; "still" waits until nothing more
+    /// is sent; any other is a key of the console, with a
     /// "!" if it is held.
     QString keys;
     /// Address, device type and bytes in hex, to all ports and boards; of a table its size and its hash.
