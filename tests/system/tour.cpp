@@ -17,6 +17,12 @@ bool asksFirst(ENUM_MenuIndex item)
     return g_dialogConfig.contains(item);
 }
 
+/// A new device has the first two presets; the third stands for all that are empty.
+bool isToursPreset(ENUM_ConfigIndex page, ENUM_MenuIndex item)
+{
+    return page == CONFIG_PresetSettings && (item == MENU_Preset1 || item == MENU_Preset3);
+}
+
 /// The pages below a root, as the rows lead to them.
 QSet<ENUM_ConfigIndex> below(ENUM_ConfigIndex root)
 {
@@ -24,6 +30,8 @@ QSet<ENUM_ConfigIndex> below(ENUM_ConfigIndex root)
     for (const st_MenuItemInfo &row : qAsConst(g_config[root].rowsMap))
         if (row.controlType == TYPE_SUBPAGE)
             pages |= below(row.subPage);
+    if (root == CONFIG_PresetSettings)
+        pages << CONFIG_PresetCopyTo;
     return pages;
 }
 } // namespace
@@ -80,8 +88,9 @@ void Tour::visitPage(const QString &name)
 void Tour::visitRow(const st_MenuItemInfo &row, const QString &page)
 {
     const QString name = page + "-" + g_MenuXmlConfig.value(row.menuIndex).tag;
-    const bool subPage = row.controlType == TYPE_SUBPAGE;
-    if (!g_MenuXmlConfig.value(row.menuIndex).focusable || (m_folder.isEmpty() && !subPage))
+    const bool preset = isToursPreset(m_walk.page(), row.menuIndex);
+    const bool leadsOn = row.controlType == TYPE_SUBPAGE || preset;
+    if (!g_MenuXmlConfig.value(row.menuIndex).focusable || (m_folder.isEmpty() && !leadsOn))
         return;
     if (!m_walk.moveTo(row.menuIndex)) {
         if (!isFileRow(row.menuIndex)) // there are as many as there are files
@@ -100,7 +109,9 @@ void Tour::visitRow(const st_MenuItemInfo &row, const QString &page)
     case TYPE_TWOSTRINGCOMBOX:
         return lookAtEdit(row.menuIndex, name);
     default:
-        if (asksFirst(row.menuIndex))
+        if (preset)
+            lookAtPreset(row.menuIndex, name);
+        else if (asksFirst(row.menuIndex))
             lookAtQuestion(name);
     }
 }
@@ -146,6 +157,22 @@ void Tour::lookAtQuestion(const QString &name)
     picture(name + "-question");
     if (!m_walk.press(keys::Esc) || m_panel.logLines("no Accept").isEmpty())
         fault(name, "ESC does not leave the question");
+}
+
+void Tour::lookAtPreset(ENUM_MenuIndex item, const QString &name)
+{
+    const bool empty = m_panel.stored(item) == "Blank";
+    if (!m_walk.press(keys::Ok))
+        return fault(name, "OK is not heard");
+    picture(name + "-actions");
+    // Empty: nothing can be copied, and ESC leaves. Else the copy stands two steps behind the load.
+    if (!(empty ? m_walk.press(keys::Esc)
+                : m_panel.turn(Right, 2) && m_panel.settle() && m_walk.press(keys::Ok)))
+        return fault(name, "the dialog is not left");
+    if (empty)
+        return;
+    m_walk.opened(CONFIG_PresetCopyTo);
+    visitPage(name + "-copy");
 }
 
 void Tour::fault(const QString &where, const QString &what)

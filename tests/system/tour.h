@@ -29,6 +29,8 @@ private:
     void openPage(const VASK::st_MenuItemInfo &row, const QString &name);
     void lookAtEdit(VASK::ENUM_MenuIndex item, const QString &name);
     void lookAtQuestion(const QString &name);
+    /// The dialog of a preset and, from one that is stored, the targets of a copy.
+    void lookAtPreset(VASK::ENUM_MenuIndex item, const QString &name);
     void picture(const QString &name);
     /// Notes it and gives up this menu, as it is not known where the panel is now.
     void fault(const QString &where, const QString &what);
