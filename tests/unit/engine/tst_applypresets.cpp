@@ -2,6 +2,7 @@
 // behind.
 
 #include "enginerig.h"
+#include "framework/globaltimer.h"
 #include "framework/keypadevent.h"
 #include "widget/dialog_scene.h"
 
@@ -16,10 +17,11 @@ ENUM_MenuIndex itemOf(int preset)
     return ENUM_MenuIndex(MENU_Preset1 + preset - 1);
 }
 
-/// A press of OK or ESC, or steps of the knob.
+/// A key that acts when it is let go, or a step of the knob.
 void key(QWidget &dialog, unsigned char code)
 {
-    KeypadEvent event(code == KEY_OK || code == KEY_ESC ? KEY_RELEASED : KEY_PRESSED, code, 1, false);
+    const bool isKnob = code == KEY_KNOB_LEFT || code == KEY_KNOB_RIGHT;
+    KeypadEvent event(isKnob ? KEY_PRESSED : KEY_RELEASED, code, 1, false);
     QCoreApplication::sendEvent(&dialog, &event);
 }
 constexpr unsigned char toLeft = KEY_KNOB_LEFT, toRight = KEY_KNOB_RIGHT, ok = KEY_OK, esc = KEY_ESC;
@@ -47,6 +49,8 @@ private slots:
     void quickLoad_data();
     void quickLoad();
     void noMessageNoStep();
+    void presetKeyLeavesTheTargets();
+    void timeTakesThePanelHomeFromTheTargets();
 
 private:
     /// Presets 1 used, 2 and 4 saved, 2 under a name that the device keeps; the others are blank.
@@ -311,6 +315,28 @@ void TestApplyPresets::noMessageNoStep()
     QCOMPARE(m_rig->messages, QStringList{"Waiting"});
     QCOMPARE(m_rig->device->sent.take(), QStringList{"1037=3"});
     QCOMPARE(states(), QString("USBSBBBBBB 0"));
+}
+
+void TestApplyPresets::presetKeyLeavesTheTargets()
+{
+    openCopyPage(2);
+    key(*page(ENUM_PAGE_PresetCopyTo), KEY_PRESET);
+    QVERIFY(page(ENUM_PAGE_PresetSettings)->isVisible());
+    QVERIFY(!page(ENUM_PAGE_PresetCopyTo)->isVisible());
+    QVERIFY(m_rig->enabled(itemOf(2)));
+}
+
+/// The last one, as the time runs on. It holds still on the page of the presets only.
+void TestApplyPresets::timeTakesThePanelHomeFromTheTargets()
+{
+    m_rig->home->hide();
+    m_rig->set(MENU_ReturntoHome, "1");
+    GlobalTimer::getInstance()->Initialize(m_rig->home);
+    openCopyPage(2);
+    QTRY_VERIFY_WITH_TIMEOUT(m_rig->home->isVisible(), 5000);
+    QVERIFY(!page(ENUM_PAGE_PresetCopyTo)->isVisible());
+    QVERIFY(!page(ENUM_PAGE_PresetSettings)->isVisible());
+    QVERIFY(m_rig->enabled(itemOf(2)));
 }
 
 QTEST_MAIN(TestApplyPresets)
