@@ -37,12 +37,20 @@ int numberAt(const Write &write, int offset)
     return offset < write.bytes.size() ? quint8(write.bytes[offset]) : -1;
 }
 
+/// A record with another content is not what is on the wall any more, until it is loaded.
+void endUse(FlashImage &flash, int preset)
+{
+    if (read(flash, preset).inUse)
+        flash.write(inUseAddress, QByteArray(1, noneInUse));
+}
+
 Reports save(Registers &registers, const RegisterRow &, int, const Write &write)
 {
     const int preset = numberAt(write, 0);
     if (!isPreset(preset))
         return {};
     FlashImage &flash = registers.flash();
+    endUse(flash, preset);
     QByteArray bytes = flash.read(liveAddress(), recordLength);
     bytes[storedOffset] = storedMark;
     bytes.replace(nameOffset, nameLength, flash.read(recordAddress(preset) + nameOffset, nameLength));
@@ -68,10 +76,8 @@ Reports clear(Registers &registers, const RegisterRow &, int, const Write &write
     const int preset = numberAt(write, 1);
     if (!isPreset(preset))
         return {};
-    FlashImage &flash = registers.flash();
-    if (read(flash, preset).inUse)
-        flash.write(inUseAddress, QByteArray(1, noneInUse));
-    flash.write(recordAddress(preset), QByteArray(recordLength, 0));
+    endUse(registers.flash(), preset);
+    registers.flash().write(recordAddress(preset), QByteArray(recordLength, 0));
     return {};
 }
 
@@ -79,8 +85,10 @@ Reports copy(Registers &registers, const RegisterRow &, int, const Write &write)
 {
     const int from = numberAt(write, 1), to = numberAt(write, 3);
     FlashImage &flash = registers.flash();
-    if (isPreset(from) && isPreset(to) && read(flash, from).stored)
-        flash.write(recordAddress(to), flash.read(recordAddress(from), recordLength));
+    if (!isPreset(from) || !isPreset(to) || !read(flash, from).stored)
+        return {};
+    endUse(flash, to);
+    flash.write(recordAddress(to), flash.read(recordAddress(from), recordLength));
     return {};
 }
 

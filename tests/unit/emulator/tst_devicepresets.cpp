@@ -56,6 +56,9 @@ void TestDevicePresets::presetsAreCopiedAndDeleted()
     QCOMPARE(rig.flashHex(0x2F10, 1), QByteArray("00"));
     rig.write(0x13510104, "0000"); // the one in use
     QCOMPARE(rig.flashHex(0x2F10, 1), QByteArray("ff"));
+    rig.write(0x13510100, "09");
+    rig.write(0x13510102, "09"); // saved again it waits to be loaded
+    QCOMPARE(rig.flashHex(0x2F10, 1), QByteArray("ff"));
     QCOMPARE(rig.shown("preset 10"), "preset 10: saved " + news);
 }
 
