@@ -40,6 +40,11 @@ void MenuWalk::assume(const QList<ENUM_ConfigIndex> &chain)
         m_pages.push(config);
 }
 
+void MenuWalk::replaced(ENUM_ConfigIndex page)
+{
+    m_pages.top() = page;
+}
+
 void MenuWalk::opened(ENUM_ConfigIndex page)
 {
     m_pages.push(page);

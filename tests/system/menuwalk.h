@@ -45,6 +45,8 @@ public:
     void assume(const QList<VASK::ENUM_ConfigIndex> &chain);
     /// OK opened a page below the present one.
     void opened(VASK::ENUM_ConfigIndex page);
+    /// A choice on the present page brought another one into its place.
+    void replaced(VASK::ENUM_ConfigIndex page);
 
     /// Waits for the page's title on the LCD.
     bool showsTitle();

@@ -23,13 +23,29 @@ bool isToursPreset(ENUM_ConfigIndex page, ENUM_MenuIndex item)
     return page == CONFIG_PresetSettings && (item == MENU_Preset1 || item == MENU_Preset3);
 }
 
+/// The page that the other option of a row brings into the place of the row's own; CONFIG_END for none.
+ENUM_ConfigIndex otherPage(ENUM_ConfigIndex page, ENUM_MenuIndex item)
+{
+    constexpr int pagesPerInput = CONFIG_HDMI2_EDID - CONFIG_HDMI1_EDID;
+    constexpr int customPage = CONFIG_HDMI1_EDIDCustom - CONFIG_HDMI1_EDID;
+    const int pages = page - CONFIG_HDMI1_EDID;
+    const int input = pages / pagesPerInput;
+    const bool isEdid = pages >= 0 && page <= CONFIG_DVI_EDID && pages % pagesPerInput == 0;
+    return isEdid && item == MENU_HDMI1_EDIDChoice + input * STRIDE_InputPicture
+               ? ENUM_ConfigIndex(page + customPage)
+               : CONFIG_END;
+}
+
 /// The pages below a root, as the rows lead to them.
 QSet<ENUM_ConfigIndex> below(ENUM_ConfigIndex root)
 {
     QSet<ENUM_ConfigIndex> pages{root};
-    for (const st_MenuItemInfo &row : qAsConst(g_config[root].rowsMap))
+    for (const st_MenuItemInfo &row : qAsConst(g_config[root].rowsMap)) {
         if (row.controlType == TYPE_SUBPAGE)
             pages |= below(row.subPage);
+        if (otherPage(root, row.menuIndex) != CONFIG_END)
+            pages << otherPage(root, row.menuIndex);
+    }
     if (root == CONFIG_PresetSettings)
         pages << CONFIG_PresetCopyTo;
     return pages;
@@ -72,17 +88,40 @@ QStringList Tour::missed(ENUM_ConfigIndex root) const
 void Tour::visitPage(const QString &name)
 {
     const ENUM_ConfigIndex page = m_walk.page();
-    m_seen << page;
+    visitRows(name);
+    for (const st_MenuItemInfo &row : g_config.value(page).rowsMap)
+        if (!m_lost && otherPage(page, row.menuIndex) != CONFIG_END)
+            visitOther(page, row.menuIndex, name);
+    if (m_lost)
+        return;
+    if (!m_walk.back() || (m_walk.page() != CONFIG_END && !m_walk.showsTitle()))
+        fault(name, "ESC does not lead to the page above");
+}
+
+void Tour::visitRows(const QString &name)
+{
+    m_seen << m_walk.page();
     if (!m_walk.showsTitle())
         fault(name, "its title is not there");
     picture(name);
     const ST_MenuConfig table = m_walk.table();
     for (int position = 0; position < table.rows && !m_lost; ++position)
         visitRow(table.rowsMap.value(position), name);
-    if (m_lost)
-        return;
-    if (!m_walk.back() || (m_walk.page() != CONFIG_END && !m_walk.showsTitle()))
-        fault(name, "ESC does not lead to the page above");
+}
+
+void Tour::visitOther(ENUM_ConfigIndex page, ENUM_MenuIndex choice, const QString &name)
+{
+    const auto choose = [&](ENUM_ConfigIndex next) {
+        if (!m_walk.moveTo(choice) || !m_walk.press(keys::Ok) || !m_walk.turn(Right, 1) ||
+            !m_walk.press(keys::Ok) || m_panel.logLines("switch insert after").isEmpty())
+            fault(name, "the other page does not open");
+        m_walk.replaced(next);
+    };
+    choose(otherPage(page, choice));
+    if (!m_lost)
+        visitRows(name + "-other");
+    if (!m_lost)
+        choose(page);
 }
 
 void Tour::visitRow(const st_MenuItemInfo &row, const QString &page)

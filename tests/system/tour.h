@@ -25,6 +25,9 @@ public:
 
 private:
     void visitPage(const QString &name);
+    void visitRows(const QString &name);
+    /// The page that a choice on a page brings into its place, and back.
+    void visitOther(VASK::ENUM_ConfigIndex page, VASK::ENUM_MenuIndex choice, const QString &name);
     void visitRow(const VASK::st_MenuItemInfo &row, const QString &name);
     void openPage(const VASK::st_MenuItemInfo &row, const QString &name);
     void lookAtEdit(VASK::ENUM_MenuIndex item, const QString &name);

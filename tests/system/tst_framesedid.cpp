@@ -16,7 +16,6 @@ private slots:
 private:
     /// Chooses the other kind of EDID; its page is open then.
     bool chooseOther(ENUM_ConfigIndex other);
-    void pageIs(ENUM_ConfigIndex page);
     bool shows(const QString &text);
     /// OK on the apply row of the open page, and all that is sent.
     QStringList applied();
@@ -58,13 +57,8 @@ bool TestFramesEdid::chooseOther(ENUM_ConfigIndex other)
     if (!m_walk.moveTo(MENU_HDMI1_EDIDChoice) || !m_walk.press(keys::Ok) || !m_walk.turn(Right, 1) ||
         !m_walk.press(keys::Ok))
         return false;
-    pageIs(other);
+    m_walk.replaced(other);
     return m_walk.showsTitle();
-}
-
-void TestFramesEdid::pageIs(ENUM_ConfigIndex page)
-{
-    m_walk.assume({CONFIG_MainMenu, CONFIG_InputSettings, CONFIG_HDMI1, page});
 }
 
 bool TestFramesEdid::shows(const QString &text)
@@ -97,7 +91,7 @@ void TestFramesEdid::pagesTakeTurns()
     QVERIFY(m_walk.back() && m_walk.showsTitle());
     QCOMPARE(m_walk.page(), CONFIG_HDMI1);
     QVERIFY(m_walk.enter(MENU_HDMI1_EDID) && shows("1910"));
-    pageIs(CONFIG_HDMI1_EDIDCustom);
+    m_walk.replaced(CONFIG_HDMI1_EDIDCustom);
     QVERIFY(shows(m_walk.text("Custom")));
 
     QVERIFY(chooseOther(CONFIG_HDMI1_EDIDStandard) && shows(m_walk.text("EDIDStandard")));
