@@ -72,6 +72,7 @@ Cases rowCases()
             .leaves({{MENU_AdvancedPort3_Rows, "7"}, {MENU_AdvancedPort1_Rows, "1"}, {MENU_LowLatency, "1"}}),
         Case("rows", shifted)
             .byDevice(MENU_Advanced_CabinetRow, "7")
+            .refreshes({})
             .leaves({{MENU_AdvancedPort3_Rows, "7"}, {MENU_LowLatency, "1"}}),
         Case("rows, the starts differ", shifted)
             .byUser(MENU_Advanced_CabinetRow, "7")
@@ -85,6 +86,7 @@ Cases rowCases()
             .leaves({{MENU_AdvancedPort3_Cols, "8"}, {MENU_LowLatency, "1"}}),
         Case("columns", shifted)
             .byDevice(MENU_Advanced_CabinetCol, "8")
+            .refreshes({})
             .leaves({{MENU_AdvancedPort3_Cols, "8"}, {MENU_LowLatency, "1"}}),
         Case("x", third)
             .byUser(MENU_Advanced_HorOffset, "640")
@@ -101,11 +103,15 @@ Cases rowCases()
             .leaves({{MENU_AdvancedPort3_Y, "480"}, {MENU_LowLatency, "0"}}),
         Case("y", third)
             .byDevice(MENU_Advanced_VerOffset, "480")
+            .refreshes({})
             .leaves({{MENU_AdvancedPort3_Y, "480"}, {MENU_LowLatency, "1"}}),
         Case("flow way", shifted)
             .byUser(MENU_Advanced_FlowWay, "4")
             .leaves({{MENU_AdvancedPort3_FlowWay, "4"}, {MENU_LowLatency, "1"}}),
-        Case("flow way").byDevice(MENU_Advanced_FlowWay, "4").leaves({{MENU_AdvancedPort1_FlowWay, "4"}}),
+        Case("flow way")
+            .byDevice(MENU_Advanced_FlowWay, "4")
+            .refreshes({})
+            .leaves({{MENU_AdvancedPort1_FlowWay, "4"}}),
         Case("no port", {{MENU_Advanced_EthernetPort, "11"}, {MENU_MosaicLayout0_Width, "64"}})
             .byUser(MENU_Advanced_CabinetRow, "9")
             .leaves({{MENU_MosaicLayout0_Width, "64"}, {MENU_AdvancedPort10_Rows, "1"}}),
@@ -136,6 +142,7 @@ Cases applyCases()
             .leaves(byHand, "1056+"),
         Case("port", {{MENU_AdvancedPort3_Rows, "7"}})
             .byDevice(MENU_Advanced_EthernetPort, "3")
+            .refreshes({})
             .leaves({{MENU_Advanced_CabinetRow, "1"}}),
     };
 }

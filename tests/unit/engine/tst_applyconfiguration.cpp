@@ -114,6 +114,7 @@ Cases formCases()
         Case("rows, not the full height", software)
             .byDevice(MENU_Quick_CabinetRow, "4")
             .tells({"2000=4"})
+            .refreshes({})
             .leaves(onByHand),
         Case("columns", software)
             .byUser(MENU_Quick_CabinetCol, "5")
