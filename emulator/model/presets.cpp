@@ -37,7 +37,7 @@ int numberAt(const Write &write, int offset)
     return offset < write.bytes.size() ? quint8(write.bytes[offset]) : -1;
 }
 
-/// A record with another content is not what is on the wall any more, until it is loaded.
+/// A record that is written anew counts as stored, not as loaded.
 void endUse(FlashImage &flash, int preset)
 {
     if (read(flash, preset).inUse)
