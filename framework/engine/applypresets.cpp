@@ -1,11 +1,11 @@
 // The ten presets: OK on a row of the preset page opens their dialog, OK on the page of copy targets copies.
 
 #include "framework/engine/change.h"
+#include "framework/engine/pages.h"
 
 #include "framework/keypadevent.h"
 #include "framework/menuanalysis.h"
 #include "widget/dialog_scene.h"
-#include "widget/directoryengineer.h"
 #include "widget/language.h"
 #include "widget/menudirectoty.h"
 
@@ -143,23 +143,11 @@ bool clearPreset(ParaChange &change, const Preset &preset)
     return true;
 }
 
-/// Built when the first preset is copied, and kept.
-MenuDirectory *copyPage()
-{
-    if (auto *page = poolObject<MenuDirectory>(ENUM_PAGE_PresetCopyTo))
-        return page;
-    DirectoryEngineer builder(ENUM_DIRECTORY_ENGINEER);
-    MenuDirectory *page = builder.buildMenu(CONFIG_PresetCopyTo);
-    if (page)
-        page->CreateObjectToPool(ENUM_PAGE_PresetCopyTo, page);
-    return page;
-}
-
 /// The source cannot be chosen as its own target.
-bool openCopyPage(ParaChange &, const Preset &preset)
+bool openCopyPage(ParaChange &change, const Preset &preset)
 {
     auto *presets = poolObject<MenuDirectory>(ENUM_PAGE_PresetSettings);
-    MenuDirectory *targets = copyPage();
+    MenuDirectory *targets = pageOrBuild(change.engine, ENUM_PAGE_PresetCopyTo, CONFIG_PresetCopyTo);
     if (!presets || !targets)
         return true;
     ParaProcess::m_CopySceneNum = preset.number();
