@@ -105,7 +105,7 @@ void resetForm(ParaChange &change)
 {
     /// Rows, columns, start and flow way, as they stand on the page.
     static constexpr const char *defaults[STRIDE_AdvancedPort] = {"1", "1", "0", "0", "0"};
-    if (!change.dialog(MENU_Advanced_Reset))
+    if (!change.confirmed(MENU_Advanced_Reset))
         return;
     for (int port = 0; port < AdvancedPorts::count; ++port)
         for (int field = 0; field < STRIDE_AdvancedPort; ++field)

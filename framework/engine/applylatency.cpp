@@ -47,7 +47,7 @@ void stayOff(ParaChange &change)
 /// A sending card has either synchronisation or low latency. True when the user gives the former up.
 bool syncGivesWay(ParaChange &change)
 {
-    if (change.dialog(MSG_OpenLowLatencyNeedsSyncOff) != 1)
+    if (!change.confirmed(MSG_OpenLowLatencyNeedsSyncOff))
         return false;
     change.show(MENU_Sync_Status, "0");
     change.send(MENU_Sync_Status, "0");

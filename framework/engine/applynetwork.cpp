@@ -138,7 +138,7 @@ void applySettings(ParaChange &change)
 
 void resetAddress(ParaChange &change)
 {
-    if (!change.dialog(MENU_Net_Reset))
+    if (!change.confirmed(MENU_Net_Reset))
         return;
     struct Default {
         ENUM_MenuIndex item;

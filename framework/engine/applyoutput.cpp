@@ -95,7 +95,7 @@ void syncOn(ParaChange &change)
     const DeviceView device(change.engine);
     if (device.workMode() == WORK_SENDER && change.isOn(MENU_LowLatency) &&
         g_dialogConfig.contains(MSG_SyncNeedsLowLatencyOff)) {
-        if (change.dialog(MSG_SyncNeedsLowLatencyOff) != 1) {
+        if (!change.confirmed(MSG_SyncNeedsLowLatencyOff)) {
             change.set(MENU_Sync_Status, "0");
             change.refresh(MENU_Sync_Status);
             return;

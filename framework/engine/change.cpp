@@ -3,6 +3,7 @@
 #include "framework/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 
+#include <QDialog>
 #include <algorithm>
 
 namespace VASK
@@ -121,6 +122,11 @@ void ParaChange::send(ENUM_MenuIndex item, const QString &newValue)
 int ParaChange::dialog(ENUM_MenuIndex item)
 {
     return engine.runMessage(item);
+}
+
+bool ParaChange::confirmed(ENUM_MenuIndex question)
+{
+    return dialog(question) == QDialog::Accepted;
 }
 
 void ParaChange::eachWidget(ENUM_MenuIndex item, const std::function<void(VaskUiObject &)> &work) const

@@ -53,6 +53,9 @@ struct ParaChange {
     /// Runs the message of an item and gives its result; 0 if there is none. From the report thread the home
     /// screen shows it instead.
     int dialog(ENUM_MenuIndex item);
+    /// The same for a question. Only the user's own yes counts: one that is closed from outside has another
+    /// result.
+    bool confirmed(ENUM_MenuIndex question);
     /// Does something with every widget of an item that is built.
     void eachWidget(ENUM_MenuIndex item, const std::function<void(VaskUiObject &)> &work) const;
     /// Makes options of a list available or not, and reloads its widget.
