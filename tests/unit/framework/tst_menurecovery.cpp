@@ -112,12 +112,15 @@ int dieWhileSaving(MenuAnalysis *store, int value, const std::function<void()> &
     }
     setpgid(child, child);
     close(pipes[1]);
+    int begun = value;
     if (microseconds >= 0) {
+        // A loaded machine may take long until the first save begins.
+        if (store && read(pipes[0], &begun, sizeof begun) != sizeof begun)
+            begun = value;
         usleep(useconds_t(microseconds));
         kill(-child, SIGKILL);
     }
     waitpid(child, nullptr, 0);
-    int begun = value;
     while (read(pipes[0], &begun, sizeof begun) == sizeof begun)
         ;
     close(pipes[0]);
