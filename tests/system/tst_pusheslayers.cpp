@@ -233,13 +233,16 @@ void TestPushesLayers::mosaic()
     const QVector<PushRow> rows{
         PushRow("one above the other", record("0201", 1000, 500, dvi2, dvi1))
             .tells("3071=0 3072=1000 3073=500 3074=3/2")
-            .stores("3071=0 3072=1000 3073=500 3074=3/2"),
+            .stores("3071=0 3072=1000 3073=500 3074=3 3074/PerBase=2 3074/PixValue=1000x1000 "
+                    "3203=3 3204=1000 3205=500"),
         PushRow("side by side", record("0102", 800, 600, opt1, opt2))
             .tells("3071=1 3072=800 3073=600 3074=4/5")
-            .stores("3071=1 3072=800 3073=600 3074=4/5"),
+            .stores("3071=1 3072=800 3073=600 3074=4 3074/PerBase=5 3074/PixValue=1600x600 "
+                    "3201=800 3202=600 3206=4"),
         PushRow("no such layout", record("0303", 640, 480, 17, 18))
             .tells("3071=0 3072=640 3073=480 3074=0/1")
-            .stores("3071=0 3072=640 3073=480 3074=0/1"),
+            .stores("3071=0 3072=640 3073=480 3074=0 3074/PerBase=1 3074/PixValue=640x960 "
+                    "3203=0 3204=640 3205=480"),
     };
     QCOMPARE(m_pushes.run(rows), QString());
 }
