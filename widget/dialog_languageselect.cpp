@@ -1,6 +1,5 @@
 #include "widget/dialog_languageselect.h"
 
-#include "framework/globaltimer.h"
 #include "framework/keypadevent.h"
 
 #include <QDebug>
@@ -24,7 +23,7 @@ const QString buttonStyle = QStringLiteral(
     "QPushButton:focus{background-color:#3939ad; border:none; outline: none;}");
 } // namespace
 
-dialog_languageSelect::dialog_languageSelect(QWidget *parent) : QDialog(parent)
+dialog_languageSelect::dialog_languageSelect(QWidget *parent) : KeyDialog(parent)
 {
     setObjectName(QStringLiteral("dialog_languageSelect"));
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
@@ -48,15 +47,6 @@ QPushButton *dialog_languageSelect::createButton(const QString &name, const QStr
     button->setGeometry(place);
     button->setStyleSheet(buttonStyle);
     return button;
-}
-
-bool dialog_languageSelect::event(QEvent *event)
-{
-    if (!event || event->type() != KeypadEvent::eventType)
-        return QDialog::event(event);
-    GlobalTimer::getInstance()->ResetReturnToMain();
-    handleKey(static_cast<const KeypadEvent &>(*event));
-    return true;
 }
 
 void dialog_languageSelect::handleKey(const KeypadEvent &event)

@@ -2,15 +2,11 @@
 // language must be chosen: ESC does not close it. Its owner runs it with exec(); GUI thread.
 #pragma once
 
-#include <QDialog>
+#include "widget/keydialog.h"
 
 class QPushButton;
-namespace VASK
-{
-class KeypadEvent;
-}
 
-class dialog_languageSelect : public QDialog
+class dialog_languageSelect : public KeyDialog
 {
     Q_OBJECT
 public:
@@ -20,11 +16,10 @@ public:
     explicit dialog_languageSelect(QWidget *parent = nullptr);
 
 protected:
-    bool event(QEvent *event) override;
+    void handleKey(const VASK::KeypadEvent &event) override;
 
 private:
     QPushButton *createButton(const QString &name, const QString &text, const QRect &place);
-    void handleKey(const VASK::KeypadEvent &event);
     /// OK: the language of the button that has the focus.
     void finishDialog();
 

@@ -1,6 +1,5 @@
 #include "widget/dialog_msgbox.h"
 
-#include "framework/globaltimer.h"
 #include "framework/keypadevent.h"
 #include "widget/language.h"
 #include "widget/ui_dialog_msgbox.h"
@@ -57,7 +56,7 @@ void showButton(QPushButton *button, const char *key)
 
 dialog_msgBox::dialog_msgBox(QWidget *parent, const QString &message, ENUM_MsgBoxBtnType type,
                              unsigned int timeMs, const QString &extra)
-    : QDialog(parent), ui(std::make_unique<Ui_dialog_msgBox>()), strMessage(message), strExtra(extra),
+    : KeyDialog(parent), ui(std::make_unique<Ui_dialog_msgBox>()), strMessage(message), strExtra(extra),
       m_type(type), m_timeMs(timeMs)
 {
     ui->setupUi(this);
@@ -118,7 +117,7 @@ void dialog_msgBox::changeEvent(QEvent *event)
         setDialogStyleSheet();
         showTexts();
     }
-    QDialog::changeEvent(event);
+    KeyDialog::changeEvent(event);
 }
 
 int dialog_msgBox::exec()
@@ -126,7 +125,7 @@ int dialog_msgBox::exec()
     if (m_type == MSGBOX_TIMED)
         // A timer of this length that is not precise comes up to a twentieth early.
         QTimer::singleShot(int(m_timeMs), Qt::PreciseTimer, this, SLOT(slot_CloseDialog()));
-    return QDialog::exec();
+    return KeyDialog::exec();
 }
 
 void dialog_msgBox::slot_CloseDialog()
@@ -149,15 +148,6 @@ void dialog_msgBox::finishDialog()
 void dialog_msgBox::ExitDialog()
 {
     done(kindOf(m_type).onEsc);
-}
-
-bool dialog_msgBox::event(QEvent *event)
-{
-    if (!event || event->type() != KeypadEvent::eventType)
-        return QWidget::event(event);
-    GlobalTimer::getInstance()->ResetReturnToMain();
-    handleKey(static_cast<const KeypadEvent &>(*event));
-    return true;
 }
 
 void dialog_msgBox::handleKey(const KeypadEvent &event)

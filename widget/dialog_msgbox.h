@@ -3,17 +3,13 @@
 #pragma once
 
 #include "menuindex.h"
+#include "widget/keydialog.h"
 
-#include <QDialog>
 #include <memory>
 
 class Ui_dialog_msgBox;
-namespace VASK
-{
-class KeypadEvent;
-}
 
-class dialog_msgBox : public QDialog
+class dialog_msgBox : public KeyDialog
 {
     Q_OBJECT
 public:
@@ -31,7 +27,7 @@ public slots:
     void slot_CloseDialog();
 
 protected:
-    bool event(QEvent *event) override;
+    void handleKey(const VASK::KeypadEvent &event) override;
     /// The language has changed: texts and style again.
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -40,7 +36,6 @@ private:
     void setDialogStyleSheet();
     void showTexts();
     void initBtns();
-    void handleKey(const VASK::KeypadEvent &event);
     bool takesAnswers() const;
     /// OK: the answer of the button that has the focus.
     void finishDialog();

@@ -1,6 +1,5 @@
 #include "widget/dialog_scene.h"
 
-#include "framework/globaltimer.h"
 #include "framework/keypadevent.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
@@ -23,7 +22,7 @@ Dialog_scene::Dialog_scene(QWidget *parent, const QString &title, const QString 
                            const QString &icon2, const QString &name2, const QString &icon3,
                            const QString &name3, const QString &icon4, const QString &name4, QString disabled,
                            unsigned char first)
-    : QDialog(parent), ui(std::make_unique<Ui_Dialog_scene>()),
+    : KeyDialog(parent), ui(std::make_unique<Ui_Dialog_scene>()),
       m_title(title), m_names{name1, name2, name3, name4},
       m_shieldList(disabled.split('.', Qt::SkipEmptyParts))
 {
@@ -87,17 +86,8 @@ void Dialog_scene::setCurrentFocus()
 int Dialog_scene::exec()
 {
     m_result = 0;
-    QDialog::exec();
+    KeyDialog::exec();
     return m_result;
-}
-
-bool Dialog_scene::event(QEvent *event)
-{
-    if (!event || event->type() != KeypadEvent::eventType)
-        return QDialog::event(event);
-    GlobalTimer::getInstance()->ResetReturnToMain();
-    handleKey(static_cast<const KeypadEvent &>(*event));
-    return true;
 }
 
 void Dialog_scene::changeEvent(QEvent *event)
@@ -106,7 +96,7 @@ void Dialog_scene::changeEvent(QEvent *event)
         setDialogStyleSheet();
         showTexts();
     }
-    QDialog::changeEvent(event);
+    KeyDialog::changeEvent(event);
 }
 
 void Dialog_scene::handleKey(const KeypadEvent &event)

@@ -2,18 +2,15 @@
 // it for a preset, runs it and acts on the result; GUI thread.
 #pragma once
 
-#include <QDialog>
+#include "widget/keydialog.h"
+
 #include <QStringList>
 #include <array>
 #include <memory>
 
 class Ui_Dialog_scene;
-namespace VASK
-{
-class KeypadEvent;
-}
 
-class Dialog_scene : public QDialog
+class Dialog_scene : public KeyDialog
 {
     Q_OBJECT
 public:
@@ -29,7 +26,7 @@ public:
     int exec() override;
 
 protected:
-    bool event(QEvent *event) override;
+    void handleKey(const VASK::KeypadEvent &event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -39,7 +36,6 @@ private:
     void showTexts();
     void shieldActions();
     void setCurrentFocus();
-    void handleKey(const VASK::KeypadEvent &event);
     void keypadRotateLeftEvent(int speed);
     void keypadRotateRightEvent(int speed);
     /// Moves to the action, or from an end round to the other and past those that are off.
