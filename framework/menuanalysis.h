@@ -12,9 +12,10 @@
 #include <QList>
 #include <QMap>
 #include <QMutex>
+#include <QThread>
 #include <QTimer>
 #include <functional>
-#include <thread>
+#include <memory>
 
 namespace VASK
 {
@@ -112,7 +113,7 @@ private:
     QMutex m_documentMutex;
     QDomDocument m_xmldoc;
     /// Brings the last save to the disk, which can take longer than a user at the knob should notice.
-    std::thread m_sync;
+    std::unique_ptr<QThread> m_sync;
     /// The file does not hold the whole table yet: nothing worth a backup.
     bool m_creating = false;
 

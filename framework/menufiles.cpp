@@ -366,13 +366,15 @@ QHash<int, QDomElement> MenuAnalysis::elementsByIndex() const
 
 void MenuAnalysis::startSync()
 {
-    m_sync = std::thread([] { board::runCommand(sync); });
+    m_sync.reset(QThread::create([] { board::runCommand(sync); }));
+    m_sync->setObjectName("sync");
+    m_sync->start();
 }
 
 void MenuAnalysis::endSync()
 {
-    if (m_sync.joinable())
-        m_sync.join();
+    if (m_sync)
+        m_sync->wait();
 }
 
 /// Called under the document's lock, which orders the saves of different threads.
