@@ -340,17 +340,20 @@ private slots:
         clock.start();
         auto store = startedStore(QString::number(value));
         const int startTime = int(clock.nsecsElapsed() / 1000);
+        int span = startTime; // of the kills after a save has begun; grows until some saves come to their end
         QRandomGenerator random(20200229);
         for (int round = 0; round < rounds; ++round) {
             const bool hitStart = round % startEvery == 0;
             const int begun = dieWhileSaving(
                 hitStart ? nullptr : store.get(), value, [] {},
-                random.bounded(hitStart ? startTime * 2 : startTime));
+                random.bounded(hitStart ? startTime * 2 : span));
             store = std::make_unique<MenuAnalysis>(ENUM_MENUANALYSIS);
             QVERIFY(store->initlize());
             const int found = valueOf(*store).toInt();
             QVERIFY2(found == begun || (begun > value && found == begun - 1),
                      qPrintable(QString("at %1, saving %2, found %3").arg(value).arg(begun).arg(found)));
+            if (!hitStart)
+                span = found > value ? qMax(span * 7 / 8, 1000) : span * 5 / 4;
             value = found;
         }
         QVERIFY(value > 1000 + rounds / 10); // else the kills have missed the saves
