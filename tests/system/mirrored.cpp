@@ -19,6 +19,7 @@ struct Row {
 };
 
 const Words switches{{"off", "0"}, {"on", "1"}};
+const Words sources{{"hdmi1", "0"}, {"hdmi2", "1"}, {"dvi", "2"}, {"sdi", "3"}};
 constexpr const char *number = "(-?\\d+)";
 constexpr const char *any = "-?\\d+";
 
@@ -34,6 +35,7 @@ QVector<Row> layerRows()
         };
         rows += {
             {MENU_MainLayer_Status + base, name + "(on|off), .*", switches},
+            {MENU_MainLayer_InputSource + base, name + "\\w+, ([^,]+), .*", sources},
             {MENU_MainLayer_HorWidth + base, window(number, any, any, any), {}},
             {MENU_MainLayer_VerHeight + base, window(any, number, any, any), {}},
             {MENU_MainLayer_InitialX + base, window(any, any, number, any), {}},
@@ -100,6 +102,8 @@ QVector<Row> settingRows()
          {{"side by side", "0"}, {"top and bottom", "1"}, {"frame sequential", "2"}}},
         {MENU_Mode3D_EyePriority, "first eye: (left|right)", {{"left", "0"}, {"right", "1"}}},
         {MENU_Sync_Status, "sync: (on|off) to .*", switches},
+        {MENU_Sync_Source, "sync: \\w+ to (.*)", sources},
+        {MENU_Color_Gamma, "gamma: (.*)", {}},
         {MENU_LowLatency, "low latency: (on|off)", switches},
         {MENU_ImageMosaic_Status, "splicing: (on|off)", switches},
     };
