@@ -37,22 +37,27 @@ template <int layer> RegisterRow rowOf()
     return {recordAddress(layer, 0), int(inputStride), inputsOf(layer), inputStride, obeyCrop<layer>};
 }
 
+QString textOf(const Crop &crop)
+{
+    return QString("%1x%2 at %3,%4").arg(crop.width).arg(crop.height).arg(crop.x).arg(crop.y);
+}
+
+/// The crop that a layer shows, on or off, and those that wait for another input.
 QStringList describe(const Registers &registers)
 {
-    QStringList lines;
+    QStringList shown, waiting;
     for (int layer = 0; layer < layers::count; ++layer) {
+        const QString name = layers::nameOf(layer);
+        const int source = layers::read(registers, layer).input;
         for (int input = 0; input < inputsOf(layer); ++input) {
             const Crop crop = read(registers, layer, input);
-            if (crop.on)
-                lines.append(QString("%1 of %2: %3x%4 at %5,%6")
-                                 .arg(layers::nameOf(layer), inputs::nameOf(input))
-                                 .arg(crop.width)
-                                 .arg(crop.height)
-                                 .arg(crop.x)
-                                 .arg(crop.y));
+            if (input == source)
+                shown.append("crop of " + name + ": " + onOff(crop.on) + ", " + textOf(crop));
+            else if (crop.on)
+                waiting.append(name + " of " + inputs::nameOf(input) + ": " + textOf(crop));
         }
     }
-    return lines.isEmpty() ? QStringList{"all: off"} : lines;
+    return shown + waiting;
 }
 } // namespace
 

@@ -43,6 +43,17 @@ QVector<Row> layerRows()
             {MENU_MainLayer_Priority + base, name + ".*, priority (\\d+), .*", {}},
             {MENU_MainLayer_Opacity + base, name + ".*, opacity (\\d+)%", {}},
         };
+        const int crop = STRIDE_Crop * n;
+        const auto cut = [&](const char *w, const char *h, const char *x, const char *y) {
+            return "crop of " + name + QString("\\w+, %1x%2 at %3,%4").arg(w, h, x, y);
+        };
+        rows += {
+            {MENU_MainLayerCrop_Status + crop, "crop of " + name + "(on|off), .*", switches},
+            {MENU_MainLayerCrop_HorWidth + crop, cut(number, any, any, any), {}},
+            {MENU_MainLayerCrop_VerHeight + crop, cut(any, number, any, any), {}},
+            {MENU_MainLayerCrop_InitialX + crop, cut(any, any, number, any), {}},
+            {MENU_MainLayerCrop_InitialY + crop, cut(any, any, any, number), {}},
+        };
     }
     return rows;
 }

@@ -124,7 +124,7 @@ void TestDeviceRegisters::onlyTheCropOnTheWallIsTold()
     QCOMPARE(rig.flashHex(0xEE14, 11), QByteArray("1100010500060000040003"));
     QVERIFY(rig.write(0x13024034, "0002010500060000040003").isEmpty()); // DVI is on no layer
     QCOMPARE(rig.flashHex(0xEE34, 11), QByteArray("0002010500060000040003"));
-    QCOMPARE(rig.shown("main layer of hdmi1"), QString("main layer of hdmi1: 1024x768 at 5,6"));
+    QCOMPARE(rig.shown("crop of main layer"), QString("crop of main layer: on, 1024x768 at 5,6"));
 }
 
 void TestDeviceRegisters::picturesFindTheRecordOfTheirInput()
