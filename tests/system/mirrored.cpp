@@ -19,6 +19,7 @@ struct Row {
 };
 
 const Words switches{{"off", "0"}, {"on", "1"}};
+const Words ranges{{"limited", "0"}, {"full", "1"}};
 const Words sources{{"hdmi1", "0"}, {"hdmi2", "1"}, {"dvi", "2"}, {"sdi", "3"}};
 constexpr const char *number = "(-?\\d+)";
 constexpr const char *any = "-?\\d+";
@@ -77,6 +78,10 @@ QVector<Row> inputRows()
                  {picture.first + 2, name + "brightness .*, saturation (\\d+), .*", {}},
                  {picture.first + 3, name + "brightness .*, hue (-?\\d+), .*", {}}};
     }
+    constexpr const char *widened[] = {"hdmi1", "hdmi2", "dvi", "dvi2"};
+    for (int k = 0; k < 4; ++k)
+        rows += {MENU_HDMI1_LimitedtoFull + k * (MENU_HDMI2_LimitedtoFull - MENU_HDMI1_LimitedtoFull),
+                 QString(widened[k]) + ": .*, (limited|full) range", ranges};
     constexpr const char *sounds[] = {"hdmi1", "hdmi2", "dvi", "dvi2", "sdi", "opt1", "opt2", "mosaic"};
     for (int k = 0; k < 8; ++k) {
         const Words hdmi{{"embedded", "0"}, {"none", "1"}, {"audio in", "1"}};
@@ -112,6 +117,12 @@ QVector<Row> settingRows()
          "format: (.*)",
          {{"side by side", "0"}, {"top and bottom", "1"}, {"frame sequential", "2"}}},
         {MENU_Mode3D_EyePriority, "first eye: (left|right)", {{"left", "0"}, {"right", "1"}}},
+        {MENU_RightEyeStartSide, "right eye starts at (\\d+) side by side, .*", {}},
+        {MENU_RightEyeStartTop, "right eye starts at .*, (\\d+) top and bottom", {}},
+        {MENU_Mode3D_ThirdPartyEmitter, "emitter: (on|off), .*", switches},
+        {MENU_Mode3D_SignalDelayTime, "emitter: .*, delay (\\d+) us", {}},
+        {MENU_HDCP, "protected pictures: (on|off)", switches},
+        {MENU_WorkMode, "work mode: (.*)", {{"video controller", "0"}}},
         {MENU_Sync_Status, "sync: (on|off) to .*", switches},
         {MENU_Sync_Source, "sync: \\w+ to (.*)", sources},
         {MENU_Color_Gamma, "gamma: (.*)", {}},
