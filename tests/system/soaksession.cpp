@@ -10,6 +10,7 @@
 namespace
 {
 constexpr int msPerMinute = 60000;
+constexpr char topAndBottom = 8;
 constexpr int pressed = 0x100, released = 0x180;
 
 class Script
@@ -113,8 +114,15 @@ private:
         const bool isSize = row.address == 0x13040003 || row.address == 0x13040010 ||
                             row.address == 0x02100006 || row.address >> 8 == 0x130200 ||
                             row.address >> 12 == 0x13024;
-        if (!isSize)
-            add(at, row.address, row.deviceType, row.bytes(between(0, 1000)));
+        if (isSize)
+            return;
+        const QByteArray bytes = row.bytes(between(0, 1000));
+        constexpr quint32 format = 0x02000042, rightEyeStart = 0x02000089, startOfTop = 0x0200008B;
+        if (row.address == format)
+            m_isTop = bytes[0] == topAndBottom;
+        const bool isStartOfTop =
+            row.address == rightEyeStart && m_isTop; // that of the format in use is told
+        add(at, isStartOfTop ? startOfTop : row.address, row.deviceType, bytes);
     }
 
     /// A source is plugged in or pulled.
@@ -137,6 +145,7 @@ private:
     const int m_end;
     const int m_speed;
     int m_now = 0;
+    bool m_isTop = false; ///< 3D top and bottom, after the reports so far
     QMultiMap<int, QByteArray> m_events;
 };
 } // namespace
