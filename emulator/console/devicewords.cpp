@@ -1,8 +1,8 @@
 #include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
-#include "emulator/valuefile.h"
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 
 namespace
 {
@@ -38,8 +38,8 @@ void link(Session &session, const QStringList &list)
     const auto value = arguments::number(list.value(1), -0x80000000ll, 0x7fffffff);
     if (list.size() != 2 || !names.contains(list[0]) || !value)
         return failUsage(session, "link");
-    if (!valuefile::set(session.emulator.folder.file(hostlink::linkFile), names[list[0]],
-                        QString::number(*value)))
+    if (!hostlink::changeValue(session.emulator.folder.file(hostlink::linkFile), names[list[0]],
+                               QByteArray::number(*value)))
         return session.fail("cannot write the link state");
     session.ok();
 }
@@ -48,12 +48,14 @@ void env(Session &session, const QStringList &list)
 {
     const QString file = session.emulator.folder.file(hostlink::environmentFile);
     if (list.size() == 2 && list[0] == "get") {
-        const auto values = valuefile::read(file);
-        if (!values.contains(list[1]))
+        const auto values = hostlink::readValues(file);
+        const QByteArray name = list[1].toUtf8();
+        if (!values.contains(name))
             return session.fail("no such name: " + list[1]);
-        session.print(values[list[1]]);
+        session.print(QString::fromUtf8(values[name]));
     } else if (list.size() == 3 && list[0] == "set") {
-        if (list[1].contains('=') || list[2].contains('\n') || !valuefile::set(file, list[1], list[2]))
+        if (list[1].contains('=') || list[2].contains('\n') ||
+            !hostlink::changeValue(file, list[1].toUtf8(), list[2].toUtf8()))
             return session.fail("cannot set " + list[1]);
     } else {
         return failUsage(session, "env");

@@ -4,6 +4,7 @@
 #include "platform/host/statefile.h"
 
 #include <QFile>
+#include <cstring>
 
 namespace
 {
@@ -22,7 +23,11 @@ int ReadDataFromFlashx(unsigned int address, unsigned int length, unsigned char 
     QFile image(host::stateFile(hostlink::flashFile));
     if (!image.open(QIODevice::ReadOnly) || !image.seek(address))
         return -1;
-    return image.read(reinterpret_cast<char *>(buffer), length) == qint64(length) ? 0 : -1;
+    const QByteArray bytes = image.read(length);
+    if (bytes.size() != int(length))
+        return -1;
+    memcpy(buffer, bytes.constData(), length);
+    return 0;
 }
 
 int WriteDataToFlashx(unsigned int address, unsigned int length, const unsigned char *buffer)

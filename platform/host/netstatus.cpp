@@ -1,13 +1,14 @@
 #include "netstatus.h"
 
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 #include "platform/host/statefile.h"
 
 namespace
 {
 int linkValue(const char *name)
 {
-    return host::readValues(host::stateFile(hostlink::linkFile)).value(name).toInt();
+    return hostlink::readValues(host::stateFile(hostlink::linkFile)).value(name).toInt();
 }
 } // namespace
 
@@ -33,8 +34,6 @@ int get_pc_connect_priority()
 
 void set_pc_connect_priority(int priority)
 {
-    const QString file = host::stateFile(hostlink::linkFile);
-    auto values = host::readValues(file);
-    values[hostlink::linkPriority] = QByteArray::number(priority);
-    host::writeValues(file, values);
+    hostlink::changeValue(host::stateFile(hostlink::linkFile), hostlink::linkPriority,
+                          QByteArray::number(priority));
 }

@@ -3,7 +3,6 @@
 #include "boardio.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <sys/file.h>
 
 namespace host
@@ -11,31 +10,6 @@ namespace host
 QString stateFile(const char *name)
 {
     return board::filePath(QString::fromLatin1(name));
-}
-
-QMap<QByteArray, QByteArray> readValues(const QString &file)
-{
-    QMap<QByteArray, QByteArray> values;
-    QFile input(file);
-    if (!input.open(QIODevice::ReadOnly))
-        return values;
-    while (!input.atEnd()) {
-        const QByteArray line = input.readLine().trimmed();
-        const int equals = line.indexOf('=');
-        if (equals > 0)
-            values.insert(line.left(equals), line.mid(equals + 1));
-    }
-    return values;
-}
-
-bool writeValues(const QString &file, const QMap<QByteArray, QByteArray> &values)
-{
-    QSaveFile output(file);
-    if (!output.open(QIODevice::WriteOnly))
-        return false;
-    for (auto value = values.cbegin(); value != values.cend(); ++value)
-        output.write(value.key() + '=' + value.value() + '\n');
-    return output.commit();
 }
 
 bool takeFault(const char *name)

@@ -1,6 +1,7 @@
 #include "sysconf.h"
 
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 #include "platform/host/statefile.h"
 
 #include <QMutex>
@@ -19,7 +20,7 @@ QString file()
 int sysconf_openenv()
 {
     openMutex.lock();
-    values = host::readValues(file());
+    values = hostlink::readValues(file());
     return 0;
 }
 
@@ -32,7 +33,7 @@ const char *sysconf_getenv(const char *name)
 int sysconf_setenv(const char *name, const char *value)
 {
     values.insert(name, value);
-    return host::writeValues(file(), values) ? 0 : -1;
+    return hostlink::changeValue(file(), name, value) ? 0 : -1;
 }
 
 void sysconf_closeenv()

@@ -3,6 +3,7 @@
 #include "emulator/shelltools.h"
 #include "flashx.h"
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 #include "netstatus.h"
 #include "sysconf.h"
 
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <sys/wait.h>
+#include <thread>
 
 class TestHostPlatform : public QObject
 {
@@ -127,6 +129,11 @@ void TestHostPlatform::flashReadsFailAsTold()
     QCOMPARE(bytes[0], static_cast<unsigned char>(0));
     QCOMPARE(ReadDataFromFlashx(hostlink::flashSize - 4, 4, bytes), 0);
     QCOMPARE(bytes[3], static_cast<unsigned char>(4));
+    // Of an image that ends too early nothing is taken.
+    QVERIFY(image.resize(hostlink::flashSize - 2));
+    bytes[0] = 0;
+    QVERIFY(ReadDataFromFlashx(hostlink::flashSize - 4, 4, bytes) != 0);
+    QCOMPARE(bytes[0], static_cast<unsigned char>(0));
 }
 
 void TestHostPlatform::environmentOutlivesTheProgram()
@@ -151,6 +158,21 @@ void TestHostPlatform::linkStateIsShared()
     QCOMPARE(get_eth1_status(), 2);
     QCOMPARE(get_usb_host_status(), 0);
     QCOMPARE(get_pc_connect_priority(), 1);
+
+    // Panel and emulator change it at the same time, and nobody's change is lost.
+    constexpr int changes = 200;
+    std::thread emulator([this] {
+        for (int i = 1; i <= changes; ++i)
+            hostlink::changeValue(file(hostlink::linkFile), hostlink::linkEthernet, QByteArray::number(i));
+    });
+    int lost = 0;
+    for (int i = 1; i <= changes; ++i) {
+        set_pc_connect_priority(i);
+        lost += get_pc_connect_priority() != i;
+    }
+    emulator.join();
+    QCOMPARE(lost, 0);
+    QCOMPARE(get_eth1_status(), changes);
 }
 
 QTEST_APPLESS_MAIN(TestHostPlatform)

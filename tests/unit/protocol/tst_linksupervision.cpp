@@ -2,6 +2,7 @@
 // silent host keeps the device.
 
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 #include "framework/protocol/hostsession.h"
 #include "framework/protocol/linksupervision.h"
 #include "platform/host/statefile.h"
@@ -16,13 +17,11 @@ namespace
 /// What the board answers from now on.
 void setCables(int usb, int ethernet, int loop, int priority)
 {
-    host::writeValues(host::stateFile(hostlink::linkFile),
-                      {
-                          {hostlink::linkUsb, QByteArray::number(usb)},
-                          {hostlink::linkEthernet, QByteArray::number(ethernet)},
-                          {hostlink::linkLoop, QByteArray::number(loop)},
-                          {hostlink::linkPriority, QByteArray::number(priority)},
-                      });
+    const QString file = host::stateFile(hostlink::linkFile);
+    hostlink::changeValue(file, hostlink::linkUsb, QByteArray::number(usb));
+    hostlink::changeValue(file, hostlink::linkEthernet, QByteArray::number(ethernet));
+    hostlink::changeValue(file, hostlink::linkLoop, QByteArray::number(loop));
+    hostlink::changeValue(file, hostlink::linkPriority, QByteArray::number(priority));
 }
 
 struct Watched {

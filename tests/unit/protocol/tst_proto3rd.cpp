@@ -3,6 +3,7 @@
 
 #include "boardio.h"
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 #include "frames.h"
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
@@ -95,9 +96,9 @@ struct Bench {
 
 void setCables(int usb, int ethernet)
 {
-    host::writeValues(host::stateFile(hostlink::linkFile),
-                      {{hostlink::linkUsb, QByteArray::number(usb)},
-                       {hostlink::linkEthernet, QByteArray::number(ethernet)}});
+    const QString file = host::stateFile(hostlink::linkFile);
+    hostlink::changeValue(file, hostlink::linkUsb, QByteArray::number(usb));
+    hostlink::changeValue(file, hostlink::linkEthernet, QByteArray::number(ethernet));
 }
 } // namespace
 
