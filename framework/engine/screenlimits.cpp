@@ -28,17 +28,17 @@ struct Screen {
     }
     uint16_t number(ENUM_MenuIndex index) const { return uint16_t(engine.GetParaFromIndex(index).toInt()); }
     /// A size of 16 bits; a larger one counts as the largest, so that it does not come round as a small one.
-    static uint16_t size(int pixels) { return uint16_t(qBound(0, pixels, int(UINT16_MAX))); }
-    bool outputOverloads(int width, int height) const
+    static uint16_t size(int64_t pixels) { return uint16_t(qBound<int64_t>(0, pixels, UINT16_MAX)); }
+    bool outputOverloads(int64_t width, int64_t height) const
     {
         return VideoBandwidthConstrain(size(width), size(height), shownRate, wholeOutputPixelRate, 1);
     }
-    bool portOverloads(int width, int height) const
+    bool portOverloads(int64_t width, int64_t height) const
     {
         return VideoBandwidthConstrain(size(width), size(height), shownRate, portPixelRate, 0);
     }
-    int widthOf(int columns) const { return columns * cabinetWidth; }
-    int heightOf(int rows) const { return rows * cabinetHeight; }
+    int64_t widthOf(int columns) const { return int64_t(columns) * cabinetWidth; }
+    int64_t heightOf(int rows) const { return int64_t(rows) * cabinetHeight; }
 
     const ParaProcess &engine;
     uint16_t cabinetWidth, cabinetHeight; ///< pixels
@@ -95,7 +95,7 @@ QString limitPortOne(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
     int cabinets = lowerUntil(uint16_t(value.toInt()), 1, [&](int count) {
         return !screen.portOverloads(screen.widthOf(count), screen.cabinetHeight);
     });
-    const int total = uint16_t(rows * columns);
+    const int total = uint16_t(int64_t(rows) * columns);
     cabinets = cabinets > total ? total : qMax(cabinets, (total + quickPorts - 1) / quickPorts);
     if (firstPortOverloads(engine, cabinets))
         engine.runMessage(MSG_OverLoad);
@@ -114,8 +114,8 @@ QString limitAdvancedCount(ParaProcess &engine, const QString &value, ENUM_MenuI
     const int port = ports.chosen();
 
     int count = lowerUntil(uint16_t(value.toInt()), 1, [&](int candidate) {
-        const int width = screen.widthOf(isRows ? other : candidate);
-        const int height = screen.heightOf(isRows ? candidate : other);
+        const int64_t width = screen.widthOf(isRows ? other : candidate);
+        const int64_t height = screen.heightOf(isRows ? candidate : other);
         return !screen.portOverloads(width, height) && (isRows ? height : width) + offset <= limit;
     });
     const AdvancedPorts::Field field = isRows ? AdvancedPorts::Rows : AdvancedPorts::Columns;
@@ -132,8 +132,8 @@ QString limitAdvancedStart(ParaProcess &engine, const QString &value, ENUM_MenuI
 {
     const Screen screen(engine);
     const bool isX = index == MENU_Advanced_HorOffset;
-    const int width = screen.widthOf(screen.number(MENU_Advanced_CabinetCol));
-    const int height = screen.heightOf(screen.number(MENU_Advanced_CabinetRow));
+    const int64_t width = screen.widthOf(screen.number(MENU_Advanced_CabinetCol));
+    const int64_t height = screen.heightOf(screen.number(MENU_Advanced_CabinetRow));
     const int other = screen.number(isX ? MENU_Advanced_VerOffset : MENU_Advanced_HorOffset);
     const AdvancedPorts ports(engine);
     const int port = ports.chosen();
