@@ -166,8 +166,10 @@ void MenuDirectory::paintEvent(QPaintEvent *)
 void MenuDirectory::setRowCount(int count)
 {
     m_rowCount = static_cast<signed char>(qBound(0, count, m_rows.size()));
-    if (m_currentRow >= m_rowCount)
-        setCurrentRow(qMax(0, m_rowCount - 1));
+    if (m_currentRow >= m_rowCount) {
+        unmarkApply();
+        selectRow(qMax(0, m_rowCount - 1));
+    }
 }
 
 void MenuDirectory::setRowHidden(int row, bool hidden)

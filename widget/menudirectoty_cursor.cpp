@@ -47,7 +47,7 @@ void MenuDirectory::keypadRotateRightEvent(KeypadEvent *event)
 void MenuDirectory::rotate(KeypadEvent *event, bool left)
 {
     st_MenuItemInfo row;
-    if (!currentRowInfo(row))
+    if (m_rowCount == 0 || !currentRowInfo(row))
         return;
     unsigned char speed = event->KeySpeed();
     if (m_edit) {

@@ -36,6 +36,7 @@ void storeFile(MenuAnalysis &store, int number, const QString &name, bool presen
         if (present) {
             info.value = name;
             info.perBase = QString::number(number);
+            info.enable = true; // an earlier list may have been shorter
         }
         info.enableSelect = present;
     });
@@ -82,10 +83,13 @@ void MenuDirectory::showFiles(const QStringList &names)
     const int count = qMin(names.size(), fileRowCount);
     for (int i = 0; i < fileRowCount; ++i) {
         const bool present = i < count;
+        const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + i);
         storeFile(*store, i, names.value(i), present);
-        if (present)
-            if (auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(ENUM_ROW_CabinetFile1 + i)))
-                row->UpdateTagName(ENUM_MenuIndex(MENU_CabinetFile1 + i), names.at(i));
+        auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(ENUM_ROW_CabinetFile1 + i));
+        if (present && row) {
+            row->SetParaEntry(item, QString(), SET_XML_STORE); // brings the stored tag, too
+            row->UpdateTagName(item, names.at(i));
+        }
         setRowHidden(i, !present);
     }
     setRowCount(count);

@@ -94,10 +94,10 @@ void showCabinetFiles(ParaChange &change)
 {
     runOnGui(&change.engine, [engine = &change.engine, store = &change.store] {
         auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow());
-        QStringList names;
-        if (!page || page != ObjectPool::getInstance()->GetObject(ENUM_PAGE_LoadCabFiles) ||
-            !MenuDirectory::GetCabCfgFileName(names))
+        if (!page || page != ObjectPool::getInstance()->GetObject(ENUM_PAGE_LoadCabFiles))
             return;
+        QStringList names;
+        MenuDirectory::GetCabCfgFileName(names); // without any, the page is left without rows
         if (names.size() > MenuDirectory::fileRowCount) {
             qDebug() << "too many file";
             names = names.mid(0, MenuDirectory::fileRowCount);

@@ -2,6 +2,7 @@
 // production test has the screen to itself.
 
 #include "enginerig.h"
+#include "framework/keypadevent.h"
 #include "widget/dialog_factory.h"
 
 #include <QSignalSpy>
@@ -117,6 +118,8 @@ void TestApplyPages::listOfFilesFillsTheOpenPage_data()
     QTest::newRow("all rows") << 8 << "xxxxxxxx";
     QTest::newRow("more than rows") << 9 << "xxxxxxxx";
     QTest::newRow("fewer again") << 3 << "xxx-----";
+    QTest::newRow("none") << 0 << "--------";
+    QTest::newRow("more than before") << 5 << "xxxxx---";
 }
 
 void TestApplyPages::listOfFilesFillsTheOpenPage()
@@ -136,7 +139,13 @@ void TestApplyPages::listOfFilesFillsTheOpenPage()
         if (row < files) {
             QCOMPARE(m_rig->value(item), QString("wall%1.rcfgx").arg(row));
             QCOMPARE(m_rig->info(item).perBase, QString::number(row));
+            const auto index = ENUM_ObjectIndex(ENUM_ROW_CabinetFile1 + row);
+            QVERIFY(dynamic_cast<QWidget *>(ObjectPool::getInstance()->GetObject(index))->isEnabled());
         }
+    }
+    for (int key : {KEY_KNOB_RIGHT, KEY_KNOB_LEFT}) { // a page without rows has nowhere to go
+        KeypadEvent turn(KEY_PRESSED, key, 1, false);
+        QCoreApplication::sendEvent(page(ENUM_PAGE_LoadCabFiles), &turn);
     }
     QTEST(shown, "shown");
     QTEST(enabled, "shown");
