@@ -126,8 +126,11 @@ QString DeviceView::resolutionText(int rateCentiHz) const
 {
     const bool sender = workMode() == WORK_SENDER;
     const bool interlaced = sender && input(followedInput()).interlaced;
+    // A sending card shows the rate that its source is meant to have, whoever asks.
+    const int rate = sender          ? FrameRateAdj(uint16_t(rateCentiHz))
+                     : doublesRate() ? rateCentiHz * 2
+                                     : rateCentiHz;
     return sizeText(m_engine.processData().value(PARA_OutputWidth),
-                    m_engine.processData().value(PARA_OutputHeight), interlaced,
-                    !sender && doublesRate() ? rateCentiHz * 2 : rateCentiHz);
+                    m_engine.processData().value(PARA_OutputHeight), interlaced, rate);
 }
 } // namespace VASK
