@@ -66,6 +66,9 @@ void leaveScalingRule(ParaChange &change, const LayerItems &layer)
         return;
     change.show(layer.scaling, customScaling);
     freeGeometry(change, layer);
+    // What the device only repeated before this number belongs to the custom window, too.
+    for (ENUM_MenuIndex item : layer.geometry())
+        change.set(layer.customOf(item), change.item(item));
 }
 
 /// What depends on the main layer alone: the spliced picture, and the register of a sending card.

@@ -28,6 +28,8 @@ private slots:
     void deviceMovesALayer();
     void echoMovesNothing_data() { eachLayer(); }
     void echoMovesNothing();
+    void reportedWindowIsRememberedWhole_data() { eachLayer(); }
+    void reportedWindowIsRememberedWhole();
     void splicedTotalsFollow();
     void sendingCardHasItsOwnRegister();
 
@@ -242,6 +244,23 @@ void TestApplyGeometry::echoMovesNothing()
     QCOMPARE(m_rig->dialled(layer), QString("nnnn"));
     QCOMPARE(m_rig->value(MENU_Layout), QString("1"));
     QCOMPARE(m_rig->reported.take().size(), 4);
+}
+
+/// A window of which the device changes one number leaves full screen whole: the others were only repeated.
+void TestApplyGeometry::reportedWindowIsRememberedWhole()
+{
+    QFETCH(int, layer);
+    m_rig->setGeometry(layer, {"1920", "1080", "0", "0"});
+    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), "0");
+    const QStringList told{"0", "0", "1920", "540"};
+    for (int i = 0; i < 4; ++i) // start before size
+        m_rig->fromDevice(ENUM_MenuIndex(LayerRig::of(MENU_MainLayer_HorWidth, layer) + (i + 2) % 4),
+                          told[i]);
+    QStringList remembered;
+    for (int field = 0; field < 4; ++field)
+        remembered << m_rig->value(
+            ENUM_MenuIndex(LayerRig::memory(MENU_MainLayer_CustomWidth, layer) + field));
+    QCOMPARE(remembered, (QStringList{"1920", "540", "0", "0"}));
 }
 
 void TestApplyGeometry::splicedTotalsFollow()
