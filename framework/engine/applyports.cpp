@@ -20,19 +20,10 @@ constexpr ApplyCase shownPorts(ENUM_MenuIndex first, void (*apply)(ParaChange &)
     return {first, ofPort(first, NET_PORT_COUNT - 1), apply};
 }
 
-/// A port without a link of its own may have one through the optical link.
-void showPort(ParaChange &change, int port)
-{
-    if (change.number(ofPort(PARA_PortLink, port)))
-        change.engine.UpdatePortState(port);
-    else
-        change.engine.UpdataOPT1PortState(port);
-}
-
 void applyPortLink(ParaChange &change)
 {
     const int port = change.index - PARA_PortLink;
-    showPort(change, port);
+    change.engine.UpdatePortState(port);
     if (Factory::m_cur_step == FACTORY_STEP_IN_OUT && change.number(change.index))
         change.engine.raiseTested(en_inout_test_index(INOUT_NET1 + port), ITEM_PASSED);
 }
@@ -40,7 +31,7 @@ void applyPortLink(ParaChange &change)
 /// The device is primary or backup as a whole; while its ports differ the item stays.
 void applyPortBackup(ParaChange &change)
 {
-    showPort(change, change.index - PARA_PortBackup);
+    change.engine.UpdatePortState(change.index - PARA_PortBackup);
     if (!change.fromDevice())
         return;
     int backups = 0;
@@ -56,7 +47,7 @@ void applyPortBackup(ParaChange &change)
 void applyBackupEngaged(ParaChange &change)
 {
     if (change.number(change.index) != change.oldValue.toInt())
-        showPort(change, change.index - PARA_PortBackupEngaged);
+        change.engine.UpdatePortState(change.index - PARA_PortBackupEngaged);
 }
 
 void applyOpt1BackupEngaged(ParaChange &change)

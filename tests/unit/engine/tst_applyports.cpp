@@ -105,10 +105,10 @@ void TestApplyPorts::portShowsItsState_data()
                                      << "1"
                                      << "0"
                                      << "01" << second;
-    QTest::newRow("optical link, own at rest") << int(PARA_PortLink) << "0"
-                                               << "1"
-                                               << "0"
-                                               << "00" << on;
+    QTest::newRow("own link gone, optical link") << int(PARA_PortLink) << "0"
+                                                 << "1"
+                                                 << "0"
+                                                 << "00" << off;
 }
 
 void TestApplyPorts::portShowsItsState()
