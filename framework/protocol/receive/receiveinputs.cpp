@@ -89,7 +89,7 @@ constexpr ReportRow rows[] = {
     {0x13010001, 32, inputCount, 0, 0, ParseEDIDSourceCode},
     {0x13019015, 16, 8, 0, 1, ParseAudioInputInfo},
     {0x13050000, 20, 8, 0, 0, ParseInputQualityInfo},
-    {0x13060000, 0, 1, 0, 0, ParseInputMosaicInfo},
+    {0x13060000, 0, 1, 0, 33, ParseInputMosaicInfo},
 };
 } // namespace
 
