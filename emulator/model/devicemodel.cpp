@@ -18,7 +18,6 @@ constexpr Elsewhere elsewhere[] = {
     {0x01000002, 1, 0, true},      // reset done
     {0x0FF00000, 2, 0, true},      // cabinet loaded, renamed
     {0x14000000, 1, 0, true},      // service up
-    {0x13041401, 1, 0, true},      // take over the size that was set before
 };
 } // namespace
 
