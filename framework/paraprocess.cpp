@@ -101,11 +101,9 @@ QString ParaProcess::GetSourceNameByCode(unsigned char code) const
 
 void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode)
 {
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    if (!store) {
-        qDebug() << "pmenu is null";
+    MenuAnalysis *store = neededStore();
+    if (!store)
         return;
-    }
     ParaChange change(*this, *store, value, index, mode);
     if (index >= PARA_CabinetWidth && index < PARA_TextEnd)
         SaveProcessData(value, index);
@@ -114,10 +112,25 @@ void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SE
     if (mode == SET_XML_STORE)
         return;
     qDebug() << "index ==" << int(index);
+    if (!neededHome())
+        return;
+    if (const ApplyCase *found = findApplyCase(index))
+        found->apply(change);
+}
+
+MenuAnalysis *ParaProcess::neededStore()
+{
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    if (!store)
+        qDebug() << "pmenu is null";
+    return store;
+}
+
+MainWindow *ParaProcess::neededHome() const
+{
     if (!m_pMainWindow)
         qDebug() << "pmenu is null";
-    else if (const ApplyCase *found = findApplyCase(index))
-        found->apply(change);
+    return m_pMainWindow;
 }
 
 QString ParaProcess::CalParaLimit(QString value, ENUM_MenuIndex index)
@@ -170,7 +183,7 @@ int ParaProcess::rightEyeStart(int format) const
 
 void ParaProcess::setRightEyeStart(int format, int pixels)
 {
-    if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
+    if (MenuAnalysis *store = neededStore())
         store->UpdataItemCurValue(format == 0 ? MENU_RightEyeStartSide : MENU_RightEyeStartTop,
                                   QString::number(pixels));
 }

@@ -162,6 +162,11 @@ public:
     void raiseSourceStable() { emit signal_Source_Stable(); }
 
 private:
+    /// Null, with a log line, while there is none.
+    /// @{
+    static MenuAnalysis *neededStore();
+    MainWindow *neededHome() const;
+    /// @}
     void InitParaFrom20M();
     void pushPresets();
     QString readRootVersion();

@@ -158,7 +158,7 @@ void ParaProcess::UpdataDispMode(int code)
         if (reported.mode != Testing) {
             if (m_processData.value(PARA_DisplayMode) == reported.mode)
                 return;
-            if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS)) {
+            if (MenuAnalysis *store = neededStore()) {
                 ParaChange change(*this, *store, QString(), reported.item, SET_XML_DEVICE);
                 change.choice(reported.item, true);
                 change.refresh(reported.item);

@@ -225,7 +225,7 @@ ApplyFamily presetFamily()
 
 void ParaProcess::QuickLoadScene(int number)
 {
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    MenuAnalysis *store = neededStore();
     if (!store || !Preset::exists(number))
         return;
     ParaChange change(*this, *store, QString(), ENUM_MenuIndex(MENU_Preset1 + number), SET_XML_USER);

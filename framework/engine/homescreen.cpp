@@ -34,7 +34,7 @@ void ParaProcess::showLayerSignal(int layer, const InputRecord &input, int rateC
 
 void ParaProcess::ChangeLayerSrc()
 {
-    if (!m_pMainWindow)
+    if (!neededHome())
         return;
     for (int layer = 0; layer < layerCount; ++layer) {
         const QString source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer));
@@ -57,10 +57,8 @@ void ParaProcess::showSyncState()
 
 void ParaProcess::InitializeMainWindow()
 {
-    if (!m_pMainWindow || !IsExistFromPool(ENUM_MENUANALYSIS)) {
-        qDebug() << "pmenu is null";
+    if (!neededHome() || !neededStore())
         return;
-    }
     InitParaFrom20M();
     UpdataDevRename();
 
@@ -86,7 +84,7 @@ void ParaProcess::InitdefaultValue()
 {
     for (int layer = 0; layer < layerCount; ++layer)
         emit signal_Layer_state(layer, 1);
-    if (!m_pMainWindow)
+    if (!neededHome())
         return;
     for (int port = 0; port < NET_PORT_COUNT; ++port)
         m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), NET_DISABLED);
@@ -97,18 +95,20 @@ void ParaProcess::InitdefaultValue()
 void ParaProcess::UpdataDevRename()
 {
     SnapshotBlock flag(SNAPSHOT_RenameFlag, 1);
-    flag.read();
+    if (!flag.read())
+        return; // whether it has a name is not known: what is shown stays
     const int mark = flag.u8(0);
     qDebug() << "rename_flg ==" << mark;
     QString name;
     if (mark == renamedMark) {
         SnapshotBlock block(SNAPSHOT_Name, LENGTH_Name);
-        block.read();
+        if (!block.read())
+            return;
         for (int unit = 0; unit < int(LENGTH_Name) && block.u16(unit) != 0; unit += 2)
             name += QChar(ushort(block.u16(unit)));
     }
     qDebug() << "name ==" << name;
-    if (!m_pMainWindow)
+    if (!neededHome())
         return;
     m_pMainWindow->SetDeviceRename(name);
     if (mark != renamedMark)

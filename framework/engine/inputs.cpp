@@ -8,11 +8,9 @@ namespace VASK
 void ParaProcess::HideSdiMenu(bool bHave)
 {
     bHaveSDI = bHave;
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    if (!store) {
-        qDebug() << "pmenu is null";
+    MenuAnalysis *store = neededStore();
+    if (!store)
         return;
-    }
     ParaChange change(*this, *store, QString(), MENU_SDI, SET_XML_DEVICE);
     for (ENUM_MenuIndex item : {MENU_SDI, MENU_AudioInput_SDI}) {
         change.enable(item, bHave);

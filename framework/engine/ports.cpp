@@ -30,7 +30,7 @@ bool isShown(int port)
 
 void ParaProcess::UpdatePortState(int port)
 {
-    if (!m_pMainWindow || !isShown(port))
+    if (!isShown(port) || !neededHome())
         return;
     const auto state = netState(m_processData.value(ofPort(PARA_PortLink, port)),
                                 m_processData.value(ofPort(PARA_PortBackupEngaged, port)),
@@ -40,7 +40,7 @@ void ParaProcess::UpdatePortState(int port)
 
 void ParaProcess::UpdataOPT1PortState(int port)
 {
-    if (!m_pMainWindow || !isShown(port))
+    if (!isShown(port) || !neededHome())
         return;
     // The device tells its optical ports also without a fiber: those at rest must not hide the port's own
     // link.

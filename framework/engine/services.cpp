@@ -40,7 +40,7 @@ void ParaProcess::DeviceStartComplateHandle()
     HdcpPoweronHandle();
     SyncInit();
     DhcpInit();
-    if (m_pMainWindow)
+    if (neededHome())
         m_pMainWindow->SetdeviceStartComplate();
     const QString version = readRootVersion();
     if (!version.isEmpty())

@@ -4,10 +4,13 @@
 
 namespace VASK
 {
-void SnapshotBlock::read()
+bool SnapshotBlock::read()
 {
-    driverutil::getInstance()->ReadDataFromFile(m_address, static_cast<unsigned int>(m_bytes.size()),
-                                                reinterpret_cast<unsigned char *>(m_bytes.data()));
+    const int result =
+        driverutil::getInstance()->ReadDataFromFile(m_address, static_cast<unsigned int>(m_bytes.size()),
+                                                    reinterpret_cast<unsigned char *>(m_bytes.data()));
+    m_known = m_known || result == 0;
+    return m_known;
 }
 
 int SnapshotBlock::u8(int offset) const

@@ -16,8 +16,9 @@ public:
     {
     }
 
-    /// Reads the block from the flash; a block that cannot be read keeps what it held.
-    void read();
+    /// Reads the block from the flash; a block that cannot be read keeps what it held. False if nothing of it
+    /// was ever read.
+    bool read();
     int u8(int offset) const;
     int u16(int offset) const;
     int u24(int offset) const;
@@ -27,6 +28,7 @@ public:
 private:
     unsigned int m_address;
     QByteArray m_bytes;
+    bool m_known = false;
 };
 
 struct SnapshotMirror {

@@ -256,6 +256,22 @@ void SnapshotPush::hdcpAndInputAudio()
         report(raised(MENU_AudioInput_HDMI1, input), lineIn ? 1 : 0);
     }
 }
+
+/// Name and state of a preset, from 0, as its record tells them. True if the device keeps the preset.
+bool decodePreset(const SnapshotBlock &record, int preset, ST_ItemInfo &item)
+{
+    static QTextCodec *const codec = QTextCodec::codecForName("GB2312");
+    const bool stored = record.u8(PRESET_Stored) == deviceOn;
+    item.tag = QString("Preset%1").arg(preset + 1);
+    item.value = stored ? "Saved" : "Blank";
+    if (stored) {
+        const QByteArray name = record.bytes(PRESET_Name, presetNameLength);
+        const QString text = codec->toUnicode(name.left(int(qstrnlen(name.constData(), uint(name.size())))));
+        if (!text.isEmpty())
+            item.tag = text;
+    }
+    return stored;
+}
 } // namespace
 
 void ParaProcess::InitReadParaFrom20M()
@@ -284,30 +300,21 @@ void ParaProcess::InitParaFrom20M()
 
 void ParaProcess::pushPresets()
 {
-    MenuAnalysis *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    MenuAnalysis *store = neededStore();
     if (!store)
         return;
-    QTextCodec *codec = QTextCodec::codecForName("GB2312");
     const int inUse = m_mirror.presetInUse.u8(0);
     for (int preset = 0; preset < presetCount; ++preset) {
-        SnapshotBlock record(SNAPSHOT_FirstPreset + unsigned(preset) * LENGTH_Preset, LENGTH_Preset);
-        record.read();
         const ENUM_MenuIndex index = raised(MENU_Preset1, preset);
         ST_ItemInfo item;
         store->GetMenuItem(index, item);
         // The panel may have gone off while a copy had the preset as its source.
         item.enable = true;
-        item.tag = QString("Preset%1").arg(preset + 1);
-        item.value = "Blank";
-        m_presetNamed[size_t(preset)] = record.u8(PRESET_Stored) == deviceOn;
-        if (m_presetNamed[size_t(preset)]) {
-            item.value = "Saved";
-            const QByteArray name = record.bytes(PRESET_Name, presetNameLength);
-            const QString text =
-                codec->toUnicode(name.left(int(qstrnlen(name.constData(), uint(name.size())))));
-            if (!text.isEmpty())
-                item.tag = text;
-        }
+        SnapshotBlock record(SNAPSHOT_FirstPreset + unsigned(preset) * LENGTH_Preset, LENGTH_Preset);
+        if (record.read())
+            m_presetNamed[size_t(preset)] = decodePreset(record, preset, item);
+        else if (item.value == "Used")
+            item.value = "Saved"; // which one is in use now is known
         item.icon =
             imgPath + (preset == inUse ? "sceneSetting/sceneused.png" : "sceneSetting/sceneunused.png");
         if (preset == inUse)
@@ -322,10 +329,9 @@ void ParaProcess::pushPresets()
 
 void ParaProcess::UpdateIp()
 {
-    SnapshotBlock device(SNAPSHOT_Device, LENGTH_Device);
-    device.read();
-    MenuAnalysis *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    if (!store || device.u8(DEVICE_Dhcp) == deviceOn)
+    SnapshotBlock device = m_mirror.device; // what the start found, should the flash fail now
+    MenuAnalysis *store = neededStore();
+    if (!store || !device.read() || device.u8(DEVICE_Dhcp) == deviceOn)
         return;
     struct Field {
         ENUM_MenuIndex item;

@@ -55,11 +55,9 @@ bool ParaProcess::Initialize()
     qDebug() << "<- ParaProcess::Initialize start";
     m_pMainWindow = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
     nameInputsAndSources();
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    if (!store) {
-        qDebug() << "pmenu is null";
+    MenuAnalysis *store = neededStore();
+    if (!store)
         return false;
-    }
     askBeforeQuickConfiguration();
     readRootVersion();
     keepRightEyeStarts(*store);
@@ -122,7 +120,7 @@ void ParaProcess::resetDisplayItems(MenuAnalysis &store)
 
 void ParaProcess::connectHomeScreen()
 {
-    MainWindow *home = m_pMainWindow;
+    MainWindow *home = neededHome();
     if (!home)
         return;
     constexpr auto queued = Qt::QueuedConnection;

@@ -28,6 +28,7 @@ private slots:
     void homeScreen();
     void layersOfTheHomeScreen();
     void unreadableBlockKeepsWhatWasRead();
+    void cutImageTakesNothingAway();
     void deviceName_data();
     void deviceName();
 
@@ -319,6 +320,31 @@ void TestSnapshot::unreadableBlockKeepsWhatWasRead()
     start();
     QCOMPARE(m_rig->value(MENU_Audio_Volume), QString("33"));
     QCOMPARE(m_rig->value(PARA_PresetInUse), QString("7"));
+}
+
+/// Presets, address and name are read from the flash anew: of one that ends too early they stay as they are.
+void TestSnapshot::cutImageTakesNothingAway()
+{
+    put(0x2F10, 3, 1); // another one is in use
+    put(0x3000 + 10, 168, 1);
+    for (int part : {0, 1, 2, 3})
+        put(0x2006 + 2 * part, part == 0 ? 10 : part, 2);
+    put(0xD14000, 154, 1);
+    put(0xD14100, 'n', 2);
+    start();
+    const QString preset = m_rig->value(MENU_Preset1);
+    QCOMPARE(preset, QString("Saved"));
+    const QString address = m_rig->value(MENU_Net_IPAddress);
+    QCOMPARE(address, QString("10.1.2.3"));
+
+    m_image.truncate(0x2010);
+    start();
+    m_rig->set(MENU_Net_IPAddress, "10.9.9.9");
+    m_rig->engine->UpdateIp();
+    QCOMPARE(m_rig->value(MENU_Preset1), preset);
+    QVERIFY(m_rig->engine->presetNamed(0));
+    QCOMPARE(m_rig->value(MENU_Net_IPAddress), address);
+    QCOMPARE(MainWindow::m_strDeviceRename, QString("n"));
 }
 
 void TestSnapshot::deviceName_data()
