@@ -7,6 +7,7 @@
 #include "framework/protocol/packageframe.h"
 #include "framework/protocol/packagerequestproto3rd.h"
 #include "tests/system/flood.h"
+#include "tests/system/framedrive.h"
 #include "tests/system/menuwalk.h"
 
 #include <QApplication>
@@ -43,8 +44,13 @@ double median(QVector<double> values)
     return values.isEmpty() ? 0 : values[values.size() / 2];
 }
 
-/// CPU of a bare label, as wait4 tells it.
-double bareLabelMs(const Panel &panel)
+struct Cost {
+    double cpuMs;
+    double memoryMb;
+};
+
+/// What a bare label takes; its CPU as wait4 tells it.
+Cost bareLabel(const Panel &panel)
 {
     const QString build = QCoreApplication::applicationDirPath() + "/..";
     QProcess process;
@@ -63,7 +69,7 @@ double bareLabelMs(const Panel &panel)
         return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1000.0 +
                (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1000.0;
     };
-    return ms(after) - ms(before);
+    return {ms(after) - ms(before), process.readAllStandardOutput().trimmed().toDouble()};
 }
 
 /// From the key word, as the emulator hands it out, to the next change of the LCD, in ms; negative if nothing
@@ -86,17 +92,29 @@ double lcdAnswerMs(Panel &panel, const QStringList &words)
     return double(*changedNs - sentNs) / 1e6;
 }
 
+/// The middle of some starts; the last one stays up.
 void measureStart(Panel &panel)
 {
-    QElapsedTimer passed;
-    passed.start();
+    constexpr int starts = 5;
+    QVector<double> wall, cpu, memory, floorCpu, floorMemory;
     panel.powerDevice();
-    panel.start();
-    panel.ask({"wait", "ready"});
-    const int id = procfs::panelOf(panel.statePath());
-    print("start-up, CPU", procfs::cpuMs(id), bareLabelMs(panel), "ms");
-    printf("%-34s %10lld ms\n", "start-up, wall with the device", static_cast<long long>(passed.elapsed()));
-    printf("%-34s %10.1f MB\n", "memory at the home screen", procfs::memoryMb(id));
+    for (int i = 0; i < starts; ++i) {
+        panel.ask({"panel", "stop"});
+        QElapsedTimer passed;
+        passed.start();
+        panel.start();
+        panel.ask({"wait", "ready"});
+        wall << double(passed.elapsed());
+        const int id = procfs::panelOf(panel.statePath());
+        cpu << procfs::cpuMs(id);
+        memory << procfs::memoryMb(id);
+        const Cost floor = bareLabel(panel);
+        floorCpu << floor.cpuMs;
+        floorMemory << floor.memoryMb;
+    }
+    print("start-up, CPU", median(cpu), median(floorCpu), "ms");
+    printf("%-34s %10.0f ms\n", "start-up, wall with the device", median(wall));
+    print("memory at the home screen", median(memory), median(floorMemory), "MB");
 }
 
 constexpr int idleSeconds = 30;
@@ -222,7 +240,7 @@ void measureKeys(Panel &panel)
     walk.home();
 }
 
-/// The store writes its file and a copy of it and has them on the disk: so does the floor.
+/// The store writes its file, has it on the disk and copies it: so does the floor.
 void measureStore(Panel &panel)
 {
     MenuWalk walk(panel);
@@ -245,32 +263,18 @@ void measureStore(Panel &panel)
     QElapsedTimer plain;
     plain.start();
     for (const char *name : {"/one", "/two"}) {
-        QFile copy(panel.statePath() + name);
-        copy.open(QIODevice::WriteOnly);
-        copy.write(bytes);
-        copy.flush();
-        fsync(copy.handle());
+        QFile file(panel.statePath() + name);
+        file.open(QIODevice::WriteOnly);
+        file.write(bytes);
+        file.flush();
+        if (name == QByteArray("/one"))
+            fsync(file.handle());
     }
     print("store flush", times.first().msecsTo(times.last()), double(plain.nsecsElapsed()) / 1e6, "ms");
 }
 
-void measureReports(Panel &panel)
+double parsedPerSecond()
 {
-    constexpr int count = 20000;
-    const int id = procfs::panelOf(panel.statePath());
-    const double memory = procfs::memoryMb(id), cpu = procfs::cpuMs(id);
-    QList<QStringList> burst;
-    for (int i = 0; i < 200; ++i)
-        burst << QStringList{"push", "02000001", QString("%1").arg(i, 2, 16, QChar('0')), "--device", "1"};
-    panel.mark();
-    QElapsedTimer passed;
-    passed.start();
-    for (int i = 0; i < count / burst.size(); ++i)
-        panel.askAll(burst);
-    panel.ask({"push", "02000001", "99", "--device", "1"});
-    panel.waitForLog("ReportMsgToParaProcess 1 ");
-    const double perSecond = count * 1000.0 / passed.elapsed();
-
     const QByteArray bytes = QByteArray::fromHex("aa55000000fe000000000000000000140100016956");
     QElapsedTimer parsing;
     parsing.start();
@@ -279,10 +283,58 @@ void measureReports(Panel &panel)
         PackageRequestProto3rd package;
         parsed += package.unPackageReply(bytes);
     }
-    printf("%-34s %10.0f /s   floor (parsing alone) %.0f /s\n", "reports handled", perSecond,
-           parsed * 1000.0 / parsing.elapsed());
-    printf("%-34s %10.1f us CPU\n", "a report", (procfs::cpuMs(id) - cpu) * 1000 / count);
-    printf("%-34s %10.1f MB more\n", "memory after them", procfs::memoryMb(id) - memory);
+    return parsed * 1000.0 / double(parsing.elapsed());
+}
+
+/// Reports of one register until the panel has read the last of them, which tells the item another value than
+/// all before.
+void measureBurst(Panel &panel, const char *name, const QList<QStringList> &burst, const QStringList &last,
+                  const char *lastRead)
+{
+    constexpr int count = 20000;
+    const int id = procfs::panelOf(panel.statePath());
+    const double cpu = procfs::cpuMs(id);
+    QFile log(panel.statePath() + "/panel.log");
+    if (!log.open(QIODevice::ReadOnly) || !log.seek(log.size()))
+        return;
+    QElapsedTimer passed;
+    passed.start();
+    for (int i = 0; i < count / burst.size(); ++i)
+        panel.askAll(burst);
+    panel.ask(last);
+    int read = 0;
+    bool ended = false;
+    while (!ended && !passed.hasExpired(60000)) {
+        for (QByteArray line = log.readLine(); !line.isEmpty(); line = log.readLine()) {
+            if (!line.endsWith('\n')) { // the rest of it is still to come
+                log.seek(log.pos() - line.size());
+                break;
+            }
+            read += line.startsWith("Proto3rd addr:");
+            ended = ended || line.startsWith(lastRead);
+        }
+        QThread::msleep(2);
+    }
+    const double seconds = double(passed.elapsed()) / 1000;
+    printf("%-34s %10.0f /s, of them read %.0f /s, %.0f us CPU a read one%s\n", name, count / seconds,
+           read / seconds, (procfs::cpuMs(id) - cpu) * 1000 / read, ended ? "" : ": no end");
+}
+
+void measureReports(Panel &panel)
+{
+    const double memory = procfs::memoryMb(procfs::panelOf(panel.statePath()));
+    QList<QStringList> brightness, records;
+    for (int i = 0; i < 200; ++i) {
+        brightness << QStringList{"push", "02000001", frames::le(i, 1), "--device", "1"};
+        records << QStringList{"push", "13010001", "11000380073804" + frames::le(16000 + i, 2)};
+    }
+    measureBurst(panel, "reports of one register, folded", brightness,
+                 {"push", "02000001", "ff", "--device", "1"}, "ReportMsgToParaProcess 1 \"100\"");
+    measureBurst(panel, "reports of an input, all read", records, {"push", "13010001", "110003800738041a41"},
+                 "ReportMsgToParaProcess 3252 \"16666\"");
+    printf("%-34s %10.0f /s\n", "floor: parsing alone", parsedPerSecond());
+    printf("%-34s %10.1f MB more\n", "memory after them",
+           procfs::memoryMb(procfs::panelOf(panel.statePath())) - memory);
 }
 
 void printWaits(const char *what, QVector<double> waits)

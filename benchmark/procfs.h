@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMap>
+#include <numeric>
 #include <unistd.h>
 
 namespace procfs
@@ -24,21 +25,6 @@ inline int panelOf(const QString &stateFolder)
     return 0;
 }
 
-/// User and system time in ms, from a stat file.
-inline double statMs(const QString &file)
-{
-    const QByteArray text = read(file);
-    const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
-    return fields.size() < 13
-               ? 0
-               : (fields[11].toDouble() + fields[12].toDouble()) * 1000 / double(sysconf(_SC_CLK_TCK));
-}
-
-inline double cpuMs(int process)
-{
-    return statMs(QString("/proc/%1/stat").arg(process));
-}
-
 /// Time on a processor in ms, from the scheduler's own nanoseconds, by the thread's name and number.
 inline QMap<QString, double> threadsMs(int process)
 {
@@ -50,6 +36,13 @@ inline QMap<QString, double> threadsMs(int process)
             read(folder + id + "/schedstat").split(' ').first().toDouble() / 1e6;
     }
     return threads;
+}
+
+/// Of the threads that live.
+inline double cpuMs(int process)
+{
+    const QMap<QString, double> threads = threadsMs(process);
+    return std::accumulate(threads.begin(), threads.end(), 0.0);
 }
 
 /// How often each thread has gone to sleep of its own accord, by the same keys.
