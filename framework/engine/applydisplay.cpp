@@ -5,6 +5,7 @@
 
 #include "framework/keyevent.h"
 #include "framework/menuanalysis.h"
+#include "framework/protocol/devicecodes.h"
 
 namespace VASK
 {
@@ -135,10 +136,10 @@ struct ReportedMode {
     DisplayMode mode;
 };
 constexpr ReportedMode reportedModes[] = {
-    {3, MENU_Normal, Normal},
-    {4, MENU_Freeze, Frozen},
-    {5, MENU_FTB, Black},
-    {6, MENU_TestPattern, Testing},
+    {DISPLAY_Normal, MENU_Normal, Normal},
+    {DISPLAY_Freeze, MENU_Freeze, Frozen},
+    {DISPLAY_Black, MENU_FTB, Black},
+    {DISPLAY_Test, MENU_TestPattern, Testing},
 };
 
 constexpr ApplyCase cases[] = {

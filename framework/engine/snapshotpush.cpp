@@ -139,9 +139,8 @@ void SnapshotPush::crops()
 
 void SnapshotPush::audioAndOutputSize()
 {
-    constexpr int lineIn = 240;
     const int audio = m_mirror.device.u8(DEVICE_AudioOutput);
-    report(MENU_Audio_AudioOutput, audio == lineIn ? 4 : audio);
+    report(MENU_Audio_AudioOutput, audio == audioLineIn ? audioLineInRow : audio);
     report(MENU_Audio_Volume, m_mirror.device.u8(DEVICE_Volume));
     const int mode = m_mirror.outputMode.u8(0);
     report(MENU_OutputMode, mode);
@@ -173,12 +172,6 @@ void SnapshotPush::splicing()
 
 void SnapshotPush::stereo()
 {
-    constexpr int sideBySide = 40;
-    constexpr int topAndBottom = 8;
-    constexpr int frameSequential = 24;
-    constexpr int leftEye = 100;
-    constexpr int rightEye = 50;
-    constexpr int ticksPerUs = 125;
     const SnapshotBlock &block = m_mirror.stereo;
     report(MENU_Mode3D_Status, block.u8(STEREO_Switch) == deviceOn ? 1 : 0);
     // Both are kept, as the device is told of both: an erased snapshot tells nothing.
@@ -187,23 +180,23 @@ void SnapshotPush::stereo()
     if (block.u16(STEREO_StartTop))
         m_engine.setRightEyeStart(1, block.u16(STEREO_StartTop));
     switch (block.u8(STEREO_Format)) {
-    case sideBySide:
+    case STEREO_SideBySide:
         report(MENU_Mode3D_Format, 0);
         report(MENU_Mode3D_RightEyeStart, block.u16(STEREO_StartSide));
         break;
-    case topAndBottom:
+    case STEREO_TopAndBottom:
         report(MENU_Mode3D_Format, 1);
         report(MENU_Mode3D_RightEyeStart, block.u16(STEREO_StartTop));
         break;
-    case frameSequential:
+    case STEREO_Sequential:
         report(MENU_Mode3D_Format, 2);
         break;
     }
-    if (block.u8(STEREO_EyePriority) == leftEye)
+    if (block.u8(STEREO_EyePriority) == EYE_LeftFirst)
         report(MENU_Mode3D_EyePriority, 0);
-    else if (block.u8(STEREO_EyePriority) == rightEye)
+    else if (block.u8(STEREO_EyePriority) == EYE_RightFirst)
         report(MENU_Mode3D_EyePriority, 1);
-    report(MENU_Mode3D_SignalDelayTime, block.u24(STEREO_Delay) / ticksPerUs);
+    report(MENU_Mode3D_SignalDelayTime, block.u24(STEREO_Delay) / delayStepsPerMicrosecond);
     report(MENU_Mode3D_ThirdPartyEmitter, block.u8(STEREO_Emitter));
 }
 
@@ -238,7 +231,7 @@ void SnapshotPush::inputBackup()
 {
     constexpr int noPartner = 255;
     const SnapshotBlock &block = m_mirror.inputBackup;
-    report(MENU_InputBackup_Status, block.u8(BACKUP_Switch) == backupOnMark ? 1 : 0);
+    report(MENU_InputBackup_Status, block.u8(BACKUP_Switch) == backupOn ? 1 : 0);
     report(MENU_InputBackup_HDMI1, block.u8(BACKUP_Hdmi) < noPartner ? 1 : 0);
     report(MENU_InputBackup_DVI1, block.u8(BACKUP_Dvi) == noPartner ? 0 : 1);
     report(MENU_InputBackup_Mosaic, block.u8(BACKUP_Mosaic) < noPartner ? 1 : 0);

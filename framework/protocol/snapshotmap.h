@@ -2,6 +2,8 @@
 // little-endian; offsets are bytes from the start of their block.
 #pragma once
 
+#include "framework/protocol/devicecodes.h"
+
 namespace VASK
 {
 /// Addresses of the blocks, bytes into the snapshot.
@@ -148,10 +150,6 @@ enum InputsOffset : int {
     INPUTS_AudioStride = 2,
 };
 
-/// The byte that many registers take for "on".
-constexpr int deviceOn = 168;
 /// The byte that says that the device has a name of its own.
 constexpr int renamedMark = 0x9A;
-/// The byte that switches input backup on.
-constexpr int backupOnMark = 0x5B;
 } // namespace VASK

@@ -1,6 +1,7 @@
 // Reports about the device as a whole: it has started, was reset or renamed, has changed its mode, or was set
 // up by a host.
 #include "framework/paraprocess.h"
+#include "framework/protocol/devicecodes.h"
 #include "framework/protocol/proto3rdreceiveparse.h"
 #include "framework/protocol/receive/selftest.h"
 
@@ -71,7 +72,7 @@ int SoftConfigLfg(const Report &report)
 
 int SoftCalibrate(const Report &report)
 {
-    constexpr int began = 168;
+    constexpr int began = deviceOn;
     constexpr int ended = 0;
     if (report.u8(0) != began && report.u8(0) != ended)
         return 2;

@@ -1,4 +1,5 @@
 // Reports about the device's address.
+#include "framework/protocol/devicecodes.h"
 #include "framework/protocol/proto3rdreceiveparse.h"
 
 #include <QDebug>
@@ -41,8 +42,7 @@ int ParseIPAddress(const Report &report)
 
 int ParseIPMode(const Report &report)
 {
-    constexpr int automatic = 168;
-    report.parse.report(MENU_Net_NetMode, report.u8(0) == automatic ? 1 : 0);
+    report.parse.report(MENU_Net_NetMode, report.u8(0) == deviceOn ? 1 : 0);
     return 0;
 }
 

@@ -1,6 +1,7 @@
 // Reports about the output and the wall: sizes, rates, brightness, mapping, and what the output shows.
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
+#include "framework/protocol/devicecodes.h"
 #include "framework/protocol/proto3rdreceiveparse.h"
 
 #include <QDebug>
@@ -80,15 +81,13 @@ int ParseScreenWidth(const Report &report)
 
 int ParseMapping(const Report &report)
 {
-    constexpr int mappingOn = 5;
     report.parse.report(MENU_Mapping, report.u8(0) == mappingOn ? 1 : 0);
     return 0;
 }
 
 int ParseDispModeInfo(const Report &report)
 {
-    constexpr int codeOfNormal = 3;
-    const QString mode = QString::number(report.u8(0) - codeOfNormal);
+    const QString mode = QString::number(report.u8(0) - DISPLAY_Normal);
     if (mode != report.parse.engine().GetParaFromIndex(PARA_DisplayMode))
         report.parse.engine().UpdataDispMode(report.u8(0));
     return 0;

@@ -1,4 +1,5 @@
 // Reports about audio, on-screen display and latency.
+#include "framework/protocol/devicecodes.h"
 #include "framework/protocol/proto3rdreceiveparse.h"
 
 #include <QDebug>
@@ -8,13 +9,12 @@ namespace VASK
 {
 namespace
 {
-/// The output's source: an input, or 240 for none.
+/// The output's source: an input, or none.
 QString audioOutput(int code)
 {
     constexpr int lastInput = 3;
-    constexpr int noInput = 240;
-    if (code == noInput)
-        return QStringLiteral("4");
+    if (code == audioLineIn)
+        return QString::number(audioLineInRow);
     return code <= lastInput ? QString::number(code) : QString();
 }
 
@@ -50,7 +50,6 @@ int ParseOSDPictureState(const Report &report)
 
 int ParseLowLatencyInfo(const Report &report)
 {
-    constexpr int lowLatencyOn = 'x';
     report.parse.report(MENU_LowLatency, report.u8(0) == lowLatencyOn ? 1 : 0);
     return 0;
 }

@@ -1,4 +1,5 @@
 // Reports about 3D.
+#include "framework/protocol/devicecodes.h"
 #include "framework/protocol/proto3rdreceiveparse.h"
 
 #include <QDebug>
@@ -17,8 +18,7 @@ int Parse_3DState(const Report &report)
 
 int Parse_3DDelayTime(const Report &report)
 {
-    constexpr int ticksPerUnit = 125;
-    const int delay = report.u24(0) / ticksPerUnit;
+    const int delay = report.u24(0) / delayStepsPerMicrosecond;
     qDebug() << "Delay time" << delay;
     report.parse.report(MENU_Mode3D_SignalDelayTime, delay);
     return 0;
@@ -26,27 +26,24 @@ int Parse_3DDelayTime(const Report &report)
 
 int Prase_3DStatus(const Report &report)
 {
-    constexpr int on = 168;
-    report.parse.report(MENU_Mode3D_Status, report.u8(0) == on ? 1 : 0);
+    report.parse.report(MENU_Mode3D_Status, report.u8(0) == deviceOn ? 1 : 0);
     return 0;
 }
 
 int Prase_3DPriorityOffset(const Report &report)
 {
-    constexpr int leftFirst = 100;
-    constexpr int rightFirst = 50;
-    if (report.u8(0) != leftFirst && report.u8(0) != rightFirst)
+    if (report.u8(0) != EYE_LeftFirst && report.u8(0) != EYE_RightFirst)
         return 2;
-    report.parse.report(MENU_Mode3D_EyePriority, report.u8(0) == leftFirst ? 0 : 1);
+    report.parse.report(MENU_Mode3D_EyePriority, report.u8(0) == EYE_LeftFirst ? 0 : 1);
     return 0;
 }
 
 int Prase_3DSourceFormat(const Report &report)
 {
-    constexpr int sideBySide = 40;
-    constexpr int topAndBottom = 8;
     const int code = report.u8(0);
-    report.parse.report(MENU_Mode3D_Format, code == sideBySide ? 0 : code == topAndBottom ? 1 : 2);
+    report.parse.report(MENU_Mode3D_Format, code == STEREO_SideBySide     ? 0
+                                            : code == STEREO_TopAndBottom ? 1
+                                                                          : 2);
     return 0;
 }
 

@@ -11,9 +11,6 @@ namespace
 {
 using P = TGProtocolParser3rd;
 
-/// Display modes as the device numbers them.
-enum DisplayByte : quint8 { DISPLAY_Normal = 3, DISPLAY_Freeze = 4, DISPLAY_Black = 5, DISPLAY_Test = 6 };
-
 constexpr int noColour = -1;
 
 /// The colour with the mark of the pattern's kind.

@@ -164,7 +164,7 @@ constexpr SendRow rows[] = {
 
     own(MENU_HDCP, HdcpSwitchChanged, P::Set_HdcpStatus),
 
-    plain(MENU_InputBackup_Status, onOff(91, 255), P::Set_InputSourceHotBackUpSwitch),
+    plain(MENU_InputBackup_Status, onOff(backupOn, 255), P::Set_InputSourceHotBackUpSwitch),
     family(MENU_InputBackup_HDMI1, MENU_InputBackup_HDMI1, 1, 3, inputBackupChanged,
            P::Set_InputSourceHotBackUpSource),
 

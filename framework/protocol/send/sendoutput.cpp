@@ -34,9 +34,6 @@ constexpr SendRow hdmiOutputMode()
     return row;
 }
 
-/// The device counts the delay in steps of 8 ns, the menu in microseconds.
-constexpr int delayStepsPerMicrosecond = 125;
-
 constexpr SendRow rows[] = {
     plain(MENU_OutputFrameRate, centi(), P::Set_OutRefreshRate),
     hdmiOutputMode(),
@@ -45,18 +42,19 @@ constexpr SendRow rows[] = {
     plain(MENU_Sync_Status, onOff(1, 0), P::Set_SyncStatusData),
     plain(MENU_Sync_Source, numberPlus(1), P::Set_SyncSourceData),
 
-    plain(MENU_Audio_AudioOutput, numberBut("4", 240), P::Set_AudioSettingSelect),
+    plain(MENU_Audio_AudioOutput, numberBut("4", audioLineIn), P::Set_AudioSettingSelect),
     plain(MENU_Audio_Volume, number(), P::Set_AudioSettingVolume),
 
-    plain(MENU_Mode3D_Status, zeroElse(40, 168), P::Set_3DStatusChanged),
-    plain(MENU_Mode3D_Format, zeroOneElse(40, 8, 24), P::Set_3DSourceFormatChanged),
-    plain(MENU_Mode3D_EyePriority, zeroElse(100, 50), P::Set_3DEyePriorChanged),
+    plain(MENU_Mode3D_Status, zeroElse(40, deviceOn), P::Set_3DStatusChanged),
+    plain(MENU_Mode3D_Format, zeroOneElse(STEREO_SideBySide, STEREO_TopAndBottom, STEREO_Sequential),
+          P::Set_3DSourceFormatChanged),
+    plain(MENU_Mode3D_EyePriority, zeroElse(EYE_LeftFirst, EYE_RightFirst), P::Set_3DEyePriorChanged),
     own(MENU_Mode3D_RightEyeStart, _3DRightEyeStartChanged, P::Set_3DRightEyeStartChanged),
     plain(MENU_Mode3D_SignalDelayTime, numberTimes(delayStepsPerMicrosecond, 3),
           P::Set_3DSignalDelayTimeChanged),
     plain(MENU_Mode3D_ThirdPartyEmitter, zeroElse(0, 1), P::Set_3DStartThirdEmitChanged),
 
-    plain(MENU_LowLatency, zeroElse(0, 120), P::Set_LowLatency),
+    plain(MENU_LowLatency, zeroElse(0, lowLatencyOn), P::Set_LowLatency),
 };
 } // namespace
 

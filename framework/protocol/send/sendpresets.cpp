@@ -55,7 +55,7 @@ constexpr SendRow rows[] = {
     own(EVENT_PresetDelete, SceneDeleteItem, P::DeleteSence),
     own(EVENT_PresetCopy, SceneCopyItem, P::CopySence),
 
-    own(MENU_ImageMosaic_Status, MosaicSwitchChanged, P::Set_MosaicSwitch, onOff(168, 0)),
+    own(MENU_ImageMosaic_Status, MosaicSwitchChanged, P::Set_MosaicSwitch, onOff(deviceOn, 0)),
     family(MENU_ImageMosaic_LoadAreaWidth, MENU_ImageMosaic_LoadAreaInitialY, 0, 1, MosaicScreenChanged,
            P::Set_MosaicScreenPara),
     own(MENU_ImageMosaic_Reset, MosaicResetClick),

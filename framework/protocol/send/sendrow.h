@@ -2,6 +2,7 @@
 // and a register names a function of its own. Rows are data; functions run on the thread of the change.
 #pragma once
 
+#include "framework/protocol/devicecodes.h"
 #include "framework/protocol/proto3rdsend.h"
 #include "framework/protocol/send/valueform.h"
 #include "framework/protocol/tgprotocolparser3rd.h"

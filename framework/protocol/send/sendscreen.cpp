@@ -19,7 +19,7 @@ constexpr quint8 applyAdvanced = 185;
 
 int ScannerMapping(const SendChange &change)
 {
-    const QByteArray data = littleEndian(change.value == QLatin1String("0") ? 255 : 5, 1);
+    const QByteArray data = littleEndian(change.value == QLatin1String("0") ? 255 : mappingOn, 1);
     change.log(data);
     return change.send(P::Set_ScannerCommonWrite(data, data.size(), mappingAddress));
 }
@@ -114,7 +114,7 @@ constexpr SendRow rows[] = {
     family(MENU_CabinetFile1, MENU_CabinetFile8, 0, 1, LoadBoxCFGFile, P::Set_LoadBoxCFGFile),
     own(MENU_Mapping, ScannerMapping),
 
-    plain(MENU_Advanced_Status, onOff(168, 184), P::Set_AdvancedSettingScreenSwitchValue),
+    plain(MENU_Advanced_Status, onOff(deviceOn, 184), P::Set_AdvancedSettingScreenSwitchValue),
     own(MENU_Advanced_EthernetPort, AdvancedTurnOnNetPortValueChanged),
     own(MENU_Advanced_Apply, AdvancedTurnOnApply, P::Set_AdvancedSettingScreenSwitchValue),
 

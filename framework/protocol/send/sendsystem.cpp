@@ -94,7 +94,7 @@ constexpr SendRow rows[] = {
     plain(MENU_ResetAll, fixed(1), P::Set_ReturnFactoryData),
     plain(MENU_CommunicationMode, textElse("USBPreferred", 0, 1), P::Set_CommunicationModelData),
 
-    plain(MENU_Net_NetMode, onOff(168, 0), P::Set_DHCPSwitchData),
+    plain(MENU_Net_NetMode, onOff(deviceOn, 0), P::Set_DHCPSwitchData),
     own(MENU_Net_Apply, NetWorkApply, P::Set_NetCommunicateData),
     own(MENU_Net_Reset, ResetNetClick, P::Set_NetCommunicateData),
 
