@@ -1,4 +1,5 @@
 // The form of one menu item in the store's XML document: item to element and back, and nothing about files.
+// Without state, on a document that the caller has made or locked.
 #pragma once
 
 #include "menuconfig_k2860.h"

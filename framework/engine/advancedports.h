@@ -1,4 +1,5 @@
 // The advanced screen configuration of the ten ports, read once so that a search can try many values on it.
+// Any thread; an object is used where it was made.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
 // The state of the device as the engine reads it off items and process data: inputs, rates, the resolution
-// text.
+// text. Any thread: each read takes its own short lock.
 #pragma once
 
 #include "framework/processdata.h"

@@ -1,5 +1,6 @@
 // The three layers as the engine knows them: their items, the pictures they show, and what a change of one of
 // them does to the others. A layer is told by its items, so that one function serves all three.
+// Runs where the change came in: on the GUI thread, or on the report thread for what the device tells.
 #pragma once
 
 #include "framework/engine/change.h"

@@ -1,5 +1,6 @@
 // The limits of values that depend on other values. Each case gives the value that may be used instead of the
 // one that was asked for; the cases of frame rates change which options of a list are available instead.
+// Any thread.
 #pragma once
 
 #include "menuindex.h"
