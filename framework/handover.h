@@ -38,7 +38,7 @@ template <class Work> class Parcel
 public:
     explicit Parcel(Work work) : m_work(std::move(work)) { handOver(this); }
     Parcel(const Parcel &other) : m_work(other.m_work) { handOver(this); }
-    Parcel(Parcel &&other) : m_work(std::move(other.m_work)) { handOver(this); }
+    Parcel(Parcel &&other) noexcept : m_work(std::move(other.m_work)) { handOver(this); }
     ~Parcel() { takeOver(this); }
     Parcel &operator=(const Parcel &) = delete;
 

@@ -45,7 +45,7 @@ QString readFileGetNames()
     QFile file(board::filePath(indexFile));
     if (!file.open(QIODevice::ReadOnly))
         qDebug() << "cannot open" << indexFile << file.errorString();
-    const QString names = cabinetNames(file.isOpen() ? file.readAll() : QByteArray());
+    QString names = cabinetNames(file.isOpen() ? file.readAll() : QByteArray());
     qDebug() << "readFileGetNames:" << names;
     return names;
 }

@@ -3,7 +3,6 @@
 #include "framework/protocol/proto3rdreceiveparse.h"
 
 #include <QDebug>
-#include <iterator>
 
 namespace VASK
 {
@@ -60,12 +59,15 @@ void Proto3rdReceiveParse::BuildMap(ENUM_MenuIndex index, unsigned char code)
 
 void Proto3rdReceiveParse::closeInputTables()
 {
-    for (unsigned char row = 0; row < std::size(mosaicInputs); ++row)
-        for (unsigned char code : {mosaicInputs[row].code, mosaicInputs[row].alias})
+    unsigned char row = 0;
+    for (const MosaicInput &input : mosaicInputs) {
+        for (unsigned char code : {input.code, input.alias})
             if (inputSourceCode.keyOfCode(code) != InputTable::noKey) {
                 MosaicSourceCode.insert(row, {row, code});
                 break;
             }
+        ++row;
+    }
     pParaProcess->HideSdiMenu(bHaveSDI);
     BuildOverFlag = true;
 }

@@ -74,9 +74,9 @@ PortArea readPort(const SendChange &change, int port)
     auto at = [base](ENUM_MenuIndex ofPort1) {
         return ENUM_MenuIndex(base + ofPort1 - MENU_AdvancedPort1_Rows);
     };
-    const PortArea area{change.number(at(MENU_AdvancedPort1_Rows)),
-                        change.number(at(MENU_AdvancedPort1_Cols)), change.number(at(MENU_AdvancedPort1_X)),
-                        change.number(at(MENU_AdvancedPort1_Y)), change.item(at(MENU_AdvancedPort1_FlowWay))};
+    PortArea area{change.number(at(MENU_AdvancedPort1_Rows)), change.number(at(MENU_AdvancedPort1_Cols)),
+                  change.number(at(MENU_AdvancedPort1_X)), change.number(at(MENU_AdvancedPort1_Y)),
+                  change.item(at(MENU_AdvancedPort1_FlowWay))};
     qDebug() << "network" << port << area.rows << area.columns << area.x << area.y << area.route;
     return area;
 }
