@@ -1,6 +1,6 @@
 // The advanced screen configuration: the page with the record of one port, and the records of all.
 
-#include "casetable.h"
+#include "caseline.h"
 
 using namespace VASK;
 
@@ -27,131 +27,40 @@ private:
 
 namespace
 {
-const QString closes = "FlowWayCauseCloseLowLatency";
-const QString formOn = "2381+ 2382+ 2383+ 2384+ 2385+ 2386+ 2387+";
-const QString formOff = "2381- 2382- 2383- 2384- 2385- 2386- 2387-";
-const QStringList formRefreshed{"2381=", "2382=", "2383=", "2384=", "2385=", "2386=", "2387="};
+const QString formOn = "2381+ 2382+ 2383+ 2384+ 2385+ 2386+ 2387+ ";
+const QString formOff = "2381- 2382- 2383- 2384- 2385- 2386- 2387- ";
+const QString formRefreshed = "reloads 2381= 2382= 2383= 2384= 2385= 2386= 2387=; ";
+const QString closes = "sends 1055=0; asks FlowWayCauseCloseLowLatency; leaves 1055=0";
+const QString third = "2381=3 1055=1 2384=5 2385=6 ", shifted = third + "3199=6 "; // the last port's Y
 
-Cases statusCases()
-{
-    return {
-        Case("on", {{MENU_ScreenConfigKind, "0"}})
-            .byUser(MENU_Advanced_Status, "1")
-            .sends({"2380=1"})
-            .refreshes(formRefreshed)
-            .leaves({{MENU_ScreenConfigKind, "1"}}, formOn + " 1056+"),
-        Case("on, sending card", {{MENU_ScreenConfigKind, "0"}, {MENU_WorkMode, "2"}})
-            .byDevice(MENU_Advanced_Status, "1")
-            .tells({"2380=1"})
-            .leaves({{MENU_ScreenConfigKind, "1"}}, formOn + " 1056-"),
-        Case("off", {{MENU_ScreenConfigKind, "1"}})
-            .byUser(MENU_Advanced_Status, "0")
-            .sends({"2380=0"})
-            .refreshes(formRefreshed)
-            .leaves({{MENU_ScreenConfigKind, "0"}}, formOff + " 1056+"),
-        Case("off", {{MENU_ScreenConfigKind, "1"}, {MENU_WorkMode, "1"}})
-            .byDevice(MENU_Advanced_Status, "0")
-            .tells({"2380=0"})
-            .leaves({{MENU_ScreenConfigKind, "0"}}, formOff + " 1056+"),
-    };
-}
+const CaseLines lines{
+    {"on", "3138=0", "user 2380=1", "sends 2380=1; " + formRefreshed + "leaves 3138=1 1056+ " + formOn},
+    {"on, sending card", "3138=0 3210=2", "device 2380=1", "tells 2380=1; leaves 3138=1 1056- " + formOn},
+    {"off", "3138=1", "user 2380=0", "sends 2380=0; " + formRefreshed + "leaves 3138=0 1056+ " + formOff},
+    {"off", "3138=1 3210=1", "device 2380=0", "tells 2380=0; leaves 3138=0 1056+ " + formOff},
 
-Cases rowCases()
-{
-    const Values third{{MENU_Advanced_EthernetPort, "3"},
-                       {MENU_LowLatency, "1"},
-                       {MENU_Advanced_HorOffset, "5"},
-                       {MENU_Advanced_VerOffset, "6"}};
-    Values shifted = third;
-    shifted[MENU_AdvancedPort10_Y] = "6";
-    const Values on{{MENU_LowLatency, "1"}}, off{{MENU_LowLatency, "0"}};
-    return {
-        Case("rows", third)
-            .byUser(MENU_Advanced_CabinetRow, "7")
-            .refreshes({"2385=6", "2384=5"})
-            .leaves({{MENU_AdvancedPort3_Rows, "7"}, {MENU_AdvancedPort1_Rows, "1"}, {MENU_LowLatency, "1"}}),
-        Case("rows", shifted)
-            .byDevice(MENU_Advanced_CabinetRow, "7")
-            .refreshes({})
-            .leaves({{MENU_AdvancedPort3_Rows, "7"}, {MENU_LowLatency, "1"}}),
-        Case("rows, the starts differ", shifted)
-            .byUser(MENU_Advanced_CabinetRow, "7")
-            .sends({"1055=0"})
-            .asks({closes})
-            .refreshes({"2385=6", "2384=5", "1055="})
-            .leaves(off),
-        Case("columns", third)
-            .byUser(MENU_Advanced_CabinetCol, "8")
-            .refreshes({"2384=5", "2385=6"})
-            .leaves({{MENU_AdvancedPort3_Cols, "8"}, {MENU_LowLatency, "1"}}),
-        Case("columns", shifted)
-            .byDevice(MENU_Advanced_CabinetCol, "8")
-            .refreshes({})
-            .leaves({{MENU_AdvancedPort3_Cols, "8"}, {MENU_LowLatency, "1"}}),
-        Case("x", third)
-            .byUser(MENU_Advanced_HorOffset, "640")
-            .leaves({{MENU_AdvancedPort3_X, "640"}, {MENU_AdvancedPort3_Y, "0"}, {MENU_LowLatency, "1"}}),
-        Case("x, the starts differ", shifted)
-            .byUser(MENU_Advanced_HorOffset, "640")
-            .sends({"1055=0"})
-            .asks({closes})
-            .leaves(off),
-        Case("y", third)
-            .byUser(MENU_Advanced_VerOffset, "480")
-            .sends({"1055=0"})
-            .asks({closes})
-            .leaves({{MENU_AdvancedPort3_Y, "480"}, {MENU_LowLatency, "0"}}),
-        Case("y", third)
-            .byDevice(MENU_Advanced_VerOffset, "480")
-            .refreshes({})
-            .leaves({{MENU_AdvancedPort3_Y, "480"}, {MENU_LowLatency, "1"}}),
-        Case("flow way", shifted)
-            .byUser(MENU_Advanced_FlowWay, "4")
-            .leaves({{MENU_AdvancedPort3_FlowWay, "4"}, {MENU_LowLatency, "1"}}),
-        Case("flow way")
-            .byDevice(MENU_Advanced_FlowWay, "4")
-            .refreshes({})
-            .leaves({{MENU_AdvancedPort1_FlowWay, "4"}}),
-        Case("no port", {{MENU_Advanced_EthernetPort, "11"}, {MENU_MosaicLayout0_Width, "64"}})
-            .byUser(MENU_Advanced_CabinetRow, "9")
-            .leaves({{MENU_MosaicLayout0_Width, "64"}, {MENU_AdvancedPort10_Rows, "1"}}),
-    };
-}
+    {"rows", third, "user 2382=7", "reloads 2385=6 2384=5; leaves 3161=7 3151=1 1055=1"},
+    {"rows", shifted, "device 2382=7", "reloads; leaves 3161=7 1055=1"},
+    {"rows, the starts differ", shifted, "user 2382=7", "reloads 2385=6 2384=5 1055=; " + closes},
+    {"columns", third, "user 2383=8", "reloads 2384=5 2385=6; leaves 3162=8 1055=1"},
+    {"columns", shifted, "device 2383=8", "reloads; leaves 3162=8 1055=1"},
+    {"x", third, "user 2384=640", "leaves 3163=640 3164=0 1055=1"},
+    {"x, the starts differ", shifted, "user 2384=640", closes},
+    {"y", third, "user 2385=480", closes + " 3164=480"},
+    {"y", third, "device 2385=480", "reloads; leaves 3164=480 1055=1"},
+    {"flow way", shifted, "user 2386=4", "leaves 3165=4 1055=1"},
+    {"flow way", "", "device 2386=4", "reloads; leaves 3155=4"},
+    // What lies behind the last record.
+    {"no port", "2381=11 3201=64", "user 2382=9", "leaves 3201=64 3196=1"},
 
-Cases applyCases()
-{
-    const Values software{{MENU_SoftwareConfigured, "1"}, {MENU_OutputMode, "1"}, {MENU_LowLatency, "1"}};
-    Values unfit = software;
-    unfit[MENU_AdvancedPort10_Y] = "6";
-    const Values byHand{{MENU_SoftwareConfigured, "0"}, {MENU_OutputMode, "0"}, {MENU_LowLatency, "1"}};
-    return {
-        Case("applied", software)
-            .byUser(MENU_Advanced_Apply, "")
-            .sends({"2387="})
-            .asks({"Waiting"})
-            .leaves(byHand, "1056+"),
-        Case("applied, low latency does not suit", unfit)
-            .byUser(MENU_Advanced_Apply, "")
-            .sends({"1055=0", "2387="})
-            .asks({"Waiting", closes})
-            .leaves({{MENU_LowLatency, "0"}}),
-        Case("applied", software)
-            .byDevice(MENU_Advanced_Apply, "")
-            .tells({"2387="})
-            .asks({"Waiting"})
-            .leaves(byHand, "1056+"),
-        Case("port", {{MENU_AdvancedPort3_Rows, "7"}})
-            .byDevice(MENU_Advanced_EthernetPort, "3")
-            .refreshes({})
-            .leaves({{MENU_Advanced_CabinetRow, "1"}}),
-    };
-}
-
-const Cases &allCases()
-{
-    static const Cases cases = statusCases() + rowCases() + applyCases();
-    return cases;
-}
+    {"applied", "3211=1 3209=1 1055=1",
+     "user 2387=", "sends 2387=; asks Waiting; leaves 3211=0 3209=0 1055=1 1056+"},
+    {"applied, low latency does not suit", "3211=1 3209=1 1055=1 3199=6",
+     "user 2387=", "sends 1055=0 2387=; asks Waiting FlowWayCauseCloseLowLatency; leaves 1055=0"},
+    {"applied", "3211=1 3209=1 1055=1",
+     "device 2387=", "tells 2387=; asks Waiting; leaves 3211=0 3209=0 1055=1 1056+"},
+    {"port", "3161=7", "device 2381=3", "reloads; leaves 2382=1"},
+};
 } // namespace
 
 void TestApplyAdvanced::init()
@@ -162,13 +71,13 @@ void TestApplyAdvanced::init()
 
 void TestApplyAdvanced::valueIsApplied_data()
 {
-    addCaseRows(allCases());
+    addCaseLines(lines);
 }
 
 void TestApplyAdvanced::valueIsApplied()
 {
     QFETCH(int, row);
-    runCase(*m_rig, allCases().at(row));
+    runCaseLine(*m_rig, lines.at(row));
 }
 
 /// The rows that show a record.

@@ -1,7 +1,7 @@
 // The quick screen configuration, the way to its page and to the advanced one's, and low latency, which not
 // every screen allows.
 
-#include "casetable.h"
+#include "caseline.h"
 
 using namespace VASK;
 
@@ -26,206 +26,80 @@ private:
 namespace
 {
 /// Four columns of three, the first port with a whole number of columns of the full height.
-const Values whole{{MENU_Quick_CabinetRow, "3"},
-                   {MENU_Quick_CabinetCol, "4"},
-                   {MENU_Quick_PortOneCab, "12"},
-                   {MENU_Quick_FlowWay, "0"},
-                   {MENU_LowLatency, "1"}};
-
-Values with(Values values, const Values &more)
-{
-    for (auto item = more.cbegin(); item != more.cend(); ++item)
-        values[item.key()] = item.value();
-    return values;
-}
-
-const QString closes = "FlowWayCauseCloseLowLatency", noLink = "ScreenConfigFailWaring";
-const Values byHand{{MENU_SoftwareConfigured, "0"}, {MENU_OutputMode, "0"}};
-const Values bySoftware{{MENU_SoftwareConfigured, "1"}, {MENU_OutputMode, "1"}};
-const Values offByHand = with(byHand, {{MENU_LowLatency, "0"}});
-const Values onByHand = with(byHand, {{MENU_LowLatency, "1"}});
+const QString whole = "2000=3 2001=4 2002=12 2003=0 1055=1 ";
+const QString bySoftware = "3211=1 3209=1 ", byHand = "3211=0 3209=0 ";
+const QString closes = "asks FlowWayCauseCloseLowLatency", noLink = "asks ScreenConfigFailWaring";
 const QString formOff = "2381- 2382- 2383- 2384- 2385- 2386- 2387- 1056+";
 
-Cases pageCases()
-{
-    const Values advanced{{MENU_ScreenConfigKind, "1"},
-                          {MENU_Advanced_Status, "1"},
-                          {PARA_PortLink, "1"},
-                          {MENU_Quick_FlowWay, "1"}};
-    const Values after = with(byHand, {{MENU_ScreenConfigKind, "0"}, {MENU_Advanced_Status, "0"}});
-    const Values unfit = with(with(advanced, whole), {{MENU_Quick_PortOneCab, "7"}});
-    return {
-        Case("quick page, from the other kind", with(advanced, bySoftware))
-            .byUser(MENU_QuickConfiguration, "")
-            .sends({"2003=1"})
-            .refreshes({"2380=0", "2381=", "2382=", "2383=", "2384=", "2385=", "2386=", "2387="})
-            .leaves(after, formOff),
-        Case("quick page, from the other kind", advanced)
-            .byDevice(MENU_QuickConfiguration, "")
-            .sends({"2003=1"})
-            .leaves(after, formOff),
-        Case("quick page, output of software", with(bySoftware, {{MENU_ScreenConfigKind, "0"}}))
-            .byUser(MENU_QuickConfiguration, "")
-            .sends({"2003=0"})
-            .asks({noLink})
-            .leaves(after),
-        Case("quick page, already", {{MENU_ScreenConfigKind, "0"}, {MENU_SoftwareConfigured, "1"}})
-            .byUser(MENU_QuickConfiguration, "")
-            .asks({noLink})
-            .leaves({{MENU_SoftwareConfigured, "1"}}),
-        Case("quick page, already", {{MENU_ScreenConfigKind, "0"}, {PARA_OPT2PortLink, "1"}})
-            .byUser(MENU_QuickConfiguration, ""),
-        Case("quick page, low latency does not suit", unfit)
-            .byUser(MENU_QuickConfiguration, "")
-            .sends({"2003=0", "1055=0"})
-            .asks({closes})
-            .leaves({{MENU_LowLatency, "0"}}),
-        Case("quick page, low latency suits", with(advanced, whole))
-            .byUser(MENU_QuickConfiguration, "")
-            .sends({"2003=0"})
-            .leaves({{MENU_LowLatency, "1"}}),
-        Case("quick page, low latency of another kind",
-             with(with(unfit, bySoftware), {{MENU_ScreenConfigKind, "0"}}))
-            .byUser(MENU_QuickConfiguration, "")
-            .sends({"2003=0"})
-            .leaves({{MENU_LowLatency, "1"}}),
-        Case("advanced page").byUser(MENU_AdvancedCfg, "").asks({noLink}),
-        Case("advanced page", {{PARA_PortLink, "1"}}).byDevice(MENU_AdvancedCfg, ""),
-    };
-}
+const QString advanced = "3138=1 2380=1 link=1 2003=1 ", quickAfter = "leaves 3138=0 2380=0 " + byHand;
+const QString unfitPage = advanced + "2000=3 2001=4 2002=7 2003=0 1055=1 ";
+const CaseLines pageLines{
+    {"quick, from the other kind", advanced + bySoftware, "user 1000=",
+     "sends 2003=1; reloads 2380=0 2381= 2382= 2383= 2384= 2385= 2386= 2387=; " + quickAfter + formOff},
+    {"quick, from the other kind", advanced, "device 1000=", "sends 2003=1; " + quickAfter + formOff},
+    {"quick, output of software", bySoftware + "3138=0",
+     "user 1000=", "sends 2003=0; " + noLink + "; " + quickAfter},
+    {"quick, already", "3138=0 3211=1", "user 1000=", noLink + "; leaves 3211=1"},
+    {"quick, already, linked", "3138=0 3380=1", "user 1000=", ""},
+    {"quick, low latency does not suit", unfitPage,
+     "user 1000=", "sends 2003=0 1055=0; " + closes + "; leaves 1055=0"},
+    {"quick, low latency suits", advanced + whole, "user 1000=", "sends 2003=0; leaves 1055=1"},
+    {"quick, low latency of another kind", unfitPage + bySoftware + "3138=0",
+     "user 1000=", "sends 2003=0; leaves 1055=1"},
+    {"advanced, no link", "", "user 2012=", noLink},
+    {"advanced, linked", "link=1", "user 2012=", ""},
+    {"advanced, linked", "link=1", "device 2012=", ""},
+};
 
-Cases formCases()
-{
-    const Values software = with(whole, bySoftware);
-    // 480 pixels of 270 lines: five of them are too many for a port at 60 Hz, ten at 30 Hz.
-    const Values cabinets{{PARA_CabinetWidth, "480"}, {PARA_CabinetHeight, "270"}, {PARA_OutputRate, "6000"}};
-    const Values heavy = with(cabinets, {{MENU_Quick_CabinetCol, "5"}, {MENU_Quick_CabinetRow, "6"}});
-    return {
-        Case("rows", software)
-            .byUser(MENU_Quick_CabinetRow, "3")
-            .sends({"2000=3"})
-            .refreshes({"2002=12"})
-            .leaves(onByHand, "1056+"),
-        Case("rows, not the full height", software)
-            .byUser(MENU_Quick_CabinetRow, "4")
-            .sends({"1055=0", "2000=4"})
-            .asks({closes})
-            .leaves(offByHand),
-        Case("rows, not the full height", software)
-            .byDevice(MENU_Quick_CabinetRow, "4")
-            .tells({"2000=4"})
-            .refreshes({})
-            .leaves(onByHand),
-        Case("columns", software)
-            .byUser(MENU_Quick_CabinetCol, "5")
-            .sends({"2001=5"})
-            .refreshes({"2002=12"})
-            .leaves(onByHand),
-        Case("columns, not the full height", software)
-            .byUser(MENU_Quick_CabinetCol, "6")
-            .sends({"1055=0", "2001=6"})
-            .asks({closes})
-            .leaves(offByHand),
-        Case("columns", with(software, {{MENU_WorkMode, "2"}}))
-            .byDevice(MENU_Quick_CabinetCol, "6")
-            .tells({"2001=6"})
-            .leaves(onByHand, "1056-"),
-        Case("no columns", with(software, {{MENU_Quick_PortOneCab, "3"}}))
-            .byUser(MENU_Quick_CabinetCol, "0")
-            .sends({"2001=0"})
-            .leaves(onByHand),
-        Case("first port", software)
-            .byUser(MENU_Quick_PortOneCab, "9")
-            .sends({"2002=9"})
-            .leaves(onByHand, "1056+"),
-        Case("first port, not the full height", software)
-            .byUser(MENU_Quick_PortOneCab, "8")
-            .sends({"1055=0", "2002=8"})
-            .asks({closes})
-            .leaves(offByHand),
-        Case("first port", software).byDevice(MENU_Quick_PortOneCab, "8").tells({"2002=8"}).leaves(onByHand),
-        Case("flow way along the rows", with(software, {{MENU_Quick_PortOneCab, "8"}}))
-            .byUser(MENU_Quick_FlowWay, "3")
-            .sends({"2003=3"})
-            .leaves(onByHand, "1056+"),
-        Case("flow way along the columns", with(software, {{MENU_Quick_PortOneCab, "8"}}))
-            .byUser(MENU_Quick_FlowWay, "2")
-            .sends({"1055=0", "2003=2"})
-            .asks({closes})
-            .leaves(offByHand),
-        Case("flow way", with(software, {{MENU_Quick_PortOneCab, "8"}}))
-            .byDevice(MENU_Quick_FlowWay, "2")
-            .tells({"2003=2"})
-            .leaves(onByHand),
-        // One cabinet counts as a whole column of five, along the rows as one of six.
-        Case("port at its load", with(heavy, {{MENU_Quick_CabinetRow, "5"}}))
-            .byUser(MENU_Quick_FlowWay, "1")
-            .sends({"2003=1"}),
-        Case("port above its load", heavy)
-            .byUser(MENU_Quick_FlowWay, "1")
-            .sends({"2003=1"})
-            .asks({"OverLoad"})
-            .leaves({{MENU_Quick_FlowWay, "1"}}),
-        Case("port above its load", with(heavy, {{MENU_Quick_PortOneCab, "6"}}))
-            .byDevice(MENU_Quick_FlowWay, "2")
-            .tells({"2003=2"})
-            .asks({"OverLoad"}),
-        Case("port above its load by 3D",
-             with(heavy, {{MENU_Quick_CabinetRow, "4"}, {MENU_Mode3D_Status, "1"}}))
-            .byUser(MENU_Quick_FlowWay, "1")
-            .sends({"2003=1"})
-            .asks({"OverLoad"}),
-        Case(
-            "frame sequential 3D does not double",
-            with(heavy, {{MENU_Quick_CabinetRow, "4"}, {MENU_Mode3D_Status, "1"}, {MENU_Mode3D_Format, "2"}}))
-            .byUser(MENU_Quick_FlowWay, "1")
-            .sends({"2003=1"}),
-    };
-}
+const QString software = whole + bySoftware, shortPort = software + "2002=8 ";
+const QString kept = "leaves 1055=1 " + byHand, ends = closes + "; leaves 1055=0 " + byHand;
+// 480 pixels of 270 lines: five of them are too many for a port at 60 Hz, ten at 30 Hz.
+const QString heavy = "cabinetWidth=480 cabinetHeight=270 rate=6000 2001=5 2000=6 ";
+const CaseLines formLines{
+    {"rows", software, "user 2000=3", "sends 2000=3; reloads 2002=12; " + kept + "1056+"},
+    {"rows, not the full height", software, "user 2000=4", "sends 1055=0 2000=4; " + ends},
+    {"rows, not the full height", software, "device 2000=4", "tells 2000=4; reloads; " + kept},
+    {"columns", software, "user 2001=5", "sends 2001=5; reloads 2002=12; " + kept},
+    {"columns, not the full height", software, "user 2001=6", "sends 1055=0 2001=6; " + ends},
+    {"columns of a card", software + "3210=2", "device 2001=6", "tells 2001=6; " + kept + "1056-"},
+    {"no columns", software + "2002=3", "user 2001=0", "sends 2001=0; " + kept},
+    {"first port", software, "user 2002=9", "sends 2002=9; " + kept + "1056+"},
+    {"first port, not the full height", software, "user 2002=8", "sends 1055=0 2002=8; " + ends},
+    {"first port", software, "device 2002=8", "tells 2002=8; " + kept},
+    {"flow way along the rows", shortPort, "user 2003=3", "sends 2003=3; " + kept + "1056+"},
+    {"flow way along the columns", shortPort, "user 2003=2", "sends 1055=0 2003=2; " + ends},
+    {"flow way", shortPort, "device 2003=2", "tells 2003=2; " + kept},
+    // One cabinet counts as a whole column of five, along the rows as one of six.
+    {"port at its load", heavy + "2000=5", "user 2003=1", "sends 2003=1"},
+    {"port above its load", heavy, "user 2003=1", "sends 2003=1; asks OverLoad; leaves 2003=1"},
+    {"port above its load", heavy + "2002=6", "device 2003=2", "tells 2003=2; asks OverLoad"},
+    {"port above by 3D", heavy + "2000=4 2359=1", "user 2003=1", "sends 2003=1; asks OverLoad"},
+    {"sequential 3D does not double", heavy + "2000=4 2359=1 2360=2", "user 2003=1", "sends 2003=1"},
+};
 
-Cases latencyCases()
-{
-    const Values quick = with(whole, {{MENU_ScreenConfigKind, "1"}, {MENU_LowLatency, "0"}});
-    const Values unfit = with(quick, {{MENU_Quick_PortOneCab, "8"}});
-    const Values advanced = with(unfit, {{MENU_ScreenConfigKind, "0"}});
-    const Values lastPort = with(advanced, {{MENU_AdvancedPort10_Y, "8"}});
-    const QString opens = "OpenLowLatencyTip", refused = "CantOpenLowLatencyTip";
-    return {
-        Case("off", unfit).byUser(MENU_LowLatency, "0").sends({"1055=0"}),
-        Case("off").byDevice(MENU_LowLatency, "0").tells({"1055=0"}),
-        Case("on", unfit).byDevice(MENU_LowLatency, "1").tells({"1055=1"}).leaves({{MENU_LowLatency, "1"}}),
-        Case("on, quick", quick).byUser(MENU_LowLatency, "1").sends({"1055=1"}).asks({opens}),
-        Case("on, quick does not suit", unfit)
-            .byUser(MENU_LowLatency, "1")
-            .asks({refused})
-            .refreshes({"1055="})
-            .leaves({{MENU_LowLatency, "0"}}),
-        Case("on, advanced", advanced).byUser(MENU_LowLatency, "1").sends({"1055=1"}).asks({opens}),
-        Case("on, advanced does not suit", lastPort)
-            .byUser(MENU_LowLatency, "1")
-            .asks({refused})
-            .leaves({{MENU_LowLatency, "0"}}),
-        Case("on, software has configured", with(lastPort, {{MENU_SoftwareConfigured, "1"}}))
-            .byUser(MENU_LowLatency, "1")
-            .sends({"1055=1"})
-            .asks({opens}),
-        Case("on beside sync", with(quick, {{MENU_Sync_Status, "1"}}))
-            .byUser(MENU_LowLatency, "1")
-            .sends({"1055=1"})
-            .asks({opens})
-            .leaves({{MENU_Sync_Status, "1"}}),
-        Case("on beside sync, sending card", with(quick, {{MENU_Sync_Status, "1"}, {MENU_WorkMode, "2"}}))
-            .byUser(MENU_LowLatency, "1")
-            .answers(2) // the message has gone by itself
-            .asks({"OpenLowLatencyNeedToCloseSyn"})
-            .leaves({{MENU_LowLatency, "0"}, {MENU_Sync_Status, "1"}}),
-    };
-}
+const QString quick = whole + "3138=1 1055=0 ", unfit = quick + "2002=8 ", ports = unfit + "3138=0 ";
+const QString lastPort = ports + "3199=8 "; // its Y
+const QString opens = "sends 1055=1; asks OpenLowLatencyTip",
+              refused = "asks CantOpenLowLatencyTip; leaves 1055=0";
+const CaseLines latencyLines{
+    {"off", unfit, "user 1055=0", "sends 1055=0"},
+    {"off", "", "device 1055=0", "tells 1055=0"},
+    {"on", unfit, "device 1055=1", "tells 1055=1; leaves 1055=1"},
+    {"on, quick", quick, "user 1055=1", opens},
+    {"on, quick does not suit", unfit, "user 1055=1", refused + "; reloads 1055="},
+    {"on, advanced", ports, "user 1055=1", opens},
+    {"on, advanced does not suit", lastPort, "user 1055=1", refused},
+    {"on, software has configured", lastPort + "3211=1", "user 1055=1", opens},
+    {"on beside sync", quick + "2350=1", "user 1055=1", opens + "; leaves 2350=1"},
+    // The message has gone by itself.
+    {"on beside sync, sending card", quick + "2350=1 3210=2", "user 1055=1",
+     "asks OpenLowLatencyNeedToCloseSyn; answers 2; leaves 1055=0 2350=1"},
+};
 
-const Cases &allCases()
+const CaseLines &allLines()
 {
-    static const Cases cases = pageCases() + formCases() + latencyCases();
-    return cases;
+    static const CaseLines lines = pageLines + formLines + latencyLines;
+    return lines;
 }
 } // namespace
 
@@ -239,13 +113,13 @@ void TestApplyConfiguration::init()
 
 void TestApplyConfiguration::valueIsApplied_data()
 {
-    addCaseRows(allCases());
+    addCaseLines(allLines());
 }
 
 void TestApplyConfiguration::valueIsApplied()
 {
     QFETCH(int, row);
-    runCase(*m_rig, allCases().at(row));
+    runCaseLine(*m_rig, allLines().at(row));
 }
 
 void TestApplyConfiguration::onePageAsks()
@@ -264,7 +138,6 @@ void TestApplyConfiguration::onePageAsks()
         m_rig->engine->SetParaToXml("1", MENU_Advanced_Status, mode);
         m_rig->engine->SetParaToXml("", MENU_QuickConfiguration, mode);
         QCOMPARE(asking(), QString("advanced"));
-        m_rig->engine->SetParaToXml("", MENU_QuickConfiguration, mode);
         m_rig->engine->SetParaToXml("", MENU_AdvancedCfg, mode);
         QCOMPARE(asking(), QString("advanced"));
     }
@@ -273,35 +146,21 @@ void TestApplyConfiguration::onePageAsks()
 void TestApplyConfiguration::lowLatencyEndsSync_data()
 {
     QTest::addColumn<int>("periodUs");
-    QTest::addColumn<QString>("rate");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("follows the input") << 16683 << "5994"
-                                       << "1920x1080@59.94";
-    QTest::newRow("no rate") << 0 << "6000"
-                             << "1920x1080@60";
+    QTest::addColumn<QString>("after");
+    QTest::newRow("follows the input") << 16683 << "leaves 2350=0 rate=5994; screen 1920x1080@59.94";
+    QTest::newRow("no rate") << 0 << "leaves 2350=0 rate=6000; screen 1920x1080@60";
 }
 
 void TestApplyConfiguration::lowLatencyEndsSync()
 {
     QFETCH(int, periodUs);
-    QFETCH(QString, rate);
-    QFETCH(QString, text);
-    m_rig->set(MENU_MainLayer_InputSource, "0");
+    QFETCH(QString, after);
     m_rig->input(0, 97, 3, 1920, 1080, periodUs);
-    m_rig->process(PARA_OutputWidth, 1920);
-    m_rig->process(PARA_OutputHeight, 1080);
-    m_rig->process(PARA_OutputRate, periodUs ? 6000 : 0);
-    for (auto item = whole.cbegin(); item != whole.cend(); ++item)
-        m_rig->set(ENUM_MenuIndex(item.key()), item.value());
-    m_rig->set(MENU_Sync_Status, "1");
-    m_rig->set(MENU_WorkMode, "2");
-    m_rig->fromUser(MENU_LowLatency, "1");
-    QCOMPARE(m_rig->messages, (QStringList{"OpenLowLatencyNeedToCloseSyn", "OpenLowLatencyTip"}));
-    QCOMPARE(m_rig->device->sent.take(), (QStringList{"2350=0", "1055=1"}));
-    QCOMPARE(m_rig->reloaded.take(), QStringList{"2350=0"});
-    QCOMPARE(m_rig->value(MENU_Sync_Status), QString("0"));
-    QCOMPARE(m_rig->value(PARA_OutputRate), rate);
-    QCOMPARE(m_rig->shown("labScreenRes"), text);
+    const QString before = whole + "2101=0 width=1920 height=1080 2350=1 3210=2 rate=";
+    runCaseLine(*m_rig, {"", before + (periodUs ? "6000" : "0"), "user 1055=1",
+                         "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; "
+                         "sends 2350=0 1055=1; reloads 2350=0; " +
+                             after});
 }
 
 QTEST_MAIN(TestApplyConfiguration)
