@@ -1,5 +1,7 @@
-// How a layer is scaled, where it stands, and which part of its input it shows.
+// How a layer is scaled, where it stands, and which part of its input it shows. The three layers are one:
+// each rule stands for one of them, and each kind of item comes with more than one layer.
 
+#include "caseline.h"
 #include "layerrig.h"
 
 using namespace VASK;
@@ -12,416 +14,115 @@ private slots:
     void cleanupTestCase() { delete m_rig; }
     void init() { m_rig->start(); }
 
-    void pixelForPixel_data();
-    void pixelForPixel();
-    void pixelForPixelWithoutASize();
-    void fullScreen_data() { eachLayer(); }
-    void fullScreen();
-    void customReturns_data() { eachLayer(); }
-    void customReturns();
-    void sameScalingMovesNothing();
-    void reportedScalingFreesTheItems_data() { eachLayer(); }
-    void reportedScalingFreesTheItems();
-    void dialledGeometry_data();
-    void dialledGeometry();
-    void deviceMovesALayer_data();
-    void deviceMovesALayer();
-    void echoMovesNothing_data() { eachLayer(); }
-    void echoMovesNothing();
-    void reportedWindowIsRememberedWhole_data() { eachLayer(); }
-    void reportedWindowIsRememberedWhole();
-    void splicedTotalsFollow();
-    void sendingCardHasItsOwnRegister();
-
-    void cropMovesThePixelLayer_data() { eachLayer(); }
-    void cropMovesThePixelLayer();
-    void cropLeavesAScaledLayer_data() { eachLayer(); }
-    void cropLeavesAScaledLayer();
-    void reportedCropCountsWithItsLastNumber_data() { eachLayer(); }
-    void reportedCropCountsWithItsLastNumber();
-    void cropReset_data();
-    void cropReset();
-    void pipIsOfferedWhatItCanScale_data();
-    void pipIsOfferedWhatItCanScale();
+    void valueIsApplied_data();
+    void valueIsApplied();
 
 private:
-    static void eachLayer();
     LayerRig *m_rig = nullptr;
 };
 
-void TestApplyGeometry::eachLayer()
+namespace
 {
-    QTest::addColumn<int>("layer");
-    QTest::newRow("main") << 0;
-    QTest::newRow("PIP 1") << 1;
-    QTest::newRow("PIP 2") << 2;
-}
-
-void TestApplyGeometry::pixelForPixel_data()
-{
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<bool>("cropped");
-    for (int layer = 0; layer < 3; ++layer)
-        for (bool cropped : {false, true})
-            QTest::addRow("layer %d%s", layer, cropped ? ", cropped" : "") << layer << cropped;
-}
-
-void TestApplyGeometry::pixelForPixel()
-{
-    QFETCH(int, layer);
-    QFETCH(bool, cropped);
-    const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-    m_rig->set(LayerRig::crop(MENU_MainLayerCrop_Status, layer), cropped ? "1" : "0");
-    m_rig->set(LayerRig::crop(MENU_MainLayerCrop_HorWidth, layer), "400");
-    m_rig->set(LayerRig::crop(MENU_MainLayerCrop_VerHeight, layer), "300");
-    m_rig->setGeometry(layer, {"800", "600", "11", "12"});
-    m_rig->setDialled(layer, true);
-    m_rig->store->UpdataItemEnable(LayerRig::of(MENU_MainLayer_InitialX, layer), false);
-    m_rig->set(MENU_Layout, "0");
-    m_rig->fromUser(scaling, "1");
-    QCOMPARE(m_rig->geometry(layer), QString(cropped ? "400 300 11 12" : "1280 720 11 12"));
-    QCOMPARE(m_rig->dialled(layer), QString("nnyy"));
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-    const ENUM_MenuIndex height = LayerRig::of(MENU_MainLayer_VerHeight, layer);
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(height, cropped ? "300" : "720"), LayerRig::line(scaling, "1")}));
-}
-
-void TestApplyGeometry::pixelForPixelWithoutASize()
-{
-    m_rig->set(MENU_PIP1_InputSource, "2");
-    m_rig->set(MENU_PIP1_ScalingMode, "1");
-    m_rig->set(MENU_Layout, "0");
-    m_rig->fromUser(MENU_PIP1_ScalingMode, "1");
-    QVERIFY(m_rig->geometry(1).startsWith("1920 1080 "));
-    QCOMPARE(m_rig->value(MENU_Layout), QString("0"));
-}
-
-void TestApplyGeometry::fullScreen()
-{
-    QFETCH(int, layer);
-    const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-    m_rig->setDialled(layer, true);
-    const QString remembered = m_rig->remembered(layer);
-    m_rig->set(LayerRig::of(MENU_MainLayer_Status, layer), "1");
-    m_rig->set(LayerRig::of(MENU_MainLayer_Priority, layer), "0");
-    m_rig->process(PARA_LowestLayer, 9);
-    m_rig->fromUser(scaling, "0");
-    QCOMPARE(m_rig->geometry(layer), QString("1920 1080 0 0"));
-    QCOMPARE(m_rig->remembered(layer), remembered);
-    QCOMPARE(m_rig->dialled(layer), QString("nnnn"));
-    QVERIFY(m_rig->value(PARA_LowestLayer) != "9");
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(LayerRig::of(MENU_MainLayer_InitialY, layer), "0"),
-                          LayerRig::line(scaling, "0")}));
-}
-
-void TestApplyGeometry::customReturns()
-{
-    QFETCH(int, layer);
-    const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-    const QStringList values{"700", "500", "-30", "40"};
-    for (int field = 0; field < 4; ++field)
-        m_rig->set(ENUM_MenuIndex(LayerRig::memory(MENU_MainLayer_CustomWidth, layer) + field),
-                   values[field]);
-    m_rig->fromUser(scaling, "0");
-    m_rig->forget();
-    m_rig->fromUser(scaling, "2");
-    QCOMPARE(m_rig->geometry(layer), values.join(' '));
-    QCOMPARE(m_rig->dialled(layer), QString("yyyy"));
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(LayerRig::of(MENU_MainLayer_InitialY, layer), "40"),
-                          LayerRig::line(scaling, "2")}));
-
+const QString free = " 2103+ 2104+ 2105+ 2106+", locked = " 2103- 2104- 2105- 2106-";
+const QString memory = "3139=700 3140=500 3141=-30 3142=40 ";
+const CaseLines scalingLines{
+    {"pixels", "2105=11 2106=12 2103+ 2104+ 2105- 2106- 1007=0", "user 2102=1",
+     "sends 2104=720 2102=1; leaves 2103=1280 2104=720 2105=11 2106=12 1007=2 2103- 2104- 2105+ 2106+"},
+    {"pixels of a crop", "3006=1 3007=400 3008=300 1007=0", "user 2112=1",
+     "sends 2114=300 2112=1; leaves 2113=400 2114=300 1007=2 2113- 2114- 2115+ 2116+"},
+    {"pixels, PIP 2", "3012=0 3013=400", "user 2122=1",
+     "sends 2124=720 2122=1; leaves 2123=1280 2123- 2126+"},
+    {"pixels without a size", "2111=2 2112=1 1007=0", "user 2112=1",
+     "sends 2114=1080 2112=1; leaves 2113=1920 2114=1080 1007=0"},
+    {"full screen", "2100=1 2107=0 3392=9 2105=3" + free, "user 2102=0",
+     "sends 2106=0 2102=0; leaves 3392=0 2103=1920 2104=1080 2105=0 2106=0" + locked},
+    {"full screen, PIP 2", "3147=123", "user 2122=0",
+     "sends 2126=0 2122=0; leaves 2123=1920 3147=123 2123- 2126-"},
+    {"custom", memory + "2102=0" + locked, "user 2102=2",
+     "sends 2106=40 2102=2; leaves 2103=700 2104=500 2105=-30 2106=40" + free},
+    {"custom, PIP 1", "2112=0 3143=701 3146=41", "user 2112=2",
+     "sends 2116=41 2112=2; leaves 2113=701 2113+"},
     // A sending card has no size of its own to give.
-    m_rig->fromUser(scaling, "0");
-    m_rig->set(MENU_WorkMode, "2");
-    m_rig->fromUser(scaling, "2");
-    QCOMPARE(m_rig->geometry(layer), QString("1920 1080 -30 40"));
-    QCOMPARE(m_rig->dialled(layer), QString("nnyy"));
+    {"custom of a card", memory + "2102=0 3210=2 2103=1920 2104=1080" + locked, "user 2102=2",
+     "sends 2106=40 2102=2; leaves 2103=1920 2104=1080 2105=-30 2106=40 2103- 2104- 2105+ 2106+"},
+    {"custom already", memory + "2103=900 2106=2", "user 2102=2", "sends 2102=2; leaves 2103=900 2106=2"},
+    {"custom", memory + "2103=900 2106=2" + locked, "device 2102=2",
+     "tells 2102=2; leaves 2103=900 2106=2" + free},
+    {"custom of a card", "3210=2" + locked, "device 2102=2", "tells 2102=2; leaves 2103- 2104- 2105+ 2106+"},
+    {"custom, PIP 2", "2123- 2126-", "device 2122=2", "tells 2122=2; leaves 2123+ 2126+"},
+};
+
+const CaseLines windowLines{
+    {"width", "3139=111 1007=1", "user 2103=333", "sends 2103=333; leaves 2102=2 3139=333 1007=2"},
+    {"height, PIP 1", "1007=1", "user 2114=333", "sends 2114=333; leaves 3144=333 1007=2"},
+    {"x, PIP 2", "1007=1", "user 2125=333", "sends 2125=333; leaves 3149=333 1007=2"},
+    {"y", "1007=1", "user 2106=333", "sends 2106=333; leaves 3142=333 1007=2"},
+    {"start, pixel for pixel", "2102=1 3141=111 1007=1", "user 2105=333",
+     "sends 2105=333; leaves 2102=1 3141=111 1007=2"},
+    {"size, pixel for pixel", "2112=1 3143=111", "user 2113=333", "sends 2113=333; leaves 2112=1 3143=111"},
+
+    // A start may be moved pixel for pixel; only a size leaves that.
+    {"size, full screen", "2102=0 3139=111" + locked, "device 2103=640",
+     "tells 2103=640; leaves 2102=2 3139=640" + free},
+    {"start, full screen", "2112=0 3145=111 2113-", "device 2115=640",
+     "tells 2115=640; leaves 2112=2 3145=640 2113+"},
+    {"size, pixel for pixel", "2122=1 3148=111 2125-", "device 2124=640",
+     "tells 2124=640; leaves 2122=2 3148=640 2125+"},
+    {"x, pixel for pixel", "2112=1 3145=111 2113-", "device 2115=640",
+     "tells 2115=640; leaves 2112=1 3145=111 2113-"},
+    {"y, pixel for pixel", "2102=1 3142=111" + locked, "device 2106=640",
+     "tells 2106=640; leaves 2102=1 3142=111" + locked},
+    {"y, custom", "2106-", "device 2106=640", "tells 2106=640; leaves 2102=2 3142=640 2106-"},
+    // The device answers what it is sent with the whole window.
+    {"echo", "2102=0 2103=1920 1007=1" + locked, "device 2103=1920",
+     "tells 2103=1920; leaves 2102=0 1007=1" + locked},
+    // A window of which the device changes one number leaves full screen whole: the others were only
+    // repeated.
+    {"one number of a window", memory + "2102=0 2103=1920 2104=1080 2105=0 2106=0", "device 2104=540",
+     "tells 2104=540; leaves 2102=2 3139=1920 3140=540 3141=0 3142=0"},
+
+    {"spliced", "1040=1", "user 2103=3200", "sends 2103=3200; leaves 1041=3200"},
+    {"spliced", "1040=1", "device 2104=2100", "tells 2104=2100; leaves 1042=2100"},
+    {"spliced, PIP", "1040=1 1041=77", "user 2113=900", "sends 2113=900; leaves 1041=77"},
+    {"not spliced", "1041=77", "user 2103=3200", "sends 2103=3200; leaves 1041=77"},
+    {"sending card", "3210=2", "user 2105=5", "sends 3398= 2105=5"},
+    {"sending card", "3210=2", "user 2106=6", "sends 3399= 2106=6"},
+    {"sending card, size", "3210=2", "user 2103=700", "sends 2103=700"},
+    {"sending card, PIP", "3210=2", "user 2115=7", "sends 2115=7"},
+};
+
+const CaseLines cropLines{
+    {"on", "2112=1 3007=400 3008=300", "user 3006=1", "sends 2114=300 3006=1; leaves 2113=400 2114=300"},
+    {"width while off", "2112=1 2113=900", "user 3007=400", "sends 3007=400; leaves 2113=900"},
+    {"width", "2102=1 3000=1", "user 3001=400", "sends 2103=400 3001=400; leaves 2103=400"},
+    // 2000 x 1624 = 3248000 pixels are the most that a PIP scales, 3250000 are too many.
+    {"the last that fits", "3006=1 3007=2000 2112/1-", "user 3008=1624", "sends 3008=1624; leaves 2112/1+"},
+    {"the first too large", "3006=1 3007=2000 2112/0+ 2112/1+", "user 3008=1625",
+     "sends 3008=1625; leaves 2112/0+ 2112/1-"},
+    {"fits, but spliced", "1040=1 3006=1 3007=2000 2112/1-", "user 3008=1624",
+     "sends 3008=1624; leaves 2112/1-"},
+    {"on, fits", "3013=2000 3014=1624 2122/1-", "user 3012=1", "sends 3012=1; leaves 2122/1+"},
+    {"on, too large", "3013=2000 3014=1625 2122/1+", "user 3012=1", "sends 3012=1; leaves 2122/1-"},
+    {"off, the whole input is too large", "2121=3 3012=1 2122/1+", "user 3012=0",
+     "sends 3012=0; leaves 2122/1-"},
+};
+
+const CaseLines &allLines()
+{
+    static const CaseLines lines = scalingLines + windowLines + cropLines;
+    return lines;
+}
+} // namespace
+
+void TestApplyGeometry::valueIsApplied_data()
+{
+    addCaseLines(allLines());
 }
 
-void TestApplyGeometry::sameScalingMovesNothing()
+void TestApplyGeometry::valueIsApplied()
 {
-    m_rig->setGeometry(0, {"900", "700", "1", "2"});
-    m_rig->fromUser(MENU_MainLayer_ScalingMode, "2");
-    QCOMPARE(m_rig->geometry(0), QString("900 700 1 2"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"2102=2"});
-}
-
-void TestApplyGeometry::reportedScalingFreesTheItems()
-{
-    QFETCH(int, layer);
-    const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-    const QString before = m_rig->geometry(layer);
-    m_rig->setDialled(layer, false);
-    m_rig->fromDevice(scaling, "2");
-    QCOMPARE(m_rig->dialled(layer), QString("yyyy"));
-    QCOMPARE(m_rig->geometry(layer), before);
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->reported.take(), QStringList{LayerRig::line(scaling, "2")});
-    m_rig->setDialled(layer, false);
-    m_rig->set(MENU_WorkMode, "2");
-    m_rig->fromDevice(scaling, "2");
-    QCOMPARE(m_rig->dialled(layer), QString("nnyy"));
-}
-
-void TestApplyGeometry::dialledGeometry_data()
-{
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<int>("field");
-    QTest::addColumn<QString>("scaling");
-    for (int layer = 0; layer < 3; ++layer)
-        for (int field = 0; field < 4; ++field)
-            for (const char *scaling : {"1", "2"})
-                QTest::addRow("layer %d, field %d, scaling %s", layer, field, scaling)
-                    << layer << field << scaling;
-}
-
-void TestApplyGeometry::dialledGeometry()
-{
-    QFETCH(int, layer);
-    QFETCH(int, field);
-    QFETCH(QString, scaling);
-    const ENUM_MenuIndex item = ENUM_MenuIndex(LayerRig::of(MENU_MainLayer_HorWidth, layer) + field);
-    const ENUM_MenuIndex memory = ENUM_MenuIndex(LayerRig::memory(MENU_MainLayer_CustomWidth, layer) + field);
-    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), scaling);
-    m_rig->set(memory, "111");
-    m_rig->set(MENU_Layout, "1");
-    m_rig->fromUser(item, "333");
-    QCOMPARE(m_rig->value(memory), QString(scaling == "2" ? "333" : "111"));
-    QCOMPARE(m_rig->value(LayerRig::of(MENU_MainLayer_ScalingMode, layer)), scaling);
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{LayerRig::line(item, "333")});
-}
-
-void TestApplyGeometry::deviceMovesALayer_data()
-{
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<int>("field");
-    QTest::addColumn<QString>("scaling");
-    QTest::addColumn<QString>("after");
-    for (int layer = 0; layer < 3; ++layer)
-        for (int field = 0; field < 4; ++field)
-            for (const char *scaling : {"0", "1", "2"})
-                // A start may be moved pixel for pixel; only a size leaves that.
-                QTest::addRow("layer %d, field %d, scaling %s", layer, field, scaling)
-                    << layer << field << scaling << (scaling[0] == '1' && field >= 2 ? "1" : "2");
-}
-
-void TestApplyGeometry::deviceMovesALayer()
-{
-    QFETCH(int, layer);
-    QFETCH(int, field);
-    QFETCH(QString, scaling);
-    QFETCH(QString, after);
-    const ENUM_MenuIndex item = ENUM_MenuIndex(LayerRig::of(MENU_MainLayer_HorWidth, layer) + field);
-    const ENUM_MenuIndex memory = ENUM_MenuIndex(LayerRig::memory(MENU_MainLayer_CustomWidth, layer) + field);
-    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), scaling);
-    m_rig->set(memory, "111");
-    m_rig->setDialled(layer, false);
-    m_rig->fromDevice(item, "640");
-    QCOMPARE(m_rig->value(LayerRig::of(MENU_MainLayer_ScalingMode, layer)), after);
-    QCOMPARE(m_rig->dialled(layer), QString(scaling == after ? "nnnn" : "yyyy"));
-    QCOMPARE(m_rig->value(memory), QString(after == "2" ? "640" : "111"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->reported.take(), QStringList{LayerRig::line(item, "640")});
-}
-
-/// The device answers what it is sent with the whole window.
-void TestApplyGeometry::echoMovesNothing()
-{
-    QFETCH(int, layer);
-    const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-    m_rig->fromUser(scaling, "0");
-    m_rig->set(MENU_Layout, "1");
-    m_rig->forget();
-    for (int field = 0; field < 4; ++field) {
-        const ENUM_MenuIndex item = ENUM_MenuIndex(LayerRig::of(MENU_MainLayer_HorWidth, layer) + field);
-        m_rig->fromDevice(item, m_rig->value(item));
-    }
-    QCOMPARE(m_rig->value(scaling), QString("0"));
-    QCOMPARE(m_rig->dialled(layer), QString("nnnn"));
-    QCOMPARE(m_rig->value(MENU_Layout), QString("1"));
-    QCOMPARE(m_rig->reported.take().size(), 4);
-}
-
-/// A window of which the device changes one number leaves full screen whole: the others were only repeated.
-void TestApplyGeometry::reportedWindowIsRememberedWhole()
-{
-    QFETCH(int, layer);
-    m_rig->setGeometry(layer, {"1920", "1080", "0", "0"});
-    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), "0");
-    const QStringList told{"0", "0", "1920", "540"};
-    for (int i = 0; i < 4; ++i) // start before size
-        m_rig->fromDevice(ENUM_MenuIndex(LayerRig::of(MENU_MainLayer_HorWidth, layer) + (i + 2) % 4),
-                          told[i]);
-    QStringList remembered;
-    for (int field = 0; field < 4; ++field)
-        remembered << m_rig->value(
-            ENUM_MenuIndex(LayerRig::memory(MENU_MainLayer_CustomWidth, layer) + field));
-    QCOMPARE(remembered, (QStringList{"1920", "540", "0", "0"}));
-}
-
-void TestApplyGeometry::splicedTotalsFollow()
-{
-    m_rig->setGeometry(0, {"3000", "2000", "0", "0"});
-    m_rig->fromUser(MENU_MainLayer_HorWidth, "3100");
-    QVERIFY(m_rig->value(MENU_ImageMosaic_TotalHPixels) != "3100");
-    m_rig->set(MENU_ImageMosaic_Status, "1");
-    m_rig->fromUser(MENU_MainLayer_HorWidth, "3200");
-    m_rig->fromDevice(MENU_MainLayer_VerHeight, "2100");
-    m_rig->fromUser(MENU_PIP1_HorWidth, "900");
-    QCOMPARE(m_rig->value(MENU_ImageMosaic_TotalHPixels), QString("3200"));
-    QCOMPARE(m_rig->value(MENU_ImageMosaic_TotalVPixels), QString("2100"));
-}
-
-void TestApplyGeometry::sendingCardHasItsOwnRegister()
-{
-    m_rig->set(MENU_WorkMode, "2");
-    m_rig->fromUser(MENU_MainLayer_InitialX, "5");
-    m_rig->fromUser(MENU_MainLayer_InitialY, "6");
-    m_rig->fromUser(MENU_MainLayer_HorWidth, "700");
-    m_rig->fromUser(MENU_PIP1_InitialX, "7");
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{"3398=", "2105=5", "3399=", "2106=6", "2103=700", "2115=7"}));
-}
-
-void TestApplyGeometry::cropMovesThePixelLayer()
-{
-    QFETCH(int, layer);
-    const int status = LayerRig::crop(MENU_MainLayerCrop_Status, layer);
-    const ENUM_MenuIndex width = ENUM_MenuIndex(status + 1);
-    const ENUM_MenuIndex height = ENUM_MenuIndex(status + 2);
-    const int layerWidth = LayerRig::of(MENU_MainLayer_HorWidth, layer);
-    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), "1");
-    m_rig->set(width, "400");
-    m_rig->set(height, "300");
-
-    m_rig->fromUser(ENUM_MenuIndex(status), "1");
-    QVERIFY(m_rig->geometry(layer).startsWith("400 300 "));
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(layerWidth + 1, "300"), LayerRig::line(status, "1")}));
-    m_rig->fromUser(width, "410");
-    m_rig->fromUser(height, "310");
-    QVERIFY(m_rig->geometry(layer).startsWith("410 310 "));
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(layerWidth, "410"), LayerRig::line(width, "410"),
-                          LayerRig::line(layerWidth + 1, "310"), LayerRig::line(height, "310")}));
-    m_rig->fromUser(ENUM_MenuIndex(status), "0");
-    QVERIFY(m_rig->geometry(layer).startsWith("1280 720 "));
-    m_rig->forget();
-    m_rig->fromUser(width, "420");
-    QVERIFY(m_rig->geometry(layer).startsWith("1280 720 "));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{LayerRig::line(width, "420")});
-}
-
-void TestApplyGeometry::cropLeavesAScaledLayer()
-{
-    QFETCH(int, layer);
-    const int status = LayerRig::crop(MENU_MainLayerCrop_Status, layer);
-    const QString before = m_rig->geometry(layer);
-    m_rig->fromUser(ENUM_MenuIndex(status), "1");
-    m_rig->fromUser(ENUM_MenuIndex(status + 1), "400");
-    m_rig->fromUser(ENUM_MenuIndex(status + 3), "5");
-    m_rig->fromUser(ENUM_MenuIndex(status + 4), "6");
-    QCOMPARE(m_rig->geometry(layer), before);
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(status, "1"), LayerRig::line(status + 1, "400"),
-                          LayerRig::line(status + 3, "5"), LayerRig::line(status + 4, "6")}));
-}
-
-void TestApplyGeometry::reportedCropCountsWithItsLastNumber()
-{
-    QFETCH(int, layer);
-    const int status = LayerRig::crop(MENU_MainLayerCrop_Status, layer);
-    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), "1");
-    m_rig->set(ENUM_MenuIndex(status), "1");
-    const QString before = m_rig->geometry(layer);
-    m_rig->fromDevice(ENUM_MenuIndex(status + 1), "500");
-    m_rig->fromDevice(ENUM_MenuIndex(status + 2), "400");
-    m_rig->fromDevice(ENUM_MenuIndex(status + 3), "0");
-    QCOMPARE(m_rig->geometry(layer), before);
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    m_rig->fromDevice(ENUM_MenuIndex(status + 4), "0");
-    QVERIFY(m_rig->geometry(layer).startsWith("500 400 "));
-    const int height = LayerRig::of(MENU_MainLayer_VerHeight, layer);
-    QCOMPARE(m_rig->device->sent.take(), QStringList{LayerRig::line(height, "400")});
-    QCOMPARE(m_rig->reported.take().size(), 4);
-}
-
-void TestApplyGeometry::cropReset_data()
-{
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<QString>("scaling");
-    for (int layer = 0; layer < 3; ++layer)
-        for (const char *scaling : {"1", "2"})
-            QTest::addRow("layer %d, scaling %s", layer, scaling) << layer << scaling;
-}
-
-void TestApplyGeometry::cropReset()
-{
-    QFETCH(int, layer);
-    QFETCH(QString, scaling);
-    const int status = LayerRig::crop(MENU_MainLayerCrop_Status, layer);
-    const int height = LayerRig::of(MENU_MainLayer_VerHeight, layer);
-    m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), scaling);
-    m_rig->set(ENUM_MenuIndex(status), "1");
-    m_rig->set(ENUM_MenuIndex(status + 3), "30");
-    m_rig->set(ENUM_MenuIndex(status + 4), "40");
-    m_rig->fromUser(ENUM_MenuIndex(status + 5), "0");
-    QStringList crop;
-    for (int place = 1; place <= 4; ++place)
-        crop << m_rig->value(ENUM_MenuIndex(status + place));
-    QCOMPARE(crop, (QStringList{"1280", "720", "0", "0"}));
-    QStringList sent{LayerRig::line(status + 2, "720")};
-    if (scaling == "1")
-        sent << LayerRig::line(height, "720");
-    QCOMPARE(m_rig->device->sent.take(), sent);
-    QCOMPARE(m_rig->geometry(layer).startsWith("1280 720 "), scaling == "1");
-}
-
-void TestApplyGeometry::pipIsOfferedWhatItCanScale_data()
-{
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<QString>("height");
-    QTest::addColumn<bool>("splicing");
-    QTest::addColumn<bool>("before");
-    QTest::addColumn<bool>("offered");
-    for (int layer : {1, 2}) {
-        auto row = [layer](const char *name, const char *height, bool splicing, bool before, bool offered) {
-            QTest::addRow("PIP %d: %s", layer, name) << layer << height << splicing << before << offered;
-        };
-        row("the last that fits", "1624", false, false, true);  // 2000 x 1624 = 3248000
-        row("the first too large", "1625", false, true, false); // 3250000
-        row("fits, but spliced", "1624", true, false, false);
-    }
-}
-
-void TestApplyGeometry::pipIsOfferedWhatItCanScale()
-{
-    QFETCH(int, layer);
-    QFETCH(QString, height);
-    QFETCH(bool, splicing);
-    QFETCH(bool, before);
-    QFETCH(bool, offered);
-    const int status = LayerRig::crop(MENU_MainLayerCrop_Status, layer);
-    const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-    m_rig->set(MENU_ImageMosaic_Status, splicing ? "1" : "0");
-    m_rig->set(ENUM_MenuIndex(status), "1");
-    m_rig->set(ENUM_MenuIndex(status + 1), "2000");
-    m_rig->set(ENUM_MenuIndex(status + 2), height);
-    for (int place : {0, 2}) {
-        m_rig->setRows(scaling, before);
-        m_rig->fromUser(ENUM_MenuIndex(status + place), place == 0 ? "1" : height);
-        QCOMPARE(m_rig->rowEnabled(scaling, 1), offered);
-        QCOMPARE(m_rig->rowEnabled(scaling, 0), before);
-    }
-    // Without a crop the whole input counts.
-    m_rig->set(LayerRig::of(MENU_MainLayer_InputSource, layer), "3");
-    m_rig->setRows(scaling, true);
-    m_rig->fromUser(ENUM_MenuIndex(status), "0");
-    QVERIFY(!m_rig->rowEnabled(scaling, 1));
+    QFETCH(int, row);
+    runCaseLine(*m_rig, allLines().at(row));
 }
 
 QTEST_MAIN(TestApplyGeometry)

@@ -1,5 +1,6 @@
 // Splicing: what it takes from the layers, what it gives back, and the area that this device loads.
 
+#include "caseline.h"
 #include "layerrig.h"
 
 using namespace VASK;
@@ -12,25 +13,57 @@ private slots:
     void cleanupTestCase() { delete m_rig; }
     void init() { m_rig->start(); }
 
+    void valueIsApplied_data();
+    void valueIsApplied();
     void onTakesEverything();
-    void onLeavesWhatStandsAlready();
     void onForASendingCard();
-    void onLeavesTheTransitionLocked_data();
     void onLeavesTheTransitionLocked();
     void offOffersWhatFits_data();
     void offOffersWhatFits();
-    void reported_data();
-    void reported();
-    void totals_data();
-    void totals();
-    void areaHoldsItsStart();
-    void reset_data();
-    void reset();
 
 private:
     QString pageState() const;
     LayerRig *m_rig = nullptr;
 };
+
+namespace
+{
+const QString pageOn = " 1041+ 1042+ 1043+ 1044+ 1045+ 1046+ 1047+";
+const QString pageOff = " 1041- 1042- 1043- 1044- 1045- 1046- 1047-";
+const QString dialled = "1041=77 1042=77 1043=77 1044=77 1045=77 1046=77 2103=800 2104=600 2105=11 2106=12 ";
+const QString factory = "leaves 1041=3840 1042=2160 1043=1920 1044=1080 1045=0 1046=0 2105=11 2106=12 ";
+const CaseLines lines{
+    {"on, all stands already", "2100=1 2350=1", "user 1040=1",
+     "sends 1043=1920 1044=1080 2103=3840 2104=2160 2105=0 2106=0 1040=1 1041=3840 1042=2160 1046=0 1040=1"},
+    {"on", "1041=3000 1042=2000 1046=9 2110=1 2102=1 2103=700 2106=5 2112/0+ 2112/1-", "device 1040=1",
+     "sends 1041=3000 1042=2000 1046=9; tells 1040=1; "
+     "leaves 2102=2 2110=1 2103=700 2106=5 2102/0- 2102/1- 2112/0+ 2112/1-" +
+         pageOn},
+    {"off", "2110=1 2102=1 2103=700 2106=5 2112/0+ 2112/1-", "device 1040=0",
+     "tells 1040=0; leaves 2102=1 2110=1 2103=700 2106=5 2102/0+ 2102/1+ 2112/0+ 2112/1-" + pageOff},
+    {"width", "", "user 1041=5000", "sends 2103=5000 1041=5000; leaves 2103=5000 3139=5000"},
+    {"width", "2103=5000", "device 1041=4000", "tells 1041=4000; leaves 2103=5000"},
+    {"height", "", "user 1042=5000", "sends 2104=5000 1042=5000; leaves 2104=5000 3140=5000"},
+    {"height", "2104=5000", "device 1042=4000", "tells 1042=4000; leaves 2104=5000"},
+    {"area holds its start", "1045=32000 1046=100", "user 1043=1000",
+     "sends 1043=1000; reloads 1045=31768 1046=100; leaves 1045=31768 1046=100"},
+    {"reset", dialled + "1040=1", "user 1047=0",
+     "sends 1046=0 2104=2160; " + factory + "2103=3840 2104=2160 3139=3840 3140=2160"},
+    {"reset, not spliced", dialled + "3139=1 3140=2", "user 1047=0",
+     factory + "2103=800 2104=600 3139=1 3140=2"},
+};
+} // namespace
+
+void TestApplySplicing::valueIsApplied_data()
+{
+    addCaseLines(lines);
+}
+
+void TestApplySplicing::valueIsApplied()
+{
+    QFETCH(int, row);
+    runCaseLine(*m_rig, lines.at(row));
+}
 
 /// Which rows of the splicing page can be reached, from the totals to the reset.
 QString TestApplySplicing::pageState() const
@@ -79,16 +112,6 @@ void TestApplySplicing::onTakesEverything()
     QCOMPARE(pageState(), QString("yyyyyyy"));
 }
 
-void TestApplySplicing::onLeavesWhatStandsAlready()
-{
-    m_rig->set(MENU_MainLayer_Status, "1");
-    m_rig->set(MENU_Sync_Status, "1");
-    m_rig->fromUser(MENU_ImageMosaic_Status, "1");
-    const QStringList sent = m_rig->device->sent.take();
-    for (const char *line : {"2100=1", "2110=0", "2120=0", "2350=1"})
-        QVERIFY2(!sent.contains(line), line);
-}
-
 void TestApplySplicing::onForASendingCard()
 {
     m_rig->set(MENU_WorkMode, "2");
@@ -101,46 +124,37 @@ void TestApplySplicing::onForASendingCard()
     QVERIFY(sent.contains("2106=0"));
 }
 
-void TestApplySplicing::onLeavesTheTransitionLocked_data()
-{
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("3D") << int(MENU_Mode3D_Status) << "1";
-    QTest::newRow("mosaic") << int(MENU_MainLayer_InputSource) << LayerRig::mosaicRow;
-    QTest::newRow("sending card") << int(MENU_WorkMode) << "2";
-}
-
 void TestApplySplicing::onLeavesTheTransitionLocked()
 {
-    QFETCH(int, item);
-    QFETCH(QString, value);
-    m_rig->setTransition(false);
-    m_rig->set(ENUM_MenuIndex(item), value);
-    m_rig->fromUser(MENU_ImageMosaic_Status, "1");
-    QCOMPARE(m_rig->transition(), QString("n"));
+    const QPair<ENUM_MenuIndex, QString> locks[] = {
+        {MENU_Mode3D_Status, "1"}, {MENU_MainLayer_InputSource, LayerRig::mosaicRow}, {MENU_WorkMode, "2"}};
+    for (const auto &lock : locks) {
+        m_rig->start();
+        m_rig->setTransition(false);
+        m_rig->set(lock.first, lock.second);
+        m_rig->fromUser(MENU_ImageMosaic_Status, "1");
+        QVERIFY2(m_rig->transition() == "n", QByteArray::number(lock.first));
+    }
 }
 
 void TestApplySplicing::offOffersWhatFits_data()
 {
     QTest::addColumn<int>("outputWidth");
-    QTest::addColumn<QString>("source");
+    QTest::addColumn<int>("source");
     QTest::addColumn<QString>("rows");
-    QTest::newRow("all") << 1920 << "0"
-                         << "yy";
-    QTest::newRow("an output too large for full screen") << 3840 << "0"
-                                                         << "ny";
-    QTest::newRow("an input too large for its pixels") << 1920 << "3"
-                                                       << "yn";
+    QTest::newRow("all") << 1920 << 0 << "yy";
+    QTest::newRow("an output too large for full screen") << 3840 << 0 << "ny";
+    QTest::newRow("an input too large for its pixels") << 1920 << 3 << "yn";
 }
 
 void TestApplySplicing::offOffersWhatFits()
 {
     QFETCH(int, outputWidth);
-    QFETCH(QString, source);
+    QFETCH(int, source);
     m_rig->fromUser(MENU_ImageMosaic_Status, "1");
     m_rig->process(PARA_OutputWidth, outputWidth);
     for (int layer : {1, 2})
-        m_rig->set(LayerRig::of(MENU_MainLayer_InputSource, layer), source);
+        m_rig->set(LayerRig::of(MENU_MainLayer_InputSource, layer), QString::number(source));
     m_rig->forget();
     m_rig->fromUser(MENU_ImageMosaic_Status, "0");
     QTEST(m_rig->rows(MENU_PIP1_ScalingMode), "rows");
@@ -154,102 +168,6 @@ void TestApplySplicing::offOffersWhatFits()
     m_rig->set(MENU_PIP1Crop_HorWidth, "1000");
     m_rig->fromUser(MENU_ImageMosaic_Status, "0");
     QVERIFY(m_rig->rowEnabled(MENU_PIP1_ScalingMode, 1));
-}
-
-void TestApplySplicing::reported_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("rows");
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QStringList>("sent");
-    QTest::newRow("on") << "1"
-                        << "nn"
-                        << "yyyyyyy" << QStringList{"1041=3000", "1042=2000", "1046=9"};
-    QTest::newRow("off") << "0"
-                         << "yy"
-                         << "nnnnnnn" << QStringList();
-}
-
-void TestApplySplicing::reported()
-{
-    QFETCH(QString, value);
-    m_rig->set(MENU_ImageMosaic_TotalHPixels, "3000");
-    m_rig->set(MENU_ImageMosaic_TotalVPixels, "2000");
-    m_rig->set(MENU_ImageMosaic_LoadAreaInitialY, "9");
-    m_rig->set(MENU_PIP1_Status, "1");
-    m_rig->set(MENU_MainLayer_ScalingMode, "1");
-    const QString before = m_rig->geometry(0);
-    const QString pipRows = m_rig->rows(MENU_PIP1_ScalingMode);
-    m_rig->fromDevice(MENU_ImageMosaic_Status, value);
-    QTEST(m_rig->rows(MENU_MainLayer_ScalingMode), "rows");
-    QTEST(pageState(), "page");
-    QTEST(m_rig->device->sent.take(), "sent");
-    QCOMPARE(m_rig->value(MENU_MainLayer_ScalingMode), QString(value == "1" ? "2" : "1"));
-    QCOMPARE(m_rig->geometry(0), before);
-    QCOMPARE(m_rig->rows(MENU_PIP1_ScalingMode), pipRows);
-    QCOMPARE(m_rig->value(MENU_PIP1_Status), QString("1"));
-    QCOMPARE(m_rig->reported.take(), QStringList{LayerRig::line(1040, value)});
-}
-
-void TestApplySplicing::totals_data()
-{
-    QTest::addColumn<int>("item");
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("memory");
-    QTest::newRow("width") << 1041 << 2103 << 3139;
-    QTest::newRow("height") << 1042 << 2104 << 3140;
-}
-
-void TestApplySplicing::totals()
-{
-    QFETCH(int, item);
-    QFETCH(int, size);
-    QFETCH(int, memory);
-    m_rig->fromUser(ENUM_MenuIndex(item), "5000");
-    QCOMPARE(m_rig->value(ENUM_MenuIndex(size)), QString("5000"));
-    QCOMPARE(m_rig->value(ENUM_MenuIndex(memory)), QString("5000"));
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{LayerRig::line(size, "5000"), LayerRig::line(item, "5000")}));
-    m_rig->fromDevice(ENUM_MenuIndex(item), "4000");
-    QCOMPARE(m_rig->value(ENUM_MenuIndex(size)), QString("5000"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->reported.take(), QStringList{LayerRig::line(item, "4000")});
-}
-
-void TestApplySplicing::areaHoldsItsStart()
-{
-    m_rig->set(MENU_ImageMosaic_LoadAreaInitialX, "32000");
-    m_rig->set(MENU_ImageMosaic_LoadAreaInitialY, "100");
-    m_rig->fromUser(MENU_ImageMosaic_LoadAreaWidth, "1000");
-    QCOMPARE(m_rig->value(MENU_ImageMosaic_LoadAreaInitialX), QString("31768"));
-    QCOMPARE(m_rig->value(MENU_ImageMosaic_LoadAreaInitialY), QString("100"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1043=1000"});
-    QVERIFY(m_rig->reloaded.take().contains("1045=31768"));
-}
-
-void TestApplySplicing::reset_data()
-{
-    QTest::addColumn<bool>("spliced");
-    QTest::addColumn<QStringList>("sent");
-    QTest::newRow("spliced") << true << QStringList{"1046=0", "2104=2160"};
-    QTest::newRow("not spliced") << false << QStringList();
-}
-
-void TestApplySplicing::reset()
-{
-    QFETCH(bool, spliced);
-    m_rig->set(MENU_ImageMosaic_Status, spliced ? "1" : "0");
-    m_rig->setGeometry(0, {"800", "600", "11", "12"});
-    for (int item = 1041; item <= 1046; ++item)
-        m_rig->set(ENUM_MenuIndex(item), "77");
-    m_rig->fromUser(MENU_ImageMosaic_Reset, "0");
-    QStringList page;
-    for (int item = 1041; item <= 1046; ++item)
-        page << m_rig->value(ENUM_MenuIndex(item));
-    QCOMPARE(page, (QStringList{"3840", "2160", "1920", "1080", "0", "0"}));
-    QTEST(m_rig->device->sent.take(), "sent");
-    QCOMPARE(m_rig->geometry(0), QString(spliced ? "3840 2160 11 12" : "800 600 11 12"));
-    QCOMPARE(m_rig->remembered(0).startsWith("3840 2160 "), spliced);
 }
 
 QTEST_MAIN(TestApplySplicing)
