@@ -20,12 +20,9 @@ private slots:
     void init();
     void cleanup();
 
-    void snapshotPageOpensAndCloses_data();
     void snapshotPageOpensAndCloses();
-    void listOfFilesFillsTheOpenPage_data();
     void listOfFilesFillsTheOpenPage();
     void listOfFilesLeavesAClosedPageAlone();
-    void layerFollowsItsInput_data();
     void layerFollowsItsInput();
     void emptyHomeScreen();
     void productionTestHasTheScreen();
@@ -70,26 +67,18 @@ void TestApplyPages::cleanup()
     QDir(m_rig->path("/usr/vask/etc/fpd/cabCfg")).removeRecursively();
 }
 
-void TestApplyPages::snapshotPageOpensAndCloses_data()
-{
-    QTest::addColumn<int>("slot");
-    for (int slot = MENU_Test_CustomPicture1; slot <= MENU_Test_CustomPicture4; ++slot)
-        QTest::addRow("slot %d", slot) << slot;
-}
-
 void TestApplyPages::snapshotPageOpensAndCloses()
 {
-    QFETCH(int, slot);
-    open(ENUM_PAGE_CustomPictures);
-    m_rig->fromUser(MENU_Test_Snapshot, QString());
-    MenuDirectory *slots4 = page(ENUM_PAGE_SnapshotSlots);
-    QVERIFY(slots4);
-    QVERIFY(slots4->isVisible());
-    QVERIFY(!page(ENUM_PAGE_CustomPictures)->isVisible());
-    open(ENUM_PAGE_SnapshotSlots);
-    m_rig->fromUser(ENUM_MenuIndex(slot), QString());
-    QVERIFY(!slots4->isVisible());
-    QVERIFY(page(ENUM_PAGE_CustomPictures)->isVisible());
+    for (int slot = MENU_Test_CustomPicture1; slot <= MENU_Test_CustomPicture4; ++slot) {
+        open(ENUM_PAGE_CustomPictures);
+        m_rig->fromUser(MENU_Test_Snapshot, QString());
+        QVERIFY(page(ENUM_PAGE_SnapshotSlots) && page(ENUM_PAGE_SnapshotSlots)->isVisible());
+        QVERIFY(!page(ENUM_PAGE_CustomPictures)->isVisible());
+        open(ENUM_PAGE_SnapshotSlots);
+        m_rig->fromUser(ENUM_MenuIndex(slot), QString());
+        QVERIFY(!page(ENUM_PAGE_SnapshotSlots)->isVisible());
+        QVERIFY(page(ENUM_PAGE_CustomPictures)->isVisible());
+    }
 }
 
 void TestApplyPages::bringFiles(int count)
@@ -110,45 +99,31 @@ void TestApplyPages::bringFiles(int count)
     QCOMPARE(file.write(index), qint64(index.size()));
 }
 
-void TestApplyPages::listOfFilesFillsTheOpenPage_data()
-{
-    QTest::addColumn<int>("files");
-    QTest::addColumn<QString>("shown"); ///< a letter a row
-    QTest::newRow("one") << 1 << "x-------";
-    QTest::newRow("all rows") << 8 << "xxxxxxxx";
-    QTest::newRow("more than rows") << 9 << "xxxxxxxx";
-    QTest::newRow("fewer again") << 3 << "xxx-----";
-    QTest::newRow("none") << 0 << "--------";
-    QTest::newRow("more than before") << 5 << "xxxxx---";
-}
-
 void TestApplyPages::listOfFilesFillsTheOpenPage()
 {
-    QFETCH(int, files);
-    bringFiles(files);
-    open(ENUM_PAGE_LoadCabFiles);
-    m_rig->fromDevice(EVENT_CabinetListLoaded, "1");
-    const auto *table = page(ENUM_PAGE_LoadCabFiles)->findChild<QTableView *>();
-    QVERIFY(table);
-    QString shown;
-    QString enabled;
-    for (int row = 0; row < MenuDirectory::fileRowCount; ++row) {
-        const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + row);
-        shown += table->isRowHidden(row) ? '-' : 'x';
-        enabled += m_rig->enabled(item) ? 'x' : '-';
-        if (row < files) {
+    for (int files : {1, 8, 9, 3, 0, 5}) {
+        cleanup();
+        bringFiles(files);
+        open(ENUM_PAGE_LoadCabFiles);
+        m_rig->fromDevice(EVENT_CabinetListLoaded, "1");
+        const auto *table = page(ENUM_PAGE_LoadCabFiles)->findChild<QTableView *>();
+        QVERIFY(table);
+        for (int row = 0; row < MenuDirectory::fileRowCount; ++row) {
+            const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + row);
+            QCOMPARE(table->isRowHidden(row), row >= files);
+            QCOMPARE(m_rig->enabled(item), row < files);
+            if (row >= files)
+                continue;
             QCOMPARE(m_rig->value(item), QString("wall%1.rcfgx").arg(row));
             QCOMPARE(m_rig->info(item).perBase, QString::number(row));
             const auto index = ENUM_ObjectIndex(ENUM_ROW_CabinetFile1 + row);
             QVERIFY(dynamic_cast<QWidget *>(ObjectPool::getInstance()->GetObject(index))->isEnabled());
         }
+        for (int key : {KEY_KNOB_RIGHT, KEY_KNOB_LEFT}) { // a page without rows has nowhere to go
+            KeypadEvent turn(KEY_PRESSED, key, 1, false);
+            QCoreApplication::sendEvent(page(ENUM_PAGE_LoadCabFiles), &turn);
+        }
     }
-    for (int key : {KEY_KNOB_RIGHT, KEY_KNOB_LEFT}) { // a page without rows has nowhere to go
-        KeypadEvent turn(KEY_PRESSED, key, 1, false);
-        QCoreApplication::sendEvent(page(ENUM_PAGE_LoadCabFiles), &turn);
-    }
-    QTEST(shown, "shown");
-    QTEST(enabled, "shown");
 }
 
 void TestApplyPages::listOfFilesLeavesAClosedPageAlone()
@@ -161,30 +136,24 @@ void TestApplyPages::listOfFilesLeavesAClosedPageAlone()
     QVERIFY(m_rig->enabled(MENU_CabinetFile8));
 }
 
-void TestApplyPages::layerFollowsItsInput_data()
-{
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<QList<int>>("told"); ///< layer and state
-    QTest::newRow("main, stable") << 0 << 3 << QList<int>{0, 0};
-    QTest::newRow("PIP 1, none") << 1 << 0 << QList<int>{1, 1};
-    QTest::newRow("PIP 2, not yet stable") << 2 << 2 << QList<int>{2, 1};
-    QTest::newRow("no such layer") << 3 << 3 << QList<int>{};
-}
-
 void TestApplyPages::layerFollowsItsInput()
 {
-    QFETCH(int, layer);
-    QFETCH(int, signal);
-    m_rig->input(2, 105, signal, 1920, 1080, 16667);
-    for (ENUM_MenuIndex source : {MENU_MainLayer_InputSource, MENU_PIP1_InputSource, MENU_PIP2_InputSource})
-        m_rig->set(source, "2");
-    QSignalSpy layers(m_rig->engine, SIGNAL(signal_Layer_state(qint32, qint32)));
-    m_rig->engine->SetLayerSrc_Res(layer);
-    QList<int> told;
-    for (const QList<QVariant> &one : layers)
-        told << one.at(0).toInt() << one.at(1).toInt();
-    QTEST(told, "told");
+    const struct {
+        int layer, signal;
+        QList<int> told; ///< layer and state
+    } rows[] = {{0, 3, {0, 0}}, {1, 0, {1, 1}}, {2, 2, {2, 1}}, {3, 3, {}}};
+    for (const auto &row : rows) {
+        m_rig->input(2, 105, row.signal, 1920, 1080, 16667);
+        for (ENUM_MenuIndex source :
+             {MENU_MainLayer_InputSource, MENU_PIP1_InputSource, MENU_PIP2_InputSource})
+            m_rig->set(source, "2");
+        QSignalSpy layers(m_rig->engine, SIGNAL(signal_Layer_state(qint32, qint32)));
+        m_rig->engine->SetLayerSrc_Res(row.layer);
+        QList<int> told;
+        for (const QList<QVariant> &one : layers)
+            told << one.at(0).toInt() << one.at(1).toInt();
+        QCOMPARE(told, row.told);
+    }
 }
 
 void TestApplyPages::emptyHomeScreen()

@@ -1,7 +1,7 @@
 // What the engine does at its start before the flash is read: what the last run left is put back, what it
 // kept is taken over; and the parts of the home screen that no other test looks at.
 
-#include "enginerig.h"
+#include "caseline.h"
 
 #include <QSignalSpy>
 
@@ -17,13 +17,9 @@ private slots:
 
     void displayItemsStartAnew();
     void processDataStartEmpty();
-    void hdcpThatIsNotKeptIsOff_data();
     void hdcpThatIsNotKeptIsOff();
-    void fnFunctionIsMarked_data();
     void fnFunctionIsMarked();
-    void otherConfigurationIsAskedFor_data();
     void otherConfigurationIsAskedFor();
-    void versionOfTheEnvironment_data();
     void versionOfTheEnvironment();
     void syncStateOfTheHomeScreen_data();
     void syncStateOfTheHomeScreen();
@@ -42,31 +38,20 @@ private:
 
 void TestEngineStart::displayItemsStartAnew()
 {
-    const QMap<int, QString> values{
-        {3018, "0"},           {3030, "0"},         {3042, "0"},         {3054, "0"},
-        {2304, "RGB 4:4:4"},   {2309, "RGB 4:4:4"}, {2314, "RGB 4:4:4"}, {2319, "RGB 4:4:4"},
-        {2322, "YCbCr 4:2:2"}, {2325, "0"},         {2326, "5"},         {2327, "0"},
-        {2328, "0"},           {2331, "3"},         {2332, "5"},         {2333, "3"},
-    };
-    const QMap<int, bool> enables{{2108, false}, {2118, false}, {2128, false},
-                                  {1022, true},  {1023, true},  {1025, true}};
-    const QMap<int, QString> choices{{1021, SELECTED}, {1022, UNSELECTED}, {1023, UNSELECTED}};
-    for (auto item = values.cbegin(); item != values.cend(); ++item)
-        m_rig->set(ENUM_MenuIndex(item.key()), "1");
-    for (auto item = enables.cbegin(); item != enables.cend(); ++item)
-        m_rig->store->UpdataItemEnable(ENUM_MenuIndex(item.key()), !item.value());
-    for (auto item = choices.cbegin(); item != choices.cend(); ++item)
-        m_rig->store->UpdataItemCurChoice(ENUM_MenuIndex(item.key()),
-                                          item.value() == SELECTED ? UNSELECTED : SELECTED);
-    m_rig->set(MENU_Audio_Volume, "7");
+    const QString values = "3018=0 3030=0 3042=0 3054=0 2325=0 2326=5 2327=0 2328=0 2331=3 2332=5 2333=3";
+    const ENUM_MenuIndex samplings[] = {MENU_HDMI1_ColorSample, MENU_HDMI2_ColorSample, MENU_DVI_ColorSample,
+                                        MENU_DVI2_ColorSample, MENU_SDI_ColorSample};
+    caseline::prepare(*m_rig, QString(values).replace(QRegularExpression("=\\d"), "=1"));
+    for (ENUM_MenuIndex sampling : samplings)
+        m_rig->set(sampling, "1");
+    caseline::prepare(*m_rig, "2108+ 2118+ 2128+ 1022- 1023- 1025- 2357=7");
+    for (ENUM_MenuIndex mode : {MENU_Normal, MENU_Freeze, MENU_FTB})
+        m_rig->store->UpdataItemCurChoice(mode, mode == MENU_Normal ? UNSELECTED : SELECTED);
     m_rig->engine->Initialize();
-    for (auto item = values.cbegin(); item != values.cend(); ++item)
-        QVERIFY2(m_rig->value(ENUM_MenuIndex(item.key())) == item.value(), QByteArray::number(item.key()));
-    for (auto item = enables.cbegin(); item != enables.cend(); ++item)
-        QVERIFY2(m_rig->enabled(ENUM_MenuIndex(item.key())) == item.value(), QByteArray::number(item.key()));
-    for (auto item = choices.cbegin(); item != choices.cend(); ++item)
-        QVERIFY2(m_rig->choice(ENUM_MenuIndex(item.key())) == item.value(), QByteArray::number(item.key()));
-    QCOMPARE(m_rig->value(MENU_Audio_Volume), QString("7"));
+    for (ENUM_MenuIndex sampling : samplings)
+        QCOMPARE(m_rig->value(sampling),
+                 QString(sampling == MENU_SDI_ColorSample ? "YCbCr 4:2:2" : "RGB 4:4:4"));
+    caseline::compareStates(*m_rig, values + " 2357=7 2108- 2118- 2128- 1022+ 1023+ 1025+ 1021! 1022? 1023?");
 }
 
 void TestEngineStart::processDataStartEmpty()
@@ -79,81 +64,50 @@ void TestEngineStart::processDataStartEmpty()
         QVERIFY2(m_rig->value(ENUM_MenuIndex(index)) == "0", QByteArray::number(index));
 }
 
-void TestEngineStart::hdcpThatIsNotKeptIsOff_data()
-{
-    QTest::addColumn<QString>("memory");
-    QTest::addColumn<QString>("hdcp");
-    QTest::newRow("not kept over a power cut") << "0"
-                                               << "0";
-    QTest::newRow("kept") << "1"
-                          << "1";
-}
-
 void TestEngineStart::hdcpThatIsNotKeptIsOff()
 {
-    QFETCH(QString, memory);
-    m_rig->set(MENU_HDCPMemory, memory);
-    m_rig->set(MENU_HDCP, "1");
-    m_rig->engine->Initialize();
-    QTEST(m_rig->value(MENU_HDCP), "hdcp");
-}
-
-void TestEngineStart::fnFunctionIsMarked_data()
-{
-    QTest::addColumn<QString>("function");
-    QTest::addColumn<int>("item");
-    for (int function = 0; function < 5; ++function)
-        QTest::addRow("%d", function) << QString::number(function) << MENU_Fn_Synchronization + function;
+    for (const char *memory : {"0", "1"}) { // not kept over a power cut, kept
+        m_rig->set(MENU_HDCPMemory, memory);
+        m_rig->set(MENU_HDCP, "1");
+        m_rig->engine->Initialize();
+        QCOMPARE(m_rig->value(MENU_HDCP), QString(memory));
+    }
 }
 
 void TestEngineStart::fnFunctionIsMarked()
 {
-    QFETCH(QString, function);
-    QFETCH(int, item);
-    m_rig->store->UpdataItemCurChoice(ENUM_MenuIndex(item), UNSELECTED);
-    m_rig->set(MENU_FnMode, function);
-    m_rig->engine->Initialize();
-    QCOMPARE(m_rig->choice(ENUM_MenuIndex(item)), SELECTED);
-}
-
-void TestEngineStart::otherConfigurationIsAskedFor_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<bool>("quickAsks");
-    QTest::newRow("advanced") << "0" << false;
-    QTest::newRow("quick") << "1" << true;
+    for (int function = 0; function < 5; ++function) {
+        const auto item = ENUM_MenuIndex(MENU_Fn_Synchronization + function);
+        m_rig->store->UpdataItemCurChoice(item, UNSELECTED);
+        m_rig->set(MENU_FnMode, QString::number(function));
+        m_rig->engine->Initialize();
+        QCOMPARE(m_rig->choice(item), SELECTED);
+    }
 }
 
 void TestEngineStart::otherConfigurationIsAskedFor()
 {
-    QFETCH(QString, kind);
-    QFETCH(bool, quickAsks);
-    m_rig->set(MENU_ScreenConfigKind, kind);
-    m_rig->engine->Initialize();
-    QCOMPARE(bool(g_dialogConfig[MENU_QuickConfiguration].enabled), quickAsks);
-    QCOMPARE(bool(g_dialogConfig[MENU_AdvancedCfg].enabled), !quickAsks);
-}
-
-void TestEngineStart::versionOfTheEnvironment_data()
-{
-    QTest::addColumn<QByteArray>("environment");
-    QTest::addColumn<QString>("version");
-    QTest::newRow("there") << QByteArray("ver_rootfs=V3.2.1\n") << "V3.2.1";
-    QTest::newRow("empty") << QByteArray("ver_rootfs=\n") << "V0";
-    QTest::newRow("not there") << QByteArray("other=V3.2.1\n") << "V0";
+    for (bool quickAsks : {false, true}) {
+        m_rig->set(MENU_ScreenConfigKind, quickAsks ? "1" : "0");
+        m_rig->engine->Initialize();
+        QCOMPARE(bool(g_dialogConfig[MENU_QuickConfiguration].enabled), quickAsks);
+        QCOMPARE(bool(g_dialogConfig[MENU_AdvancedCfg].enabled), !quickAsks);
+    }
 }
 
 void TestEngineStart::versionOfTheEnvironment()
 {
-    QFETCH(QByteArray, environment);
-    QFile file(m_rig->statePath(hostlink::environmentFile));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(environment);
-    file.close();
-    m_rig->set(MENU_About_VersionValue, "V0");
-    m_rig->engine->Initialize();
-    QTEST(m_rig->value(MENU_About_VersionValue), "version");
-    file.remove();
+    const QMap<QByteArray, QString> versions{
+        {"ver_rootfs=V3.2.1\n", "V3.2.1"}, {"ver_rootfs=\n", "V0"}, {"other=V3.2.1\n", "V0"}};
+    for (auto version = versions.cbegin(); version != versions.cend(); ++version) {
+        QFile file(m_rig->statePath(hostlink::environmentFile));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(version.key()) > 0);
+        file.close();
+        m_rig->set(MENU_About_VersionValue, "V0");
+        m_rig->engine->Initialize();
+        QCOMPARE(m_rig->value(MENU_About_VersionValue), version.value());
+        file.remove();
+    }
 }
 
 void TestEngineStart::syncStateOfTheHomeScreen_data()

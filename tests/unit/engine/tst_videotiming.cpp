@@ -72,12 +72,9 @@ class TestVideoTiming : public QObject
 private slots:
     void computesAMode_data();
     void computesAMode();
-    void searchesAsThePlainWalk_data();
     void searchesAsThePlainWalk();
     void rateIsTheLastThatFits();
-    void outputBandwidth_data();
     void outputBandwidth();
-    void snapsRates_data();
     void snapsRates();
 };
 
@@ -123,39 +120,31 @@ void TestVideoTiming::computesAMode()
     QCOMPARE(mode.fieldRateHz, rate);
 }
 
-void TestVideoTiming::searchesAsThePlainWalk_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("rounds");
-    QTest::newRow("sizes of the menu") << 600 << 4092 << 1000;
-    QTest::newRow("small sizes, far from the start") << 0 << 600 << 100;
-    QTest::newRow("beyond the menu") << 4093 << 20000 << 100;
-}
-
 void TestVideoTiming::searchesAsThePlainWalk()
 {
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(int, rounds);
     // Around a known aspect ratio the demand does not rise evenly: there the clocks are put.
     static constexpr struct {
         int width, height;
     } ratios[] = {{4, 3}, {16, 9}, {16, 10}, {5, 4}, {15, 9}};
+    // Sizes of the menu, small ones, which lie far from the start, and those beyond the menu.
+    static constexpr struct {
+        int from, to, rounds;
+    } spans[] = {{600, 4092, 1000}, {0, 600, 100}, {4093, 20000, 100}};
     constexpr uint32_t farClock = 600000000; // beyond what a mode of 32 bits can take
     QRandomGenerator random(20);
-    for (int i = 0; i < rounds; ++i) {
-        const int other = random.bounded(from, to + 1);
-        const int rate = random.bounded(500, 24001);
-        const float hertz = float(rate) / 100.f;
-        const auto &ratio = ratios[i % 5];
-        const int nearWidth = std::max(0, other * ratio.width / ratio.height + random.bounded(-3, 4));
-        const int nearHeight = std::max(0, other * ratio.height / ratio.width + random.bounded(-3, 4));
-        for (uint32_t clock : {highClock, lowClock, clockDemand(nearWidth, other, hertz),
-                               clockDemand(other, nearHeight, hertz)})
-            if (clock < farClock)
-                compareSearches(clock, other, rate);
-    }
+    for (const auto &span : spans)
+        for (int i = 0; i < span.rounds; ++i) {
+            const int other = random.bounded(span.from, span.to + 1);
+            const int rate = random.bounded(500, 24001);
+            const float hertz = float(rate) / 100.f;
+            const auto &ratio = ratios[i % 5];
+            const int nearWidth = std::max(0, other * ratio.width / ratio.height + random.bounded(-3, 4));
+            const int nearHeight = std::max(0, other * ratio.height / ratio.width + random.bounded(-3, 4));
+            for (uint32_t clock : {highClock, lowClock, clockDemand(nearWidth, other, hertz),
+                                   clockDemand(other, nearHeight, hertz)})
+                if (clock < farClock)
+                    compareSearches(clock, other, rate);
+        }
 }
 
 void TestVideoTiming::rateIsTheLastThatFits()
@@ -174,60 +163,41 @@ void TestVideoTiming::rateIsTheLastThatFits()
     }
 }
 
-void TestVideoTiming::outputBandwidth_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<uint>("limit");
-    QTest::addColumn<bool>("blanking");
-    QTest::addColumn<bool>("overload");
-    // (1080 + 20) * (3841 | 1 + 31) * 60 = 255,552,000; one line and one pixel pair less and so on
-    QTest::newRow("3840x1080 at 60") << 3840 << 1080 << 6000 << wholeOutputPixelRate << true << true;
-    QTest::newRow("1920x2000 at 60") << 1920 << 2000 << 6000 << wholeOutputPixelRate << true << false;
-    // an even and the following odd width weigh the same: ((w + 1) | 1) is 1921 and 1923 for 1920, 1921
-    QTest::newRow("at the limit") << 100 << 80 << 10000 << 100u * 100u * 132u << true << false;
-    QTest::newRow("above by one") << 100 << 80 << 10000 << 100u * 100u * 132u - 1 << true << true;
-    QTest::newRow("odd width counts two more") << 101 << 80 << 10000 << 100u * 100u * 132u << true << true;
-    QTest::newRow("port at the limit") << 1000 << 600 << 6000 << 36000000u << false << false;
-    QTest::newRow("port above") << 1000 << 600 << 6001 << 36000000u << false << true;
-    QTest::newRow("nothing") << 0 << 0 << 6000 << portPixelRate << false << false;
-    QTest::newRow("more than 32 bits") << 65535 << 65535 << 65535 << 0xFFFFFFFFu << true << true;
-}
-
 void TestVideoTiming::outputBandwidth()
 {
-    QFETCH(int, width);
-    QFETCH(int, height);
-    QFETCH(int, rate);
-    QFETCH(uint, limit);
-    QFETCH(bool, blanking);
-    QFETCH(bool, overload);
-    QCOMPARE(VideoBandwidthConstrain(uint16_t(width), uint16_t(height), uint16_t(rate), limit, blanking),
-             overload);
-}
-
-void TestVideoTiming::snapsRates_data()
-{
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<int>("snapped");
     const struct {
-        int rate, snapped;
+        const char *name;
+        int width, height, rate;
+        uint limit;
+        bool blanking, overload;
     } rows[] = {
-        {2396, 2398}, {2395, 2400},   {2399, 2398},   {2400, 2400}, {2401, 2400}, {2995, 2997},
-        {2999, 2997}, {3000, 3000},   {4793, 4795},   {4797, 4795}, {4798, 4800}, {5992, 5994},
-        {5996, 5994}, {5997, 6000},   {6000, 6000},   {6049, 6000}, {6050, 6100}, {7195, 7193},
-        {7196, 7200}, {11990, 11988}, {11991, 12000}, {49, 0},
+        // (1080 + 20) * (3841 | 1 + 31) * 60 = 255,552,000; one line and one pixel pair less and so on
+        {"3840x1080 at 60", 3840, 1080, 6000, wholeOutputPixelRate, true, true},
+        {"1920x2000 at 60", 1920, 2000, 6000, wholeOutputPixelRate, true, false},
+        // an even and the following odd width weigh the same: ((w + 1) | 1) is 1921 and 1923 for 1920, 1921
+        {"at the limit", 100, 80, 10000, 100u * 100u * 132u, true, false},
+        {"above by one", 100, 80, 10000, 100u * 100u * 132u - 1, true, true},
+        {"odd width counts two more", 101, 80, 10000, 100u * 100u * 132u, true, true},
+        {"port at the limit", 1000, 600, 6000, 36000000u, false, false},
+        {"port above", 1000, 600, 6001, 36000000u, false, true},
+        {"nothing", 0, 0, 6000, portPixelRate, false, false},
+        {"more than 32 bits", 65535, 65535, 65535, 0xFFFFFFFFu, true, true},
     };
     for (const auto &row : rows)
-        QTest::addRow("%d", row.rate) << row.rate << row.snapped;
+        QVERIFY2(VideoBandwidthConstrain(uint16_t(row.width), uint16_t(row.height), uint16_t(row.rate),
+                                         row.limit, row.blanking) == row.overload,
+                 row.name);
 }
 
 void TestVideoTiming::snapsRates()
 {
-    QFETCH(int, rate);
-    QFETCH(int, snapped);
-    QCOMPARE(int(FrameRateAdj(uint16_t(rate))), snapped);
+    const QMap<int, int> snapped{{2396, 2398},   {2395, 2400}, {2399, 2398}, {2400, 2400}, {2401, 2400},
+                                 {2995, 2997},   {2999, 2997}, {3000, 3000}, {4793, 4795}, {4797, 4795},
+                                 {4798, 4800},   {5992, 5994}, {5996, 5994}, {5997, 6000}, {6000, 6000},
+                                 {6049, 6000},   {6050, 6100}, {7195, 7193}, {7196, 7200}, {11990, 11988},
+                                 {11991, 12000}, {49, 0}};
+    for (int rate : snapped.keys())
+        QVERIFY2(FrameRateAdj(uint16_t(rate)) == snapped[rate], QByteArray::number(rate));
 }
 
 QTEST_MAIN(TestVideoTiming)
