@@ -57,37 +57,6 @@ class TestPanelLeds : public QObject
     Q_OBJECT
 
 private slots:
-    void block_data()
-    {
-        QTest::addColumn<int>("led");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("low");
-        QTest::addColumn<int>("high");
-        QTest::addColumn<int>("command");
-        QTest::newRow("first on") << 0 << int(LED_ON) << 0x01 << 0 << 6;
-        QTest::newRow("eighth off") << 7 << int(LED_OFF) << 0x80 << 0 << 7;
-        QTest::newRow("ninth blinks, on at once") << 8 << int(LED_BLINK) << 0 << 0x01 << 6;
-        QTest::newRow("last on") << 15 << int(LED_ON) << 0 << 0x80 << 6;
-    }
-
-    void block()
-    {
-        QFETCH(int, led);
-        QFETCH(int, state);
-        Panel panel;
-        QCOMPARE(panel.leds.set(static_cast<unsigned char>(led), enLedStatus(state)), 0);
-        QCOMPARE(panel.blocks.size(), 1);
-        QByteArray block = panel.blocks.first();
-        QCOMPARE(Panel::word(block, 0), 76u);
-        QCOMPARE(Panel::word(block, 4), 6u);
-        QTEST(int(Panel::word(block, 24)), "low");
-        QTEST(int(Panel::word(block, 28)), "high");
-        QTEST(int(Panel::word(block, 40)), "command");
-        for (int offset : {0, 4, 24, 28, 40})
-            block.replace(offset, 4, QByteArray(4, '\0'));
-        QCOMPARE(block, QByteArray(76, '\0'));
-    }
-
     void nothingWithoutADriver()
     {
         int sent = 0;

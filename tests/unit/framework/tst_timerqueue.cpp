@@ -38,6 +38,12 @@ void checkHeap(CTimerQueue &queue)
     QVERIFY(!queue.Get(-1));
 }
 
+void pass(CTimer &timer, unsigned ms)
+{
+    testTime = testTime.plusMs(ms);
+    timer.tick();
+}
+
 /// What a callback does to the service that runs it.
 struct Meddler {
     CTimer *timer;
@@ -142,31 +148,21 @@ private slots:
         QCOMPARE(queue.Get(0)->GetTimerId(), earlier);
     }
 
-    void timesOtherThanForEverFireOnce_data()
-    {
-        QTest::addColumn<int>("times");
-        QTest::addColumn<int>("fires");
-        QTest::newRow("once") << 1 << 1;
-        QTest::newRow("five is once") << 5 << 1;
-        QTest::newRow("none is once") << 0 << 1;
-        QTest::newRow("for ever") << -1 << 10;
-    }
-
     void timesOtherThanForEverFireOnce()
     {
-        QFETCH(int, times);
-        CTimer timer(testClock);
-        QList<int> fired;
-        const int id = timer.SetTimer(100, times, note, &fired);
-        for (int i = 0; i < 100; ++i) {
-            testTime = testTime.plusMs(10);
-            timer.tick();
-            QCOMPARE(fired.size() > 0, i >= 9);
+        for (int times : {1, 5, 0, -1}) {
+            CTimer timer(testClock);
+            QList<int> fired;
+            const int id = timer.SetTimer(100, times, note, &fired);
+            for (int i = 0; i < 100; ++i) {
+                pass(timer, 10);
+                QCOMPARE(fired.size() > 0, i >= 9);
+            }
+            QCOMPARE(fired.size(), times == -1 ? 10 : 1);
+            QCOMPARE(QSet<int>(fired.begin(), fired.end()), QSet<int>{id});
+            QCOMPARE(timer.CancelTimer(id), times == -1 ? 1 : 0);
+            QCOMPARE(timer.SetTimer(100, 1, note, &fired), id);
         }
-        QTEST(fired.size(), "fires");
-        QCOMPARE(QSet<int>(fired.begin(), fired.end()), QSet<int>{id});
-        QCOMPARE(timer.CancelTimer(id), times == -1 ? 1 : 0);
-        QCOMPARE(timer.SetTimer(100, 1, note, &fired), id);
     }
 
     void clockSetForwardIsNotCaughtUp()
@@ -178,11 +174,9 @@ private slots:
         testTime.seconds += 3600;
         timer.tick();
         QCOMPARE(fired.size(), 1);
-        testTime = testTime.plusMs(999);
-        timer.tick();
+        pass(timer, 999);
         QCOMPARE(fired.size(), 1);
-        testTime = testTime.plusMs(1);
-        timer.tick();
+        pass(timer, 1);
         QCOMPARE(fired.size(), 2);
     }
 
@@ -198,14 +192,11 @@ private slots:
         timer.tick();
         QVERIFY(fired.isEmpty());
         checkHeap(timer.queue());
-        testTime = testTime.plusMs(999);
-        timer.tick();
+        pass(timer, 999);
         QVERIFY(fired.isEmpty());
-        testTime = testTime.plusMs(1);
-        timer.tick();
+        pass(timer, 1);
         QCOMPARE(fired, QList<int>{quick});
-        testTime = testTime.plusMs(2000);
-        timer.tick();
+        pass(timer, 2000);
         QCOMPARE(fired.size(), 3);
         QVERIFY(fired.contains(slow));
     }
@@ -216,14 +207,12 @@ private slots:
         Meddler meddler{&timer, {}};
         meddler.cancelId = timer.SetTimer(10, -1, meddle, &meddler);
         meddler.rearm = true; // takes the id that the cancelling has freed
-        testTime = testTime.plusMs(10);
-        timer.tick();
+        pass(timer, 10);
         QCOMPARE(meddler.fired.size(), 1);
         QCOMPARE(timer.queue().GetCurSize(), 1);
         QCOMPARE(timer.queue().Get(0)->GetTimerId(), meddler.cancelId);
         QCOMPARE(timer.queue().Get(0)->m_interval, 5000u);
-        testTime = testTime.plusMs(20);
-        timer.tick();
+        pass(timer, 20);
         QCOMPARE(meddler.fired.size(), 1);
     }
 
@@ -234,8 +223,7 @@ private slots:
         QList<int> fired;
         timer.SetTimer(10, 1, meddle, &first);
         first.cancelId = timer.SetTimer(11, 1, note, &fired);
-        testTime = testTime.plusMs(20);
-        timer.tick();
+        pass(timer, 20);
         QVERIFY(fired.isEmpty());
         QCOMPARE(timer.queue().GetCurSize(), 0);
     }
