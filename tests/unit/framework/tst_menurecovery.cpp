@@ -195,7 +195,7 @@ private slots:
         QTest::addColumn<int>("damage");
         QTest::addColumn<int>("files");
         for (int damage = 0; damage < damages.size(); ++damage)
-            for (int files = CONFIG; files < (CONFIG | BACKUP | FACTORY); ++files)
+            for (int files = CONFIG; files <= (CONFIG | BACKUP | FACTORY); ++files)
                 QTest::addRow("%s, files %d", damages[damage].first, files) << damage << files;
     }
 
