@@ -74,6 +74,10 @@ private slots:
         QCOMPARE(shown("labIp"), QString(english ? "Getting IP..." : "正在获取IP..."));
         home.show();
         keep(home, "home");
+        for (const char *source : {"DVI1", "OPT1-1", "OPT1-2", "MOSAIC"}) {
+            home.SetLayerName(LAYER_MAIN, source);
+            QCOMPARE(cutTexts(home), QStringList());
+        }
         home.hide();
     }
 

@@ -130,41 +130,34 @@ private slots:
         home.setupUi(&window);
         const QSize screen(Ui_MainWindow::width, Ui_MainWindow::height);
 
-        QTest::newRow("backgrounds") << QStringList{"mainWindow/K2860-bg", "mainMenu/menu_bg"} << screen;
-        QTest::newRow("lock sign") << QStringList{"mainWindow/lock"} << home.labLock->size();
-        QTest::newRow("sources") << QStringList{"mainWindow/layer_on", "mainWindow/layer_off"}
-                                 << home.labLayerSrc_Name[0]->size();
-        QTest::newRow("synchronisation") << QStringList{"mainWindow/syn_on", "mainWindow/syn_off",
-                                                        "mainWindow/syn_wait", "mainWindow/syn_fail"}
-                                         << home.labSyn->size();
-        QTest::newRow("display mode")
-            << QStringList{"mainWindow/2960-Test_Normal", "mainWindow/2960-Test_Test",
-                           "mainWindow/2960-Test_FRZ", "mainWindow/2960-Test_Black"}
-            << home.labTestMode->size();
-        QTest::newRow("connection") << QStringList{"mainWindow/2960-Net_connected", "mainWindow/2960-USBLoop",
-                                                   "mainWindow/2960-Net_unconnected", "mainWindow/2960-USB"}
-                                    << home.labConnectState->size();
-        QTest::newRow("ports") << numbered("mainWindow/port%1_enable", 1, Ui_MainWindow::portCount) +
-                                      numbered("mainWindow/port%1_disable", 1, Ui_MainWindow::portCount) +
-                                      numbered("mainWindow/hotbackupport%1_enable", 1,
-                                               Ui_MainWindow::portCount)
-                               << home.labNet[0]->size();
-        QTest::newRow("lock window") << QStringList{"mainWindow/dialog_lock_bg"} << QSize(140, 98);
-        QTest::newRow("lock window's sign")
-            << QStringList{"mainWindow/dialog_lock_on", "mainWindow/dialog_lock_off"} << QSize(48, 48);
-        QTest::newRow("second link") << QStringList{"mainWindow/opt_copy", "mainWindow/opt_backup"}
-                                     << QSize(46, 30);
-        QTest::newRow("input backup")
-            << QStringList{"mainWindow/hotbackup_normal", "mainWindow/hotbackup_available"} << QSize(31, 10);
-        QTest::newRow("note") << QStringList{"mainMenu/prompt_icon"} << QSize(16, 16);
-        QTest::newRow("preset rows") << QStringList{"sceneSetting/sceneused", "sceneSetting/sceneunused"}
-                                     << rowIcon;
-        QTest::newRow("preset actions") << QStringList{"sceneSetting/save", "sceneSetting/load",
-                                                       "sceneSetting/delete", "sceneSetting/copy"}
-                                        << QSize(48, 48);
-        QTest::newRow("custom pictures") << numbered("imageControl/custom/custom%1_on", 1, 4) +
-                                                numbered("imageControl/custom/custom%1_off", 1, 4)
-                                         << QSize(40, 46);
+        const auto row = [](const char *name, const QSize &size, const QStringList &names) {
+            QTest::newRow(name) << names << size;
+        };
+        constexpr int ports = Ui_MainWindow::portCount;
+        const QString port = "mainWindow/port%1_", backup = "mainWindow/hotbackupport%1_enable";
+        const QString mode = "mainWindow/2960-Test_", link = "mainWindow/2960-",
+                      custom = "imageControl/custom/custom%1_";
+        row("backgrounds", screen, {"mainWindow/K2860-bg", "mainMenu/menu_bg"});
+        row("lock sign", home.labLock->size(), {"mainWindow/lock"});
+        row("sources", home.labLayerSrc_Name[0]->size(), {"mainWindow/layer_on", "mainWindow/layer_off"});
+        row("synchronisation", home.labSyn->size(),
+            {"mainWindow/syn_on", "mainWindow/syn_off", "mainWindow/syn_wait", "mainWindow/syn_fail"});
+        row("display mode", home.labTestMode->size(),
+            {mode + "Normal", mode + "Test", mode + "FRZ", mode + "Black"});
+        row("connection", home.labConnectState->size(),
+            {link + "Net_connected", link + "USBLoop", link + "Net_unconnected", link + "USB"});
+        row("ports", home.labNet[0]->size(),
+            numbered(port + "enable", 1, ports) + numbered(port + "disable", 1, ports) +
+                numbered(backup, 1, ports));
+        row("lock window", QSize(140, 98), {"mainWindow/dialog_lock_bg"});
+        row("lock window's sign", QSize(48, 48), {"mainWindow/dialog_lock_on", "mainWindow/dialog_lock_off"});
+        row("second link", QSize(46, 30), {"mainWindow/opt_copy", "mainWindow/opt_backup"});
+        row("input backup", QSize(31, 10), {"mainWindow/hotbackup_normal", "mainWindow/hotbackup_available"});
+        row("note", QSize(16, 16), {"mainMenu/prompt_icon"});
+        row("preset rows", rowIcon, {"sceneSetting/sceneused", "sceneSetting/sceneunused"});
+        row("preset actions", QSize(48, 48),
+            {"sceneSetting/save", "sceneSetting/load", "sceneSetting/delete", "sceneSetting/copy"});
+        row("custom pictures", QSize(40, 46), numbered(custom + "on", 1, 4) + numbered(custom + "off", 1, 4));
     }
 
     void sizes()
