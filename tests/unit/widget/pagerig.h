@@ -219,22 +219,6 @@ public:
         }
         return visible;
     }
-    /// From the screen that is shown up to the home screen, by ESC: the pool's numbers.
-    QList<int> wayHome()
-    {
-        QList<int> way;
-        for (int step = 0; step < 10; ++step) {
-            auto *visible = dynamic_cast<VaskObject *>(shown());
-            ENUM_ObjectIndex number = ENUM_OBJECT_END;
-            if (!visible || !visible->GetObectIndex(number))
-                return {};
-            way << number;
-            if (visible == home)
-                return way;
-            press(KEY_ESC);
-        }
-        return way;
-    }
 
     MenuAnalysis *store = nullptr;
     ParaProcess *engine = nullptr;

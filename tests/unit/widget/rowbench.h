@@ -7,9 +7,19 @@
 #include "framework/paraprocess.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
+
+/// One of the labels of a row has that text.
+inline bool shows(const QWidget &row, const QString &text)
+{
+    for (const QLabel *label : row.findChildren<QLabel *>())
+        if (label->text() == text)
+            return true;
+    return false;
+}
 
 class RowBench
 {

@@ -1,9 +1,13 @@
-// The home screen: what its setters and slots show, the lock, what blinks, and the ways out of it and back.
+// The home screen: what its setters and slots show, the lock and its time, what comes up by itself, what
+// blinks, and a take-over by a PC.
 
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog_factory.h"
+#include "widget/lock.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
+#include <QPixmapCache>
 
 using namespace VASK;
 
@@ -15,6 +19,7 @@ private slots:
     void initTestCase()
     {
         m_rig.reset(new PageRig);
+        m_rig->engine->Initialize();
         m_rig->home->Init();
     }
     void init()
@@ -24,44 +29,10 @@ private slots:
         MainWindow::lock_mode = false;
         m_rig->reset();
     }
-
-    void labelsStandInTheirFrames_data()
+    void cleanup()
     {
-        QTest::addColumn<QRect>("place");
-        QTest::newRow("labDeviceName") << QRect(25, 6, 118, 16);
-        QTest::newRow("labIp") << QRect(187, 6, 126, 16);
-        QTest::newRow("labLayerSrc2_Name") << QRect(62, 69, 66, 20);
-        QTest::newRow("labLayerSrc3_Res") << QRect(136, 102, 180, 19);
-        QTest::newRow("labWindowOffDisplay_2") << QRect(64, 68, 180, 19);
-        QTest::newRow("labNet5") << QRect(103, 208, 24, 21);
-        QTest::newRow("labConnectState") << QRect(268, 208, 46, 30);
-    }
-    void labelsStandInTheirFrames()
-    {
-        QFETCH(QRect, place);
-        auto *label = find(QTest::currentDataTag());
-        QCOMPARE(QRect(label->mapTo(m_rig->home, QPoint()), label->size()), place);
-        QVERIFY(m_rig->home->rect().contains(place));
-    }
-
-    void layers()
-    {
-        MainWindow &home = *m_rig->home;
-        QVERIFY(home.SetLayerName(LAYER_PIP1, "HDMI2"));
-        QVERIFY(home.SetLayerRes(LAYER_PIP1, "3840x2160@60"));
-        QVERIFY(home.SetWindowState(WINDOW_PIP1, COMMON_OFF));
-        QVERIFY(!find("labLayerSrc2_Name")->isVisible());
-        QVERIFY(!find("labLayerSrc2_Res")->isVisible());
-        QVERIFY(find("labWindowOffDisplay_2")->isVisible());
-        home.slot_SetWinodwState(WINDOW_PIP1, COMMON_ON);
-        QVERIFY(find("labLayerSrc2_Name")->isVisible());
-        QVERIFY(!find("labWindowOffDisplay_2")->isVisible());
-        QCOMPARE(find("labLayerSrc2_Name")->text(), QString("HDMI2"));
-        QCOMPARE(find("labLayerSrc2_Res")->text(), QString("3840x2160@60"));
-        home.slot_SetLayerState(LAYER_PIP1, LAYER_NO_SIGNAL);
-        QCOMPARE(find("labLayerSrc2_Res")->text(), QString("No Signal"));
-        home.slot_SetResState(LAYER_PIP1, "800x600@60");
-        QCOMPARE(find("labLayerSrc2_Res")->text(), QString("800x600@60"));
+        m_rig->answering = true;
+        QTRY_VERIFY(!QApplication::activeModalWidget());
     }
 
     void badArgumentsLeaveTheScreen()
@@ -105,62 +76,22 @@ private slots:
         MainWindow &home = *m_rig->home;
         home.SetIp("10.0.0.8");
         home.SetDeviceRename("");
-        for (int second = 0; second < 4; ++second) {
-            home.slot_Twinkledisplay();
-            QCOMPARE(find("labIp")->text(), QString("10.0.0.8"));
-        }
+        const auto watch = [&](int seconds) {
+            QStringList seen;
+            for (int second = 0; second < seconds; ++second) {
+                home.slot_Twinkledisplay();
+                seen << find("labIp")->text();
+            }
+            return seen;
+        };
+        QCOMPARE(watch(4).count("10.0.0.8"), 4);
         home.SetDeviceRename("Stage left");
-        QStringList seen;
-        for (int second = 0; second < 8; ++second) {
-            home.slot_Twinkledisplay();
-            seen << find("labIp")->text();
-        }
+        const QStringList seen = watch(8);
         // Two seconds each.
         QCOMPARE(seen.count("Stage left"), 4);
         QCOMPARE(seen.mid(4), seen.mid(0, 4));
         home.SetDeviceRename("");
         QCOMPARE(find("labIp")->text(), QString("10.0.0.8"));
-    }
-
-    void lockStopsAllKeysButTheChord()
-    {
-        m_rig->hold(KEY_LOCK);
-        QVERIFY(MainWindow::m_bLockFlag);
-        QVERIFY(find("labLock")->isVisible());
-        QCOMPARE(m_rig->engine->GetParaFromIndex(MENU_ScreenLock), QString("1"));
-        notes().clear();
-        for (unsigned char key : {KEY_OK, KEY_ESC, KEY_MAIN, KEY_INPUT1, KEY_TEST, KEY_PRESET, KEY_FN}) {
-            m_rig->press(key);
-            m_rig->hold(key);
-        }
-        m_rig->turn(3);
-        QCOMPARE(notes(), QStringList{});
-        QCOMPARE(m_rig->shown(), m_rig->home);
-        m_rig->hold(KEY_LOCK);
-        QVERIFY(!MainWindow::m_bLockFlag);
-        QVERIFY(!find("labLock")->isVisible());
-        QCOMPARE(m_rig->engine->GetParaFromIndex(MENU_ScreenLock), QString("0"));
-        m_rig->press(KEY_OK);
-        QCOMPARE(m_rig->shown(), PageRig::page(ENUM_MAIN_MENU));
-    }
-
-    void hiddenMenusByTheirLongPressAtHomeOnly()
-    {
-        m_rig->hold(KEY_USER_HIDDEN_MENU);
-        QCOMPARE(m_rig->shown(), PageRig::page(ENUM_USER_HIDE_MENU));
-        m_rig->hold(KEY_PRODUCT_HIDDEN_MENU);
-        QCOMPARE(m_rig->shown(), PageRig::page(ENUM_USER_HIDE_MENU));
-        m_rig->press(KEY_ESC);
-        m_rig->hold(KEY_PRODUCT_HIDDEN_MENU);
-        QCOMPARE(m_rig->shown(), PageRig::page(ENUM_PRODUCT_HIDE_MENU));
-    }
-
-    void theKnobDoesNothingAtHome()
-    {
-        m_rig->turn(8);
-        m_rig->turn(-8);
-        QCOMPARE(m_rig->shown(), m_rig->home);
-        QCOMPARE(notes(), QStringList{});
     }
 
     void theFactoryTestHasTheKeys()
@@ -198,8 +129,143 @@ private slots:
         QVERIFY(MainWindow::lock_mode);
     }
 
+    void updateShowsOneMessageAfterTheOther()
+    {
+        m_rig->answering = false;
+        struct {
+            quint8 mode;
+            quint16 progress;
+            const char *text;
+        } const steps[] = {{0, 0, "UpdateStart0 %"},          {0, 4250, "UpdateStart42 %"},
+                           {7, 0, "UpdateStart42 %"}, // no such mode
+                           {0, 10000, "UpdateStart100 %"},    {1, 0, "UpdateEnd"},
+                           {0, 25300, "UpdateErrNotMatch"},   {0, 25400, "UpdateErrNotComplete"},
+                           {0, 25500, "UpdateErrNotSupport"}, {0, 25301, "UpdateStart253 %"}};
+        for (const auto &step : steps) {
+            m_rig->home->slot_update(step.mode, step.progress);
+            QCOMPARE(boxes(), QStringList{step.text});
+        }
+        Factory::m_cur_step = FACTORY_STEP_KEYS;
+        m_rig->home->slot_update(1, 0);
+        Factory::m_cur_step = FACTORY_STEP_NONE;
+        QCOMPARE(boxes(), QStringList{"UpdateStart253 %"});
+    }
+
+    void aSyncProblemIsToldOnceWhileItLasts()
+    {
+        MainWindow &home = *m_rig->home;
+        m_rig->answering = false;
+        const auto report = [&home](qint8 signal, const char *value) {
+            home.slot_SetSynModeState(signal, value);
+        };
+        report(3, "2");
+        QCOMPARE(boxes(), QStringList{});
+        report(3, "4");
+        report(3, "4");
+        QCOMPARE(boxes(), QStringList{"SyncMismatchTip"});
+        // Over by itself: the message goes with it, and the next problem is a new one.
+        report(3, "2");
+        QCOMPARE(boxes(), QStringList{});
+        report(0, "4");
+        QCOMPARE(boxes(), QStringList{"SyncNoSignalTip"});
+        // Read by the user: not again for the same problem.
+        m_rig->answering = true;
+        QTRY_COMPARE(boxes(), QStringList{});
+        report(0, "4");
+        QCOMPARE(boxes(), QStringList{});
+    }
+
+    void messagesInTurn()
+    {
+        m_rig->home->slot_FactoryRest();
+        QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
+        m_rig->messages.clear();
+        m_rig->home->slot_CreateDialog();
+        m_rig->home->slot_popup_window(MSG_OverLoad);
+        m_rig->home->slot_popup_window(3400); // no row in the table
+        m_rig->home->slot_softDeviceBackup(1);
+        m_rig->home->slot_softDeviceRestore(9);
+        QCOMPARE(m_rig->messages, (QStringList{"Waiting", "OverLoad"}));
+    }
+
+    void theLockWindowStaysTwoSecondsFromTheLastKey()
+    {
+        m_rig->hold(KEY_LOCK);
+        const auto *lock = m_rig->home->findChild<Lock *>();
+        QVERIFY(lock->isVisible());
+        m_rig->home->slot_cancelLockDialog();
+        QVERIFY(!lock->isVisible());
+        QElapsedTimer time;
+        m_rig->press(KEY_OK);
+        QTest::qWait(500);
+        time.start();
+        m_rig->turn(1);
+        QVERIFY(lock->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!lock->isVisible(), 3000);
+        // Timers of this length may come a twentieth early.
+        QVERIFY(time.elapsed() >= MainWindow::lockDialogMs * 9 / 10);
+        QVERIFY(MainWindow::m_bLockFlag);
+    }
+
+    void anUnlockAfterATakeOverReadsTheDeviceAgain()
+    {
+        for (bool takenOver : {false, true}) {
+            m_rig->home->SetBrightNess("old");
+            takenOver ? m_rig->home->slot_ReturnToMainSoft(false) : m_rig->hold(KEY_LOCK);
+            QVERIFY(MainWindow::m_bLockFlag);
+            m_rig->hold(KEY_LOCK);
+            QVERIFY(!MainWindow::m_bLockFlag);
+            QVERIFY(!MainWindow::lock_mode);
+            QCOMPARE(find("labBright")->text(), takenOver ? QString("60%") : QString("old"));
+        }
+    }
+
+    void portsBlinkInStep()
+    {
+        MainWindow &home = *m_rig->home;
+        for (int port = 0; port < NET_PORT_COUNT; ++port)
+            home.SetNetState(ENUM_MainWindowNetIndex(port), NET_ENABLED);
+        const QImage enabled2 = picture("labNet2"), enabled5 = picture("labNet5"),
+                     steady = picture("labNet1");
+        home.SetNetState(NET_PORT2, NET_BACKUP_BLINKING);
+        home.slot_Twinkledisplay();
+        home.SetNetState(NET_PORT5, NET_BACKUP_BLINKING);
+        bool before = picture("labNet2") == enabled2;
+        for (int second = 0; second < 6; ++second) {
+            home.slot_Twinkledisplay();
+            const bool enabled = picture("labNet2") == enabled2;
+            QVERIFY(enabled != before);
+            before = enabled;
+            QCOMPARE(picture("labNet5") == enabled5, enabled);
+            QCOMPARE(picture("labNet1"), steady);
+        }
+    }
+
+    void theSameStateLoadsNoPicture()
+    {
+        MainWindow &home = *m_rig->home;
+        home.SetNetState(NET_PORT1, NET_ENABLED);
+        const qint64 loaded = find("labNet1")->pixmap(Qt::ReturnByValue).cacheKey();
+        QPixmapCache::clear(); // what is loaded now is another picture
+        home.SetNetState(NET_PORT1, NET_ENABLED);
+        QCOMPARE(find("labNet1")->pixmap(Qt::ReturnByValue).cacheKey(), loaded);
+        home.SetNetState(NET_PORT1, NET_DISABLED);
+        QVERIFY(find("labNet1")->pixmap(Qt::ReturnByValue).cacheKey() != loaded);
+    }
+
 private:
     QLabel *find(const char *name) const { return m_rig->home->findChild<QLabel *>(name); }
+    QImage picture(const char *name) const { return find(name)->pixmap(Qt::ReturnByValue).toImage(); }
+    /// The texts of the message boxes that are up.
+    static QStringList boxes()
+    {
+        QStringList texts;
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (const QWidget *window : windows)
+            if (window->isVisible() && qobject_cast<const QDialog *>(window))
+                texts << window->findChild<QLabel *>("lab_Info")->text();
+        return texts;
+    }
 
     std::unique_ptr<PageRig> m_rig;
 };

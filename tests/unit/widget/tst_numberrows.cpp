@@ -27,14 +27,6 @@ void setRange(RowBench &bench, ENUM_MenuIndex index, const QString &value, const
     });
 }
 
-bool shows(const QWidget &row, const QString &text)
-{
-    for (const QLabel *label : row.findChildren<QLabel *>())
-        if (label->text() == text)
-            return true;
-    return false;
-}
-
 void turn(VaskUiObject &row, ENUM_MenuIndex index, int clicks)
 {
     unsigned char speed = static_cast<unsigned char>(qAbs(clicks));
@@ -109,93 +101,19 @@ private slots:
         QCOMPARE(m_bench->value(decimal), QString("100.0"));
     }
 
-    void escKeepsAndAppliesAgain()
-    {
-        setRange(*m_bench, whole, "50", "0", "100", "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
-        row.EnterEntry(whole, 0, 0);
-        QCOMPARE(RowBench::takeApplied(), QList<int>{});
-        turn(row, whole, 4);
-        RowBench::takeApplied();
-        row.EscEntry(whole, 1);
-        QCOMPARE(m_bench->value(whole), QString("54"));
-        QCOMPARE(RowBench::takeApplied(), QList<int>{whole});
-        row.EscEntry(whole, 0);
-        row.EnterEntry(whole, 1, 0);
-        QCOMPARE(RowBench::takeApplied(), QList<int>{});
-    }
-
-    void typedDigits_data()
-    {
-        QTest::addColumn<QList<int>>("digits");
-        QTest::addColumn<QString>("max");
-        QTest::addColumn<QString>("end");
-        QTest::newRow("one") << QList<int>{7} << "1920"
-                             << "7";
-        QTest::newRow("one above the maximum") << QList<int>{7} << "5"
-                                               << "5";
-        QTest::newRow("behind the first") << QList<int>{1, 9} << "1920"
-                                          << "19";
-        QTest::newRow("onto the maximum") << QList<int>{5, 5} << "30"
-                                          << "30";
-        QTest::newRow("a third begins anew") << QList<int>{1, 9, 2} << "1920"
-                                             << "2";
-    }
-    void typedDigits()
-    {
-        QFETCH(QList<int>, digits);
-        QFETCH(QString, max);
-        QFETCH(QString, end);
-        setRange(*m_bench, whole, "50", "0", max, "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
-        for (int digit : digits)
-            row.NumberEntry(whole, static_cast<unsigned char>(digit));
-        QVERIFY(shows(row, end + " mm"));
-        QCOMPARE(RowBench::takeApplied(), QList<int>{});
-        row.EnterEntry(whole, 1, 1);
-        QCOMPARE(m_bench->value(whole), end);
-        QCOMPARE(RowBench::takeApplied(), QList<int>{whole});
-    }
-
-    void reports_data()
-    {
-        QTest::addColumn<QString>("reported");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<bool>("sentBack");
-        QTest::newRow("in range") << "40"
-                                  << "40" << false;
-        QTest::newRow("at the maximum") << "100"
-                                        << "100" << false;
-        QTest::newRow("above") << "101"
-                               << "100" << true;
-        QTest::newRow("below") << "-1"
-                               << "0" << true;
-    }
-    void reports()
-    {
-        QFETCH(QString, reported);
-        QFETCH(QString, shown);
-        QFETCH(bool, sentBack);
-        setRange(*m_bench, whole, "50", "0", "100", "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
-        row.SetParaEntry(whole, reported, SET_XML_DEVICE);
-        QVERIFY(shows(row, shown + " mm"));
-        QCOMPARE(RowBench::takeApplied(), sentBack ? QList<int>{whole} : QList<int>{});
-    }
-
     /// No input is known here, so the engine would allow no crop at all.
     void aReportedCropStandsAsItIs_data()
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("reported");
         QTest::addColumn<QString>("shown");
-        for (int index : {MENU_MainLayerCrop_HorWidth, MENU_PIP1Crop_VerHeight, MENU_PIP2Crop_InitialY})
-            QTest::addRow("%d", index) << index << "500"
-                                       << "500";
-        QTest::newRow("not beyond its own limits") << int(MENU_PIP1Crop_HorWidth) << "40000"
-                                                   << "0";
-        QTest::newRow("any other size is limited") << int(MENU_Mosaic_Width) << "40000"
-                                                   << "2048";
+        const auto row = [](const char *name, int index, const char *reported, const char *shown) {
+            QTest::newRow(name) << index << reported << shown;
+        };
+        row("main layer", MENU_MainLayerCrop_HorWidth, "500", "500");
+        row("PIP 2", MENU_PIP2Crop_InitialY, "500", "500");
+        row("not beyond its own limits", MENU_PIP1Crop_HorWidth, "40000", "0");
+        row("any other size is limited", MENU_Mosaic_Width, "40000", "2048");
     }
     void aReportedCropStandsAsItIs()
     {

@@ -54,35 +54,6 @@ private slots:
         QCOMPARE(shown[LED_FN], QString("dark"));
     }
 
-    void layersFollowPagesAndWindows()
-    {
-        m_rig->set(MENU_MainLayer_Status, "1");
-        m_rig->set(MENU_PIP1_Status, "0");
-        MenuDirectory::setCurrentPage(ENUM_PAGE_PIP1Crop);
-        MenuDirectory::setCurrentPage(ENUM_PAGE_LayerSettings);
-        QVERIFY(m_leds->lit(LED_MAIN));
-        QVERIFY(!m_leds->lit(LED_PIP1));
-        // A layer that goes on or off, whoever switched it.
-        m_rig->set(MENU_PIP1_Status, "1");
-        m_rig->home->SetWindowState(WINDOW_PIP1, COMMON_ON);
-        QVERIFY(m_leds->lit(LED_PIP1));
-        m_rig->set(MENU_PIP1_Status, "0");
-        m_rig->home->SetWindowState(WINDOW_PIP1, COMMON_OFF);
-        QVERIFY(!m_leds->lit(LED_PIP1));
-    }
-
-    void aPageOpensWithAFlashOfItsKey()
-    {
-        m_rig->press(KEY_PRESET);
-        QCOMPARE(m_rig->shown(), PageRig::page(ENUM_PAGE_PresetSettings));
-        QVERIFY(m_leds->lit(LED_PRESET));
-        QTRY_VERIFY_WITH_TIMEOUT(!m_leds->lit(LED_PRESET), 1000);
-        m_rig->set(MENU_FnMode, "1");
-        m_rig->press(KEY_FN);
-        QVERIFY(m_leds->lit(LED_FN));
-        QTRY_VERIFY_WITH_TIMEOUT(!m_leds->lit(LED_FN), 1000);
-    }
-
 private:
     /// What each LED does over a whole blink period.
     QMap<int, QString> watch() const

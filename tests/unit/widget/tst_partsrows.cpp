@@ -44,17 +44,21 @@ private slots:
         QTest::addColumn<int>("applied"); // 0: the cursor has left the row
         const int apply = MENU_Mosaic_Apply;
         const int reset = apply + 1;
-        QTest::newRow("in from the left") << QList<int>{} << 1 << false << 0 << apply;
-        QTest::newRow("in from the right") << QList<int>{} << -1 << false << 0 << reset;
-        QTest::newRow("in by two from the left") << QList<int>{} << 2 << false << 0 << reset;
-        QTest::newRow("in by two from the right") << QList<int>{} << -2 << false << 0 << apply;
-        QTest::newRow("to the second part") << QList<int>{1} << 1 << false << 0 << reset;
-        QTest::newRow("out to the left") << QList<int>{1} << -1 << false << 1 << 0;
-        QTest::newRow("out to the right") << QList<int>{-1} << 1 << false << 1 << 0;
-        QTest::newRow("fast out to the left") << QList<int>{-1} << -3 << false << 2 << 0;
-        QTest::newRow("fast out to the right") << QList<int>{1} << 4 << false << 3 << 0;
-        QTest::newRow("first row of the page") << QList<int>{1} << -3 << true << 0 << apply;
-        QTest::newRow("last row of the page") << QList<int>{-1} << 3 << true << 0 << reset;
+        const auto row = [](const char *name, const QList<int> &before, int clicks, bool end, int left,
+                            int applied) {
+            QTest::newRow(name) << before << clicks << end << left << applied;
+        };
+        row("in from the left", {}, 1, false, 0, apply);
+        row("in from the right", {}, -1, false, 0, reset);
+        row("in by two from the left", {}, 2, false, 0, reset);
+        row("in by two from the right", {}, -2, false, 0, apply);
+        row("to the second part", {1}, 1, false, 0, reset);
+        row("out to the left", {1}, -1, false, 1, 0);
+        row("out to the right", {-1}, 1, false, 1, 0);
+        row("fast out to the left", {-1}, -3, false, 2, 0);
+        row("fast out to the right", {1}, 4, false, 3, 0);
+        row("first row of the page", {1}, -3, true, 0, apply);
+        row("last row of the page", {-1}, 3, true, 0, reset);
     }
     void walking()
     {
@@ -77,12 +81,9 @@ private slots:
     void aTurnWithoutSpeedReachesNoPart()
     {
         typeapplyreset row(MENU_Net_Apply, ENUM_OBJECT_END);
+        unsigned char none = 0;
         for (bool left : {true, false}) {
-            unsigned char speed = 0;
-            if (left)
-                row.UpEntry(MENU_Net_Apply, speed, false);
-            else
-                row.DownEntry(MENU_Net_Apply, speed, false);
+            left ? row.UpEntry(MENU_Net_Apply, none, false) : row.DownEntry(MENU_Net_Apply, none, false);
             row.EnterEntry(MENU_Net_Apply);
             QCOMPARE(RowBench::takeApplied(), QList<int>{});
         }
@@ -150,18 +151,15 @@ private slots:
         QCOMPARE(shown(), 1);
     }
 
-    void theTickOfASlowChangeComesFirst_data()
-    {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<bool>("first");
-        QTest::newRow("sending card") << int(MENU_SendingCard) << true;
-        QTest::newRow("fiber converter") << int(MENU_FiberConverter) << false;
-    }
     void theTickOfASlowChangeComesFirst()
     {
-        QFETCH(int, index);
-        QFETCH(bool, first);
-        const auto item = ENUM_MenuIndex(index);
+        tickIsShownBeforeTheWork(MENU_SendingCard, true);
+        tickIsShownBeforeTheWork(MENU_FiberConverter, false);
+    }
+
+private:
+    void tickIsShownBeforeTheWork(ENUM_MenuIndex item, bool first)
+    {
         m_bench->store().UpdataItemCurChoice(item, UNSELECTED);
         typecheckitem row(item, ENUM_OBJECT_END);
         row.show();
@@ -183,7 +181,6 @@ private slots:
         QCOMPARE(ticks(row) - before, 1);
     }
 
-private:
     static int ticks(const QWidget &row)
     {
         int shown = 0;
