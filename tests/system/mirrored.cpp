@@ -129,9 +129,9 @@ QVector<Row> settingRows()
         {MENU_LowLatency, "low latency: (on|off)", switches},
         {MENU_ImageMosaic_Status, "splicing: (on|off)", switches},
     };
-    constexpr int firstPreset = 1026, presets = 10;
+    constexpr int presets = 10;
     for (int preset = 0; preset < presets; ++preset)
-        rows += {firstPreset + preset,
+        rows += {MENU_Preset1 + preset,
                  QString("preset %1: (\\w+)\\b.*").arg(preset + 1),
                  {{"used", "Used"}, {"saved", "Saved"}, {"blank", "Blank"}}};
     return rows;
