@@ -3,7 +3,6 @@
 #include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QRegularExpression>
-#include <QTest>
 #include <QThread>
 #include <QtEndian>
 
@@ -166,9 +165,9 @@ QStringList FrameDrive::sent(int expected)
     return written();
 }
 
-void FramesTest::initTestCase()
+void FramesTest::begin()
 {
-    QVERIFY(m_drive.start());
+    QVERIFY(m_drive.start() && m_walk.speak("fpd_ZH"));
     prepare();
 }
 
@@ -184,15 +183,4 @@ void FramesTest::keysSend()
     QFETCH(KeyFrames, line);
     const QString fault = m_drive.drive(line);
     QVERIFY2(fault.isEmpty(), qPrintable(fault));
-}
-
-void FramesTest::cleanup()
-{
-    if (QTest::currentTestFailed())
-        m_panel.keepEvidence(QString("%1-%2").arg(metaObject()->className(), QTest::currentDataTag()));
-}
-
-void FramesTest::cleanupTestCase()
-{
-    QCOMPARE(m_panel.damage(), QString());
 }

@@ -2,9 +2,8 @@
 // a table and compares every register write that came of it. GUI thread of the test.
 #pragma once
 
-#include "tests/system/menuwalk.h"
+#include "tests/system/systemtest.h"
 
-#include <QObject>
 #include <QVector>
 
 /// One line: the way to a row, the keys on it, and all the writes that follow, in their order.
@@ -24,7 +23,19 @@ struct KeyFrames {
 Q_DECLARE_METATYPE(KeyFrames)
 Q_DECLARE_METATYPE(VASK::ENUM_ConfigIndex)
 
+/// A row of a table; frames given as a text are parted by ", ".
 struct NamedFrames {
+    using Path = QList<VASK::ENUM_MenuIndex>;
+    NamedFrames() = default;
+    NamedFrames(const QByteArray &name, const Path &path, const QString &keys, const QStringList &frames)
+        : name(name), line{path, keys, frames}
+    {
+    }
+    NamedFrames(const QByteArray &name, const Path &path, const QString &keys, const char *frames)
+        : NamedFrames(name, path, keys, QString(frames).split(", ", Qt::SkipEmptyParts))
+    {
+    }
+
     QByteArray name;
     KeyFrames line;
 };
@@ -67,28 +78,34 @@ private:
 
 /// A test program that is a table: one panel, one line after the other. The state of the device goes on from
 /// line to line.
-class FramesTest : public QObject
+class FramesTest : public SystemTest
 {
     Q_OBJECT
 protected:
     virtual QVector<NamedFrames> table() const = 0;
     /// What the test changes around the panel before the first line.
     virtual void prepare() {}
+    void begin() override;
 
-    Panel m_panel;
-    MenuWalk m_walk{m_panel};
     FrameDrive m_drive{m_panel, m_walk};
 
 private slots:
-    void initTestCase();
     void keysSend_data();
     void keysSend();
-    void cleanup();
-    void cleanupTestCase();
 };
 
 namespace frames
 {
 /// A number as it stands in a register, in hex.
 QString le(qint64 value, int bytes);
+/// The entries from the main menu on and at last a row.
+template <class... Rows> NamedFrames::Path path(Rows... rows)
+{
+    return {rows...};
+}
+/// A number goes out with the step of the knob and once more at its end.
+inline QStringList twice(const QString &frame)
+{
+    return {frame, frame};
+}
 } // namespace frames

@@ -1,6 +1,6 @@
 // One row of the table of the dedicated keys, put to the proof: brings panel and device into the row's state,
 // presses the key, and looks where the panel ends, how ESC leads back from there, what the LEDs tell and what
-// the device was told. It has a panel of its own and may work in any one thread.
+// the device was told. It may work in any one thread.
 #pragma once
 
 #include "tests/system/keytable.h"
@@ -11,11 +11,12 @@
 class KeyCheck
 {
 public:
+    KeyCheck(Panel &panel, MenuWalk &walk) : m_panel(panel), m_walk(walk) {}
+
     QString start();
     QString check(const keytable::Case &expected);
     /// Keeps what is needed to find a fault, and goes home.
     void cleanUp(const QString &faultyCase);
-    QString damage() { return m_panel.damage(); }
 
     /// The device reports another work mode.
     bool changeMode(keytable::Mode mode);
@@ -24,8 +25,6 @@ public:
     QString ledsShow(const QString &leds);
     QString deviceShows(const QString &line);
     QString prepare(const keytable::Given &given, keytable::Mode mode);
-    Panel &panel() { return m_panel; }
-    MenuWalk &walk() { return m_walk; }
     LedWatch &leds() { return m_leds; }
 
 private:
@@ -40,8 +39,8 @@ private:
     /// The panel has worked off all that the device has told it.
     bool heard();
 
-    Panel m_panel;
-    MenuWalk m_walk{m_panel};
+    Panel &m_panel;
+    MenuWalk &m_walk;
     LedWatch m_leds;
     keytable::Mode m_mode = keytable::Controller;
     keytable::FnFunction m_fn = keytable::FnFunction::Synchronization;

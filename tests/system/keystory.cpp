@@ -30,7 +30,9 @@ void KeyStory::work()
     const auto take = [this] { return m_next.fetchAndAddOrdered(1); };
     const int count = m_cases.size();
     QString *faults = m_faults.data();
-    KeyCheck check;
+    Panel panel;
+    MenuWalk walk(panel);
+    KeyCheck check(panel, walk);
     const QString noStart = check.start();
     if (!noStart.isEmpty()) {
         // One case tells of it, the others have theirs done by whoever has started.
@@ -42,7 +44,7 @@ void KeyStory::work()
         const QString fault = check.check(m_cases[i]);
         check.cleanUp(fault.isEmpty() ? QString() : m_cases[i].text());
         // What a sanitizer has to say belongs to the case in which it said so.
-        faults[i] = fault + check.damage();
+        faults[i] = fault + panel.damage();
     }
 }
 

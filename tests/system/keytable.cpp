@@ -176,54 +176,44 @@ QList<Row> editRows()
 }
 } // namespace
 
-Given Given::with(const QString &layersOn) const
+template <class Change> Given Given::changed(const QString &what, Change change) const
 {
     Given given = *this;
-    given.layers = layersOn;
-    given.name += ", layers " + layersOn;
+    change(given);
+    given.name += ", " + what;
     return given;
+}
+
+Given Given::with(const QString &layersOn) const
+{
+    return changed("layers " + layersOn, [&](Given &given) { given.layers = layersOn; });
 }
 
 Given Given::from(int source) const
 {
-    Given given = *this;
-    given.mainSource = source;
-    given.name += QString(", source %1").arg(source);
-    return given;
+    return changed(QString("source %1").arg(source), [&](Given &given) { given.mainSource = source; });
 }
 
 Given Given::showing(Display mode) const
 {
     static const char *const names[] = {"normal", "frozen", "black", "testing"};
-    Given given = *this;
-    given.display = mode;
-    given.name += QString(", ") + names[int(mode)];
-    return given;
+    return changed(names[int(mode)], [&](Given &given) { given.display = mode; });
 }
 
 Given Given::key(FnFunction function) const
 {
     static const char *const names[] = {"synchronization", "HDMI output", "FTB", "freeze", "test"};
-    Given given = *this;
-    given.fn = function;
-    given.name += QString(", Fn is ") + names[int(function)];
-    return given;
+    return changed(QString("Fn is ") + names[int(function)], [&](Given &given) { given.fn = function; });
 }
 
 Given Given::inFullScreen() const
 {
-    Given given = *this;
-    given.fullScreen = true;
-    given.name += ", full screen";
-    return given;
+    return changed("full screen", [](Given &given) { given.fullScreen = true; });
 }
 
 Given Given::withoutSdi() const
 {
-    Given given = *this;
-    given.hasSdi = false;
-    given.name += ", no SDI";
-    return given;
+    return changed("no SDI", [](Given &given) { given.hasSdi = false; });
 }
 
 QString Case::text() const

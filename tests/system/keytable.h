@@ -51,6 +51,9 @@ struct Given {
     Given key(FnFunction function) const;
     Given inFullScreen() const;
     Given withoutSdi() const;
+
+private:
+    template <class Change> Given changed(const QString &what, Change change) const;
 };
 
 struct Row {

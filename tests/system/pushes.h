@@ -3,7 +3,7 @@
 // thread of the test.
 #pragma once
 
-#include "tests/system/panel.h"
+#include "tests/system/systemtest.h"
 
 #include <QMap>
 #include <QVector>
@@ -83,4 +83,19 @@ private:
     QStringList m_complaints;
     QStringList m_writes; ///< expected so far
     int m_barrier = 0;
+};
+
+/// A test program of such tables, one after the other on one panel.
+class PushesTest : public SystemTest
+{
+    Q_OBJECT
+protected:
+    void begin() override
+    {
+        SystemTest::begin();
+        QVERIFY(m_pushes.begin());
+    }
+    void expect(const QVector<PushRow> &rows) { QCOMPARE(m_pushes.run(rows), QString()); }
+
+    Pushes m_pushes{m_panel};
 };

@@ -2,10 +2,11 @@
 #include "tests/system/framedrive.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 using namespace VASK;
 using frames::le;
+using frames::path;
+using frames::twice;
 
 class TestFramesInputs : public FramesTest
 {
@@ -42,18 +43,12 @@ QString picture(int record, int offset, const QString &bytes)
     return QString("%1 00 %2").arg(firstRecord + quint32(recordBytes * record + offset), 8, 16).arg(bytes);
 }
 
-/// The knob sends, and so does the end of the edit.
-QStringList twice(const QString &frame)
-{
-    return {frame, frame};
-}
-
 void addPicture(QVector<NamedFrames> &lines, const Input &input)
 {
     const auto add = [&](const char *what, int place, const QString &keys, const QStringList &sent) {
         const Path path = {MENU_InputSettings, input.page, input.colour,
                            ENUM_MenuIndex(input.brightness + place)};
-        lines.append({QByteArray(input.name) + what, {path, keys, sent}});
+        lines.append({input.name + QByteArray(what), path, keys, sent});
     };
     add("brightness", 0, "R4 ok", twice(picture(input.number, 1, "36")));
     add("contrast", 1, "L5 ok", twice(picture(input.number, 2, "2d")));
@@ -77,48 +72,42 @@ QVector<NamedFrames> TestFramesInputs::table() const
     for (const Input &input : inputs)
         addPicture(lines, input);
 
-    return lines +
-           QVector<NamedFrames>{
-               {"HDMI 1: full range",
-                {{MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull}, "r1 ok", {"13050013 00 01"}}},
-               {"HDMI 1: limited",
-                {{MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull}, "r1 ok", {"13050013 00 00"}}},
-               {"HDMI 2: full range",
-                {{MENU_InputSettings, MENU_HDMI2, MENU_HDMI2_LimitedtoFull}, "r1 ok", {"13050027 00 01"}}},
-               {"DVI: full range",
-                {{MENU_InputSettings, MENU_DVI, MENU_DVI_LimitedtoFull}, "r1 ok", {"1305003b 00 01"}}},
+    const QVector<NamedFrames> others{
+        {"HDMI 1: full range", path(MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull), "r1 ok",
+         "13050013 00 01"},
+        {"HDMI 1: limited", path(MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull), "r1 ok",
+         "13050013 00 00"},
+        {"HDMI 2: full range", path(MENU_InputSettings, MENU_HDMI2, MENU_HDMI2_LimitedtoFull), "r1 ok",
+         "13050027 00 01"},
+        {"DVI: full range", path(MENU_InputSettings, MENU_DVI, MENU_DVI_LimitedtoFull), "r1 ok",
+         "1305003b 00 01"},
 
-               // The registers hold the opposite sense.
-               {"protection on",
-                {{MENU_AdvancedSetting, MENU_HDCP},
-                 "r1 ok",
-                 {"13019004 00 00", "13019014 00 00", "13019024 00 00", "13019034 00 00"}}},
-               {"protection off",
-                {{MENU_AdvancedSetting, MENU_HDCP},
-                 "r1 ok",
-                 {"13019004 00 01", "13019014 00 01", "13019024 00 01", "13019034 00 01"}}},
+        // The registers hold the opposite sense.
+        {"protection on", path(MENU_AdvancedSetting, MENU_HDCP), "r1 ok",
+         "13019004 00 00, 13019014 00 00, 13019024 00 00, 13019034 00 00"},
+        {"protection off", path(MENU_AdvancedSetting, MENU_HDCP), "r1 ok",
+         "13019004 00 01, 13019014 00 01, 13019024 00 01, 13019034 00 01"},
 
-               {"sound of PIP 1",
-                {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput}, "r1 ok", {"1300009e 00 02"}}},
-               {"sound of the line",
-                {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput}, "r2 ok", {"1300009e 00 f0"}}},
-               {"no sound",
-                {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput}, "r1 ok", {"1300009e 00 00"}}},
-               {"volume",
-                {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume}, "R9 ok", twice("1300009f 00 3b")}},
-               // Not held back: each step arrives.
-               {"volume, step by step",
-                {{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume},
-                 "l3 ok",
-                 {"1300009f 00 3a", "1300009f 00 39", "1300009f 00 38", "1300009f 00 38"}}},
-               // HDMI has a sound of its own, the others have none.
-               {"HDMI 1: line", {sound(MENU_AudioInput_HDMI1), "r1 ok", {"13019005 00 02"}}},
-               {"HDMI 1: own sound", {sound(MENU_AudioInput_HDMI1), "r1 ok", {"13019005 00 01"}}},
-               {"HDMI 2: line", {sound(MENU_AudioInput_HDMI2), "r1 ok", {"13019015 00 02"}}},
-               {"DVI: line", {sound(MENU_AudioInput_DVI), "r1 ok", {"13019025 00 02"}}},
-               {"DVI: none", {sound(MENU_AudioInput_DVI), "r1 ok", {"13019025 00 00"}}},
-               {"SDI: line", {sound(MENU_AudioInput_SDI), "r1 ok", {"13019045 00 02"}}},
-           };
+        {"sound of PIP 1", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r1 ok",
+         "1300009e 00 02"},
+        {"sound of the line", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r2 ok",
+         "1300009e 00 f0"},
+        {"no sound", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r1 ok",
+         "1300009e 00 00"},
+        {"volume", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume), "R9 ok",
+         twice("1300009f 00 3b")},
+        // Not held back: each step arrives.
+        {"volume, step by step", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume), "l3 ok",
+         "1300009f 00 3a, 1300009f 00 39, 1300009f 00 38, 1300009f 00 38"},
+        // HDMI has a sound of its own, the others have none.
+        {"HDMI 1: line", sound(MENU_AudioInput_HDMI1), "r1 ok", "13019005 00 02"},
+        {"HDMI 1: own sound", sound(MENU_AudioInput_HDMI1), "r1 ok", "13019005 00 01"},
+        {"HDMI 2: line", sound(MENU_AudioInput_HDMI2), "r1 ok", "13019015 00 02"},
+        {"DVI: line", sound(MENU_AudioInput_DVI), "r1 ok", "13019025 00 02"},
+        {"DVI: none", sound(MENU_AudioInput_DVI), "r1 ok", "13019025 00 00"},
+        {"SDI: line", sound(MENU_AudioInput_SDI), "r1 ok", "13019045 00 02"},
+    };
+    return lines + others;
 }
 
 void TestFramesInputs::aFastTurnIsThinnedOut()

@@ -1,35 +1,9 @@
 // What the device reports as events: its services' start, a name, cabinet files, calibration, an output that
 // a PC has chosen, a self test; and what is no report, in the running panel.
 #include "tests/system/homescreen.h"
-#include "tests/system/menuwalk.h"
 #include "tests/system/pushes.h"
 
-#include <QTest>
-
 using namespace VASK;
-
-class TestPushesEvents : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
-    void noReports();
-    void servicesStart();
-    void protectionIsSwitchedOff();
-    void deviceGetsAName();
-    void cabinetFilesArrive();
-    void wallIsCalibrated();
-    void outputIsChosenByAPc();
-    void selfTestIsTaken();
-
-private:
-    QImage screenBelowTheAddress() const { return m_panel.screen().copy(0, 28, 320, 212); }
-    Panel m_panel;
-    Pushes m_pushes{m_panel};
-    MenuWalk m_walk{m_panel};
-};
 
 namespace
 {
@@ -55,155 +29,146 @@ const QVector<QPair<const char *, QStringList>> nothings{
 };
 } // namespace
 
-void TestPushesEvents::initTestCase()
+class TestPushesEvents : public PushesTest
 {
-    QVERIFY(m_panel.startReady());
-    QVERIFY(m_pushes.begin());
-    QVERIFY(m_walk.speak("fpd_ZH"));
-}
+    Q_OBJECT
+private slots:
+    void noReports()
+    {
+        // The status of a packet is kept, and no report is weighed by it.
+        QCOMPARE(
+            m_pushes.run(
+                {PushRow("some brightness", "02000001 4d --ack 1").stores("1=30").shows({"bright:30%"})}),
+            QString());
+        const QImage before = screenBelowTheAddress();
+        QVector<PushRow> rows;
+        for (const auto &kind : nothings)
+            for (const QString &report : kind.second)
+                rows << PushRow(QString("%1: %2").arg(kind.first, report), report);
+        expect(rows);
+        QVERIFY(m_panel.settle());
+        QCOMPARE(screenBelowTheAddress(), before);
+    }
 
-void TestPushesEvents::cleanup()
-{
-    if (QTest::currentTestFailed())
-        m_panel.keepEvidence(QString("pushesevents-%1").arg(QTest::currentTestFunction()));
-}
+    void servicesStart()
+    {
+        QVERIFY(m_panel.ask({"env", "set", "ver_rootfs", "V9.8.7"}).ok);
+        const QString addressOff = "2375/Enable=false 2376/Enable=false 2377/Enable=false 2378/Enable=false "
+                                   "2379/Enable=false";
+        expect({
+            PushRow("video", "14000000 01").tells("3427=1").stores("2369=V9.8.7"),
+            PushRow("automatic address", "1300001a a8").stores("2374=1 3212=0 " + addressOff),
+            PushRow("sender", "14000000 02").tells("3428=2").answers({"1300001a 00 a8"}),
+            PushRow("manual address", "1300001a 00")
+                .stores("2374=0 " + QString(addressOff).replace("false", "true")),
+            PushRow("sender, manual address", "14000000 02").tells("3428=2"),
+        });
+    }
 
-void TestPushesEvents::cleanupTestCase()
-{
-    QCOMPARE(m_panel.damage(), QString());
-}
+    /// Protection that is not kept is switched off at each of the inputs.
+    void protectionIsSwitchedOff()
+    {
+        QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+        QVERIFY(m_panel.setStored(MENU_HDCPMemory, "0"));
+        QVERIFY(m_panel.ask({"reports", "on"}).ok);
+        QVERIFY(m_panel.start());
+        QVERIFY(m_pushes.begin());
+        expect({
+            PushRow("video", "14000000 01")
+                .tells("3427=1")
+                .answers({"13019004 00 01", "13019014 00 01", "13019024 00 01", "13019034 00 01"}),
+        });
+    }
 
-void TestPushesEvents::noReports()
-{
-    // The status of a packet is kept, and no report is weighed by it.
-    QCOMPARE(m_pushes.run(
-                 {PushRow("some brightness", "02000001 4d --ack 1").stores("1=30").shows({"bright:30%"})}),
-             QString());
-    const QImage before = screenBelowTheAddress();
-    QVector<PushRow> rows;
-    for (const auto &kind : nothings)
-        for (const QString &report : kind.second)
-            rows << PushRow(QString("%1: %2").arg(kind.first, report), report);
-    QCOMPARE(m_pushes.run(rows), QString());
-    QVERIFY(m_panel.settle());
-    QCOMPARE(screenBelowTheAddress(), before);
-}
+    void deviceGetsAName()
+    {
+        QString name;
+        for (QChar letter : QString("Hall 7"))
+            name += littleEndian(letter.unicode(), 2);
+        QVERIFY(m_panel.ask({"flash", "write", "D14000", "9a"}).ok);
+        QVERIFY(m_panel.ask({"flash", "write", "D14100", name.leftJustified(128, '0')}).ok);
+        expect({PushRow("renamed", "0ff00001 00").shows({"ip:Hall 7"})});
+    }
 
-void TestPushesEvents::servicesStart()
-{
-    QVERIFY(m_panel.ask({"env", "set", "ver_rootfs", "V9.8.7"}).ok);
-    const QString addressOff = "2375/Enable=false 2376/Enable=false 2377/Enable=false 2378/Enable=false "
-                               "2379/Enable=false";
-    const QVector<PushRow> rows{
-        PushRow("video", "14000000 01").tells("3427=1").stores("2369=V9.8.7"),
-        PushRow("automatic address", "1300001a a8").stores("2374=1 3212=0 " + addressOff),
-        PushRow("sender", "14000000 02").tells("3428=2").answers({"1300001a 00 a8"}),
-        PushRow("manual address", "1300001a 00")
-            .stores("2374=0 " + QString(addressOff).replace("false", "true")),
-        PushRow("sender, manual address", "14000000 02").tells("3428=2"),
-    };
-    QCOMPARE(m_pushes.run(rows), QString());
-}
+    void cabinetFilesArrive()
+    {
+        QVERIFY(m_walk.go({MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles}));
+        QVERIFY(m_panel.waitFor("P1.5-480x270.cab"));
+        QFile index(m_panel.file("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName"));
+        QVERIFY(index.open(QIODevice::ReadWrite));
+        const QString name = "P4-64x64.cab";
+        QVERIFY(index.write(reinterpret_cast<const char *>(name.utf16()), 2 * name.size()) ==
+                    2 * name.size() &&
+                index.write(QByteArray(2 * 16, '\0')) > 0);
+        index.close();
+        QVERIFY(m_pushes.push({"0ff00000 00"}));
+        QVERIFY(m_panel.settle());
+        QVERIFY(m_panel.shows("P1.5-480x270.cab"));
+        QVERIFY(m_pushes.push({"0ff00000 01"}));
+        QVERIFY(m_panel.waitFor(name));
+        QVERIFY(m_panel.shows("P2.5-128x128.cab"));
+        QVERIFY(m_walk.home());
+    }
 
-/// Protection that is not kept is switched off at each of the inputs.
-void TestPushesEvents::protectionIsSwitchedOff()
-{
-    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
-    QVERIFY(m_panel.setStored(MENU_HDCPMemory, "0"));
-    QVERIFY(m_panel.ask({"reports", "on"}).ok);
-    QVERIFY(m_panel.start());
-    QVERIFY(m_pushes.begin());
-    const QVector<PushRow> rows{
-        PushRow("video", "14000000 01")
-            .tells("3427=1")
-            .answers({"13019004 00 01", "13019014 00 01", "13019024 00 01", "13019034 00 01"}),
-    };
-    QCOMPARE(m_pushes.run(rows), QString());
-}
+    void wallIsCalibrated()
+    {
+        QVERIFY(m_pushes.push({"0200009c 00"})); // none has begun
+        QVERIFY(homescreen::sees(m_panel, "main:1920x1080@60"));
+        QVERIFY(m_pushes.push({"0200009c a8"}));
+        QVERIFY(m_panel.waitFor(m_walk.text("SoftCalibrating")));
+        QVERIFY(m_pushes.push({"0200009c 00"}));
+        QVERIFY(m_panel.waitFor(m_walk.text("SoftCalibrateExit")));
+        QVERIFY(homescreen::waitToSee(m_panel, "main:1920x1080@60"));
+    }
 
-void TestPushesEvents::deviceGetsAName()
-{
-    QString name;
-    for (QChar letter : QString("Hall 7"))
-        name += littleEndian(letter.unicode(), 2);
-    QVERIFY(m_panel.ask({"flash", "write", "D14000", "9a"}).ok);
-    QVERIFY(m_panel.ask({"flash", "write", "D14100", name.leftJustified(128, '0')}).ok);
-    QCOMPARE(m_pushes.run({PushRow("renamed", "0ff00001 00").shows({"ip:Hall 7"})}), QString());
-}
+    void outputIsChosenByAPc()
+    {
+        // What the rates of a size leave of the list.
+        const QString fourRates = "2354/Params/0=48 2354/Params/1=50 2354/Params/2=59.94 2354/Params/3=60";
+        const QString nineRates = "2354/Params/0=23.98 2354/Params/1=24 2354/Params/2=25 2354/Params/3=29.97 "
+                                  "2354/Params/4=30 2354/Params/5=48 2354/Params/6=50 2354/Params/7=59.94 "
+                                  "2354/Params/8=60 2354/Params1/4=Enable 2354/Params1/5=Enable "
+                                  "2354/Params1/6=Enable 2354/Params1/7=Enable 2354/Params1/8=Enable";
+        const QString waiting = m_walk.text("Waiting");
+        const QVector<PushRow> rows{
+            PushRow("with its list of rates", "13041401 4006b0048813")
+                .tells("2353=5 2354=1 2355=")
+                .stores("2353=5 2354=1 " + fourRates)
+                .answers({"13042007 00 00"}),
+            PushRow("video output", "13042007 01").stores("2352=1"),
+            PushRow("to video output", "13041401 0005d0026a17")
+                .tells("2353=1 2354=7 2355=")
+                .stores("2353=1 2354=7 3209=1 1056/Enable=false " + nineRates)
+                .shows({"screen:1280x720@59.94"})
+                .answers({"13042007 00 01"}),
+            PushRow("a size that there is not", "13041401 e703e7037017")
+                .tells("2354=8 2355=")
+                .stores("2354=8")
+                .shows({"screen:1280x720@60"})
+                .answers({"13042007 00 01"}),
+            PushRow("monitor", "13042007 00").stores("2352=0"),
+            PushRow("to monitor", "13041401 80073804f00a")
+                .tells("2353=7 2355=")
+                .stores("2353=7 3209=0")
+                .answers({"13042007 00 00"}),
+        };
+        QVERIFY(m_pushes.push({"13041401 800738047017"})); // as it is
+        QVERIFY(m_panel.waitFor(waiting));
+        QVERIFY(homescreen::waitToSee(m_panel, "main:1920x1080@60"));
+        expect(rows);
+    }
 
-void TestPushesEvents::cabinetFilesArrive()
-{
-    QVERIFY(m_walk.go({MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles}));
-    QVERIFY(m_panel.waitFor("P1.5-480x270.cab"));
-    QFile index(m_panel.file("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName"));
-    QVERIFY(index.open(QIODevice::ReadWrite));
-    const QString name = "P4-64x64.cab";
-    QVERIFY(index.write(reinterpret_cast<const char *>(name.utf16()), 2 * name.size()) == 2 * name.size() &&
-            index.write(QByteArray(2 * 16, '\0')) > 0);
-    index.close();
-    QVERIFY(m_pushes.push({"0ff00000 00"}));
-    QVERIFY(m_panel.settle());
-    QVERIFY(m_panel.shows("P1.5-480x270.cab"));
-    QVERIFY(m_pushes.push({"0ff00000 01"}));
-    QVERIFY(m_panel.waitFor(name));
-    QVERIFY(m_panel.shows("P2.5-128x128.cab"));
-    QVERIFY(m_walk.home());
-}
+    /// The list of the self check is all that takes it.
+    void selfTestIsTaken()
+    {
+        const QByteArray text(
+            "HEAD;F_VERSION:--:V3.4.5:normal;F_CONNECT:--:lost:--:error;F_VCCINT:--:--;\0;");
+        expect({PushRow("good and bad", "13800000 " + text.toHex())});
+    }
 
-void TestPushesEvents::wallIsCalibrated()
-{
-    QVERIFY(m_pushes.push({"0200009c 00"})); // none has begun
-    QVERIFY(homescreen::sees(m_panel, "main:1920x1080@60"));
-    QVERIFY(m_pushes.push({"0200009c a8"}));
-    QVERIFY(m_panel.waitFor(m_walk.text("SoftCalibrating")));
-    QVERIFY(m_pushes.push({"0200009c 00"}));
-    QVERIFY(m_panel.waitFor(m_walk.text("SoftCalibrateExit")));
-    QVERIFY(homescreen::waitToSee(m_panel, "main:1920x1080@60"));
-}
-
-void TestPushesEvents::outputIsChosenByAPc()
-{
-    // What the rates of a size leave of the list.
-    const QString fourRates = "2354/Params/0=48 2354/Params/1=50 2354/Params/2=59.94 2354/Params/3=60";
-    const QString nineRates = "2354/Params/0=23.98 2354/Params/1=24 2354/Params/2=25 2354/Params/3=29.97 "
-                              "2354/Params/4=30 2354/Params/5=48 2354/Params/6=50 2354/Params/7=59.94 "
-                              "2354/Params/8=60 2354/Params1/4=Enable 2354/Params1/5=Enable "
-                              "2354/Params1/6=Enable 2354/Params1/7=Enable 2354/Params1/8=Enable";
-    const QString waiting = m_walk.text("Waiting");
-    const QVector<PushRow> rows{
-        PushRow("with its list of rates", "13041401 4006b0048813")
-            .tells("2353=5 2354=1 2355=")
-            .stores("2353=5 2354=1 " + fourRates)
-            .answers({"13042007 00 00"}),
-        PushRow("video output", "13042007 01").stores("2352=1"),
-        PushRow("to video output", "13041401 0005d0026a17")
-            .tells("2353=1 2354=7 2355=")
-            .stores("2353=1 2354=7 3209=1 1056/Enable=false " + nineRates)
-            .shows({"screen:1280x720@59.94"})
-            .answers({"13042007 00 01"}),
-        PushRow("a size that there is not", "13041401 e703e7037017")
-            .tells("2354=8 2355=")
-            .stores("2354=8")
-            .shows({"screen:1280x720@60"})
-            .answers({"13042007 00 01"}),
-        PushRow("monitor", "13042007 00").stores("2352=0"),
-        PushRow("to monitor", "13041401 80073804f00a")
-            .tells("2353=7 2355=")
-            .stores("2353=7 3209=0")
-            .answers({"13042007 00 00"}),
-    };
-    QVERIFY(m_pushes.push({"13041401 800738047017"})); // as it is
-    QVERIFY(m_panel.waitFor(waiting));
-    QVERIFY(homescreen::waitToSee(m_panel, "main:1920x1080@60"));
-    QCOMPARE(m_pushes.run(rows), QString());
-}
-
-/// The list of the self check is all that takes it.
-void TestPushesEvents::selfTestIsTaken()
-{
-    const QByteArray text("HEAD;F_VERSION:--:V3.4.5:normal;F_CONNECT:--:lost:--:error;F_VCCINT:--:--;\0;");
-    QCOMPARE(m_pushes.run({PushRow("good and bad", "13800000 " + text.toHex())}), QString());
-}
+private:
+    QImage screenBelowTheAddress() const { return m_panel.screen().copy(0, 28, 320, 212); }
+};
 
 QTEST_MAIN(TestPushesEvents)
 #include "tst_pushesevents.moc"

@@ -1,33 +1,9 @@
 // The bus misbehaves: a packet that cannot be sent is lost alone, the order stays, and the panel goes on.
-#include "tests/system/menuwalk.h"
+#include "tests/system/systemtest.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 using namespace VASK;
-
-class TestStoryBus : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void cleanupTestCase();
-    void failedSendIsRepeated();
-    void sixFailedSendsLoseOnePacket();
-    void packetsKeepTheirOrder();
-    void panelWorksWhileTheBusIsDown();
-    void panelStartsWithoutABus();
-
-private:
-    /// The pictures' registers so far: what the four rows of the page wrote, as the last byte of the address.
-    QStringList rowWrites();
-    bool touch(ENUM_MenuIndex row);
-
-    Panel m_panel;
-    MenuWalk m_walk{m_panel};
-};
 
 namespace
 {
@@ -35,104 +11,93 @@ const QList<ENUM_MenuIndex> picturePage{MENU_InputSettings, MENU_HDMI1, MENU_HDM
 const QString brightness = "13050001", contrast = "13050002", saturation = "13050004";
 } // namespace
 
-void TestStoryBus::initTestCase()
+class TestStoryBus : public SystemTest
 {
-    QVERIFY(m_panel.startReady());
-    // The device has told which inputs there are: their registers have numbers by that.
-    QVERIFY(m_panel.waitForLog("StartComplate: 2"));
-    QVERIFY(m_walk.go(picturePage));
-}
+    Q_OBJECT
+protected:
+    void begin() override
+    {
+        SystemTest::begin();
+        QVERIFY(m_walk.go(picturePage));
+    }
 
-void TestStoryBus::init()
-{
-    QVERIFY(m_panel.ask({"writes", "--clear"}).ok);
-}
+private slots:
+    void init() { QVERIFY(clearWrites()); }
 
-void TestStoryBus::cleanup()
-{
-    if (QTest::currentTestFailed())
-        m_panel.keepEvidence(QString("bus-%1").arg(QTest::currentTestFunction()));
-}
-
-void TestStoryBus::cleanupTestCase()
-{
-    QCOMPARE(m_panel.damage(), QString());
-}
-
-QStringList TestStoryBus::rowWrites()
-{
-    QStringList addresses;
-    for (const QString &write : m_panel.writes())
-        if (write.startsWith("130500"))
-            addresses << write.section(' ', 0, 0);
-    return addresses;
-}
-
-/// OK and OK again: the value is sent once, as it stands.
-bool TestStoryBus::touch(ENUM_MenuIndex row)
-{
-    return m_walk.enter(row) && m_walk.press(keys::Ok);
-}
-
-void TestStoryBus::failedSendIsRepeated()
-{
-    QVERIFY(m_panel.ask({"fault", "bus-send", "5"}).ok);
-    QVERIFY(touch(MENU_HDMI1_Brightness));
-    QVERIFY(m_panel.waitUntil([this] { return rowWrites() == QStringList{brightness}; }));
-}
-
-void TestStoryBus::sixFailedSendsLoseOnePacket()
-{
-    QVERIFY(m_panel.ask({"fault", "bus-send", "6"}).ok);
-    QVERIFY(touch(MENU_HDMI1_Brightness));
-    QVERIFY(touch(MENU_HDMI1_Contrast));
-    QVERIFY(touch(MENU_HDMI1_Saturation));
-    QVERIFY(m_panel.waitUntil([this] { return rowWrites().contains(saturation); }));
-    QCOMPARE(rowWrites(), QStringList({contrast, saturation}));
-}
-
-void TestStoryBus::packetsKeepTheirOrder()
-{
-    QStringList order;
-    for (int round = 0; round < 5; ++round) {
-        QVERIFY(touch(MENU_HDMI1_Saturation));
+    void failedSendIsRepeated()
+    {
+        QVERIFY(m_panel.ask({"fault", "bus-send", "5"}).ok);
         QVERIFY(touch(MENU_HDMI1_Brightness));
-        order << saturation << brightness;
+        QVERIFY(m_panel.waitUntil([this] { return rowWrites() == QStringList{brightness}; }));
     }
-    QVERIFY(m_panel.waitUntil([&] { return rowWrites().size() >= order.size(); }));
-    QCOMPARE(rowWrites(), order);
-}
 
-void TestStoryBus::panelWorksWhileTheBusIsDown()
-{
-    QVERIFY(m_panel.ask({"fault", "bus", "down"}).ok);
-    QElapsedTimer answer;
-    for (ENUM_MenuIndex row : {MENU_HDMI1_Brightness, MENU_HDMI1_Contrast, MENU_HDMI1_Hue}) {
-        QVERIFY(m_walk.enter(row));
-        const QImage before = m_panel.screen();
-        answer.start();
-        QVERIFY(m_panel.turn(Right, 1));
-        QVERIFY(m_panel.waitUntil([&] { return m_panel.screen() != before; }));
-        QVERIFY2(answer.elapsed() < 1000, qPrintable(QString("%1 ms").arg(answer.elapsed())));
-        QVERIFY(m_walk.press(keys::Ok));
+    void sixFailedSendsLoseOnePacket()
+    {
+        QVERIFY(m_panel.ask({"fault", "bus-send", "6"}).ok);
+        QVERIFY(touch(MENU_HDMI1_Brightness));
+        QVERIFY(touch(MENU_HDMI1_Contrast));
+        QVERIFY(touch(MENU_HDMI1_Saturation));
+        QVERIFY(m_panel.waitUntil([this] { return rowWrites().contains(saturation); }));
+        QCOMPARE(rowWrites(), QStringList({contrast, saturation}));
     }
-    QVERIFY(m_panel.ask({"fault", "bus", "up"}).ok);
-    QVERIFY(m_panel.waitUntil([this] { return m_panel.ask({"push", "02000001", "80"}).ok; }));
-    QVERIFY(touch(MENU_HDMI1_Contrast));
-    QVERIFY(m_panel.waitUntil([this] { return !rowWrites().isEmpty() && rowWrites().last() == contrast; }));
-}
 
-void TestStoryBus::panelStartsWithoutABus()
-{
-    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
-    QVERIFY(m_panel.ask({"fault", "bus", "down"}).ok);
-    QVERIFY(m_panel.start());
-    QVERIFY(m_panel.ask({"wait", "ready"}).ok);
-    QVERIFY(m_walk.openMenu());
-    QVERIFY(m_panel.turn(Right, 3));
-    QVERIFY(m_panel.ask({"fault", "bus", "up"}).ok);
-    QVERIFY(m_walk.home());
-}
+    void packetsKeepTheirOrder()
+    {
+        QStringList order;
+        for (int round = 0; round < 5; ++round) {
+            QVERIFY(touch(MENU_HDMI1_Saturation));
+            QVERIFY(touch(MENU_HDMI1_Brightness));
+            order << saturation << brightness;
+        }
+        QVERIFY(m_panel.waitUntil([&] { return rowWrites().size() >= order.size(); }));
+        QCOMPARE(rowWrites(), order);
+    }
+
+    void panelWorksWhileTheBusIsDown()
+    {
+        QVERIFY(m_panel.ask({"fault", "bus", "down"}).ok);
+        QElapsedTimer answer;
+        for (ENUM_MenuIndex row : {MENU_HDMI1_Brightness, MENU_HDMI1_Contrast, MENU_HDMI1_Hue}) {
+            QVERIFY(m_walk.enter(row));
+            const QImage before = m_panel.screen();
+            answer.start();
+            QVERIFY(m_panel.turn(Right, 1));
+            QVERIFY(m_panel.waitUntil([&] { return m_panel.screen() != before; }));
+            QVERIFY2(answer.elapsed() < 1000, qPrintable(QString("%1 ms").arg(answer.elapsed())));
+            QVERIFY(m_walk.press(keys::Ok));
+        }
+        QVERIFY(m_panel.ask({"fault", "bus", "up"}).ok);
+        QVERIFY(m_panel.waitUntil([this] { return m_panel.ask({"push", "02000001", "80"}).ok; }));
+        QVERIFY(touch(MENU_HDMI1_Contrast));
+        QVERIFY(
+            m_panel.waitUntil([this] { return !rowWrites().isEmpty() && rowWrites().last() == contrast; }));
+    }
+
+    void panelStartsWithoutABus()
+    {
+        QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+        QVERIFY(m_panel.ask({"fault", "bus", "down"}).ok);
+        QVERIFY(startAgain());
+        QVERIFY(m_walk.openMenu());
+        QVERIFY(m_panel.turn(Right, 3));
+        QVERIFY(m_panel.ask({"fault", "bus", "up"}).ok);
+        QVERIFY(m_walk.home());
+    }
+
+private:
+    /// The pictures' registers so far: what the four rows of the page wrote, as the last byte of the address.
+    QStringList rowWrites()
+    {
+        QStringList addresses;
+        for (const QString &write : m_panel.writes())
+            if (write.startsWith("130500"))
+                addresses << write.section(' ', 0, 0);
+        return addresses;
+    }
+
+    /// OK and OK again: the value is sent once, as it stands.
+    bool touch(ENUM_MenuIndex row) { return m_walk.enter(row) && m_walk.press(keys::Ok); }
+};
 
 QTEST_MAIN(TestStoryBus)
 #include "tst_storybus.moc"

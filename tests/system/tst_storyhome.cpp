@@ -1,81 +1,59 @@
 // The time after which a panel that nobody touches goes home, and what it spares.
-#include "tests/system/menuwalk.h"
+#include "tests/system/systemtest.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 using namespace VASK;
-
-class TestStoryHome : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
-    void goesHomeFromADeepPage();
-    void presetPageStays();
-
-private:
-    Panel m_panel;
-    MenuWalk m_walk{m_panel};
-};
 
 namespace
 {
 constexpr int shortestMs = 2000; ///< below what the menu offers, for a test that does not last
 } // namespace
 
-void TestStoryHome::initTestCase()
+class TestStoryHome : public SystemTest
 {
-    QVERIFY(m_panel.powerDevice());
-    QVERIFY(m_panel.start());
-    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
-    QVERIFY(m_panel.setStored(MENU_ReturntoHome, QString::number(shortestMs / 1000)));
-    QVERIFY(m_panel.start());
-    QVERIFY(m_panel.ask({"wait", "ready"}).ok);
-    m_walk.speak("fpd_ZH");
-}
-
-void TestStoryHome::cleanup()
-{
-    if (QTest::currentTestFailed())
-        m_panel.keepEvidence(QString("return-%1").arg(QTest::currentTestFunction()));
-}
-
-void TestStoryHome::cleanupTestCase()
-{
-    QCOMPARE(m_panel.damage(), QString());
-}
-
-void TestStoryHome::goesHomeFromADeepPage()
-{
-    QVERIFY(m_walk.go({MENU_CommunicationSettings, MENU_NetworkSettings}));
-    // Every key starts the time again.
-    for (int i = 0; i < 4; ++i) {
-        QTest::qWait(shortestMs / 2);
-        QVERIFY(m_walk.turn(Right, 1));
+    Q_OBJECT
+protected:
+    void begin() override
+    {
+        QVERIFY(m_panel.powerDevice());
+        QVERIFY(m_panel.start());
+        QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+        QVERIFY(m_panel.setStored(MENU_ReturntoHome, QString::number(shortestMs / 1000)));
+        QVERIFY(startAgain());
+        m_walk.speak("fpd_ZH");
     }
-    QVERIFY(m_walk.showsTitle());
-    QElapsedTimer untouched;
-    untouched.start();
-    QVERIFY(m_panel.waitForLog("slot_ReturnToMain start!!!!!!"));
-    QVERIFY2(qAbs(untouched.elapsed() - shortestMs) < 1000,
-             qPrintable(QString("%1 ms").arg(untouched.elapsed())));
-    QVERIFY(m_panel.settle());
-    QVERIFY(m_walk.isHome());
-    m_walk.assume({});
-}
 
-void TestStoryHome::presetPageStays()
-{
-    QVERIFY(m_walk.go({MENU_PresetSettings}));
-    m_panel.mark();
-    QVERIFY(m_panel.waitForLog("slot_ReturnToMain!!!!!!"));
-    QVERIFY(m_panel.settle());
-    QCOMPARE(m_panel.logLines("slot_ReturnToMain start!!!!!!").size(), 0);
-    QVERIFY(m_walk.showsTitle());
-}
+private slots:
+    void goesHomeFromADeepPage()
+    {
+        QVERIFY(m_walk.go({MENU_CommunicationSettings, MENU_NetworkSettings}));
+        // Every key starts the time again.
+        for (int i = 0; i < 4; ++i) {
+            QTest::qWait(shortestMs / 2);
+            QVERIFY(m_walk.turn(Right, 1));
+        }
+        QVERIFY(m_walk.showsTitle());
+        QElapsedTimer untouched;
+        untouched.start();
+        QVERIFY(m_panel.waitForLog("slot_ReturnToMain start!!!!!!"));
+        QVERIFY2(qAbs(untouched.elapsed() - shortestMs) < 1000,
+                 qPrintable(QString("%1 ms").arg(untouched.elapsed())));
+        QVERIFY(m_panel.settle());
+        QVERIFY(m_walk.isHome());
+        m_walk.assume({});
+    }
+
+    void presetPageStays()
+    {
+        QVERIFY(m_walk.go({MENU_PresetSettings}));
+        m_panel.mark();
+        QVERIFY(m_panel.waitForLog("slot_ReturnToMain!!!!!!"));
+        QVERIFY(m_panel.settle());
+        QCOMPARE(m_panel.logLines("slot_ReturnToMain start!!!!!!").size(), 0);
+        QVERIFY(m_walk.showsTitle());
+    }
+};
 
 QTEST_MAIN(TestStoryHome)
 #include "tst_storyhome.moc"

@@ -1,163 +1,112 @@
 // The device by the words of its console, with the panel on its bus: what happens at the device is in its
 // state, the panel takes it over, and a session can be played again.
-#include "tests/system/panel.h"
+#include "tests/system/systemtest.h"
 
 #include <QFile>
-#include <QTest>
 
-class TestSystemDevice : public QObject
+using namespace VASK;
+
+class TestSystemDevice : public SystemTest
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
-    void startFallsSilent();
-    void wordsChangeTheDevice_data();
-    void wordsChangeTheDevice();
-    void wordsAreRefused_data();
-    void wordsAreRefused();
-    void panelAndDeviceAgreeAfterAReplay();
-    void recordedKeysReachThePanelAgain();
+    void startFallsSilent()
+    {
+        // Whatever the panel corrects after the reports of the start, panel and device come to rest with it.
+        QVERIFY(m_panel.waitUntil([this] {
+            const int before = m_panel.writes().size();
+            QTest::qWait(700);
+            return m_panel.writes().size() == before;
+        }));
+        QVERIFY2(m_panel.writes().size() < 20, qPrintable(m_panel.writes().join('\n')));
+    }
+
+    void wordsChangeTheDevice_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QString>("line");
+        const auto row = [](const char *words, const char *line) { QTest::newRow(words) << words << line; };
+        row("signal sdi on 1920x1080i@50 ycc422", "  sdi: 1920x1080i@50 ycc422");
+        row("signal sdi on", "  sdi: 1920x1080i@50 ycc422");
+        row("signal sdi off", "  sdi: no signal");
+        row("signal sdi on", "  sdi: 1920x1080@60 rgb444");
+        row("signal reference on 1920x1080@59.94", "  reference: 1920x1080@59.94 rgb444");
+        row("port 6 link on", "  port 6: link on, backup off, engaged off");
+        row("port 6 backup on", "  port 6: link on, backup on, engaged off");
+        row("port 6 engaged on", "  port 6: link on, backup on, engaged on");
+        row("rename Stage", "  name: Stage");
+        row("calibrate on", "  soft calibration: on");
+        row("calibrate off", "  soft calibration: off");
+        row("push 1300009E 0214", "  volume: 20");
+        row("push 1300009E 0215 --ack 1", "  volume: 20"); // an answer that failed tells nothing
+        row("flash write 209F 16", "  volume: 22");
+    }
+    void wordsChangeTheDevice()
+    {
+        QFETCH(QString, words);
+        QFETCH(QString, line);
+        const Answer answer = m_panel.ask(words.split(' '));
+        QVERIFY2(answer.ok, qPrintable(answer.error));
+        QVERIFY2(shown().contains(line), qPrintable(shown().join('\n')));
+    }
+
+    void wordsAreRefused_data()
+    {
+        QTest::addColumn<QString>("words");
+        const QString refused =
+            "signal nosuch on|signal hdmi1|signal hdmi1 off 1920x1080@60|signal hdmi1 on 1920x1080|"
+            "signal hdmi1 on 1920x1080@60 rgb444 ycc422|port 0 link on|port 11 link on|port 1 link|"
+            "port 1 cable on|preset|device|rename|calibrate|update 101|update 25301|update -1|record stop|"
+            "replay /nosuch/file|record /nosuch/file|reports maybe";
+        for (const QString &words : refused.split('|'))
+            QTest::newRow(qPrintable(words)) << words;
+    }
+    void wordsAreRefused()
+    {
+        QFETCH(QString, words);
+        const QStringList before = shown();
+        const Answer answer = m_panel.ask(words.split(' '));
+        QVERIFY(!answer.ok && !answer.error.isEmpty());
+        QCOMPARE(shown(), before);
+    }
+
+    void panelAndDeviceAgreeAfterAReplay()
+    {
+        QFile session(m_panel.statePath() + "/session.txt");
+        QVERIFY(session.open(QIODevice::WriteOnly));
+        session.write("0 report 1300009e 0 0141\n"
+                      "4000 report 13411000 0 010e0000" +
+                      QByteArray(72, '0') +
+                      "\n"
+                      "8000 key 0121  # knob right\n");
+        session.close();
+        QVERIFY(!m_panel.ask({"replay", session.fileName(), "0"}).ok);
+        const Answer answer = m_panel.ask({"replay", session.fileName(), "50"});
+        QVERIFY2(answer.ok, qPrintable(answer.error));
+        QCOMPARE(answer.lines, QStringList{"played 1 keys and 2 reports"});
+        QVERIFY(shown().contains("  volume: 65"));
+        QVERIFY(shown().contains("  OSD: on, picture 0 at 0,0, in front"));
+        QVERIFY(waitUntilStored(MENU_Audio_Volume, "65"));
+        QVERIFY(waitUntilStored(MENU_OSDState, "1"));
+    }
+
+    void recordedKeysReachThePanelAgain()
+    {
+        const QString file = m_panel.statePath() + "/keys.txt";
+        QVERIFY(m_panel.ask({"record", file}).ok);
+        QVERIFY(m_panel.turn(Right, 2));
+        QVERIFY(m_panel.press(keys::Esc));
+        QCOMPARE(m_panel.ask({"record", "stop"}).lines, QStringList{"4 events"});
+        m_panel.mark();
+        const Answer answer = m_panel.ask({"replay", file, "2"});
+        QVERIFY2(answer.ok, qPrintable(answer.error));
+        QCOMPARE(answer.lines, QStringList{"played 4 keys and 0 reports"});
+        QVERIFY(m_panel.waitForLog("TIMER_CancelTimer ==  35"));
+    }
 
 private:
     QStringList shown() { return m_panel.ask({"device", "show"}).lines; }
-
-    Panel m_panel;
 };
 
-namespace
-{
-constexpr int itemVolume = 2357;
-constexpr int itemOsdState = 1008;
-} // namespace
-
-void TestSystemDevice::initTestCase()
-{
-    QVERIFY(m_panel.startReady());
-    QVERIFY(m_panel.waitForLog("StartComplate: 2"));
-}
-
-void TestSystemDevice::cleanup()
-{
-    if (QTest::currentTestFailed())
-        m_panel.keepEvidence(QTest::currentTestFunction());
-}
-
-void TestSystemDevice::cleanupTestCase()
-{
-    QCOMPARE(m_panel.damage(), QString());
-}
-
-void TestSystemDevice::startFallsSilent()
-{
-    // Whatever the panel corrects after the reports of the start, panel and device come to rest with it.
-    QVERIFY(m_panel.waitUntil([this] {
-        const int before = m_panel.writes().size();
-        QTest::qWait(700);
-        return m_panel.writes().size() == before;
-    }));
-    QVERIFY2(m_panel.writes().size() < 20, qPrintable(m_panel.writes().join('\n')));
-}
-
-void TestSystemDevice::wordsChangeTheDevice_data()
-{
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<QString>("line");
-    const auto row = [](const char *words, const char *line) { QTest::newRow(words) << words << line; };
-    row("signal sdi on 1920x1080i@50 ycc422", "  sdi: 1920x1080i@50 ycc422");
-    row("signal sdi on", "  sdi: 1920x1080i@50 ycc422");
-    row("signal sdi off", "  sdi: no signal");
-    row("signal sdi on", "  sdi: 1920x1080@60 rgb444");
-    row("signal reference on 1920x1080@59.94", "  reference: 1920x1080@59.94 rgb444");
-    row("port 6 link on", "  port 6: link on, backup off, engaged off");
-    row("port 6 backup on", "  port 6: link on, backup on, engaged off");
-    row("port 6 engaged on", "  port 6: link on, backup on, engaged on");
-    row("rename Stage", "  name: Stage");
-    row("calibrate on", "  soft calibration: on");
-    row("calibrate off", "  soft calibration: off");
-    row("push 1300009E 0214", "  volume: 20");
-    row("push 1300009E 0215 --ack 1", "  volume: 20"); // an answer that failed tells nothing
-    row("flash write 209F 16", "  volume: 22");
-}
-
-void TestSystemDevice::wordsChangeTheDevice()
-{
-    QFETCH(QString, words);
-    QFETCH(QString, line);
-    const Answer answer = m_panel.ask(words.split(' '));
-    QVERIFY2(answer.ok, qPrintable(answer.error));
-    QVERIFY2(shown().contains(line), qPrintable(shown().join('\n')));
-}
-
-void TestSystemDevice::wordsAreRefused_data()
-{
-    QTest::addColumn<QString>("words");
-    for (const char *words : {"signal nosuch on",
-                              "signal hdmi1",
-                              "signal hdmi1 off 1920x1080@60",
-                              "signal hdmi1 on 1920x1080",
-                              "signal hdmi1 on 1920x1080@60 rgb444 ycc422",
-                              "port 0 link on",
-                              "port 11 link on",
-                              "port 1 link",
-                              "port 1 cable on",
-                              "preset",
-                              "device",
-                              "rename",
-                              "calibrate",
-                              "update 101",
-                              "update 25301",
-                              "update -1",
-                              "record stop",
-                              "replay /nosuch/file",
-                              "record /nosuch/file",
-                              "reports maybe"})
-        QTest::newRow(words) << QString(words);
-}
-
-void TestSystemDevice::wordsAreRefused()
-{
-    QFETCH(QString, words);
-    const QStringList before = shown();
-    const Answer answer = m_panel.ask(words.split(' '));
-    QVERIFY(!answer.ok && !answer.error.isEmpty());
-    QCOMPARE(shown(), before);
-}
-
-void TestSystemDevice::panelAndDeviceAgreeAfterAReplay()
-{
-    QFile session(m_panel.statePath() + "/session.txt");
-    QVERIFY(session.open(QIODevice::WriteOnly));
-    session.write("0 report 1300009e 0 0141\n"
-                  "4000 report 13411000 0 010e0000" +
-                  QByteArray(72, '0') +
-                  "\n"
-                  "8000 key 0121  # knob right\n");
-    session.close();
-    QVERIFY(!m_panel.ask({"replay", session.fileName(), "0"}).ok);
-    const Answer answer = m_panel.ask({"replay", session.fileName(), "50"});
-    QVERIFY2(answer.ok, qPrintable(answer.error));
-    QCOMPARE(answer.lines, QStringList{"played 1 keys and 2 reports"});
-    QVERIFY(shown().contains("  volume: 65"));
-    QVERIFY(shown().contains("  OSD: on, picture 0 at 0,0, in front"));
-    QVERIFY(m_panel.waitUntil([this] { return m_panel.stored(itemVolume) == "65"; }));
-    QVERIFY(m_panel.waitUntil([this] { return m_panel.stored(itemOsdState) == "1"; }));
-}
-
-void TestSystemDevice::recordedKeysReachThePanelAgain()
-{
-    const QString file = m_panel.statePath() + "/keys.txt";
-    QVERIFY(m_panel.ask({"record", file}).ok);
-    QVERIFY(m_panel.turn(Right, 2));
-    QVERIFY(m_panel.press(keys::Esc));
-    QCOMPARE(m_panel.ask({"record", "stop"}).lines, QStringList{"4 events"});
-    m_panel.mark();
-    const Answer answer = m_panel.ask({"replay", file, "2"});
-    QVERIFY2(answer.ok, qPrintable(answer.error));
-    QCOMPARE(answer.lines, QStringList{"played 4 keys and 0 reports"});
-    QVERIFY(m_panel.waitForLog("TIMER_CancelTimer ==  35"));
-}
-
-QTEST_GUILESS_MAIN(TestSystemDevice)
+QTEST_MAIN(TestSystemDevice)
 #include "tst_systemdevice.moc"

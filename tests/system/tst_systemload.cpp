@@ -1,29 +1,11 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
 #include "tests/system/flood.h"
-#include "tests/system/menuwalk.h"
+#include "tests/system/systemtest.h"
 
-#include <QTest>
-
-class TestSystemLoad : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase() { QVERIFY(m_panel.startReady()); }
-    void cleanupTestCase() { QCOMPARE(m_panel.damage(), QString()); }
-    void reportsWhileKeysArePressed();
-    void nothingOfAFloodIsLost();
-
-private:
-    void pressKeysFor(Flood &flood, int milliseconds);
-
-    Panel m_panel;
-};
+using namespace VASK;
 
 namespace
 {
-constexpr int screenBrightness = 1;
-constexpr int audioVolume = 2357;
-
 QString bytes(std::initializer_list<int> values)
 {
     QByteArray data;
@@ -69,98 +51,103 @@ QList<Pushed> reportsOf(int round)
     };
 }
 
-bool push(Panel &panel, const Pushed &report)
-{
-    return panel.ask({"push", report.address, report.data, "--device", report.device}).ok;
-}
 } // namespace
 
-void TestSystemLoad::reportsWhileKeysArePressed()
+class TestSystemLoad : public SystemTest
 {
-    constexpr int rounds = 40;
-    const QStringList walk{keys::Main, keys::Ok, "right",   keys::Ok,     "left",    keys::Esc, keys::Pip1,
-                           "in1",      keys::Fn, keys::Esc, keys::Preset, keys::Esc, keys::Esc};
-    Panel &panel = m_panel;
-    for (int round = 0; round < rounds; ++round) {
-        const QString key = walk[round % walk.size()];
-        const QList<Pushed> reports = reportsOf(round);
-        for (int i = 0; i < reports.size(); ++i) {
-            QVERIFY2(push(panel, reports[i]), reports[i].address);
-            if (i % 10 == 5)
-                QVERIFY(key == "right" || key == "left" ? panel.turn(key == "left" ? Left : Right)
-                                                        : panel.press(key));
+    Q_OBJECT
+private slots:
+
+    void reportsWhileKeysArePressed()
+    {
+        constexpr int rounds = 40;
+        const QStringList walk{keys::Main,   keys::Ok,   "right",  keys::Ok, "left",
+                               keys::Esc,    keys::Pip1, "in1",    keys::Fn, keys::Esc,
+                               keys::Preset, keys::Esc,  keys::Esc};
+        for (int round = 0; round < rounds; ++round) {
+            const QString key = walk[round % walk.size()];
+            const QList<Pushed> reports = reportsOf(round);
+            for (int i = 0; i < reports.size(); ++i) {
+                QVERIFY2(push(reports[i]), reports[i].address);
+                if (i % 10 == 5)
+                    QVERIFY(key == "right" || key == "left" ? m_panel.turn(key == "left" ? Left : Right)
+                                                            : m_panel.press(key));
+            }
         }
-    }
 
-    // Whatever was folded on the way, what the device said last is what the panel holds and shows.
-    QVERIFY(push(panel, {"13000004", bytes({3})}));
-    QVERIFY(push(panel, {"1300009F", bytes({42})}));
-    QVERIFY(push(panel, {"02000001", bytes({255}), "1"}));
-    QVERIFY(panel.waitUntil(
-        [&panel] { return panel.stored(screenBrightness) == "100" && panel.stored(audioVolume) == "42"; }));
-    for (int level = 0; level < 6 && !panel.shows("100%"); ++level) {
-        QVERIFY(panel.press(keys::Esc));
-        QTest::qWait(200);
-    }
-    const bool home = panel.waitFor("100%");
-    if (!home)
-        panel.keepEvidence("systemload");
-    QVERIFY(home);
-}
-
-/// Turns the knob on a page and opens others.
-void TestSystemLoad::pressKeysFor(Flood &flood, int milliseconds)
-{
-    QElapsedTimer passed;
-    passed.start();
-    for (int i = 0; !passed.hasExpired(milliseconds); ++i) {
-        QVERIFY(m_panel.turn(i % 2 ? Left : Right));
-        if (i % 20 == 10) {
-            QVERIFY(m_panel.press(keys::Ok));
+        // Whatever was folded on the way, what the device said last is what the panel holds and shows.
+        QVERIFY(push({"13000004", bytes({3})}));
+        QVERIFY(push({"1300009F", bytes({42})}));
+        QVERIFY(push({"02000001", bytes({255}), "1"}));
+        QVERIFY(m_panel.waitUntil([this] {
+            return m_panel.stored(MENU_ScreenBrightness) == "100" &&
+                   m_panel.stored(MENU_Audio_Volume) == "42";
+        }));
+        for (int level = 0; level < 6 && !m_panel.shows("100%"); ++level) {
             QVERIFY(m_panel.press(keys::Esc));
+            QTest::qWait(200);
         }
-        QTest::qWait(25);
-        QVERIFY(flood.readLog());
+        QVERIFY(m_panel.waitFor("100%"));
     }
-}
 
-void TestSystemLoad::nothingOfAFloodIsLost()
-{
+    void nothingOfAFloodIsLost()
+    {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    constexpr int perSecond = 500;
+        constexpr int perSecond = 500;
 #else
-    constexpr int perSecond = 4000;
+        constexpr int perSecond = 4000;
 #endif
-    constexpr int floodMs = 10000;
-    MenuWalk walk(m_panel);
-    QVERIFY(walk.openMenu());
-    Flood flood(m_panel);
-    QVERIFY(flood.start(perSecond));
-    pressKeysFor(flood, floodMs);
-    const bool ended = flood.stop();
-    QCOMPARE(flood.lost(), QString());
-    QVERIFY(ended);
-    QVERIFY2(flood.pushed() > perSecond, qPrintable(QString::number(flood.pushed())));
+        constexpr int floodMs = 10000;
+        QVERIFY(m_walk.openMenu());
+        Flood flood(m_panel);
+        QVERIFY(flood.start(perSecond));
+        pressKeysFor(flood, floodMs);
+        const bool ended = flood.stop();
+        QCOMPARE(flood.lost(), QString());
+        QVERIFY(ended);
+        QVERIFY2(flood.pushed() > perSecond, qPrintable(QString::number(flood.pushed())));
 
-    // What was read last is what the store keeps.
-    const QMap<int, QString> items = flood.expected();
-    const auto differences = [&] {
-        QStringList list;
+        // What was read last is what the store keeps.
+        const QMap<int, QString> items = flood.expected();
+        const auto differences = [&] {
+            QStringList list;
+            const QMap<QString, QString> stored = m_panel.storedFields();
+            for (auto item = items.begin(); item != items.end(); ++item)
+                if (stored.contains(QString::number(item.key())) &&
+                    stored[QString::number(item.key())] != item.value())
+                    list += QString("%1: %2, not %3")
+                                .arg(item.key())
+                                .arg(stored[QString::number(item.key())], item.value());
+            return list.join('\n');
+        };
         const QMap<QString, QString> stored = m_panel.storedFields();
-        for (auto item = items.begin(); item != items.end(); ++item)
-            if (stored.contains(QString::number(item.key())) &&
-                stored[QString::number(item.key())] != item.value())
-                list += QString("%1: %2, not %3")
-                            .arg(item.key())
-                            .arg(stored[QString::number(item.key())], item.value());
-        return list.join('\n');
-    };
-    const QMap<QString, QString> stored = m_panel.storedFields();
-    QVERIFY(std::count_if(items.keyBegin(), items.keyEnd(),
-                          [&](int item) { return stored.contains(QString::number(item)); }) > 60);
-    m_panel.waitUntil([&] { return differences().isEmpty(); });
-    QCOMPARE(differences(), QString());
-}
+        QVERIFY(std::count_if(items.keyBegin(), items.keyEnd(),
+                              [&](int item) { return stored.contains(QString::number(item)); }) > 60);
+        m_panel.waitUntil([&] { return differences().isEmpty(); });
+        QCOMPARE(differences(), QString());
+    }
+
+private:
+    bool push(const Pushed &report)
+    {
+        return m_panel.ask({"push", report.address, report.data, "--device", report.device}).ok;
+    }
+    /// Turns the knob on a page and opens others.
+    void pressKeysFor(Flood &flood, int milliseconds)
+    {
+        QElapsedTimer passed;
+        passed.start();
+        for (int i = 0; !passed.hasExpired(milliseconds); ++i) {
+            QVERIFY(m_panel.turn(i % 2 ? Left : Right));
+            if (i % 20 == 10) {
+                QVERIFY(m_panel.press(keys::Ok));
+                QVERIFY(m_panel.press(keys::Esc));
+            }
+            QTest::qWait(25);
+            QVERIFY(flood.readLog());
+        }
+    }
+};
 
 QTEST_MAIN(TestSystemLoad)
 #include "tst_systemload.moc"

@@ -1,31 +1,8 @@
 // The store's three files, damaged in every way that a power cut or a worn flash can think of: the next start
 // repairs them and keeps the values while one of them is whole.
-#include "tests/system/panel.h"
+#include "tests/system/systemtest.h"
 
 #include <QFile>
-#include <QTest>
-
-class TestSystemStore : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void damagedFilesAreRepaired_data();
-    void damagedFilesAreRepaired();
-    void noWholeFileGivesTheDefaults();
-
-private:
-    QString file(const QString &name) const
-    {
-        return m_panel.file("/usr/vask/etc/fpd/config/" + name + ".xml");
-    }
-    QByteArray read(const QString &name) const;
-    void write(const QString &name, const QByteArray &content);
-    void restart();
-
-    Panel m_panel;
-    QByteArray m_whole; ///< a file with a value of its own
-};
 
 namespace
 {
@@ -46,78 +23,86 @@ QByteArray damaged(const QByteArray &whole, const QString &how)
 }
 } // namespace
 
-QByteArray TestSystemStore::read(const QString &name) const
+class TestSystemStore : public SystemTest
 {
-    QFile input(file(name));
-    return input.open(QIODevice::ReadOnly) ? input.readAll() : QByteArray();
-}
-
-void TestSystemStore::write(const QString &name, const QByteArray &content)
-{
-    QFile output(file(name));
-    QVERIFY(output.open(QIODevice::WriteOnly));
-    output.write(content);
-}
-
-void TestSystemStore::restart()
-{
-    m_panel.ask({"panel", "stop"}); // refused if it is off already
-    QVERIFY(m_panel.start());
-}
-
-void TestSystemStore::initTestCase()
-{
-    QVERIFY(m_panel.powerDevice());
-    QVERIFY(m_panel.ask({"flag", "delay", "0"}).ok);
-    QVERIFY(m_panel.start());
-    QVERIFY(m_panel.ask({"panel", "stop"}).ok);
-    m_whole = read("config");
-    const QByteArray value = "<Value>" + m_panel.stored(brightnessItem).toUtf8() + "</Value>";
-    QVERIFY(m_whole.contains(value));
-    m_whole.replace(m_whole.indexOf(value), value.size(), "<Value>" + ownValue.toUtf8() + "</Value>");
-}
-
-void TestSystemStore::damagedFilesAreRepaired_data()
-{
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("how");
-    const QList<QStringList> sets = {{"config"},
-                                     {"config_backup"},
-                                     {"config_factory"},
-                                     {"config", "config_backup"},
-                                     {"config", "config_factory"},
-                                     {"config_backup", "config_factory"}};
-    for (const QStringList &files : sets) {
-        for (const char *how : {"empty", "cut", "garbage", "wrong bytes", "missing"})
-            QTest::newRow(qPrintable(files.join("+") + " " + how)) << files << QString(how);
+    Q_OBJECT
+protected:
+    void begin() override
+    {
+        QVERIFY(m_panel.powerDevice());
+        QVERIFY(m_panel.ask({"flag", "delay", "0"}).ok);
+        QVERIFY(m_panel.start());
+        QVERIFY(m_panel.ask({"panel", "stop"}).ok);
+        m_whole = read("config");
+        const QByteArray value = "<Value>" + m_panel.stored(brightnessItem).toUtf8() + "</Value>";
+        QVERIFY(m_whole.contains(value));
+        m_whole.replace(m_whole.indexOf(value), value.size(), "<Value>" + ownValue.toUtf8() + "</Value>");
     }
-}
 
-void TestSystemStore::damagedFilesAreRepaired()
-{
-    QFETCH(QStringList, files);
-    QFETCH(QString, how);
-    for (const QString &name : allFiles)
-        write(name, m_whole);
-    for (const QString &name : files) {
-        if (how == "missing")
-            QFile::remove(file(name));
-        else
-            write(name, damaged(m_whole, how));
+    /// Whatever the panel still writes does not meet the next case's files.
+    void leave() override { m_panel.ask({"panel", "stop"}); }
+
+private slots:
+    void damagedFilesAreRepaired_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QString>("how");
+        const QList<QStringList> sets = {{"config"},
+                                         {"config_backup"},
+                                         {"config_factory"},
+                                         {"config", "config_backup"},
+                                         {"config", "config_factory"},
+                                         {"config_backup", "config_factory"}};
+        for (const QStringList &files : sets) {
+            for (const char *how : {"empty", "cut", "garbage", "wrong bytes", "missing"})
+                QTest::newRow(qPrintable(files.join("+") + " " + how)) << files << QString(how);
+        }
     }
-    restart();
-    QCOMPARE(m_panel.stored(brightnessItem), ownValue);
-    QCOMPARE(m_panel.damage(), QString());
-}
+    void damagedFilesAreRepaired()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QString, how);
+        for (const QString &name : allFiles)
+            write(name, m_whole);
+        for (const QString &name : files) {
+            if (how == "missing")
+                QFile::remove(file(name));
+            else
+                write(name, damaged(m_whole, how));
+        }
+        QVERIFY(m_panel.start());
+        QCOMPARE(m_panel.stored(brightnessItem), ownValue);
+    }
 
-void TestSystemStore::noWholeFileGivesTheDefaults()
-{
-    for (const QString &name : allFiles)
-        write(name, damaged(m_whole, "wrong bytes"));
-    restart();
-    QCOMPARE(m_panel.stored(brightnessItem), QString("60"));
-    QCOMPARE(m_panel.damage(), QString());
-}
+    void noWholeFileGivesTheDefaults()
+    {
+        for (const QString &name : allFiles)
+            write(name, damaged(m_whole, "wrong bytes"));
+        QVERIFY(m_panel.start());
+        QCOMPARE(m_panel.stored(brightnessItem), QString("60"));
+    }
 
-QTEST_GUILESS_MAIN(TestSystemStore)
+private:
+    QString file(const QString &name) const
+    {
+        return m_panel.file("/usr/vask/etc/fpd/config/" + name + ".xml");
+    }
+
+    QByteArray read(const QString &name) const
+    {
+        QFile input(file(name));
+        return input.open(QIODevice::ReadOnly) ? input.readAll() : QByteArray();
+    }
+
+    void write(const QString &name, const QByteArray &content)
+    {
+        QFile output(file(name));
+        QVERIFY(output.open(QIODevice::WriteOnly));
+        output.write(content);
+    }
+
+    QByteArray m_whole; ///< a file with a value of its own
+};
+
+QTEST_MAIN(TestSystemStore)
 #include "tst_systemstore.moc"
