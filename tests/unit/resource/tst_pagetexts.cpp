@@ -212,15 +212,9 @@ private slots:
     }
 
 private:
-    static void eachLanguage()
-    {
-        QTest::addColumn<int>("number");
-        for (int number : {0, 1})
-            QTest::newRow(languages[number].name) << number;
-    }
     const Language &switchLanguage()
     {
-        const Language &language = languages[*static_cast<int *>(QTest::qData("number", qMetaTypeId<int>()))];
+        const Language &language = languageOfRow();
         m_rig->speak(language);
         return language;
     }

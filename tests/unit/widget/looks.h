@@ -21,6 +21,18 @@ struct Language {
 constexpr Language languages[] = {{"English", MENU_LanguageEn, "fpd_EN.qm", "Arial"},
                                   {"Chinese", MENU_LanguageZh, "fpd_ZH.qm", "宋体"}};
 
+/// Rows of a test that is made in each language, and the language of the present one.
+inline void eachLanguage()
+{
+    QTest::addColumn<int>("number");
+    for (int number : {0, 1})
+        QTest::newRow(languages[number].name) << number;
+}
+inline const Language &languageOfRow()
+{
+    return languages[*static_cast<int *>(QTest::qData("number", qMetaTypeId<int>()))];
+}
+
 /// All pages with their real rows, and the texts of both languages.
 class LookRig : public PageRig
 {

@@ -90,22 +90,6 @@ private slots:
         QCoreApplication::processEvents(); // the keypad's keys are dropped until the event loop runs
     }
 
-    void quickOrAdvancedConfigurationAsks()
-    {
-        // As long as the engine does not know which of the two is in force, the quick one does not ask.
-        QVERIFY(!m_rig->engine->CreateDialog(MENU_QuickConfiguration, QString()));
-        for (const bool advanced : {false, true}) {
-            m_rig->set(MENU_ScreenConfigKind, advanced ? "0" : "1");
-            QVERIFY(m_rig->engine->Initialize());
-            for (const auto &asks :
-                 {qMakePair(MENU_QuickConfiguration, !advanced), qMakePair(MENU_AdvancedCfg, advanced)}) {
-                const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(asks.first, QString()));
-                QCOMPARE(bool(box), asks.second);
-            }
-        }
-        QVERIFY(!m_rig->engine->CreateDialog(MENU_ScreenBrightness, QString())); // has no message
-    }
-
     void eachIsShownAndAnswered_data()
     {
         QTest::addColumn<int>("index");

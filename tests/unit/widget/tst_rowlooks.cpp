@@ -155,18 +155,11 @@ private slots:
     }
 
 private:
-    static void eachLanguage()
-    {
-        QTest::addColumn<int>("number");
-        for (int number : {0, 1})
-            QTest::newRow(languages[number].name) << number;
-    }
-
     /// Brings the cursor to every row of every page in turn, all with their factory values.
     void eachRow(const std::function<void(int)> &visit)
     {
         m_faults.clear();
-        const Language &language = languages[*static_cast<int *>(QTest::qData("number", qMetaTypeId<int>()))];
+        const Language &language = languageOfRow();
         m_rig->speak(language);
         m_rig->home->hide();
         startSheets(QString("%1/%2-%3")
@@ -246,6 +239,14 @@ private:
         put(m_row.menuIndex, m_item);
         widget(m_page->currentRow())->UpdateALLUI(m_row.menuIndex);
     }
+    /// Ready to be edited.
+    void enableWith(const QString &value)
+    {
+        m_item.value = value;
+        m_item.enable = true;
+        store();
+        m_engineMoved = true;
+    }
     VaskUiObject *widget(int row) const { return dynamic_cast<VaskUiObject *>(m_table->cellWidget(row, 0)); }
 
     /// With the knob, as parts and buttons take their focus from where it comes from.
@@ -281,12 +282,9 @@ private:
 
     void editNumber(const QString &value)
     {
-        m_item.value = value;
-        m_item.enable = true;
-        store();
+        enableWith(value);
         look(value);
         m_rig->press(KEY_OK);
-        m_engineMoved = true;
         check(m_page->isEditing(), "OK does not start the edit");
         look(value + " edit");
         check(countPixels(m_picture, rowPlace(), editColour, 60) > 5, "nothing is yellow under edit");
@@ -296,10 +294,7 @@ private:
 
     void editAddress()
     {
-        m_item.value = "223.255.255.255";
-        m_item.enable = true;
-        store();
-        m_engineMoved = true;
+        enableWith("223.255.255.255");
         for (int number = 1; number <= 4; ++number) {
             m_rig->press(KEY_OK);
             look(QString("edit %1").arg(number));
@@ -311,12 +306,9 @@ private:
 
     void openList(const QString &key, const QString &state)
     {
-        m_item.value = key;
-        m_item.enable = true;
-        store();
+        enableWith(key);
         look(state);
         m_rig->press(KEY_OK);
-        m_engineMoved = true;
         check(m_page->isEditing(), "OK does not open the list");
         const QWidget *list = m_page->findChild<stringcomboxtable *>();
         if (!list)
