@@ -163,6 +163,12 @@ private slots:
         QVERIFY2(time.elapsed() >= lastKeyMs + returnMs * 9 / 10, QByteArray::number(time.elapsed()));
     }
 
+    void lineBreaksAndExtraText()
+    {
+        dialog_msgBox box(nullptr, "first\\r\\nsecond", MSGBOX_NONE, 0, " third");
+        QCOMPARE(box.findChild<QLabel *>("lab_Info")->text(), QString("first\r\nsecond third"));
+    }
+
 private:
     struct Timed {
         ENUM_MenuIndex index;
