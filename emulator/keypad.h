@@ -15,6 +15,7 @@ public:
     /// Plugs the keypad in or out.
     bool setPresent(bool present);
 
+    bool hasReader() const { return !m_readers.isEmpty(); }
     /// Key words as the driver gives them. False if nobody reads the keypad.
     bool sendWords(const QVector<quint16> &words);
     bool press(const QVector<int> &keys);

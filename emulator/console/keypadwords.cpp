@@ -3,6 +3,7 @@
 #include "emulator/emulator.h"
 
 #include <QDateTime>
+#include <QPointer>
 
 namespace
 {
@@ -18,13 +19,18 @@ void answer(Session &session, bool taken)
         session.fail(nobodyReads);
 }
 
-/// Pressed, held for that long, let go.
+/// Pressed, held for that long, let go: also when whoever asked for it has gone by then.
 void pressFor(Session &session, const QVector<int> &keys, int milliseconds)
 {
-    if (!session.emulator.keypad.press(keys))
+    Keypad &keypad = session.emulator.keypad;
+    if (!keypad.press(keys))
         return session.fail(nobodyReads);
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, session.request(),
-                       [&session, keys] { answer(session, session.emulator.keypad.release(keys)); });
+    const QPointer<QObject> request = session.request();
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &keypad, [&session, &keypad, keys, request] {
+        const bool taken = keypad.release(keys);
+        if (request)
+            answer(session, taken);
+    });
 }
 
 void key(Session &session, const QStringList &arguments)

@@ -44,8 +44,8 @@ QLayout *EmulatorWindow::knobColumn()
             column->addWidget(button(key), 0, Qt::AlignCenter);
     }
     column->addStretch();
-    connect(m_knob, &Knob::pressed, this, [this] { m_emulator.keypad.press({keyOk}); });
-    connect(m_knob, &Knob::released, this, [this] { m_emulator.keypad.release({keyOk}); });
+    connect(m_knob, &Knob::pressed, this, [this] { setKeyDown(keyOk, true); });
+    connect(m_knob, &Knob::released, this, [this] { setKeyDown(keyOk, false); });
     connect(m_knob, &Knob::turned, this, [this](int steps, int speed) {
         m_emulator.keypad.turn(steps < 0 ? keyKnobLeft : keyKnobRight, qAbs(steps), speed);
     });
@@ -71,9 +71,8 @@ KeyButton *EmulatorWindow::button(const KeyName &key)
 {
     auto *button = new KeyButton(key);
     m_buttons.insert(key.code, button);
-    connect(button, &KeyButton::pressed, this, [this, code = key.code] { m_emulator.keypad.press({code}); });
-    connect(button, &KeyButton::released, this,
-            [this, code = key.code] { m_emulator.keypad.release({code}); });
+    connect(button, &KeyButton::pressed, this, [this, code = key.code] { setKeyDown(code, true); });
+    connect(button, &KeyButton::released, this, [this, code = key.code] { setKeyDown(code, false); });
     return button;
 }
 
@@ -116,6 +115,12 @@ int EmulatorWindow::panelKey(const QKeyEvent *event) const
 
 void EmulatorWindow::setKeyDown(int key, bool down)
 {
+    if (m_held.contains(key) == down)
+        return;
+    if (down)
+        m_held.insert(key);
+    else
+        m_held.remove(key);
     if (key == keyOk)
         m_knob->setDown(down);
     else if (KeyButton *button = m_buttons.value(key))
@@ -124,6 +129,21 @@ void EmulatorWindow::setKeyDown(int key, bool down)
         m_emulator.keypad.press({key});
     else
         m_emulator.keypad.release({key});
+}
+
+void EmulatorWindow::releaseAll()
+{
+    const QSet<int> held = m_held;
+    for (int key : held)
+        setKeyDown(key, false);
+}
+
+bool EmulatorWindow::event(QEvent *event)
+{
+    // A key that is let go over another window is not told here.
+    if (event->type() == QEvent::WindowDeactivate)
+        releaseAll();
+    return QWidget::event(event);
 }
 
 void EmulatorWindow::keyPressEvent(QKeyEvent *event)
