@@ -11,7 +11,6 @@ Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
       recorder(keypad, device), bootFlag(stateFolder.path()), panel(stateFolder.path()),
       tools(stateFolder.path()), lcd(stateFolder.path())
 {
-    tools.install();
     m_look.setInterval(lookMs);
     connect(&m_look, &QTimer::timeout, this, &Emulator::lookIfReady);
     connect(&panel, &PanelProcess::line, this, [this](const QString &line) {
@@ -26,8 +25,11 @@ Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
 
 QString Emulator::open()
 {
-    if (!device.flash().install())
-        return "cannot make the flash image";
+    QString fault = device.flash().install();
+    if (fault.isEmpty())
+        fault = tools.install();
+    if (!fault.isEmpty())
+        return fault;
     if (!keypad.setPresent(true) || !device.setBusUp(true))
         return "cannot open the sockets in " + folder.path();
     bootFlag.start();

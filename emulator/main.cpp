@@ -69,7 +69,9 @@ int main(int argc, char *argv[])
     const QString refused = folder.take();
     if (!refused.isEmpty())
         return failed(refused);
-    folder.install();
+    const QString notInstalled = folder.install();
+    if (!notInstalled.isEmpty())
+        return failed(notInstalled);
     Emulator emulator(folder);
     ConsoleServer console(emulator);
     const QString fault = emulator.open();

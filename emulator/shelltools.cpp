@@ -29,26 +29,30 @@ constexpr const char *tailScript = "#!/bin/sh\n"
                                    "PATH=${PATH#*:}\n"
                                    "exec tail \"$@\"\n";
 
-void writeScript(const QString &file, const QByteArray &text)
+/// Empty, or what went wrong.
+QString writeScript(const QString &file, const QByteArray &text)
 {
     QSaveFile script(file);
-    if (!script.open(QIODevice::WriteOnly))
-        return;
-    script.write(text);
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    script.commit();
+    if (script.open(QIODevice::WriteOnly) && script.write(text) == text.size() &&
+        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner) && script.commit())
+        return QString();
+    return "cannot write " + file + ": " + script.errorString();
 }
 } // namespace
 
-void ShellTools::install() const
+QString ShellTools::install() const
 {
     const QString folder = m_stateFolder + hostlink::toolFolder + '/';
-    for (const Tool &tool : tools)
-        writeScript(folder + tool.name, QByteArray("#!/bin/sh\n"
-                                                   "answer=$(dirname \"$0\")/../fault/tool-") +
-                                            tool.name + "\n[ -e \"$answer\" ] && exec cat \"$answer\"\n" +
-                                            tool.healthy);
-    writeScript(folder + "tail", tailScript);
+    QString fault = writeScript(folder + "tail", tailScript);
+    for (const Tool &tool : tools) {
+        if (!fault.isEmpty())
+            break;
+        fault = writeScript(folder + tool.name,
+                            QByteArray("#!/bin/sh\n"
+                                       "answer=$(dirname \"$0\")/../fault/tool-") +
+                                tool.name + "\n[ -e \"$answer\" ] && exec cat \"$answer\"\n" + tool.healthy);
+    }
+    return fault;
 }
 
 bool ShellTools::setAnswer(const QString &tool, const QString &text) const

@@ -8,7 +8,8 @@ class ShellTools
 public:
     explicit ShellTools(const QString &stateFolder) : m_stateFolder(stateFolder) {}
 
-    void install() const;
+    /// Empty, or what went wrong.
+    QString install() const;
     /// What a tool prints from now on, whatever it is asked. False if there is no such tool.
     bool setAnswer(const QString &tool, const QString &text) const;
     /// Back to a healthy device's answers.

@@ -2,11 +2,13 @@
 
 #include "emulator/bootflag.h"
 #include "emulator/cabinetfiles.h"
+#include "emulator/diskimage.h"
 #include "fpd_hostlink.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <sys/stat.h>
 
 namespace
@@ -19,17 +21,30 @@ constexpr const char *boardFolders[] = {
     "/run",       "/fault",   hostlink::toolFolder,
 };
 
-void copyOver(const QString &from, const QString &to)
+// All of them give an empty text, or what went wrong.
+
+QString copyOver(const QString &from, const QString &to)
 {
     QFile::remove(to);
-    QFile::copy(from, to);
+    QFile source(from);
+    return source.copy(to) ? QString() : "cannot write " + to + ": " + source.errorString();
 }
 
-void writeIfMissing(const QString &file, const QByteArray &content)
+QString writeIfMissing(const QString &file, const QByteArray &content)
 {
-    QFile output(file);
-    if (!output.exists() && output.open(QIODevice::WriteOnly))
-        output.write(content);
+    QSaveFile output(file);
+    if (QFile::exists(file) ||
+        (output.open(QIODevice::WriteOnly) && output.write(content) == content.size() && output.commit()))
+        return QString();
+    return "cannot write " + file + ": " + output.errorString();
+}
+
+QString reserveLcd(const QString &file)
+{
+    QFile lcd(file);
+    if (!lcd.open(QIODevice::ReadWrite))
+        return "cannot write " + file + ": " + lcd.errorString();
+    return reserve(lcd, hostlink::lcdFileSize);
 }
 } // namespace
 
@@ -49,23 +64,33 @@ QString StateFolder::take()
 {
     if (!QDir().mkpath(m_path) || chmod(QFile::encodeName(m_path).constData(), 0700) != 0)
         return "cannot make the state folder " + m_path;
-    if (!m_lock.tryLock())
+    if (m_lock.tryLock())
+        return QString();
+    switch (m_lock.error()) {
+    case QLockFile::LockFailedError:
         return "another emulator uses the state folder " + m_path;
-    return QString();
+    case QLockFile::PermissionError:
+        return "no right to write into the state folder " + m_path;
+    default:
+        return "cannot write into the state folder " + m_path + ": its disk is full, or fails";
+    }
 }
 
-void StateFolder::install()
+QString StateFolder::install()
 {
+    QStringList faults{reserveLcd(file(hostlink::lcdFile))};
     for (const char *folder : boardFolders)
-        QDir().mkpath(file(folder));
+        if (!QDir().mkpath(file(folder)))
+            faults += "cannot make the folder " + file(folder);
     const QDir translations(QCoreApplication::applicationDirPath() + "/../translation");
     for (const QString &name : translations.entryList({"*.qm"}, QDir::Files))
-        copyOver(translations.filePath(name), file(configFolder) + '/' + name);
+        faults += copyOver(translations.filePath(name), file(configFolder) + '/' + name);
     for (const CabinetFile &cabinet : cabinetFiles())
-        writeIfMissing(file(cabinetFolder) + '/' + cabinet.name, cabinet.content);
-    writeIfMissing(file(hostlink::lcdFile), QByteArray(hostlink::lcdFileSize, 0));
+        faults += writeIfMissing(file(cabinetFolder) + '/' + cabinet.name, cabinet.content);
     for (const char *logo : {"/logo_vask.bmp", "/logo_hide.bmp", "/logo.bmp"})
-        writeIfMissing(file(logoFolder) + logo, QByteArray("BM"));
+        faults += writeIfMissing(file(logoFolder) + logo, QByteArray("BM"));
+    faults.removeAll(QString());
+    return faults.value(0);
 }
 
 void StateFolder::clearForStart()
@@ -74,6 +99,7 @@ void StateFolder::clearForStart()
     QFile::remove(file(deviceReadyFlag));
     QFile lcd(file(hostlink::lcdFile));
     // Written over, not replaced: whoever looks at the LCD keeps looking at this file.
-    if (lcd.open(QIODevice::ReadWrite))
-        lcd.write(QByteArray(hostlink::lcdFileSize, 0));
+    const QByteArray dark(hostlink::lcdFileSize, 0);
+    if (!lcd.open(QIODevice::ReadWrite) || lcd.write(dark) != dark.size())
+        qWarning("cannot write %s: %s", qPrintable(lcd.fileName()), qPrintable(lcd.errorString()));
 }

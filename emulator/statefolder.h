@@ -15,8 +15,9 @@ public:
 
     /// Makes the folder and takes it. Empty, or what went wrong.
     QString take();
-    /// Puts the board's files there that are not there yet; translations are always renewed.
-    void install();
+    /// Puts the board's files there that are not there yet; translations are always renewed. Empty, or what
+    /// went wrong.
+    QString install();
     /// As after power-on: no flag files, a dark LCD.
     void clearForStart();
 

@@ -1,6 +1,7 @@
 #include "emulator/bus/flashimage.h"
 
 #include "emulator/bus/plausibledevice.h"
+#include "emulator/diskimage.h"
 #include "fpd_hostlink.h"
 
 #include <algorithm>
@@ -72,17 +73,41 @@ qint64 inputMirror(quint32 registerAddress)
 
 FlashImage::FlashImage(const QString &stateFolder) : m_image(stateFolder + hostlink::flashFile) {}
 
-bool FlashImage::install()
+QString FlashImage::install()
 {
-    if (read(markAddress, int(sizeof mark)) == QByteArray(mark, sizeof mark))
-        return true;
-    m_image.close();
-    m_bytes = nullptr;
-    if (!m_image.open(QIODevice::ReadWrite) || !m_image.resize(0) || !m_image.resize(hostlink::flashSize))
-        return false;
-    for (const FlashPiece &piece : plausibleDevice())
-        write(piece.address, piece.bytes);
-    return write(markAddress, QByteArray(mark, sizeof mark));
+    if (!m_image.exists()) {
+        const QString fault = make();
+        if (!fault.isEmpty())
+            return fault;
+    }
+    if (!bytes() || read(markAddress, int(sizeof mark)) != QByteArray(mark, sizeof mark))
+        return "cannot use " + m_image.fileName() + ": " +
+               (m_image.isOpen() ? "it is no flash image of this device; without it the next start makes one"
+                                 : m_image.errorString());
+    return reserve(m_image, hostlink::flashSize);
+}
+
+QString FlashImage::make()
+{
+    const QString name = m_image.fileName();
+    m_image.setFileName(name + ".new");
+    QString fault;
+    if (!m_image.open(QIODevice::ReadWrite | QIODevice::Truncate))
+        fault = "cannot write " + m_image.fileName() + ": " + m_image.errorString();
+    else
+        fault = reserve(m_image, hostlink::flashSize);
+    if (fault.isEmpty()) {
+        for (const FlashPiece &piece : plausibleDevice())
+            write(piece.address, piece.bytes);
+        write(markAddress, QByteArray(mark, sizeof mark));
+        m_bytes = nullptr; // goes with the file's closing
+        if (!m_image.rename(name))
+            fault = "cannot write " + name + ": " + m_image.errorString();
+    }
+    if (!fault.isEmpty())
+        m_image.remove();
+    m_image.setFileName(name);
+    return fault;
 }
 
 QByteArray FlashImage::read(quint32 address, int length) const

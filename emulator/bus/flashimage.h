@@ -12,8 +12,8 @@ class FlashImage
 public:
     explicit FlashImage(const QString &stateFolder);
 
-    /// Makes the image if there is none of this device.
-    bool install();
+    /// Makes the image if there is none. Empty, or what went wrong.
+    QString install();
     QByteArray read(quint32 address, int length) const;
     bool write(quint32 address, const QByteArray &bytes);
     /// One byte, 0 beyond the end.
@@ -23,6 +23,8 @@ public:
     static qint64 mirrorAddress(quint8 deviceType, quint32 registerAddress);
 
 private:
+    /// Under another name first, so that an image is whole or not there.
+    QString make();
     /// The image in memory, or null; the panel sees at once what is written there.
     char *bytes() const;
 

@@ -16,8 +16,7 @@ class EmulatorRig
 public:
     EmulatorRig() : m_state(m_folder.path() + "/state"), m_stateFolder(m_state)
     {
-        m_taken = m_stateFolder.take().isEmpty();
-        m_stateFolder.install();
+        m_taken = m_stateFolder.take().isEmpty() && m_stateFolder.install().isEmpty();
         emulator = std::make_unique<Emulator>(m_stateFolder);
         m_console = std::make_unique<ConsoleServer>(*emulator);
     }

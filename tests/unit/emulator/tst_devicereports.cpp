@@ -65,7 +65,7 @@ void TestDeviceReports::powerOn()
     m_panel.reset();
     m_device = std::make_unique<Device>(m_folder->path());
     m_device->setReporting(false);
-    QVERIFY(m_device->flash().install() && m_device->setBusUp(true));
+    QVERIFY(m_device->flash().install().isEmpty() && m_device->setBusUp(true));
     m_panel = std::make_unique<PanelEnd>(m_folder->path());
     QVERIFY(QTest::qWaitFor([this] { return m_device->isJoined(); }));
     QTest::qWait(600); // past the time of the start's reports

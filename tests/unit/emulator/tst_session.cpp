@@ -24,7 +24,7 @@ struct Rig {
         device = std::make_unique<Device>(folder.path());
         keypad = std::make_unique<Keypad>(folder.path());
         device->setReporting(false);
-        opened = device->flash().install() && device->setBusUp(true) && keypad->setPresent(true);
+        opened = device->flash().install().isEmpty() && device->setBusUp(true) && keypad->setPresent(true);
         listener = std::make_unique<PanelEnd>(folder.path());
         opened = opened && QTest::qWaitFor([this] { return device->isJoined() && keypad->sendWords({1}); });
         listener->keys();
