@@ -32,28 +32,40 @@ QString Recorder::start(const QString &file)
 {
     m_file.close();
     m_file.setFileName(file);
-    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return "cannot write " + file + ": " + m_file.errorString();
+    m_fault.clear();
     m_events = 0;
     m_clock.start();
-    m_file.write("# recorded " + QDateTime::currentDateTime().toString(Qt::ISODate).toUtf8() +
-                 ", times in ms\n");
-    return QString();
+    const QByteArray now = QDateTime::currentDateTime().toString(Qt::ISODate).toUtf8();
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) &&
+        write("# recorded " + now + ", times in ms\n"))
+        return QString();
+    const QString fault = "cannot write " + file + ": " + m_file.errorString();
+    m_file.close();
+    return fault;
 }
 
 std::pair<int, QString> Recorder::stop()
 {
-    m_file.flush();
-    const QString fault = m_file.error() == QFileDevice::NoError ? QString() : m_file.errorString();
     m_file.close();
-    return {m_events, fault};
+    return {m_events, m_fault};
+}
+
+bool Recorder::write(const QByteArray &line)
+{
+    const qint64 whole = m_file.pos();
+    if (m_file.write(line) == line.size())
+        return true;
+    m_fault = "only the first " + QString::number(m_events) + " events fitted into " + m_file.fileName() +
+              ": " + m_file.errorString();
+    m_file.resize(whole);
+    return false;
 }
 
 void Recorder::add(session::Event event)
 {
-    if (!isRecording())
+    if (!isRecording() || !m_fault.isEmpty())
         return;
     event.atMs = m_clock.elapsed();
-    m_file.write(session::toText(event).toUtf8() + '\n');
-    ++m_events;
+    if (write(session::toText(event).toUtf8() + '\n'))
+        ++m_events;
 }

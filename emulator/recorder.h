@@ -16,13 +16,16 @@ public:
     bool isRecording() const { return m_file.isOpen(); }
     /// Empty, or why the file cannot be written.
     QString start(const QString &file);
-    /// The number of events of the session. Empty second, or why some of them are not in the file.
+    /// The number of events in the file. Empty second, or why the later ones are not.
     std::pair<int, QString> stop();
 
 private:
+    /// At once and whole, or not at all.
+    bool write(const QByteArray &line);
     void add(session::Event event);
 
     QFile m_file;
     QElapsedTimer m_clock;
     int m_events = 0;
+    QString m_fault; ///< the first; nothing is written after it
 };

@@ -1,6 +1,7 @@
 // Sessions as text, recorded from a keypad and a device and played again to both.
 #include "emulator/recorder.h"
 #include "emulator/replayer.h"
+#include "fulldisk.h"
 #include "panelend.h"
 
 #include <QDir>
@@ -46,6 +47,7 @@ private slots:
     void damagedLinesAreRefused_data();
     void damagedLinesAreRefused();
     void recordedSessionPlaysAgain();
+    void aFullDiskIsToldAtTheEnd();
     void speedSetsTheTimes_data();
     void speedSetsTheTimes();
     void nobodyAtTheKeypad();
@@ -133,6 +135,32 @@ void TestSession::recordedSessionPlaysAgain()
              (QList<QByteArray>{key(knobRight), key(knobRight), key(knobRight), key(34 | 1 << 8)}));
     QCOMPARE(rig.listener->reports(), QList<QByteArray>{"200001f 03"});
     QCOMPARE(rig.device->registers().u8(links.address), 3); // the device holds what it has told
+}
+
+void TestSession::aFullDiskIsToldAtTheEnd()
+{
+    Rig rig;
+    QVERIFY(rig.opened);
+    Recorder recorder(*rig.keypad, *rig.device);
+    QFile written(rig.folder.path() + "/session.txt");
+    QCOMPARE(recorder.start(written.fileName()), QString());
+    rig.keypad->press({34});
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QByteArray first = written.readAll();
+    QVERIFY(first.endsWith("# ok pressed\n")); // there at once
+    {
+        const FullDisk room(rlim_t(first.size() + 5));
+        rig.keypad->release({34});
+    }
+    rig.keypad->press({35}); // room again, but one is missing before
+    const auto result = recorder.stop();
+    QCOMPARE(result.first, 1);
+    QVERIFY2(result.second.startsWith("only the first 1 events fitted"), qPrintable(result.second));
+    QVERIFY(written.seek(0));
+    QCOMPARE(written.readAll(), first);
+    const FullDisk noRoom(0);
+    QVERIFY(recorder.start(rig.folder.path() + "/other.txt").startsWith("cannot write"));
+    QVERIFY(!recorder.isRecording());
 }
 
 void TestSession::speedSetsTheTimes_data()

@@ -1,23 +1,20 @@
-// The state folder on a disk that is full, and one that is not what it should be. A limit on the size of
-// files stands for the full disk.
+// The state folder on a disk that is full, and one that is not what it should be.
 #include "emulator/bus/flashimage.h"
 #include "emulator/lcd.h"
 #include "emulator/statefolder.h"
 #include "fpd_hostlink.h"
+#include "fulldisk.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 class TestStateFolder : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { signal(SIGXFSZ, SIG_IGN); }
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void aFullDiskIsToldAsOne();
     void aSecondEmulatorIsRefused();
@@ -34,25 +31,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-namespace
-{
-/// While it lives, no file grows beyond that.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before{};
-};
-} // namespace
 
 void TestStateFolder::aFullDiskIsToldAsOne()
 {
