@@ -30,7 +30,8 @@ Recorder::Recorder(Keypad &keypad, Device &device, QObject *parent) : QObject(pa
 
 QString Recorder::start(const QString &file)
 {
-    m_file.close();
+    if (isRecording())
+        return m_file.fileName() + " is being recorded; record stop ends it";
     m_file.setFileName(file);
     m_fault.clear();
     m_events = 0;

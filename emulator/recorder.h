@@ -14,7 +14,7 @@ public:
     Recorder(Keypad &keypad, Device &device, QObject *parent = nullptr);
 
     bool isRecording() const { return m_file.isOpen(); }
-    /// Empty, or why the file cannot be written.
+    /// Empty, or why not: the file cannot be written, or another one is being.
     QString start(const QString &file);
     /// The number of events in the file. Empty second, or why the later ones are not.
     std::pair<int, QString> stop();

@@ -104,6 +104,7 @@ void TestSession::recordedSessionPlaysAgain()
         Recorder recorder(*rig.keypad, *rig.device);
         const QString file = rig.folder.path() + "/session.txt";
         QCOMPARE(recorder.start(file), QString());
+        QVERIFY(recorder.start(file + "2").contains("is being recorded"));
         rig.keypad->turn(33, 3, 1);
         QTest::qWait(60);
         rig.device->reportAndAdopt(links);
