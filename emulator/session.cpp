@@ -109,7 +109,9 @@ QString toText(const Event &event)
 
 QString parse(const QString &text, QVector<Event> &events)
 {
-    const QStringList lines = text.split('\n');
+    QStringList lines = text.split('\n');
+    if (!lines.takeLast().isEmpty())
+        return QString("line %1 is cut: its end is missing").arg(lines.size() + 1);
     qint64 lastMs = 0;
     for (int i = 0; i < lines.size(); ++i) {
         const QString line = lines[i].section('#', 0, 0).simplified();

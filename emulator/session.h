@@ -6,7 +6,7 @@
 //     MS answered ADDRESS DEVICE HEX   one that a write of the panel led to: the device gives it anew
 //     MS message LARGE SMALL HEX       a message with those labels
 //
-// MS are milliseconds from the start; what stands behind # is a remark.
+// MS are milliseconds from the start; what stands behind # is a remark. A last line without its end is cut.
 #pragma once
 
 #include "emulator/model/subject.h"
