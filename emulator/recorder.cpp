@@ -17,6 +17,19 @@ Recorder::Recorder(Keypad &keypad, Device &device, QObject *parent) : QObject(pa
         event.report = report;
         add(event);
     });
+    connect(&device, &Device::failurePushed, this, [this](const Report &report, quint8 ack) {
+        session::Event event;
+        event.kind = session::Kind::failed;
+        event.report = report;
+        event.ack = ack;
+        add(event);
+    });
+    connect(&device, &Device::writePushed, this, [this](const Report &report) {
+        session::Event event;
+        event.kind = session::Kind::write;
+        event.report = report;
+        add(event);
+    });
     connect(&device, &Device::messageSent, this,
             [this](qint16 large, qint16 small, const QByteArray &payload) {
                 session::Event event;

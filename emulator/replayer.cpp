@@ -54,6 +54,13 @@ bool Replayer::play(const session::Event &event)
         return count(m_keypad.sendWords({event.word}), m_keys);
     case session::Kind::report:
         return count(m_device.reportAndAdopt(event.report), m_reports);
+    case session::Kind::write:
+        return count(m_device.pushWrite(event.report.address, event.report.bytes, event.report.deviceType),
+                     m_reports);
+    case session::Kind::failed:
+        return count(
+            m_device.pushRead(event.report.address, event.report.bytes, event.report.deviceType, event.ack),
+            m_reports);
     case session::Kind::message:
         return count(m_device.pushMessage(event.large, event.small, event.payload), m_reports);
     case session::Kind::answered:

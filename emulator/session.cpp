@@ -12,10 +12,8 @@ struct KindName {
 };
 
 constexpr KindName kindNames[] = {
-    {Kind::key, "key"},
-    {Kind::report, "report"},
-    {Kind::answered, "answered"},
-    {Kind::message, "message"},
+    {Kind::key, "key"},     {Kind::report, "report"}, {Kind::answered, "answered"},
+    {Kind::write, "write"}, {Kind::failed, "failed"}, {Kind::message, "message"},
 };
 
 QString hex(quint32 number, int digits)
@@ -38,10 +36,11 @@ QString fieldsOf(const Event &event)
     if (event.kind == Kind::message)
         return QString("%1 %2 %3").arg(event.large).arg(event.small).arg(QString(event.payload.toHex()));
     if (event.kind != Kind::key)
-        return QString("%1 %2 %3")
+        return QString("%1 %2 %3%4")
             .arg(hex(event.report.address, 8))
             .arg(event.report.deviceType)
-            .arg(QString(event.report.bytes.toHex()));
+            .arg(event.kind == Kind::failed ? QString("%1 ").arg(event.ack) : QString(),
+                 QString(event.report.bytes.toHex()));
     const QString remark = keyRemark(event.word);
     return hex(event.word, 4) + (remark.isEmpty() ? QString() : "  # " + remark);
 }
@@ -70,6 +69,18 @@ bool readReport(const QStringList &fields, Event &event)
            readBytes(fields.value(2), event.report.bytes);
 }
 
+bool readFailed(QStringList fields, Event &event)
+{
+    constexpr int ackPlace = 2;
+    bool isAck = false;
+    const uint ack = fields.value(ackPlace).toUInt(&isAck);
+    event.ack = quint8(ack);
+    if (!isAck || ack == 0 || ack > 255)
+        return false;
+    fields.removeAt(ackPlace);
+    return readReport(fields, event);
+}
+
 bool readMessage(const QStringList &fields, Event &event)
 {
     bool isLarge = false, isSmall = false;
@@ -91,6 +102,7 @@ bool readLine(QStringList fields, Event &event)
         event.kind = row.kind;
         return row.kind == Kind::key       ? readKey(fields, event)
                : row.kind == Kind::message ? readMessage(fields, event)
+               : row.kind == Kind::failed  ? readFailed(fields, event)
                                            : readReport(fields, event);
     }
     return false;

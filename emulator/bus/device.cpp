@@ -43,8 +43,7 @@ Device::Device(const QString &stateFolder, QObject *parent)
             reportAll();
     });
     m_heartbeat.setInterval(heartbeatMs);
-    connect(&m_heartbeat, &QTimer::timeout, this,
-            [this] { pushWrite(heartbeatAddress, QByteArray(1, 1), 0); });
+    connect(&m_heartbeat, &QTimer::timeout, this, &Device::beat);
     m_wait.setSingleShot(true);
     m_wait.setTimerType(Qt::PreciseTimer);
     connect(&m_wait, &QTimer::timeout, this, &Device::sendDue);
@@ -69,19 +68,31 @@ bool Device::pushRead(quint32 address, const QByteArray &bytes, quint8 deviceTyp
     frame.address = address;
     frame.length = quint16(bytes.size());
     frame.data = bytes;
-    return pushRaw(wire::encode(frame));
+    const bool taken = pushRaw(wire::encode(frame));
+    if (taken && ack != 0)
+        emit failurePushed({address, bytes, 0, deviceType}, ack);
+    return taken;
 }
 
 bool Device::pushWrite(quint32 address, const QByteArray &bytes, quint8 deviceType)
 {
+    const Report write{address, bytes, 0, deviceType};
+    const bool taken = sendWrite(write);
+    if (taken)
+        emit writePushed(write);
+    return taken;
+}
+
+bool Device::sendWrite(const Report &report)
+{
     wire::Frame frame;
     frame.source = deviceSource;
     frame.destination = panelDestination;
-    frame.deviceType = deviceType;
+    frame.deviceType = report.deviceType;
     frame.operation = wire::Write;
-    frame.address = address;
-    frame.length = quint16(bytes.size());
-    frame.data = bytes;
+    frame.address = report.address;
+    frame.length = quint16(report.bytes.size());
+    frame.data = report.bytes;
     return pushRaw(wire::encode(frame));
 }
 
@@ -97,8 +108,10 @@ bool Device::pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray 
     message.largeLabel = largeLabel;
     message.smallLabel = smallLabel;
     message.payload = payload;
-    emit messageSent(largeLabel, smallLabel, payload);
-    return m_server.sendToAll(wire::encode(message)) > 0;
+    const bool taken = m_server.sendToAll(wire::encode(message)) > 0;
+    if (taken)
+        emit messageSent(largeLabel, smallLabel, payload);
+    return taken;
 }
 
 bool Device::report(const Reports &reports)
@@ -135,7 +148,12 @@ void Device::setHeartbeat(bool on)
         return;
     }
     m_heartbeat.start();
-    pushWrite(heartbeatAddress, QByteArray(1, 1), 0);
+    beat();
+}
+
+void Device::beat()
+{
+    sendWrite({heartbeatAddress, QByteArray(1, 1)});
 }
 
 void Device::handlePacket(int client, const QByteArray &packet)
@@ -167,8 +185,10 @@ void Device::keep(const wire::Frame &request)
 
 bool Device::send(const Report &report, bool isAnswer)
 {
-    emit reported(report, isAnswer);
-    return pushRead(report.address, report.bytes, report.deviceType, 0);
+    const bool taken = pushRead(report.address, report.bytes, report.deviceType, 0);
+    if (taken)
+        emit reported(report, isAnswer);
+    return taken;
 }
 
 void Device::forget(const Report &report)

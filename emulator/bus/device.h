@@ -61,8 +61,12 @@ public:
 signals:
     void written(const RegisterWrite &write);
     void joined();
-    /// A report has gone out; an answer is what a write of the panel has led to.
+    // All of these when a panel has taken it, so that what is tried again is told once.
+    /// A report; an answer is what a write of the panel has led to.
     void reported(const Report &report, bool isAnswer);
+    /// An answer with an ack code, that is that something has failed.
+    void failurePushed(const Report &report, quint8 ack);
+    void writePushed(const Report &report);
     void messageSent(qint16 largeLabel, qint16 smallLabel, const QByteArray &payload);
 
 private:
@@ -75,6 +79,8 @@ private:
     void keep(const wire::Frame &request);
     QByteArray answer(const wire::Frame &request) const;
     bool send(const Report &report, bool isAnswer);
+    bool sendWrite(const Report &report);
+    void beat();
     /// A waiting report of that register will not be sent.
     void forget(const Report &report);
     void sendLater(const Reports &reports);

@@ -63,6 +63,9 @@ void TestSession::linesRead_data()
     QTest::newRow("report of a card") << "7 report 02000001 1 80";
     QTest::newRow("report without bytes") << "7 report 0ff00001 0";
     QTest::newRow("answer") << "99 answered 13000004 0 04";
+    QTest::newRow("write") << "99 write 020001f0 0 6400000000000000";
+    QTest::newRow("failure") << "99 failed 1300009e 0 1 0215";
+    QTest::newRow("failure without bytes") << "99 failed 0200009c 1 255";
     QTest::newRow("message") << "2000 message 7 4 c409";
 }
 
@@ -81,6 +84,7 @@ void TestSession::damagedLinesAreRefused_data()
     for (const char *line :
          {"key 0122", "-1 key 0122", "1 key", "1 key 12222", "1 key xyz", "1 key 0122 0122", "1 knob 0121",
           "1 report 0200001f", "1 report 0200001f 256 0f", "1 report 0200001f 0 0", "1 report 0200001f 0 0g",
+          "1 failed 1300009e 0 0215", "1 failed 1300009e 0 0 0215", "1 failed 1300009e 0 256 0215",
           "1 message 7", "1 message 7 99999 00", "1"})
         QTest::newRow(line) << QString(line);
 }
@@ -111,18 +115,23 @@ void TestSession::recordedSessionPlaysAgain()
         QTest::qWait(60);
         rig.device->reportAndAdopt(links);
         rig.device->pushMessage(7, 4, QByteArray::fromHex("c409"));
+        rig.device->pushRead(0x1300009E, QByteArray::fromHex("0215"), 0, 1);
+        rig.device->pushWrite(links.address, QByteArray::fromHex("0c"), 0);
         rig.keypad->press({34});
+        rig.listener.reset(); // what nobody takes has not happened
+        QVERIFY(QTest::qWaitFor([&rig] { return !rig.device->isJoined(); }));
+        rig.device->reportAndAdopt(links);
+        rig.device->pushMessage(7, 5, QByteArray());
         const auto result = recorder.stop();
-        QCOMPARE(result.first, 6);
+        QCOMPARE(result.first, 8);
         QCOMPARE(result.second, QString());
-        rig.keypad->press({35}); // no more
         QFile written(file);
         QVERIFY(written.open(QIODevice::ReadOnly));
         text = written.readAll();
     }
     QVector<Event> events;
     QCOMPARE(session::parse(text, events), QString());
-    QCOMPARE(events.size(), 6);
+    QCOMPARE(events.size(), 8);
     QVERIFY(events[3].atMs - events[2].atMs >= 50);
     Rig rig;
     QVERIFY(rig.opened);
@@ -132,11 +141,11 @@ void TestSession::recordedSessionPlaysAgain()
     QVERIFY(ended.wait(3000));
     QCOMPARE(ended[0][0].toString(), QString());
     QCOMPARE(replayer.keysPlayed(), 4);
-    QCOMPARE(replayer.reportsPlayed(), 2);
+    QCOMPARE(replayer.reportsPlayed(), 4);
     const auto key = [](quint16 word) { return QByteArray(reinterpret_cast<const char *>(&word), 2); };
     QCOMPARE(rig.listener->keys(),
              (QList<QByteArray>{key(knobRight), key(knobRight), key(knobRight), key(34 | 1 << 8)}));
-    QCOMPARE(rig.listener->reports(), QList<QByteArray>{"200001f 03"});
+    QCOMPARE(rig.listener->reports(), (QList<QByteArray>{"200001f 03", "1300009e 0215"}));
     QCOMPARE(rig.device->registers().u8(links.address), 3); // the device holds what it has told
 }
 
