@@ -15,6 +15,7 @@ constexpr int servicesUpMs = 500; ///< after the panel's joining
 constexpr quint8 deviceSource = 0;
 constexpr quint8 panelDestination = 254;
 constexpr int keptWrites = 100000;
+constexpr int keptBytes = 32 * 1024 * 1024;
 
 QByteArray message(const QByteArray &payload)
 {
@@ -47,6 +48,12 @@ Device::Device(const QString &stateFolder, QObject *parent)
     m_wait.setSingleShot(true);
     m_wait.setTimerType(Qt::PreciseTimer);
     connect(&m_wait, &QTimer::timeout, this, &Device::sendDue);
+}
+
+void Device::clearWrites()
+{
+    m_writes.clear();
+    m_writtenBytes = 0;
 }
 
 bool Device::setBusUp(bool up)
@@ -176,8 +183,13 @@ void Device::handlePacket(int client, const QByteArray &packet)
 
 void Device::keep(const wire::Frame &request)
 {
-    if (m_writes.size() >= keptWrites)
-        m_writes.erase(m_writes.begin(), m_writes.begin() + keptWrites / 2);
+    m_writtenBytes += request.data.size();
+    if (m_writes.size() >= keptWrites || m_writtenBytes > keptBytes) {
+        const auto kept = m_writes.begin() + m_writes.size() / 2;
+        for (auto write = m_writes.begin(); write != kept; ++write)
+            m_writtenBytes -= write->bytes.size();
+        m_writes.erase(m_writes.begin(), kept);
+    }
     m_writes.append({QDateTime::currentMSecsSinceEpoch(), request.address, request.deviceType, request.port,
                      request.board, request.data});
     emit written(m_writes.last());

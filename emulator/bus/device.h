@@ -36,7 +36,7 @@ public:
     bool isJoined() const { return m_clients > 0; }
 
     const QVector<RegisterWrite> &writes() const { return m_writes; }
-    void clearWrites() { m_writes.clear(); }
+    void clearWrites();
 
     /// All four: false if no panel is on the bus.
     bool pushRead(quint32 address, const QByteArray &bytes, quint8 deviceType, quint8 ack);
@@ -91,6 +91,7 @@ private:
     DeviceModel m_model;
     int m_clients = 0;
     QVector<RegisterWrite> m_writes;
+    int m_writtenBytes = 0; ///< of all of them
     QTimer m_heartbeat;
     QTimer m_startReports; ///< runs from the panel's joining to the reports
     bool m_reporting = true;

@@ -7,6 +7,9 @@
 
 namespace
 {
+constexpr qint64 longestLine = 1024 * 1024; ///< also what is taken in behind a request that waits
+constexpr qint64 mostUnread = 16 * 1024 * 1024;
+
 /// The arguments of a line; nothing if a quote is left open.
 std::optional<QStringList> splitLine(const QString &line)
 {
@@ -42,7 +45,9 @@ Session::Session(Emulator &theEmulator, QLocalSocket *socket, QObject *parent)
     : QObject(parent), emulator(theEmulator), m_socket(socket)
 {
     socket->setParent(this);
+    socket->setReadBufferSize(longestLine);
     connect(socket, &QLocalSocket::readyRead, this, &Session::read);
+    connect(socket, &QLocalSocket::bytesWritten, this, &Session::read);
     connect(socket, &QLocalSocket::disconnected, this, &QObject::deleteLater);
 }
 
@@ -52,6 +57,8 @@ void Session::print(const QString &text)
         return; // the answer has ended
     for (const QString &line : text.split('\n'))
         m_socket->write('+' + line.toUtf8() + '\n');
+    if (m_mostUnread > 0 && m_socket->bytesToWrite() > m_mostUnread)
+        drop("does not read what it follows");
 }
 
 void Session::ok()
@@ -82,13 +89,25 @@ void Session::finish(const QString &line)
 
 void Session::read()
 {
-    while (!m_request && m_socket->canReadLine())
+    // Whoever does not read its answers gets no more of them.
+    while (!m_request && m_socket->bytesToWrite() < mostUnread && m_socket->canReadLine())
         handle(QString::fromUtf8(m_socket->readLine()).trimmed());
+    if (!m_request && !m_socket->canReadLine() && m_socket->bytesAvailable() >= longestLine)
+        drop("sends a line without an end");
+}
+
+void Session::drop(const char *reason)
+{
+    qWarning("a client of the console is dropped: it %s", reason);
+    if (m_request)
+        m_request.release()->deleteLater();
+    m_socket->abort();
 }
 
 void Session::handle(const QString &line)
 {
     m_request = std::make_unique<QObject>();
+    m_mostUnread = 0;
     const auto arguments = splitLine(line);
     if (!arguments)
         fail("a quote is left open");
@@ -96,4 +115,6 @@ void Session::handle(const QString &line)
         ok();
     else
         handleWord(*this, arguments->first(), arguments->mid(1));
+    // What was said at once, as a long log is, waits however much it is.
+    m_mostUnread = m_socket->bytesToWrite() + mostUnread;
 }

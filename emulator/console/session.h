@@ -1,6 +1,7 @@
 // One client of the console. It sends a request a line, WORD ARGUMENT..., where an argument with blanks
 // stands in double quotes (\" and \\ inside). The answer is any number of lines that begin with '+', then
-// "ok" or "error REASON". Requests of one client are worked off one after the other. Main thread.
+// "ok" or "error REASON". Requests of one client are worked off one after the other. A client that sends an
+// endless line or does not read what it follows is dropped. Main thread.
 #pragma once
 
 #include <QLocalSocket>
@@ -34,8 +35,10 @@ private:
     void read();
     void finish(const QString &line);
     void handle(const QString &line);
+    void drop(const char *reason);
 
     QLocalSocket *m_socket;
     QString m_folder = "/";
+    qint64 m_mostUnread = 0; ///< bytes that may wait for the client while an answer goes on
     std::unique_ptr<QObject> m_request;
 };

@@ -11,6 +11,9 @@ private slots:
     void cleanup() { m_rig.reset(); }
     void aKeyIsLetGoWithoutItsClient();
     void aKeyIsLetGoWithTheFocus();
+    void anEndlessLineEndsItsClient();
+    void aFollowerMustRead();
+    void manyRequestsAtOnceAreAllAnswered();
 
 private:
     /// All key words up to now, once there are so many.
@@ -62,6 +65,51 @@ void TestConsole::aKeyIsLetGoWithTheFocus()
     QTest::keyRelease(&window, Qt::Key_Return); // comes late: the key is up already
     QTest::keyClick(&window, Qt::Key_Return);
     QCOMPARE(keys(2), (QList<QByteArray>{okPressed, okReleased}));
+}
+
+void TestConsole::anEndlessLineEndsItsClient()
+{
+    auto client = m_rig->client();
+    client->write(QByteArray(2 * 1024 * 1024, 'x'));
+    QVERIFY(QTest::qWaitFor([&] { return client->state() == QLocalSocket::UnconnectedState; }));
+    QCOMPARE(m_rig->ask("state"), QByteArray("ok"));
+}
+
+void TestConsole::aFollowerMustRead()
+{
+    auto reader = m_rig->client(), sleeper = m_rig->client();
+    sleeper->setReadBufferSize(1);
+    for (QLocalSocket *client : {reader.get(), sleeper.get()})
+        client->write("writes --follow\n");
+    QVERIFY(QTest::qWaitFor([&] { return reader->bytesToWrite() + sleeper->bytesToWrite() == 0; }));
+    QTest::qWait(50);
+    constexpr int bytes = 300000, writes = 40; // 24 MB in hex
+    RegisterWrite write{};
+    write.bytes = QByteArray(bytes, 'x');
+    qint64 taken = 0;
+    for (int i = 1; i <= writes; ++i) {
+        emit m_rig->emulator->device.written(write);
+        QVERIFY(QTest::qWaitFor([&] { return (taken += reader->readAll().size()) > 2 * bytes * i; }));
+    }
+    sleeper->setReadBufferSize(0);
+    QVERIFY(QTest::qWaitFor([&] {
+        sleeper->readAll();
+        return sleeper->state() == QLocalSocket::UnconnectedState;
+    }));
+}
+
+void TestConsole::manyRequestsAtOnceAreAllAnswered()
+{
+    constexpr int requests = 300000; // 1.8 MB, more than is taken in at once
+    auto client = m_rig->client();
+    client->write(QByteArray("wait ready 1\n") + QByteArray("state\n").repeated(requests));
+    int answers = 0;
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            answers += client->readAll().count('+');
+            return answers >= requests;
+        },
+        60000));
 }
 
 QTEST_MAIN(TestConsole)
