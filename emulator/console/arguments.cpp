@@ -1,5 +1,6 @@
 #include "emulator/console/arguments.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace arguments
@@ -30,6 +31,12 @@ std::optional<QByteArray> hexBytes(const QString &text)
     if (!pairs.match(digits).hasMatch())
         return std::nullopt;
     return QByteArray::fromHex(digits.toLatin1());
+}
+
+bool isPlainFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return !file.exists() || file.isFile();
 }
 
 bool takeFlag(QStringList &list, const QString &name)

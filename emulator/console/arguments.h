@@ -13,6 +13,9 @@ std::optional<qint64> number(const QString &text, qint64 least, qint64 most);
 std::optional<quint32> address(const QString &text);
 /// Bytes in hex; blanks and 0x are let through.
 std::optional<QByteArray> hexBytes(const QString &text);
+/// A plain file, or none so far. Anything else, a pipe or a device, could keep its reader or writer waiting
+/// for ever, and with it the whole emulator.
+bool isPlainFile(const QString &path);
 /// Takes an option out of the list: true if it was there.
 bool takeFlag(QStringList &list, const QString &name);
 /// Takes an option and its value out of the list; the fallback if it was not there, nothing if it has no

@@ -9,6 +9,8 @@ void screen(Session &session, const QStringList &list)
     if (list.size() != 1)
         return failUsage(session, "screen");
     const QString file = session.absolutePath(list[0]);
+    if (!arguments::isPlainFile(file))
+        return session.fail(file + " is no plain file");
     if (!session.emulator.lcd.picture().save(file, "PNG"))
         return session.fail("cannot write " + file);
     session.ok();

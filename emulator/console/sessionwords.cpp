@@ -1,17 +1,23 @@
 // Words that record a session and play it again.
+#include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
 #include "emulator/replayer.h"
 
 namespace
 {
+constexpr qint64 longestSession = 64 * 1024 * 1024; ///< bytes of a file that is replayed
+
 void record(Session &session, const QStringList &list)
 {
     Recorder &recorder = session.emulator.recorder;
     if (list.size() != 1)
         return failUsage(session, "record");
     if (list[0] != "stop") {
-        const QString fault = recorder.start(session.absolutePath(list[0]));
+        const QString file = session.absolutePath(list[0]);
+        if (!arguments::isPlainFile(file))
+            return session.fail(file + " is no plain file");
+        const QString fault = recorder.start(file);
         return fault.isEmpty() ? session.ok() : session.fail(fault);
     }
     if (!recorder.isRecording())
@@ -27,6 +33,10 @@ void record(Session &session, const QStringList &list)
 std::optional<QVector<session::Event>> readSession(Session &session, const QString &name)
 {
     QFile file(session.absolutePath(name));
+    if (!arguments::isPlainFile(file.fileName()) || file.size() > longestSession) {
+        session.fail(file.fileName() + " is no plain file of at most 64 MB");
+        return std::nullopt;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         session.fail("cannot read " + file.fileName() + ": " + file.errorString());
         return std::nullopt;

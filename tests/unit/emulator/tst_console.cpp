@@ -3,6 +3,8 @@
 #include "emulator/window/window.h"
 #include "emulatorrig.h"
 
+#include <sys/stat.h>
+
 class TestConsole : public QObject
 {
     Q_OBJECT
@@ -14,6 +16,8 @@ private slots:
     void anEndlessLineEndsItsClient();
     void aFollowerMustRead();
     void manyRequestsAtOnceAreAllAnswered();
+    void requestsAreRefused_data();
+    void requestsAreRefused();
 
 private:
     /// All key words up to now, once there are so many.
@@ -110,6 +114,33 @@ void TestConsole::manyRequestsAtOnceAreAllAnswered()
             return answers >= requests;
         },
         60000));
+}
+
+void TestConsole::requestsAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("request");
+    QTest::addColumn<QByteArray>("reason");
+    const auto row = [](const char *request, const char *reason) {
+        QTest::newRow(request) << QByteArray(request) << QByteArray(reason);
+    };
+    row("record FIFO", "no plain file");
+    row("replay FIFO", "no plain file");
+    row("screen FIFO", "no plain file");
+    row("replay /dev/zero", "no plain file");
+    row("replay LONG", "at most 64 MB");
+}
+
+void TestConsole::requestsAreRefused()
+{
+    QFETCH(QByteArray, request);
+    QFETCH(QByteArray, reason);
+    const QByteArray fifo = m_rig->file("fifo").toUtf8();
+    QCOMPARE(mkfifo(fifo, 0600), 0);
+    QFile tooLong(m_rig->file("long"));
+    QVERIFY(tooLong.open(QIODevice::WriteOnly) && tooLong.resize(65 * 1024 * 1024));
+    const QByteArray answer =
+        m_rig->ask(request.replace("FIFO", fifo).replace("LONG", tooLong.fileName().toUtf8()));
+    QVERIFY2(answer.startsWith("error ") && answer.contains(reason), answer);
 }
 
 QTEST_MAIN(TestConsole)
