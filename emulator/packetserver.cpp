@@ -1,5 +1,6 @@
 #include "emulator/packetserver.h"
 
+#include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
 
 #include <QFile>
@@ -8,7 +9,6 @@
 
 namespace
 {
-constexpr int maximalPacket = 65536;
 constexpr int maximalWaiting = 100000; ///< packets to one client
 
 enum class Sent { Yes, Full, Never };
@@ -110,7 +110,7 @@ void PacketServer::accept()
 
 void PacketServer::read(int client)
 {
-    QByteArray packet(maximalPacket, Qt::Uninitialized);
+    QByteArray packet(hostlink::longestBusMessage, Qt::Uninitialized);
     const ssize_t size = recv(client, packet.data(), size_t(packet.size()), MSG_DONTWAIT);
     if (size < 0 && (errno == EAGAIN || errno == EINTR))
         return;

@@ -1,7 +1,7 @@
 #include "emulator/console/arguments.h"
 
 #include <QFileInfo>
-#include <QRegularExpression>
+#include <cctype>
 
 namespace arguments
 {
@@ -25,12 +25,27 @@ std::optional<quint32> address(const QString &text)
 
 std::optional<QByteArray> hexBytes(const QString &text)
 {
-    QString digits = text;
-    digits.remove(QRegularExpression("\\s|0[xX](?=[0-9a-fA-F]{2})"));
-    static const QRegularExpression pairs("^([0-9a-fA-F]{2})*$");
-    if (!pairs.match(digits).hasMatch())
+    // By hand: a regular expression that repeats a pair gives up after some ten thousand of them.
+    QByteArray digits;
+    bool afterPrefix = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool atByte = digits.size() % 2 == 0;
+        if (text[i].isSpace())
+            continue;
+        if (atByte && !afterPrefix &&
+            text.midRef(i, 2).compare(QLatin1String("0x"), Qt::CaseInsensitive) == 0) {
+            afterPrefix = true;
+            ++i;
+            continue;
+        }
+        if (text[i].unicode() > 127 || !std::isxdigit(text[i].toLatin1()))
+            return std::nullopt;
+        digits += text[i].toLatin1();
+        afterPrefix = false;
+    }
+    if (afterPrefix || digits.size() % 2 != 0)
         return std::nullopt;
-    return QByteArray::fromHex(digits.toLatin1());
+    return QByteArray::fromHex(digits);
 }
 
 bool isPlainFile(const QString &path)

@@ -11,7 +11,7 @@ namespace arguments
 std::optional<qint64> number(const QString &text, qint64 least, qint64 most);
 /// A register address or flash address, always in hex, 0x or not.
 std::optional<quint32> address(const QString &text);
-/// Bytes in hex; blanks and 0x are let through.
+/// Bytes in hex; blanks are let through, and 0x before a byte.
 std::optional<QByteArray> hexBytes(const QString &text);
 /// A plain file, or none so far. Anything else, a pipe or a device, could keep its reader or writer waiting
 /// for ever, and with it the whole emulator.

@@ -18,7 +18,6 @@
 namespace
 {
 constexpr auto reconnectPause = std::chrono::milliseconds(200);
-constexpr int maximalMessage = 65536;
 
 struct Bus {
     std::mutex lock;
@@ -67,7 +66,7 @@ int apipc_init(unsigned int, int)
 int apipc_loop_wait(void *argument, apipc_callback callback)
 {
     const int descriptor = joinedDescriptor();
-    std::array<char, maximalMessage> message;
+    std::array<char, hostlink::longestBusMessage> message;
     for (;;) {
         const ssize_t length = recv(descriptor, message.data(), message.size(), 0);
         if (length < 0 && errno == EINTR)

@@ -13,8 +13,9 @@ constexpr const char *keypadSocket = "/run/keypad.sock";
 constexpr int ledBlockSize = 76;
 constexpr unsigned int ledRequest = 0xc04c6bb4;
 
-/// Message bus: one message a packet, in both directions.
+/// Message bus: one message a packet, in both directions. The longest holds a frame of 65535 bytes of data.
 constexpr const char *busSocket = "/run/bus.sock";
+constexpr int longestBusMessage = 65535 + 64;
 
 /// The emulator's console: lines of text, a SOCK_STREAM socket.
 constexpr const char *consoleSocket = "/run/control.sock";

@@ -46,12 +46,12 @@ public:
             m_client = client();
         m_client->write(request + '\n');
         QByteArray line;
-        QTest::qWaitFor([&] {
+        const bool whole = QTest::qWaitFor([&] {
             while (m_client->canReadLine() && (line.isEmpty() || line.startsWith('+')))
                 line = m_client->readLine().trimmed();
             return !line.isEmpty() && !line.startsWith('+');
         });
-        return line;
+        return whole ? line : "no whole answer: " + line;
     }
     QString file(const QString &name) const { return m_folder.filePath(name); }
 

@@ -58,7 +58,7 @@ private:
     static QList<QByteArray> packets(int descriptor)
     {
         QList<QByteArray> list;
-        char buffer[4096];
+        char buffer[hostlink::longestBusMessage];
         for (ssize_t size; (size = recv(descriptor, buffer, sizeof buffer, MSG_DONTWAIT)) > 0;)
             list.append(QByteArray(buffer, int(size)));
         return list;

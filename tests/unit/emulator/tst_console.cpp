@@ -16,6 +16,8 @@ private slots:
     void anEndlessLineEndsItsClient();
     void aFollowerMustRead();
     void manyRequestsAtOnceAreAllAnswered();
+    void bytesAreTaken_data();
+    void bytesAreTaken();
     void requestsAreRefused_data();
     void requestsAreRefused();
 
@@ -40,11 +42,11 @@ void TestConsole::init()
 QList<QByteArray> TestConsole::keys(int count)
 {
     QList<QByteArray> words;
-    QTest::qWaitFor([&] {
+    const bool all = QTest::qWaitFor([&] {
         words += m_rig->panel->keys();
         return words.size() >= count;
     });
-    return words;
+    return all ? words : QList<QByteArray>{"too few: " + words.join()};
 }
 
 void TestConsole::aKeyIsLetGoWithoutItsClient()
@@ -104,9 +106,10 @@ void TestConsole::aFollowerMustRead()
 
 void TestConsole::manyRequestsAtOnceAreAllAnswered()
 {
-    constexpr int requests = 300000; // 1.8 MB, more than is taken in at once
+    constexpr int requests = 2000; // 2 MB, more than is taken in at once
     auto client = m_rig->client();
-    client->write(QByteArray("wait ready 1\n") + QByteArray("state\n").repeated(requests));
+    client->write(QByteArray("wait ready 1\n") +
+                  QByteArray("state" + QByteArray(1000, ' ') + "\n").repeated(requests));
     int answers = 0;
     QVERIFY(QTest::qWaitFor(
         [&] {
@@ -114,6 +117,38 @@ void TestConsole::manyRequestsAtOnceAreAllAnswered()
             return answers >= requests;
         },
         60000));
+}
+
+void TestConsole::bytesAreTaken_data()
+{
+    QTest::addColumn<QByteArray>("hex");
+    QTest::addColumn<QByteArray>("bytes"); // empty: refused
+    const auto row = [](const QByteArray &hex, const QByteArray &bytes) {
+        QTest::newRow(hex.left(20)) << hex << bytes;
+    };
+    row("0a0B", "0a0b");
+    row("0x0a 0X0b", "0a0b");
+    row("00x0", ""); // 0x in the middle of a byte
+    row("0a0", "");
+    row("0x", "");
+    row("0x0x0a", "");
+    row("0g", "");
+    row(QByteArray("\"0 a\""), "0a");
+    row(QByteArray("a5").repeated(65535), QByteArray("a5").repeated(65535));
+    row(QByteArray("5a").repeated(65536), "");
+}
+
+void TestConsole::bytesAreTaken()
+{
+    QFETCH(QByteArray, hex);
+    QFETCH(QByteArray, bytes);
+    const QByteArray answer = m_rig->ask("push 0200001f " + hex);
+    if (bytes.isEmpty()) {
+        QVERIFY2(answer.startsWith("error usage"), answer);
+    } else {
+        QCOMPARE(answer, QByteArray("ok"));
+        QCOMPARE(m_rig->panel->reports(), QList<QByteArray>{"200001f " + bytes});
+    }
 }
 
 void TestConsole::requestsAreRefused_data()
