@@ -1,7 +1,5 @@
 #include "emulator/keynames.h"
 
-#include <QStringList>
-
 const QVector<KeyName> &keyNames()
 {
     static const QVector<KeyName> names = {
@@ -13,29 +11,4 @@ const QVector<KeyName> &keyNames()
         {11, "in8", "IN 8", 13, 'I'},  {keyOk, "ok", "OK", -1, 0},        {keyEsc, "esc", "ESC", -1, 0},
     };
     return names;
-}
-
-std::optional<int> keyCode(const QString &text)
-{
-    for (const KeyName &key : keyNames()) {
-        if (text.compare(QLatin1String(key.name), Qt::CaseInsensitive) == 0)
-            return key.code;
-    }
-    bool isNumber = false;
-    const int code = text.toInt(&isNumber, 0);
-    if (!isNumber || code < 0 || code >= releasedBit)
-        return std::nullopt;
-    return code;
-}
-
-std::optional<QVector<int>> keyCodes(const QString &text)
-{
-    QVector<int> codes;
-    for (const QString &name : text.split('+')) {
-        const auto code = keyCode(name);
-        if (!code)
-            return std::nullopt;
-        codes.append(*code);
-    }
-    return codes;
 }

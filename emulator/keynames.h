@@ -2,9 +2,7 @@
 // each.
 #pragma once
 
-#include <QString>
 #include <QVector>
-#include <optional>
 
 struct KeyName {
     int code;
@@ -22,8 +20,3 @@ constexpr int releasedBit = 0x80;
 constexpr int ledCount = 16;
 
 const QVector<KeyName> &keyNames();
-
-/// The code of one key by its name or its number in decimal or 0x form.
-std::optional<int> keyCode(const QString &text);
-/// The codes of several keys joined by '+'.
-std::optional<QVector<int>> keyCodes(const QString &text);

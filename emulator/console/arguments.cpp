@@ -14,6 +14,15 @@ std::optional<qint64> number(const QString &text, qint64 least, qint64 most)
     return value;
 }
 
+std::optional<double> real(const QString &text, double least, double most)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    if (!isNumber || !(value >= least && value <= most)) // nan is not comparable
+        return std::nullopt;
+    return value;
+}
+
 std::optional<quint32> address(const QString &text)
 {
     bool isNumber = false;

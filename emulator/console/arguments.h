@@ -9,6 +9,8 @@ namespace arguments
 {
 /// A decimal or 0x number from least to most.
 std::optional<qint64> number(const QString &text, qint64 least, qint64 most);
+/// A number that may have a point, from least to most; neither "nan" nor "inf" is one.
+std::optional<double> real(const QString &text, double least, double most);
 /// A register address or flash address, always in hex, 0x or not.
 std::optional<quint32> address(const QString &text);
 /// Bytes in hex; blanks are let through, and 0x before a byte.

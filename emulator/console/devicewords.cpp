@@ -54,7 +54,9 @@ void env(Session &session, const QStringList &list)
             return session.fail("no such name: " + list[1]);
         session.print(QString::fromUtf8(values[name]));
     } else if (list.size() == 3 && list[0] == "set") {
-        if (list[1].contains('=') || list[2].contains('\n') ||
+        const bool isName = !list[1].trimmed().isEmpty() && list[1].trimmed() == list[1] &&
+                            !list[1].contains('=') && !list[1].contains('\n');
+        if (!isName || list[2].contains('\n') ||
             !hostlink::changeValue(file, list[1].toUtf8(), list[2].toUtf8()))
             return session.fail("cannot set " + list[1]);
     } else {

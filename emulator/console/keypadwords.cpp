@@ -11,6 +11,30 @@ constexpr int tapMs = 20;
 constexpr int holdMs = 3200;
 constexpr const char *nobodyReads = "nobody reads the keypad";
 
+/// The code of one key by its name or its number.
+std::optional<int> keyCode(const QString &text)
+{
+    for (const KeyName &key : keyNames()) {
+        if (text.compare(QLatin1String(key.name), Qt::CaseInsensitive) == 0)
+            return key.code;
+    }
+    const auto code = arguments::number(text, 0, releasedBit - 1);
+    return code ? std::optional<int>(int(*code)) : std::nullopt;
+}
+
+/// The codes of several keys joined by '+'.
+std::optional<QVector<int>> keyCodes(const QString &text)
+{
+    QVector<int> codes;
+    for (const QString &name : text.split('+')) {
+        const auto code = keyCode(name);
+        if (!code)
+            return std::nullopt;
+        codes.append(*code);
+    }
+    return codes;
+}
+
 void answer(Session &session, bool taken)
 {
     if (taken)
@@ -97,14 +121,14 @@ void leds(Session &session, const QStringList &list)
         session.print(session.emulator.keypad.ledText());
         return session.ok();
     }
-    bool isNumber = false;
-    const double seconds = list.value(1).toDouble(&isNumber);
-    if (list[0] != "--watch" || list.size() != 2 || !isNumber || seconds < 0)
+    constexpr int longestWatch = 24 * 3600;
+    const auto seconds = arguments::real(list.value(1), 0, longestWatch);
+    if (list[0] != "--watch" || list.size() != 2 || !seconds)
         return failUsage(session, "leds");
     printLeds(session);
     QObject::connect(&session.emulator.keypad, &Keypad::ledsChanged, session.request(),
                      [&session] { printLeds(session); });
-    QTimer::singleShot(int(seconds * 1000), session.request(), [&session] { session.ok(); });
+    QTimer::singleShot(int(*seconds * 1000), session.request(), [&session] { session.ok(); });
 }
 } // namespace
 

@@ -52,16 +52,15 @@ std::optional<QVector<session::Event>> readSession(Session &session, const QStri
 
 void replay(Session &session, const QStringList &list)
 {
-    bool isNumber = false;
-    const double speed = list.value(1, "1").toDouble(&isNumber);
     constexpr double slowest = 0.001, fastest = 100000;
-    if (list.isEmpty() || list.size() > 2 || !isNumber || speed < slowest || speed > fastest)
+    const auto speed = arguments::real(list.value(1, "1"), slowest, fastest);
+    if (list.isEmpty() || list.size() > 2 || !speed)
         return failUsage(session, "replay");
     const auto events = readSession(session, list[0]);
     if (!events)
         return;
     Emulator &emulator = session.emulator;
-    auto *replayer = new Replayer(emulator.keypad, emulator.device, *events, speed, session.request());
+    auto *replayer = new Replayer(emulator.keypad, emulator.device, *events, *speed, session.request());
     QObject::connect(replayer, &Replayer::ended, session.request(),
                      [&session, replayer](const QString &fault) {
                          session.print(QString("played %1 keys and %2 reports")

@@ -1,5 +1,7 @@
 #include "emulator/console/words.h"
 
+#include <QFileInfo>
+
 namespace
 {
 constexpr int callWidth = 44; ///< of the first column of the help
@@ -38,7 +40,10 @@ void changeFolder(Session &session, const QStringList &arguments)
 {
     if (arguments.size() != 1)
         return failUsage(session, "cd");
-    session.setFolder(session.absolutePath(arguments[0]));
+    const QString folder = session.absolutePath(arguments[0]);
+    if (!QFileInfo(folder).isDir())
+        return session.fail("no such folder: " + folder);
+    session.setFolder(folder);
     session.ok();
 }
 } // namespace

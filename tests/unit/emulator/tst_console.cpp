@@ -13,6 +13,7 @@ private slots:
     void cleanup() { m_rig.reset(); }
     void aKeyIsLetGoWithoutItsClient();
     void aKeyIsLetGoWithTheFocus();
+    void keysHaveNumbers();
     void anEndlessLineEndsItsClient();
     void aFollowerMustRead();
     void manyRequestsAtOnceAreAllAnswered();
@@ -71,6 +72,14 @@ void TestConsole::aKeyIsLetGoWithTheFocus()
     QTest::keyRelease(&window, Qt::Key_Return); // comes late: the key is up already
     QTest::keyClick(&window, Qt::Key_Return);
     QCOMPARE(keys(2), (QList<QByteArray>{okPressed, okReleased}));
+}
+
+void TestConsole::keysHaveNumbers()
+{
+    for (const char *same : {"key 010", "key 0xA", "key 10", "key in5"}) {
+        QCOMPARE(m_rig->ask(same), QByteArray("ok"));
+        QCOMPARE(keys(2), (QList<QByteArray>{"\n\1", "\x8a\1"}));
+    }
 }
 
 void TestConsole::anEndlessLineEndsItsClient()
@@ -163,6 +172,18 @@ void TestConsole::requestsAreRefused_data()
     row("screen FIFO", "no plain file");
     row("replay /dev/zero", "no plain file");
     row("replay LONG", "at most 64 MB");
+    row("replay SESSION nan", "usage");
+    row("replay SESSION inf", "usage");
+    row("leds --watch nan", "usage");
+    row("leds --watch 1e300", "usage");
+    row("leds --watch -1", "usage");
+    row("key 0b10", "no such key");
+    row("key 128", "no such key");
+    row("cd /nosuch", "no such folder");
+    row("cd LONG", "no such folder");
+    row("env set \"\" x", "cannot set");
+    row("env set \" a\" x", "cannot set");
+    row("env set a=b x", "cannot set");
 }
 
 void TestConsole::requestsAreRefused()
@@ -173,8 +194,10 @@ void TestConsole::requestsAreRefused()
     QCOMPARE(mkfifo(fifo, 0600), 0);
     QFile tooLong(m_rig->file("long"));
     QVERIFY(tooLong.open(QIODevice::WriteOnly) && tooLong.resize(65 * 1024 * 1024));
-    const QByteArray answer =
-        m_rig->ask(request.replace("FIFO", fifo).replace("LONG", tooLong.fileName().toUtf8()));
+    QFile session(m_rig->file("session"));
+    QVERIFY(session.open(QIODevice::WriteOnly));
+    request.replace("FIFO", fifo).replace("LONG", tooLong.fileName().toUtf8());
+    const QByteArray answer = m_rig->ask(request.replace("SESSION", session.fileName().toUtf8()));
     QVERIFY2(answer.startsWith("error ") && answer.contains(reason), answer);
 }
 
