@@ -1,5 +1,6 @@
 // The emulator's console client: one command, its output on stdout. Exit status 0, 1 with a reason on stderr,
 // 2 when no emulator answers.
+#include "emulator/defaultstate.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
 
@@ -12,13 +13,6 @@ namespace
 {
 constexpr int failedStatus = 1;
 constexpr int noEmulatorStatus = 2;
-
-std::string defaultState()
-{
-    const char *base = getenv("XDG_STATE_HOME");
-    const char *home = getenv("HOME");
-    return base && *base ? std::string(base) + "/fpd" : std::string(home ? home : "") + "/.local/state/fpd";
-}
 
 std::string quoted(const std::string &text)
 {

@@ -2,6 +2,7 @@
 
 #include "emulator/bootflag.h"
 #include "emulator/cabinetfiles.h"
+#include "emulator/defaultstate.h"
 #include "emulator/diskimage.h"
 #include "fpd_hostlink.h"
 
@@ -56,12 +57,23 @@ StateFolder::StateFolder(const QString &path)
 
 QString StateFolder::defaultPath()
 {
-    const QString base = qEnvironmentVariable("XDG_STATE_HOME", QDir::homePath() + "/.local/state");
-    return base + "/fpd";
+    return QFile::decodeName(defaultState().c_str());
+}
+
+bool StateFolder::isForeign() const
+{
+    const QDir folder(m_path);
+    for (const char *own : {"/emulator.lock", hostlink::flashFile, hostlink::lcdFile})
+        if (QFile::exists(file(own)))
+            return false;
+    return folder.exists() &&
+           !folder.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 QString StateFolder::take()
 {
+    if (isForeign())
+        return m_path + " is no state folder: it holds other files";
     if (!QDir().mkpath(m_path) || chmod(QFile::encodeName(m_path).constData(), 0700) != 0)
         return "cannot make the state folder " + m_path;
     if (m_lock.tryLock())

@@ -13,7 +13,8 @@ public:
     /// The folder that is used without --state.
     static QString defaultPath();
 
-    /// Makes the folder and takes it. Empty, or what went wrong.
+    /// Makes the folder and takes it; a folder with other things in it is left alone. Empty, or what went
+    /// wrong.
     QString take();
     /// Puts the board's files there that are not there yet; translations are always renewed. Empty, or what
     /// went wrong.
@@ -25,6 +26,9 @@ public:
     QString file(const char *name) const { return m_path + QLatin1String(name); }
 
 private:
+    /// There is something in the folder, and nothing that an emulator has left.
+    bool isForeign() const;
+
     QString m_path;
     QLockFile m_lock;
 };

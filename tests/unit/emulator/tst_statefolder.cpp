@@ -19,6 +19,11 @@ private slots:
     void aFullDiskIsToldAsOne();
     void aSecondEmulatorIsRefused();
     void aDarkLcdIsMadeWhole();
+    void otherFoldersAreLeftAlone_data();
+    void otherFoldersAreLeftAlone();
+    void aForeignFlashImageIsLeftAlone();
+    void theDefaultIsTheUsersOwn_data();
+    void theDefaultIsTheUsersOwn();
     void imagesTakeUpTheirRoom();
 
 private:
@@ -65,6 +70,65 @@ void TestStateFolder::aDarkLcdIsMadeWhole()
         QCOMPARE(StateFolder(path()).install(), QString());
         QCOMPARE(QFileInfo(m_folder->filePath("lcd.fb")).size(), qint64(hostlink::lcdFileSize));
     }
+}
+
+void TestStateFolder::otherFoldersAreLeftAlone_data()
+{
+    QTest::addColumn<QString>("holds");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("nothing") << "" << true;
+    QTest::newRow("a device") << "flash.img" << true;
+    QTest::newRow("a device without its flash") << "lcd.fb" << true;
+    QTest::newRow("the lock of a crash") << "emulator.lock" << true;
+    QTest::newRow("a letter") << "letter.txt" << false;
+    QTest::newRow("something hidden") << ".profile" << false;
+}
+
+void TestStateFolder::otherFoldersAreLeftAlone()
+{
+    QFETCH(QString, holds);
+    QFETCH(bool, isTaken);
+    QCOMPARE(chmod(qPrintable(path()), 0755), 0);
+    if (!holds.isEmpty())
+        put(holds, "999999999\nfpd-emulator\n\n"); // as a lock, that of a process that is no more
+    StateFolder folder(path());
+    QCOMPARE(folder.take().isEmpty(), isTaken);
+    struct stat status {
+    };
+    QCOMPARE(stat(qPrintable(path()), &status), 0);
+    QCOMPARE(status.st_mode & 0777, isTaken ? 0700u : 0755u);
+}
+
+void TestStateFolder::aForeignFlashImageIsLeftAlone()
+{
+    for (const QByteArray &content : {QByteArray("a book"), QByteArray(int(hostlink::flashSize), 'x')}) {
+        put("flash.img", content);
+        QVERIFY(FlashImage(path()).install().contains("no flash image of this device"));
+        QFile image(m_folder->filePath("flash.img"));
+        QVERIFY(image.open(QIODevice::ReadOnly));
+        QVERIFY(image.readAll() == content);
+    }
+}
+
+void TestStateFolder::theDefaultIsTheUsersOwn_data()
+{
+    QTest::addColumn<QByteArray>("setting"); // null: none
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("none") << QByteArray() << "/home/someone/.local/state/fpd";
+    QTest::newRow("empty") << QByteArray("") << "/home/someone/.local/state/fpd";
+    QTest::newRow("relative") << QByteArray("state") << "/home/someone/.local/state/fpd";
+    QTest::newRow("absolute") << QByteArray("/states") << "/states/fpd";
+}
+
+void TestStateFolder::theDefaultIsTheUsersOwn()
+{
+    QFETCH(QByteArray, setting);
+    qputenv("HOME", "/home/someone");
+    if (setting.isNull())
+        qunsetenv("XDG_STATE_HOME");
+    else
+        qputenv("XDG_STATE_HOME", setting);
+    QTEST(StateFolder::defaultPath(), "folder");
 }
 
 void TestStateFolder::imagesTakeUpTheirRoom()
