@@ -72,6 +72,14 @@ Reports obeySync(Registers &registers, const RegisterRow &row, int member, const
     return reports + followSync(registers, before);
 }
 
+/// The mode itself is not told: a report of it asks for a change of mode. What it does to the output is.
+Reports obeyWorkMode(Registers &registers, const RegisterRow &row, int member, const Write &write)
+{
+    const VideoMode before = inForce(registers);
+    obey::store(registers, row, member, write);
+    return followSync(registers, before);
+}
+
 Reports allReports(const Registers &registers)
 {
     QByteArray record(registers.read(recordRegister, recordLength));
@@ -173,7 +181,8 @@ Subject outputSubject()
              {output::softwareRegister, output::sizeLength, 1, 0, output::obeySize},
              {output::modeRegister, 1, 1, 0, output::obeyMode},
              {output::displayRegister, 2, 1, 0, output::obeyDisplay},
-             {output::syncRegister, 2, 1, 0, output::obeySync}},
+             {output::syncRegister, 2, 1, 0, output::obeySync},
+             {output::workModeRegister, 1, 1, 0, output::obeyWorkMode}},
             output::allReports,
             output::describe};
 }

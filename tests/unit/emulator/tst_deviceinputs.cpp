@@ -17,6 +17,7 @@ private slots:
     void modes();
     void outputFollowsItsSource();
     void softwareTakesTheOutputOver();
+    void aSendingCardFollowsTheReference();
     void sourceTakesTheNewEdid();
     void mosaicLivesOnItsParts();
     void portsTellWhatConcernsThem_data();
@@ -141,6 +142,21 @@ void TestDeviceInputs::softwareTakesTheOutputOver()
     reports = rig.write(0x13041401, "000500038813");
     QCOMPARE(ModelRig::hexOf(reports, 0x13040003), QByteArray("000500038813"));
     QVERIFY(!ModelRig::find(reports, 0x13041401));
+}
+
+void TestDeviceInputs::aSendingCardFollowsTheReference()
+{
+    ModelRig rig;
+    inputs::setSignal(rig.model.registers(), inputs::reference, live("1920x1080@50"));
+    rig.write(0x1300002A, "0102"); // to HDMI 2, where nothing is plugged in
+    QVERIFY(rig.write(0x1300002C, "00").isEmpty());
+    Reports reports = rig.write(0x1300002C, "10");
+    QCOMPARE(ModelRig::hexOf(reports, 0x1300009D), QByteArray("02"));
+    QCOMPARE(ModelRig::hexOf(reports, 0x13040003), QByteArray("800738048813"));
+    QVERIFY(!ModelRig::find(reports, 0x1300002C));
+    reports = rig.write(0x1300002C, "00");
+    QCOMPARE(ModelRig::hexOf(reports, 0x1300009D), QByteArray("04"));
+    QCOMPARE(ModelRig::hexOf(reports, 0x13040003), QByteArray("800738047017"));
 }
 
 void TestDeviceInputs::sourceTakesTheNewEdid()
