@@ -46,6 +46,7 @@ constexpr Mirror mirrors[] = {
     {sender, 0x13010001, 9 * 32, 0xE00000}, // input records
     {sender, 0x13060000, 48, 0xE00200},     // input mosaic
     {sender, 0x13411000, 64, 0xE00300},     // OSD
+    {sender, 0xF0010001, 9 * 32, 0xE00400}, // what was plugged in last
     {sender, 0x13412000, 8, 0xE00380},      // OSD pictures
     {sender, 0x02000000, 0x200, 0xE01000},  // ports and switches of the sending card
     {sender, 0x02100006, 4, 0xE01200},      // cabinet size

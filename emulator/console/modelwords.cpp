@@ -34,7 +34,7 @@ void signalWord(Session &session, const QStringList &list)
         return failUsage(session, "signal");
     inputs::Signal signal = inputs::signalOf(registers, input);
     if (!signal.stable)
-        signal = inputs::Signal();
+        signal = inputs::lastSignal(registers, input);
     signal.stable = *on;
     for (const QString &text : list.mid(2)) {
         const auto mode = VideoMode::parse(text);

@@ -9,6 +9,8 @@ namespace
 {
 constexpr quint32 firstRecord = 0x13010001;
 constexpr int recordLength = 32;
+/// What was plugged in last, a record an input: the device's own notes, which no panel asks for.
+constexpr quint32 firstLastRecord = 0xF0010001;
 constexpr quint32 edidRegister = 0x13014200;
 constexpr int edidLength = 8;
 constexpr quint32 mosaicRegister = 0x13060000;
@@ -37,11 +39,27 @@ constexpr Name names[count] = {
 
 constexpr const char *samplingNames[] = {"rgb444", "ycc422", "ycc444"};
 
+quint32 lastAddress(int input)
+{
+    return firstLastRecord + recordLength * quint32(input);
+}
+
 /// From a rate in hundredths of a hertz to a period in microseconds, and the other way.
 int turnedOver(int value)
 {
     constexpr int microCenti = 100000000;
     return value == 0 ? 0 : (microCenti + value / 2) / value;
+}
+
+Signal signalAt(const Registers &registers, quint32 address)
+{
+    const Block block(registers.read(address, recordLength), recordLength);
+    Signal signal;
+    signal.stable = block.u8(recordState) == stableState;
+    signal.mode = {block.u16(recordWidth), block.u16(recordHeight), turnedOver(block.u16(recordPeriod)),
+                   block.u8(recordInterlace) != 0};
+    signal.sampling = Sampling(qMin(block.u8(recordSampling), int(Sampling::ycc444)));
+    return signal;
 }
 
 /// Where the two parts of the mosaic are live, the mosaic is.
@@ -156,17 +174,23 @@ std::optional<Sampling> samplingByName(const QString &name)
 
 Signal signalOf(const Registers &registers, int input)
 {
-    const Block block(registers.read(recordAddress(input), recordLength), recordLength);
-    Signal signal;
-    signal.stable = block.u8(recordState) == stableState;
-    signal.mode = {block.u16(recordWidth), block.u16(recordHeight), turnedOver(block.u16(recordPeriod)),
-                   block.u8(recordInterlace) != 0};
-    signal.sampling = Sampling(qMin(block.u8(recordSampling), int(Sampling::ycc444)));
+    return signalAt(registers, recordAddress(input));
+}
+
+Signal lastSignal(const Registers &registers, int input)
+{
+    Signal signal = signalAt(registers, lastAddress(input));
+    if (!signal.stable)
+        return Signal();
+    signal.stable = false;
     return signal;
 }
 
 Reports setSignal(Registers &registers, int input, const Signal &signal)
 {
+    const Signal was = signalOf(registers, input);
+    if (was.stable && !signal.stable)
+        registers.write(lastAddress(input), record(input, was));
     const VideoMode before = output::inForce(registers);
     Reports reports = storeRecord(registers, input, signal);
     if (input != mosaic)

@@ -41,6 +41,9 @@ int codeOf(int input);
 std::optional<Sampling> samplingByName(const QString &name);
 
 Signal signalOf(const Registers &registers, int input);
+/// What was plugged in before the input was last without a signal: not live, 1920x1080@60 if there was
+/// nothing.
+Signal lastSignal(const Registers &registers, int input);
 /// What happens when a source is plugged in, pulled or changed: the input's record and what follows from it.
 Reports setSignal(Registers &registers, int input, const Signal &signal);
 /// The record of an input as the flash and the reports hold it.

@@ -29,7 +29,8 @@ private slots:
         row("signal sdi on 1920x1080i@50 ycc422", "  sdi: 1920x1080i@50 ycc422");
         row("signal sdi on", "  sdi: 1920x1080i@50 ycc422");
         row("signal sdi off", "  sdi: no signal");
-        row("signal sdi on", "  sdi: 1920x1080@60 rgb444");
+        row("signal sdi on", "  sdi: 1920x1080i@50 ycc422");
+        row("signal dvi on", "  dvi: 1920x1080@60 rgb444");
         row("signal reference on 1920x1080@59.94", "  reference: 1920x1080@59.94 rgb444");
         row("port 6 link on", "  port 6: link on, backup off, engaged off");
         row("port 6 backup on", "  port 6: link on, backup on, engaged off");

@@ -83,8 +83,12 @@ void TestDeviceInputs::records()
     QCOMPARE(ModelRig::hexOf(reports, inputs::recordAddress(input)).left(18),
              QByteArray::fromHex(record).toHex());
     QCOMPARE(inputs::signalOf(rig.model.registers(), input).stable, signal.stable);
-    if (signal.stable)
+    if (signal.stable) {
         QCOMPARE(inputs::signalOf(rig.model.registers(), input).mode.text(), mode);
+        inputs::setSignal(rig.model.registers(), input, Signal());
+        inputs::setSignal(rig.model.registers(), input, Signal()); // pulled and pulled
+        QCOMPARE(inputs::lastSignal(rig.model.registers(), input).mode.text(), mode);
+    }
 }
 
 void TestDeviceInputs::modes_data()
