@@ -57,6 +57,7 @@ public:
 
     /// The packets of a PC's session, once a second.
     void setHeartbeat(bool on);
+    bool hasHeartbeat() const { return m_heartbeat.isActive(); }
 
 signals:
     void written(const RegisterWrite &write);

@@ -6,6 +6,8 @@
 #include "emulator/model/ports.h"
 #include "emulator/model/presets.h"
 #include "emulator/model/service.h"
+#include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 
 #include <QtEndian>
 
@@ -70,11 +72,26 @@ void preset(Session &session, const QStringList &list)
     session.ok();
 }
 
+/// What the panel is told past the bus, and the PC at the other end.
+QStringList describeCables(const Emulator &emulator)
+{
+    const auto values = hostlink::readValues(emulator.folder.file(hostlink::linkFile));
+    const auto line = [&values](const char *what, const char *name) {
+        return QString("  %1: %2").arg(what).arg(values.value(name).toInt());
+    };
+    return {"cables",
+            line("USB cable", hostlink::linkUsb),
+            line("Ethernet cable", hostlink::linkEthernet),
+            line("loop cable", hostlink::linkLoop),
+            line("priority of the PC", hostlink::linkPriority),
+            "  heartbeat: " + onOff(emulator.device.hasHeartbeat())};
+}
+
 void device(Session &session, const QStringList &list)
 {
     if (list != QStringList{"show"})
         return failUsage(session, "device");
-    for (const QString &line : session.emulator.device.model().describe())
+    for (const QString &line : session.emulator.device.model().describe() + describeCables(session.emulator))
         session.print(line);
     session.ok();
 }

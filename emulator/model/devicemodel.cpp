@@ -24,9 +24,9 @@ constexpr Elsewhere elsewhere[] = {
 const QVector<Subject> &allSubjects()
 {
     static const QVector<Subject> subjects = {
-        inputsSubject(), outputSubject(),   screenSubject(),  portsSubject(), layersSubject(),
-        cropsSubject(),  picturesSubject(), audioSubject(),   osdSubject(),   networkSubject(),
-        stereoSubject(), presetsSubject(),  serviceSubject(),
+        inputsSubject(), outputSubject(),   screenSubject(), portsSubject(), layersSubject(),
+        cropsSubject(),  picturesSubject(), audioSubject(),  osdSubject(),   networkSubject(),
+        stereoSubject(), presetsSubject(),  backupSubject(), fiberSubject(), serviceSubject(),
     };
     return subjects;
 }

@@ -122,6 +122,25 @@ Reports allReports(const Registers &registers)
     return list;
 }
 
+QString edidText(const Registers &registers)
+{
+    const Block edid(registers.read(edidRegister, edidLength), edidLength);
+    const VideoMode mode{edid.u16(edidWidth), edid.u16(edidHeight), edid.u16(edidRate), false};
+    return mode.width == 0 ? QString("none") : nameOf(byCode(edid.u8(edidCode))) + (' ' + mode.text());
+}
+
+QString mosaicText(const Registers &registers)
+{
+    const Block block(registers.read(mosaicRegister, mosaicLength), mosaicLength);
+    if (block.u16(mosaicWidth) == 0)
+        return "none";
+    return QString("%1 and %2, %3x%4 each, %5")
+        .arg(nameOf(byCode(block.u8(mosaicFirstCode))), nameOf(byCode(block.u8(mosaicSecondCode))))
+        .arg(block.u16(mosaicWidth))
+        .arg(block.u16(mosaicHeight))
+        .arg(block.u8(mosaicColumns) == 2 ? "side by side" : "one above the other");
+}
+
 QStringList describe(const Registers &registers)
 {
     QStringList lines;
@@ -131,7 +150,8 @@ QStringList describe(const Registers &registers)
         const QString text = signal.stable ? signal.mode.text() + ' ' + sampling : QString("no signal");
         lines.append(QString("%1: %2").arg(nameOf(input), text));
     }
-    return lines;
+    return lines +
+           QStringList{"parts of the mosaic: " + mosaicText(registers), "last EDID: " + edidText(registers)};
 }
 } // namespace
 

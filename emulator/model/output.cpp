@@ -11,8 +11,11 @@ constexpr quint32 ownRegister = 0x13040003;      ///< width, height, rate
 constexpr quint32 recordRegister = 0x13040010;   ///< the same at an offset, for a sending card
 constexpr quint32 softwareRegister = 0x13041401; ///< width, height, rate
 constexpr quint32 modeRegister = 0x13042007;
+constexpr quint32 transitionRegister = 0x13000001; ///< fade or cut, then its time
 constexpr quint32 displayRegister = 0x13000004;
-constexpr quint32 syncRegister = 0x1300002A; ///< switch, then the source's number + 1
+constexpr quint32 blackTimeRegister = 0x13000033;
+constexpr quint32 patternRegister = 0x13000042; ///< brightness, spacing, speed
+constexpr quint32 syncRegister = 0x1300002A;    ///< switch, then the source's number + 1
 constexpr quint32 workModeRegister = 0x1300002C;
 constexpr quint32 genlockRegister = 0x1300009D;
 constexpr int sendingCard = 16; ///< work mode in which only the reference counts
@@ -115,18 +118,37 @@ QString genlockText(int state)
     }
 }
 
+QString secondsText(const Registers &registers, quint32 address)
+{
+    constexpr double hundredths = 100;
+    return QString::number(registers.u16(address) / hundredths) + " s";
+}
+
+QStringList describeTransitions(const Registers &registers)
+{
+    return {QString("transition: %1, ").arg(registers.u8(transitionRegister) ? "fade" : "cut") +
+                secondsText(registers, transitionRegister + 1),
+            "time to black: " + secondsText(registers, blackTimeRegister),
+            QString("test picture: brightness %1, spacing %2, speed %3")
+                .arg(registers.u8(patternRegister))
+                .arg(registers.u8(patternRegister + 1))
+                .arg(registers.u8(patternRegister + 2))};
+}
+
 QStringList describe(const Registers &registers)
 {
     const Output state = read(registers);
     const QString source = inputs::nameOf(state.syncSource);
-    return {"output: " + inForce(registers).text(),
-            "output mode: " + QString(state.followsSoftware ? "software configuration" : "device"),
-            "size of the device: " + state.own.text(),
-            "size of the software configuration: " + state.software.text(),
-            "display: " + displayText(state.displayMode),
-            QString("test pattern: %1").arg(state.testPattern, 2, 16, QChar('0')),
-            "sync: " + onOff(state.syncOn) + " to " + source,
-            "genlock: " + genlockText(registers.u8(genlockRegister))};
+    const QStringList lines = {"output: " + inForce(registers).text(),
+                               "output mode: " +
+                                   QString(state.followsSoftware ? "software configuration" : "device"),
+                               "size of the device: " + state.own.text(),
+                               "size of the software configuration: " + state.software.text(),
+                               "display: " + displayText(state.displayMode),
+                               QString("test pattern: %1").arg(state.testPattern, 2, 16, QChar('0')),
+                               "sync: " + onOff(state.syncOn) + " to " + source,
+                               "genlock: " + genlockText(registers.u8(genlockRegister))};
+    return lines + describeTransitions(registers);
 }
 } // namespace
 

@@ -17,7 +17,14 @@ constexpr quint32 splicingRegister = 0x13000053;
 constexpr quint32 portRegister = 0x02810016; ///< rows and columns, one record a port; the first is quick form
 constexpr quint32 portStride = 64;
 constexpr int portRecords = 11;
+constexpr quint32 placeOffset = 4;            ///< in a port's record: x, then y
+constexpr quint32 routeRegister = 0x02810011; ///< how the data flows, as the records of the ports
+constexpr quint32 quickCabinetsRegister = 0x02810018;
+constexpr quint32 advancedRegister = 0x02810000;
+constexpr quint32 mappingRegister = 0x01000088;
+constexpr int mappingOn = 5;
 constexpr quint32 brightnessRegister = 0x02000001;
+constexpr quint32 coloursRegister = 0x02000002; ///< red, green, blue
 constexpr quint32 gammaRegister = 0x02000000;
 
 // Offsets in the load area.
@@ -43,8 +50,33 @@ QStringList describePorts(const Registers &registers)
         const QString name = port == 0 ? QString("quick form") : QString("port %1").arg(port);
         if (rows > 0 || columns > 0)
             lines.append(QString("%1: %2 rows, %3 columns").arg(name).arg(rows).arg(columns));
+        if (port > 0 && (rows > 0 || columns > 0))
+            lines.append(QString("place of %1: %2,%3, flow way %4")
+                             .arg(name)
+                             .arg(registers.u16(address + placeOffset))
+                             .arg(registers.u16(address + placeOffset + 2))
+                             .arg(registers.u8(routeRegister + portStride * port)));
     }
     return lines;
+}
+
+QStringList describeCards(const Registers &registers)
+{
+    const QByteArray colours = registers.read(receivingCard, coloursRegister, 3);
+    const int mapping = quint8(registers.read(receivingCard, mappingRegister, 1)[0]);
+    return {QString("colours: red %1, green %2, blue %3")
+                .arg(quint8(colours[0]))
+                .arg(quint8(colours[1]))
+                .arg(quint8(colours[2])),
+            "mapping: " + onOff(mapping == mappingOn)};
+}
+
+QStringList describeConfiguration(const Registers &registers)
+{
+    return {QString("quick configuration: %1 cabinets on the first port, flow way %2")
+                .arg(registers.u16(quickCabinetsRegister))
+                .arg(registers.u8(routeRegister)),
+            "advanced configuration: " + onOff(registers.u8(advancedRegister) == deviceOn)};
 }
 
 QStringList describe(const Registers &registers)
@@ -59,7 +91,7 @@ QStringList describe(const Registers &registers)
             .arg(quint8(registers.read(receivingCard, gammaRegister, 1)[0]) / 10.0, 0, 'f', 1),
         "splicing: " + onOff(registers.u8(splicingRegister) == deviceOn),
         QString("load area: %1x%2 at %3,%4").arg(area.width).arg(area.height).arg(area.x).arg(area.y)};
-    return lines + describePorts(registers);
+    return lines + describeCards(registers) + describeConfiguration(registers) + describePorts(registers);
 }
 } // namespace
 

@@ -19,7 +19,7 @@ constexpr quint32 calibrationRegister = 0x0200009C;
 constexpr quint32 lowLatencyRegister = 0x02000074;
 constexpr quint32 workModeRegister = 0x1300002C;
 constexpr quint32 fiberRegister = 0x020001DF;
-constexpr quint32 backupSwitchRegister = 0x13120000;
+constexpr quint32 communicationRegister = 0x022000C0; ///< 0: USB goes before LAN
 
 constexpr quint32 renamedFlash = 0xD14000;
 constexpr quint32 nameFlash = 0xD14100;
@@ -27,7 +27,6 @@ constexpr int nameUnits = 32;
 constexpr char renamedMark = char(0x9A);
 
 constexpr int lowLatencyOn = 120;
-constexpr int backupOn = 0x5B;
 constexpr int sendingCard = 16;
 
 // How long the device takes.
@@ -103,10 +102,11 @@ QString workModeText(const Registers &registers)
 
 QStringList describe(const Registers &registers)
 {
-    return {"name: " + nameOf(registers.flash()), "work mode: " + workModeText(registers),
-            "low latency: " + onOff(registers.u8(lowLatencyRegister) == lowLatencyOn),
-            "soft calibration: " + onOff(registers.u8(calibrationRegister) == deviceOn),
-            "input backup: " + onOff(registers.u8(backupSwitchRegister) == backupOn)};
+    return {
+        "name: " + nameOf(registers.flash()), "work mode: " + workModeText(registers),
+        "low latency: " + onOff(registers.u8(lowLatencyRegister) == lowLatencyOn),
+        "soft calibration: " + onOff(registers.u8(calibrationRegister) == deviceOn),
+        QString("communication: %1 preferred").arg(registers.u8(communicationRegister) == 0 ? "USB" : "LAN")};
 }
 } // namespace
 

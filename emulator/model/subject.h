@@ -77,4 +77,6 @@ Subject osdSubject();
 Subject stereoSubject();
 Subject screenSubject();
 Subject presetsSubject();
+Subject backupSubject();
+Subject fiberSubject();
 Subject serviceSubject();

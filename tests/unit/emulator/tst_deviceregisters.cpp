@@ -7,6 +7,8 @@ class TestDeviceRegisters : public QObject
 private slots:
     void writesReachFlashAndReports_data();
     void writesReachFlashAndReports();
+    void whatIsWrittenIsShown_data();
+    void whatIsWrittenIsShown();
     void whatStaysTheSameIsNotTold();
     void aSourceLeavesThePriorityAlone();
     void onlyTheCropOnTheWallIsTold();
@@ -91,6 +93,49 @@ void TestDeviceRegisters::writesReachFlashAndReports()
     QCOMPARE(reports.isEmpty(), reportAddress == 0);
     if (reportAddress != 0)
         QCOMPARE(ModelRig::hexOf(reports, reportAddress), reportBytes);
+}
+
+void TestDeviceRegisters::whatIsWrittenIsShown_data()
+{
+    QTest::addColumn<uint>("address");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("deviceType");
+    QTest::addColumn<QString>("line");
+    const auto row = [](uint address, const char *bytes, const char *line, int deviceType = sendingSide) {
+        QTest::newRow(line) << address << QByteArray(bytes) << deviceType << QString(line);
+    };
+    row(0x13000001, "00", "transition: cut, 0.5 s");
+    row(0x13000002, "4b00", "transition: fade, 0.75 s");
+    row(0x13000033, "c800", "time to black: 2 s");
+    row(0x13000042, "090807", "test picture: brightness 9, spacing 8, speed 7");
+    row(0x13014200, "1201000a40067017", "last EDID: hdmi2 2560x1600@60");
+    row(0x13060010, "1100000000008007380400000000000030",
+        "parts of the mosaic: hdmi1 and sdi, 1920x1080 each, one above the other");
+    row(0x13120010, "11001201", "partner of hdmi1: hdmi2");
+    row(0x13120014, "69006a01", "partner of dvi: dvi2");
+    row(0x13120010, "1100ff01", "partner of hdmi1: none");
+    row(0x0200009D, "a5", "role of the device: backup");
+    row(0x020001D7, "02", "OPT 2: link on, no ports");
+    row(0x020001DA, "04", "OPT 2 mode: copy");
+    row(0x02000002, "010203", "colours: red 1, green 2, blue 3", receivingCard);
+    row(0x01000088, "05", "mapping: on", receivingCard);
+    row(0x02810018, "1000", "quick configuration: 16 cabinets on the first port, flow way 0");
+    row(0x02810011, "03", "quick configuration: 0 cabinets on the first port, flow way 3");
+    row(0x02810000, "a8", "advanced configuration: on");
+    row(0x02810096, "02030600f401c800", "place of port 2: 500,200, flow way 0");
+    row(0x022000C0, "01", "communication: LAN preferred");
+}
+
+void TestDeviceRegisters::whatIsWrittenIsShown()
+{
+    QFETCH(uint, address);
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, deviceType);
+    QFETCH(QString, line);
+    ModelRig rig;
+    QVERIFY(!rig.model.describe().contains("  " + line) || line.endsWith("none"));
+    rig.write(address, bytes, quint8(deviceType));
+    QVERIFY2(rig.model.describe().contains("  " + line), qPrintable(rig.model.describe().join('\n')));
 }
 
 void TestDeviceRegisters::whatStaysTheSameIsNotTold()
@@ -179,6 +224,8 @@ void TestDeviceRegisters::aReportFromOutsideIsHeld()
     ModelRig rig;
     rig.model.adopt({0x0200001F, QByteArray::fromHex("03")});
     QCOMPARE(rig.shown("port 3"), QString("port 3: link off, backup off, engaged off"));
+    rig.model.adopt({0x020001F2, QByteArray::fromHex("8102")});
+    QCOMPARE(rig.shown("OPT 1"), QString("OPT 1: link off, ports 1 8 10"));
     rig.model.adopt({0x13019025, QByteArray::fromHex("02")});
     QCOMPARE(rig.shown("sound of hdmi2"), QString("sound of hdmi2: audio in"));
     const QByteArray before = rig.model.registers().read(0x020001F0, 8);
