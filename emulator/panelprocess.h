@@ -18,7 +18,6 @@ public:
     void stop();
     void kill();
     bool isRunning() const { return m_process && m_process->state() != QProcess::NotRunning; }
-    qint64 processId() const { return m_process ? m_process->processId() : 0; }
 
     /// The debug stream since the emulator's start, oldest first.
     const QStringList &log() const { return m_log; }

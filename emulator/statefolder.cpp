@@ -18,8 +18,8 @@ constexpr const char *configFolder = "/usr/vask/etc/fpd/config";
 constexpr const char *logoFolder = "/usr/vask/etc/logo";
 
 constexpr const char *boardFolders[] = {
-    configFolder, logoFolder, "/usr/vask/etc/fpd/cabCfg", "/usr/vask/etc/osd", "/etc/init.d", "/root",
-    "/run",       "/fault",   hostlink::toolFolder,
+    configFolder, logoFolder, cabinetFolder, "/usr/vask/etc/osd",  "/etc/init.d",
+    "/root",      "/run",     "/fault",      hostlink::toolFolder,
 };
 
 // All of them give an empty text, or what went wrong.

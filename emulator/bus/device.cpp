@@ -34,7 +34,6 @@ Device::Device(const QString &stateFolder, QObject *parent)
     connect(&m_server, &PacketServer::connected, this, [this] {
         ++m_clients;
         m_startReports.start();
-        emit joined();
     });
     connect(&m_server, &PacketServer::disconnected, this, [this] { --m_clients; });
     m_startReports.setSingleShot(true);

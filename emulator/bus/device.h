@@ -61,7 +61,6 @@ public:
 
 signals:
     void written(const RegisterWrite &write);
-    void joined();
     // All of these when a panel has taken it, so that what is tried again is told once.
     /// A report; an answer is what a write of the panel has led to.
     void reported(const Report &report, bool isAnswer);

@@ -47,10 +47,3 @@ void Registers::setU8(quint32 address, int value)
 {
     write(address, QByteArray(1, char(value)));
 }
-
-void Registers::setU16(quint32 address, int value)
-{
-    QByteArray bytes(2, 0);
-    qToLittleEndian(quint16(value), bytes.data());
-    write(address, bytes);
-}

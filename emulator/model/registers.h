@@ -29,7 +29,6 @@ public:
     int u8(quint32 address) const;
     int u16(quint32 address) const;
     void setU8(quint32 address, int value);
-    void setU16(quint32 address, int value);
 
     /// Forgets what the flash does not hold.
     void powerOff() { m_volatile.clear(); }
