@@ -1,11 +1,14 @@
 #include "emulator/bus/plausibledevice.h"
 
+#include "emulator/bus/flashmap.h"
 #include "emulator/model/block.h"
+#include "emulator/model/crops.h"
+#include "emulator/model/devicename.h"
 #include "emulator/model/inputs.h"
 #include "emulator/model/layers.h"
 #include "emulator/model/pictures.h"
 #include "emulator/model/presets.h"
-#include "emulator/model/service.h"
+#include "emulator/model/registermap.h"
 
 namespace
 {
@@ -15,14 +18,9 @@ constexpr int rateCentiHz = 6000;
 constexpr int pipWidth = 480;
 constexpr int pipHeight = 270;
 
-// Offsets in a preset's record and in the live one.
-constexpr int windowsOffset = 0x400;
-constexpr int picturesOffset = 0x600;
-constexpr int cropsOffset = 0xA00;
-
 QByteArray deviceBlock()
 {
-    Block block(161);
+    Block block(flashmap::deviceLength);
     block.u8(1, 1).u16(2, 50);                                   // fade, 0.5 s
     block.u8(4, 3).u8(5, 5);                                     // normal display, test pattern
     block.u16(6, 192).u16(8, 168).u16(10, 0).u16(12, 10);        // address
@@ -55,7 +53,7 @@ QByteArray windowsBlock(bool withPip)
     list[0] = {true, inputs::hdmi1, 0, 0, 0, wallWidth, wallHeight, 100};
     list[1] = {withPip, inputs::hdmi1, 1, 0, 0, pipWidth, pipHeight, 100};
     list[2] = {false, inputs::hdmi1, 2, pipWidth, 0, pipWidth, pipHeight, 100};
-    QByteArray block(160, 0);
+    QByteArray block(flashmap::windowsLength, 0);
     for (int layer = 0; layer < layers::count; ++layer)
         block.replace(first + layers::recordLength * layer, layers::recordLength,
                       layers::record(list[layer]));
@@ -69,16 +67,16 @@ QByteArray picturesBlock(int brightness)
     picture.brightness = brightness;
     for (int record = 0; record < pictures::count; ++record)
         block += pictures::bytes(record, picture);
-    return block.leftJustified(160, '\0');
+    return block.leftJustified(flashmap::picturesLength, '\0');
 }
 
 QByteArray cropsBlock()
 {
-    Block block(412);
-    for (int layer = 0; layer < 3; ++layer) {
-        for (int input = 0; input < 5; ++input) {
-            const int at = 0x14 + 132 * layer + 16 * input;
-            if (at + 11 <= 412)
+    Block block(flashmap::cropsLength);
+    for (int layer = 0; layer < layers::count; ++layer) {
+        for (int input = 0; input <= inputs::dvi2; ++input) {
+            const int at = int(crops::recordAddress(layer, input) - crops::firstRegister);
+            if (at + crops::recordLength <= flashmap::cropsLength)
                 block.u16(at + 7, wallWidth).u16(at + 9, wallHeight);
         }
     }
@@ -89,16 +87,16 @@ QByteArray cropsBlock()
 QByteArray wallRecord(bool withPip = false, int brightness = 50)
 {
     QByteArray bytes(presets::recordLength, 0);
-    for (const auto &part : {std::make_pair(windowsOffset, windowsBlock(withPip)),
-                             std::make_pair(picturesOffset, picturesBlock(brightness)),
-                             std::make_pair(cropsOffset, cropsBlock())})
+    for (const auto &part : {std::make_pair(flashmap::windowsOffset, windowsBlock(withPip)),
+                             std::make_pair(flashmap::picturesOffset, picturesBlock(brightness)),
+                             std::make_pair(flashmap::cropsOffset, cropsBlock())})
         bytes.replace(part.first, part.second.size(), part.second);
     return bytes;
 }
 
 QByteArray outputBlock()
 {
-    return Block(16)
+    return Block(flashmap::outputLength)
         .u16(3, wallWidth)
         .u16(5, wallHeight)
         .u16(7, rateCentiHz)
@@ -109,10 +107,11 @@ QByteArray outputBlock()
 
 QByteArray inputsBlock()
 {
-    Block block(64);
-    block.u8(48, 1);
-    for (int input = 0; input < 8; ++input)
-        block.u8(49 + 2 * input, input < 2 ? 1 : 0);
+    Block block(flashmap::inputsLength);
+    constexpr int switches = int(flashmap::inputSwitches - flashmap::inputs);
+    block.u8(switches, 1);
+    for (int input = 0; input < inputs::reference; ++input)
+        block.u8(switches + 1 + 2 * input, input <= inputs::hdmi2 ? 1 : 0);
     return block;
 }
 
@@ -125,14 +124,14 @@ QVector<FlashPiece> ownRegisters()
         QByteArray bytes;
     };
     QVector<Value> values = {
-        {sendingSide, 0x02100006, Block(4).u16(0, wallWidth / 4).u16(2, wallHeight / 4)}, // cabinets
-        {sendingSide, 0x0200001F, QByteArray(1, 0x0F)},                                   // four ports linked
-        {sendingSide, 0x020001E0, QByteArray("\xF0\x03", 2)},                             // the others idle
-        {sendingSide, 0x13411001, QByteArray(1, 14)},                                     // OSD in front
-        {sendingSide, 0x13412000, QByteArray(8, 1)},                                      // with all pictures
-        {sendingSide, 0x02810016, QByteArray(2, 4)},                                      // 4x4 cabinets
-        {receivingCard, 0x02000001, QByteArray(1, char(60 * 255 / 100))},                 // brightness
-        {receivingCard, 0x02000000, QByteArray(1, 28)},                                   // gamma
+        {sendingSide, cabinetRegister, Block(4).u16(0, wallWidth / 4).u16(2, wallHeight / 4)}, // cabinets
+        {sendingSide, linkRegisters[0], QByteArray(1, 0x0F)},                         // four ports linked
+        {sendingSide, idleRegister, QByteArray("\xF0\x03", 2)},                       // the others idle
+        {sendingSide, osdRegister + osdPriorityOffset, QByteArray(1, osdInFront)},    // OSD in front
+        {sendingSide, osdPictureRegister, QByteArray(osdPictureCount, 1)},            // with all pictures
+        {sendingSide, screenPortRegister, QByteArray(2, 4)},                          // 4x4 cabinets
+        {receivingCard, cardBrightnessRegister, QByteArray(1, char(60 * 255 / 100))}, // brightness
+        {receivingCard, cardGammaRegister, QByteArray(1, 28)},                        // gamma
     };
     for (int input = 0; input < inputs::count; ++input) {
         inputs::Signal signal;
@@ -149,17 +148,18 @@ QVector<FlashPiece> ownRegisters()
 
 QVector<FlashPiece> deliveredDevice()
 {
+    const QString name = "LED Wall 4x4";
     return QVector<FlashPiece>{
-               {0x2000, deviceBlock()},
-               {0x2400, stereoBlock()},
-               {presets::inUseAddress, QByteArray(1, presets::noneInUse)},
-               {presets::liveAddress(), wallRecord()},
-               {0xF600, outputBlock()},
-               {0x10600, Block(53).u8(0, 255).u8(18, 255).u8(22, 255).u8(26, 255)},
-               {0x12600, Block(28).u16(24, wallWidth).u16(26, wallHeight)},
-               {0x15600, inputsBlock()},
-               {0xD14000, QByteArray(1, char(0x9A))},
-               {0xD14100, service::nameRecord("LED Wall 4x4")},
+               {flashmap::device, deviceBlock()},
+               {flashmap::stereo, stereoBlock()},
+               {flashmap::presetInUse, QByteArray(1, presets::noneInUse)},
+               {flashmap::live, wallRecord()},
+               {flashmap::output, outputBlock()},
+               {flashmap::inputBackup, Block(53).u8(0, 255).u8(18, 255).u8(22, 255).u8(26, 255)},
+               {flashmap::loadArea, Block(28).u16(24, wallWidth).u16(26, wallHeight)},
+               {flashmap::inputs, inputsBlock()},
+               {flashmap::renamed, devicename::mark(name)},
+               {flashmap::name, devicename::record(name)},
            } +
            ownRegisters();
 }
@@ -168,7 +168,7 @@ QVector<FlashPiece> plausibleDevice()
 {
     const QString news = QString::fromUtf8("新闻直播");
     return deliveredDevice() + QVector<FlashPiece>{
-                                   {presets::inUseAddress, QByteArray(1, 0)},
+                                   {flashmap::presetInUse, QByteArray(1, 0)},
                                    {presets::recordAddress(0), presets::record(wallRecord(), "Concert")},
                                    {presets::recordAddress(1), presets::record(wallRecord(true, 60), news)},
                                };

@@ -2,6 +2,7 @@
 #include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
+#include "emulator/model/devicename.h"
 #include "emulator/model/inputs.h"
 #include "emulator/model/ports.h"
 #include "emulator/model/presets.h"
@@ -100,7 +101,7 @@ void rename(Session &session, const QStringList &list)
 {
     if (list.size() != 1)
         return failUsage(session, "rename");
-    tell(session, service::rename(session.emulator.device.registers(), list[0]));
+    tell(session, devicename::rename(session.emulator.device.registers(), list[0]));
 }
 
 void calibrate(Session &session, const QStringList &list)

@@ -1,4 +1,4 @@
-// Bytes of a register block or a record of the flash, with little-endian numbers at offsets.
+// Bytes of a register block or a record of the flash, with little-endian numbers at offsets. Any one thread.
 #pragma once
 
 #include <QByteArray>

@@ -8,7 +8,7 @@ namespace crops
 {
 namespace
 {
-constexpr quint32 firstRecord = 0x13024014;
+constexpr quint32 firstRecord = firstRegister + 0x14;
 constexpr quint32 layerStride = 132;
 constexpr quint32 inputStride = 16;
 constexpr int croppedInputs = 8; ///< one of the synchronisation reference would reach into the next layer

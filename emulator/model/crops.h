@@ -1,4 +1,4 @@
-// The part of an input that a layer shows; every layer keeps one for every input.
+// The part of an input that a layer shows; every layer keeps one for every input. Main thread.
 #pragma once
 
 #include "emulator/model/subject.h"
@@ -11,6 +11,7 @@ struct Crop {
 };
 
 constexpr int recordLength = 11;
+constexpr quint32 firstRegister = 0x13024000; ///< of the block that holds all records
 quint32 recordAddress(int layer, int input);
 Crop read(const Registers &registers, int layer, int input);
 /// The crops of the inputs that the layers show now.

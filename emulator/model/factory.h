@@ -1,13 +1,10 @@
-// Back to what the device was at delivery.
+// Back to what the device was at delivery. Main thread.
 #pragma once
 
-#include "emulator/model/registers.h"
+#include "emulator/model/subject.h"
 
 namespace factory
 {
-/// What a reset spares; cables stay plugged in all of them.
-enum Kind { keepAddress = 0, everything = 1, keepUserData = 2 };
-
-/// False if there is no such kind.
-bool reset(Registers &registers, int kind);
+/// The register that asks for a reset, by its kind.
+RegisterRow resetRow();
 } // namespace factory

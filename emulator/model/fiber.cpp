@@ -1,11 +1,10 @@
 // The two optical links, OPT 1 and OPT 2, with the Ethernet ports at their far ends. Main thread.
+#include "emulator/model/registermap.h"
 #include "emulator/model/subject.h"
 
 namespace
 {
 constexpr int linkCount = 2;
-constexpr quint32 linkRegister = 0x020001D7; ///< a bit a link
-constexpr quint32 portRegister = 0x020001F2; ///< a bit a port, two registers a link
 constexpr quint32 portStride = 2;
 constexpr int portCount = 10;
 constexpr quint32 secondModeRegister = 0x020001DA;
@@ -32,8 +31,8 @@ QStringList describe(const Registers &registers)
     for (int link = 0; link < linkCount; ++link)
         lines.append(QString("OPT %1: link %2, %3")
                          .arg(link + 1)
-                         .arg(onOff(registers.u8(linkRegister) >> link & 1),
-                              portText(registers.u16(portRegister + portStride * quint32(link)))));
+                         .arg(onOff(registers.u8(opticalLinkRegister) >> link & 1),
+                              portText(registers.u16(opticalPortRegister + portStride * quint32(link)))));
     const bool copies = registers.u8(secondModeRegister) == copyMode;
     return lines + QStringList{QString("OPT 2 mode: %1").arg(copies ? "copy" : "backup")};
 }

@@ -8,7 +8,6 @@ namespace inputs
 namespace
 {
 constexpr quint32 firstRecord = 0x13010001;
-constexpr int recordLength = 32;
 /// What was plugged in last, a record an input: the device's own notes, which no panel asks for.
 constexpr quint32 firstLastRecord = 0xF0010001;
 constexpr quint32 edidRegister = 0x13014200;

@@ -1,5 +1,5 @@
 // The inputs of the device: what is plugged in and what the device tells about it. They stand in the order in
-// which the device lists them, the synchronisation reference last.
+// which the device lists them, the synchronisation reference last. Main thread.
 #pragma once
 
 #include "emulator/model/subject.h"
@@ -49,4 +49,5 @@ Reports setSignal(Registers &registers, int input, const Signal &signal);
 /// The record of an input as the flash and the reports hold it.
 QByteArray record(int input, const Signal &signal);
 quint32 recordAddress(int input);
+constexpr int recordLength = 32;
 } // namespace inputs

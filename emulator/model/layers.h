@@ -1,4 +1,4 @@
-// The three layers: what each shows, where and in which order.
+// The three layers: what each shows, where and in which order. Main thread.
 #pragma once
 
 #include "emulator/model/subject.h"

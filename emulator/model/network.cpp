@@ -1,5 +1,6 @@
 // The device's address in the network, set by hand or got from a server.
 #include "emulator/model/block.h"
+#include "emulator/model/registermap.h"
 #include "emulator/model/subject.h"
 
 namespace
@@ -9,8 +10,6 @@ struct Network {
     QString address, mask, gateway;
 };
 
-constexpr quint32 addressRegister = 0x13000006;
-constexpr int addressLength = 20;
 constexpr quint32 automaticRegister = 0x1300001A;
 constexpr int serverMs = 1500; ///< a server needs a while to give an address
 
@@ -27,14 +26,14 @@ QString dotted(const Block &block, int offset, int stride)
 
 Network read(const Registers &registers)
 {
-    const Block block(registers.read(addressRegister, addressLength), addressLength);
+    const Block block(registers.read(networkRegister, networkLength), networkLength);
     return {registers.u8(automaticRegister) == deviceOn, dotted(block, offsetAddress, 2),
             dotted(block, offsetMask, 2), dotted(block, offsetGateway, 1)};
 }
 
 Report addressReport(const Registers &registers)
 {
-    return {addressRegister, registers.read(addressRegister, addressLength)};
+    return {networkRegister, registers.read(networkRegister, networkLength)};
 }
 
 /// An address by hand counts only while there is none from a server.
@@ -47,7 +46,7 @@ Reports obeyAddress(Registers &registers, const RegisterRow &row, int member, co
 
 QByteArray addressFromServer()
 {
-    Block block(addressLength);
+    Block block(networkLength);
     const int address[] = {192, 168, 0, 137}, mask[] = {255, 255, 255, 0}, gateway[] = {192, 168, 0, 1};
     for (int i = 0; i < 4; ++i)
         block.u16(offsetAddress + 2 * i, address[i])
@@ -61,7 +60,7 @@ Reports obeyAutomatic(Registers &registers, const RegisterRow &row, int member, 
     Reports reports = obey::storeAndReport(registers, row, member, write);
     if (!read(registers).automatic)
         return reports;
-    registers.write(addressRegister, addressFromServer());
+    registers.write(networkRegister, addressFromServer());
     Report address = addressReport(registers);
     address.afterMs = serverMs;
     return reports + Reports{address};
@@ -84,7 +83,7 @@ Subject networkSubject()
 {
     return {
         "network",
-        {{addressRegister, addressLength, 1, 0, obeyAddress}, {automaticRegister, 1, 1, 0, obeyAutomatic}},
+        {{networkRegister, networkLength, 1, 0, obeyAddress}, {automaticRegister, 1, 1, 0, obeyAutomatic}},
         allReports,
         describe};
 }

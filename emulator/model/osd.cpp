@@ -1,5 +1,6 @@
 // The picture that the device lays over the wall.
 #include "emulator/model/block.h"
+#include "emulator/model/registermap.h"
 #include "emulator/model/subject.h"
 
 namespace
@@ -11,19 +12,15 @@ struct Osd {
     int x = 0, y = 0;
 };
 
-constexpr quint32 osdRegister = 0x13411000;
 constexpr int osdLength = 40;
-constexpr quint32 pictureRegister = 0x13412000; ///< a byte a picture: there is one
-constexpr int pictureCount = 8;
 
 // Offsets in the OSD register.
-constexpr int offsetOn = 0, offsetPriority = 1, offsetPicture = 3, offsetX = 32, offsetY = 36;
-constexpr int frontPriority = 14;
+constexpr int offsetOn = 0, offsetPicture = 3, offsetX = 32, offsetY = 36;
 
 Osd read(const Registers &registers)
 {
     const Block block(registers.read(osdRegister, osdLength), osdLength);
-    return {block.u8(offsetOn) != 0, block.u8(offsetPriority) == frontPriority, block.u8(offsetPicture),
+    return {block.u8(offsetOn) != 0, block.u8(osdPriorityOffset) == osdInFront, block.u8(offsetPicture),
             block.i32(offsetX), block.i32(offsetY)};
 }
 
@@ -31,16 +28,16 @@ Osd read(const Registers &registers)
 Reports obeyOsd(Registers &registers, const RegisterRow &row, int member, Write const &write)
 {
     Write kept = write;
-    if (write.address == osdRegister + offsetPriority && write.bytes.size() == 1 && write.bytes[0] != 0)
-        kept.bytes[0] = frontPriority;
+    if (write.address == osdRegister + osdPriorityOffset && write.bytes.size() == 1 && write.bytes[0] != 0)
+        kept.bytes[0] = osdInFront;
     return obey::storeAndReport(registers, row, member, kept);
 }
 
 Reports allReports(const Registers &registers)
 {
     Reports list = {{osdRegister, registers.read(osdRegister, osdLength)}};
-    for (quint32 picture = 0; picture < pictureCount; ++picture)
-        list.append({pictureRegister + picture, registers.read(pictureRegister + picture, 1)});
+    for (quint32 picture = 0; picture < osdPictureCount; ++picture)
+        list.append({osdPictureRegister + picture, registers.read(osdPictureRegister + picture, 1)});
     return list;
 }
 
@@ -60,7 +57,7 @@ Subject osdSubject()
 {
     return {"OSD",
             {{osdRegister, osdLength, 1, 0, obeyOsd},
-             {pictureRegister, 1, pictureCount, 1, obey::storeAndReport}},
+             {osdPictureRegister, 1, osdPictureCount, 1, obey::storeAndReport}},
             allReports,
             describe};
 }

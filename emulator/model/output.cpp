@@ -2,6 +2,7 @@
 
 #include "emulator/model/block.h"
 #include "emulator/model/inputs.h"
+#include "emulator/model/workmode.h"
 
 namespace output
 {
@@ -16,9 +17,7 @@ constexpr quint32 displayRegister = 0x13000004;
 constexpr quint32 blackTimeRegister = 0x13000033;
 constexpr quint32 patternRegister = 0x13000042; ///< brightness, spacing, speed
 constexpr quint32 syncRegister = 0x1300002A;    ///< switch, then the source's number + 1
-constexpr quint32 workModeRegister = 0x1300002C;
 constexpr quint32 genlockRegister = 0x1300009D;
-constexpr int sendingCard = 16; ///< work mode in which only the reference counts
 constexpr int sizeLength = 6;
 constexpr int recordLength = 16;
 constexpr int recordSize = 3; ///< offset of width, height, rate
@@ -161,8 +160,8 @@ Output read(const Registers &registers)
     state.displayMode = registers.u8(displayRegister);
     state.testPattern = registers.u8(displayRegister + 1);
     state.syncOn = registers.u8(syncRegister) == 1;
-    const bool isSendingCard = registers.u8(workModeRegister) == sendingCard;
-    state.syncSource = isSendingCard ? inputs::reference : registers.u8(syncRegister + 1) - 1;
+    state.syncSource =
+        workmode::isSendingCard(registers) ? inputs::reference : registers.u8(syncRegister + 1) - 1;
     return state;
 }
 
@@ -204,7 +203,7 @@ Subject outputSubject()
              {output::modeRegister, 1, 1, 0, output::obeyMode},
              {output::displayRegister, 2, 1, 0, output::obeyDisplay},
              {output::syncRegister, 2, 1, 0, output::obeySync},
-             {output::workModeRegister, 1, 1, 0, output::obeyWorkMode}},
+             {workmode::modeRegister, 1, 1, 0, output::obeyWorkMode}},
             output::allReports,
             output::describe};
 }

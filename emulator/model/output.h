@@ -1,5 +1,5 @@
 // The output to the wall: size and rate from the device or from the software configuration, the display mode,
-// and whom the output is synchronised to.
+// and whom the output is synchronised to. Main thread.
 #pragma once
 
 #include "emulator/model/subject.h"

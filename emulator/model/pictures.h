@@ -1,5 +1,5 @@
 // Picture quality of the inputs. A single value is written by the number of its input in the device's list;
-// the records lie in an order of their own.
+// the records lie in an order of their own. Main thread.
 #pragma once
 
 #include "emulator/model/subject.h"

@@ -1,5 +1,7 @@
 #include "emulator/model/ports.h"
 
+#include "emulator/model/registermap.h"
+
 namespace ports
 {
 namespace
@@ -13,13 +15,11 @@ struct Group {
 };
 
 constexpr Group groups[] = {
-    {0, 4, 0x0200001F, 0x02000018, 0x0200001E},
-    {4, 4, 0x0200009F, 0x02000098, 0x0200009E},
-    {8, 2, 0x02000126, 0x02000100, 0x02000120},
+    {0, 4, linkRegisters[0], 0x02000018, 0x0200001E},
+    {4, 4, linkRegisters[1], 0x02000098, 0x0200009E},
+    {8, 2, linkRegisters[2], 0x02000100, 0x02000120},
 };
 
-/// A bit a port, set where nothing goes out.
-constexpr quint32 idleRegister = 0x020001E0;
 constexpr int portsOfIdleRegister = 8;
 constexpr int backupMark = 0x80;
 

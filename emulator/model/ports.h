@@ -1,4 +1,4 @@
-// The Ethernet ports to the wall: link, backup and whether backup is in use.
+// The Ethernet ports to the wall: link, backup and whether backup is in use. Main thread.
 #pragma once
 
 #include "emulator/model/subject.h"

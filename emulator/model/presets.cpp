@@ -15,11 +15,10 @@ constexpr quint32 saveRegister = 0x13510102;
 constexpr quint32 deleteRegister = 0x13510104; ///< 0, preset
 constexpr quint32 copyRegister = 0x13510106;   ///< 0, from, 0, to
 
-constexpr quint32 firstRecord = 0x3000;
 constexpr int storedOffset = 10;
 constexpr int nameOffset = 512;
 constexpr int nameLength = 19;
-constexpr int contentOffset = 0x400;
+constexpr int contentOffset = flashmap::windowsOffset;
 constexpr char storedMark = char(168);
 
 QTextCodec *nameCodec()
@@ -41,7 +40,7 @@ int numberAt(const Write &write, int offset)
 void endUse(FlashImage &flash, int preset)
 {
     if (read(flash, preset).inUse)
-        flash.write(inUseAddress, QByteArray(1, noneInUse));
+        flash.write(flashmap::presetInUse, QByteArray(1, noneInUse));
 }
 
 Reports save(Registers &registers, const RegisterRow &, int, const Write &write)
@@ -51,7 +50,7 @@ Reports save(Registers &registers, const RegisterRow &, int, const Write &write)
         return {};
     FlashImage &flash = registers.flash();
     endUse(flash, preset);
-    QByteArray bytes = flash.read(liveAddress(), recordLength);
+    QByteArray bytes = flash.read(flashmap::live, recordLength);
     bytes[storedOffset] = storedMark;
     bytes.replace(nameOffset, nameLength, flash.read(recordAddress(preset) + nameOffset, nameLength));
     flash.write(recordAddress(preset), bytes);
@@ -64,9 +63,9 @@ Reports load(Registers &registers, const RegisterRow &, int, const Write &write)
     FlashImage &flash = registers.flash();
     if (!isPreset(preset) || !read(flash, preset).stored)
         return {};
-    flash.write(liveAddress() + contentOffset,
+    flash.write(flashmap::live + contentOffset,
                 flash.read(recordAddress(preset) + contentOffset, recordLength - contentOffset));
-    flash.write(inUseAddress, QByteArray(1, char(preset)));
+    flash.write(flashmap::presetInUse, QByteArray(1, char(preset)));
     return layersSubject().reports(registers) + crops::reportShown(registers) +
            pictures::reportAll(registers);
 }
@@ -109,19 +108,14 @@ Preset read(const FlashImage &flash, int preset)
     const QByteArray name = bytes.mid(nameOffset, nameLength);
     Preset result;
     result.stored = bytes.at(storedOffset) == storedMark;
-    result.inUse = flash.byte(inUseAddress) == char(preset);
+    result.inUse = flash.byte(flashmap::presetInUse) == char(preset);
     result.name = nameCodec()->toUnicode(name.left(qstrnlen(name.constData(), nameLength)));
     return result;
 }
 
 quint32 recordAddress(int preset)
 {
-    return firstRecord + quint32(preset * recordLength);
-}
-
-quint32 liveAddress()
-{
-    return recordAddress(count);
+    return flashmap::firstPreset + quint32(preset * recordLength);
 }
 
 QByteArray record(const QByteArray &live, const QString &name)

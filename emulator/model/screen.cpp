@@ -1,6 +1,7 @@
 // The wall: size of its cabinets, how they hang on the ports, the area that is loaded, and the values of the
 // receiving cards.
 #include "emulator/model/block.h"
+#include "emulator/model/registermap.h"
 #include "emulator/model/subject.h"
 
 namespace
@@ -9,12 +10,9 @@ struct LoadArea {
     int x = 0, y = 0, width = 0, height = 0;
 };
 
-constexpr quint32 cabinetRegister = 0x02100006; ///< width, then height
-constexpr int cabinetLength = 4;
 constexpr quint32 loadAreaRegister = 0x13030000;
 constexpr int loadAreaLength = 28;
 constexpr quint32 splicingRegister = 0x13000053;
-constexpr quint32 portRegister = 0x02810016; ///< rows and columns, one record a port; the first is quick form
 constexpr quint32 portStride = 64;
 constexpr int portRecords = 11;
 constexpr quint32 placeOffset = 4;            ///< in a port's record: x, then y
@@ -23,9 +21,7 @@ constexpr quint32 quickCabinetsRegister = 0x02810018;
 constexpr quint32 advancedRegister = 0x02810000;
 constexpr quint32 mappingRegister = 0x01000088;
 constexpr int mappingOn = 5;
-constexpr quint32 brightnessRegister = 0x02000001;
 constexpr quint32 coloursRegister = 0x02000002; ///< red, green, blue
-constexpr quint32 gammaRegister = 0x02000000;
 
 // Offsets in the load area.
 constexpr int offsetX = 16, offsetY = 20, offsetWidth = 24, offsetHeight = 26;
@@ -45,7 +41,7 @@ QStringList describePorts(const Registers &registers)
 {
     QStringList lines;
     for (quint32 port = 0; port < portRecords; ++port) {
-        const quint32 address = portRegister + portStride * port;
+        const quint32 address = screenPortRegister + portStride * port;
         const int rows = registers.u8(address), columns = registers.u8(address + 1);
         const QString name = port == 0 ? QString("quick form") : QString("port %1").arg(port);
         if (rows > 0 || columns > 0)
@@ -83,12 +79,12 @@ QStringList describe(const Registers &registers)
 {
     constexpr int full = 255, percent = 100;
     const LoadArea area = loadArea(registers);
-    const int brightness = quint8(registers.read(receivingCard, brightnessRegister, 1)[0]);
+    const int brightness = quint8(registers.read(receivingCard, cardBrightnessRegister, 1)[0]);
     QStringList lines = {
         QString("cabinet: %1x%2").arg(registers.u16(cabinetRegister)).arg(registers.u16(cabinetRegister + 2)),
         QString("brightness: %1%").arg((brightness * percent + full / 2) / full),
         QString("gamma: %1")
-            .arg(quint8(registers.read(receivingCard, gammaRegister, 1)[0]) / 10.0, 0, 'f', 1),
+            .arg(quint8(registers.read(receivingCard, cardGammaRegister, 1)[0]) / 10.0, 0, 'f', 1),
         "splicing: " + onOff(registers.u8(splicingRegister) == deviceOn),
         QString("load area: %1x%2 at %3,%4").arg(area.width).arg(area.height).arg(area.x).arg(area.y)};
     return lines + describeCards(registers) + describeConfiguration(registers) + describePorts(registers);

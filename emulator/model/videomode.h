@@ -1,4 +1,4 @@
-// A size and a rate of video, as people write them: 1920x1080@60, 1920x1080i@59.94.
+// A size and a rate of video, as people write them: 1920x1080@60, 1920x1080i@59.94. Any one thread.
 #pragma once
 
 #include <QString>

@@ -1,8 +1,8 @@
 // Presets, name, self test and the three resets: what the device keeps and what it gives back.
+#include "emulator/model/devicename.h"
 #include "emulator/model/inputs.h"
 #include "emulator/model/ports.h"
 #include "emulator/model/presets.h"
-#include "emulator/model/service.h"
 #include "modelrig.h"
 
 class TestDevicePresets : public QObject
@@ -81,14 +81,14 @@ void TestDevicePresets::namesFitTheirRecords()
     ModelRig rig;
     Registers &registers = rig.model.registers();
     const QString name = QString::fromUtf8("主舞台 1");
-    QCOMPARE(ModelRig::hexOf(service::rename(registers, name), 0x0FF00001), QByteArray("01"));
+    QCOMPARE(ModelRig::hexOf(devicename::rename(registers, name), 0x0FF00001), QByteArray("01"));
     QCOMPARE(rig.flashHex(0xD14000, 1), QByteArray("9a"));
     QCOMPARE(rig.flashHex(0xD14100, 12), QByteArray("3b4e1e82f05320003100").append("0000"));
-    QCOMPARE(service::nameOf(rig.flash), name);
-    service::rename(registers, QString(40, 'x'));
-    QCOMPARE(service::nameOf(rig.flash), QString(32, 'x'));
+    QCOMPARE(devicename::nameOf(rig.flash), name);
+    devicename::rename(registers, QString(40, 'x'));
+    QCOMPARE(devicename::nameOf(rig.flash), QString(32, 'x'));
     QCOMPARE(rig.flashHex(0xD14140, 2), QByteArray("0000"));
-    service::rename(registers, QString());
+    devicename::rename(registers, QString());
     QCOMPARE(rig.flashHex(0xD14000, 1), QByteArray("00"));
 }
 
@@ -126,7 +126,7 @@ void TestDevicePresets::resetsSpareWhatTheyShould()
     rig.write(0x13020015, "0a000000ecffffff80020000e0010000");
     rig.write(0x02000074, "78");
     rig.write(0x13510102, "04");
-    service::rename(registers, "Stage");
+    devicename::rename(registers, "Stage");
     ports::set(registers, 0, ports::State::link, false);
     ports::set(registers, 1, ports::State::backup, true);
     inputs::setSignal(registers, inputs::hdmi1, inputs::Signal());
