@@ -133,6 +133,8 @@ QVector<FlashPiece> ownRegisters()
         {receivingCard, cardBrightnessRegister, QByteArray(1, char(60 * 255 / 100))}, // brightness
         {receivingCard, cardGammaRegister, QByteArray(1, 28)},                        // gamma
     };
+    values.append(
+        {receivingCard, cardColoursRegister, Block(3).u8(0, 255).u8(1, 249).u8(2, 253)}); // standard
     for (int input = 0; input < inputs::count; ++input) {
         inputs::Signal signal;
         signal.stable = input == inputs::hdmi1;

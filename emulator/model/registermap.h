@@ -26,3 +26,4 @@ constexpr quint32 screenPortRegister =
     0x02810016;                                   ///< a record a port: rows, columns; the first is quick form
 constexpr quint32 cardGammaRegister = 0x02000000; ///< of the receiving cards
 constexpr quint32 cardBrightnessRegister = 0x02000001;
+constexpr quint32 cardColoursRegister = 0x02000002; ///< red, green, blue

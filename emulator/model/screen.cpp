@@ -21,7 +21,6 @@ constexpr quint32 quickCabinetsRegister = 0x02810018;
 constexpr quint32 advancedRegister = 0x02810000;
 constexpr quint32 mappingRegister = 0x01000088;
 constexpr int mappingOn = 5;
-constexpr quint32 coloursRegister = 0x02000002; ///< red, green, blue
 
 // Offsets in the load area.
 constexpr int offsetX = 16, offsetY = 20, offsetWidth = 24, offsetHeight = 26;
@@ -58,7 +57,7 @@ QStringList describePorts(const Registers &registers)
 
 QStringList describeCards(const Registers &registers)
 {
-    const QByteArray colours = registers.read(receivingCard, coloursRegister, 3);
+    const QByteArray colours = registers.read(receivingCard, cardColoursRegister, 3);
     const int mapping = quint8(registers.read(receivingCard, mappingRegister, 1)[0]);
     return {QString("colours: red %1, green %2, blue %3")
                 .arg(quint8(colours[0]))
