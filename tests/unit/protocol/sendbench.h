@@ -2,6 +2,7 @@
 // test says, and the device has six inputs.
 #pragma once
 
+#include "frames.h"
 #include "framework/menuanalysis.h"
 #include "framework/paraprocess.h"
 #include "framework/protocol/communicationclientinterface.h"
@@ -51,31 +52,6 @@ private:
     QMutex m_mutex;
 };
 
-/// The frame of a write, put together by hand; the serial number is the one thing the test does not choose.
-inline QByteArray writeFrame(char serial, int deviceType, quint32 address, const QByteArray &payload)
-{
-    QByteArray frame("\x55\xAA", 2);
-    frame += '\0';
-    frame += serial;
-    frame += char(254);
-    frame += '\0';
-    frame += char(deviceType);
-    frame += QByteArray(3, char(255));
-    frame += char(1);
-    frame += '\0';
-    for (int shift : {0, 8, 16, 24})
-        frame += char(address >> shift);
-    frame += char(payload.size());
-    frame += char(payload.size() >> 8);
-    frame += payload;
-    quint16 sum = 0x5555;
-    for (int i = 2; i < frame.size(); ++i)
-        sum = quint16(sum + quint8(frame[i]));
-    frame += char(sum);
-    frame += char(sum >> 8);
-    return frame;
-}
-
 class SendBench
 {
 public:
@@ -122,8 +98,12 @@ public:
         if (number >= client.frames.size())
             return false;
         const QByteArray &frame = client.frames[number];
-        const QByteArray expected =
-            writeFrame(frame.size() > 3 ? frame[3] : '\0', deviceType, address, payload);
+        frames::Fields fields;
+        fields.serial = frame.size() > 3 ? frame[3] : 0; // the one thing that the test does not choose
+        fields.deviceType = deviceType;
+        fields.address = address;
+        fields.payload = payload;
+        const QByteArray expected = frames::frame(fields);
         if (frame != expected)
             qWarning() << "frame" << number << frame.toHex(' ') << "expected" << expected.toHex(' ');
         return frame == expected;

@@ -1,6 +1,7 @@
-// What leaves for the device when an item changes: the exact frame of every item, the series of frames of the
-// composite ones, and what is refused.
+// What leaves for the device when an item changes, where no row of a page shows it: values at the limits,
+// items and inputs without a page; and what is refused.
 
+#include "datarows.h"
 #include "sendbench.h"
 
 #include "sysconf.h"
@@ -18,10 +19,8 @@ private slots:
     }
     void cleanup() { bench.reset(); }
 
-    void oneFrame_data();
-    void oneFrame();
-    void series_data();
-    void series();
+    void frames_data();
+    void frames();
     void refused_data();
     void refused();
     void busFull_data();
@@ -39,6 +38,14 @@ private:
     std::unique_ptr<SendBench> bench;
 };
 
+struct Frame {
+    int type;
+    quint32 address;
+    QByteArray payload;
+};
+using Frames = QVector<Frame>;
+Q_DECLARE_METATYPE(Frames)
+
 namespace
 {
 constexpr int board = 0;
@@ -47,92 +54,51 @@ constexpr int stereo = 4;
 
 void row(int item, const QString &value, int type, quint32 address, const char *payload)
 {
-    const QByteArray name =
-        QByteArray::number(item) + ":" + (value.isEmpty() ? QByteArray("(empty)") : value.toUtf8());
-    QTest::newRow(name.constData()) << item << value << type << address << QByteArray::fromHex(payload);
+    addRow(QString("%1:%2").arg(item).arg(value), item, value,
+           Frames{{type, address, QByteArray::fromHex(payload)}});
 }
 } // namespace
 
 void TestProto3rdSend::seed()
 {
-    // Windows: input, then width, height, x, y of each layer.
+    // Windows: input, then width, height, x, y of the main layer.
     bench->set(2101, "2");
     bench->set(2103, {"1920", "1080", "-5", "70000"});
-    bench->set(2111, "0");
-    bench->set(2113, {"640", "480", "100", "50"});
     bench->set(2121, "3");
-    bench->set(2123, {"64", "65", "200", "-32768"});
     // Crops: switch, width, height, x, y.
     bench->set(3000, {"1", "800", "600", "10", "20"});
-    bench->set(3006, {"0", "3840", "1080", "0", "0"});
     bench->set(3012, {"1", "256", "257", "258", "259"});
     // Splicing window: width, height, x, y.
     bench->set(1043, {"1280", "720", "-1", "300"});
-    // Network.
-    bench->set(2375, {"192.168.0.10", "255.255.255.0", "192.168.0.1"});
     // Pictures of the inputs: brightness, contrast, saturation, hue.
     bench->set(3025, {"51", "52", "53", "-180"});
-    bench->set(3037, {"41", "42", "43", "180"});
-    bench->set(3049, {"31", "32", "33", "0"});
     bench->set(3061, {"21", "22", "23", "1"});
-    bench->set(3066, {"11", "12", "13", "-1"});
     // Mosaic of two inputs, one above the other.
     bench->set(3071, {"0", "1920", "1080"});
     bench->set(3074, "1", "3");
     bench->set(3213, {"960", "540"});
+    // Port p has p rows, p + 1 columns, starts at 256 p, 257 p and is wired in way (p - 1) of 8.
+    for (int p = 1; p <= 10; ++p)
+        bench->set(3151 + 5 * (p - 1), {QString::number(p), QString::number(p + 1), QString::number(256 * p),
+                                        QString::number(257 * p), QString::number((p - 1) % 8)});
 }
 
-void TestProto3rdSend::oneFrame_data()
+void TestProto3rdSend::frames_data()
 {
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<quint32>("address");
-    QTest::addColumn<QByteArray>("payload");
-
+    addColumns<int, QString, Frames>({"item", "value", "frames"});
     row(1, "0", card, 0x02000001, "00");
     row(1, "1", card, 0x02000001, "02");
     row(1, "50", card, 0x02000001, "7f");
     row(1, "100", card, 0x02000001, "ff");
-    row(1002, "", card, 0x01000011, "00");
-    row(1002, "7", card, 0x01000011, "00");
-    row(2000, "255", board, 0x02810016, "ff");
-    row(2001, "3", board, 0x02810017, "03");
     row(2002, "65535", board, 0x02810018, "ffff");
-    row(2002, "258", board, 0x02810018, "0201");
     row(2003, ":/resource/image/041_ScreenTracesWay7.png", board, 0x02810011, "07");
-    row(2003, "3", board, 0x02810011, "03");
-    row(2004, "0+104.rcfgx", board, 0x0FF00100, "01");
-    row(2011, "12+111.rcfgx+x", board, 0x0FF0010C, "01");
     row(2007, "255+a", board, 0x0FF001FF, "01");
-    row(2013, "0", card, 0x01000088, "ff");
-    row(2013, "1", card, 0x01000088, "05");
+    row(2011, "12+111.rcfgx+x", board, 0x0FF0010C, "01");
     row(2015, "23.98", board, 0x13040007, "5e09");
-    row(2015, "59.94", board, 0x13040007, "6a17");
     row(2015, "119.88", board, 0x13040007, "d42e");
     row(2015, "120", board, 0x13040007, "e02e");
-    row(2352, "0", board, 0x13042007, "00");
-    row(2352, "1", board, 0x13042007, "01");
-    row(2355, "1920x1080x59.94", board, 0x13041401, "800738046a17");
-    row(1019, "1", board, 0x13000001, "00");
-    row(1019, "0", board, 0x13000001, "01");
     row(1020, "0.5", board, 0x13000002, "3200");
-    row(1020, "1.3", board, 0x13000002, "8200");
     row(1020, "2.0", board, 0x13000002, "c800");
-    row(1021, "", board, 0x13000004, "0305");
-    row(1022, "1", board, 0x13000004, "04");
-    row(1023, "1", board, 0x13000004, "05");
-    row(1024, "0.7", board, 0x13000033, "4600");
-    row(2326, "7", board, 0x13000004, "0607");
-    row(2327, "7", board, 0x13000004, "0627");
-    row(2328, "5", board, 0x13000004, "0615");
-    row(2331, "4", board, 0x13000042, "04");
-    row(2332, "8", board, 0x13000043, "08");
-    row(2333, "1", board, 0x13000044, "01");
-    row(2350, "1", board, 0x1300002A, "01");
-    row(2350, "0", board, 0x1300002A, "00");
-    row(2351, "0", board, 0x1300002B, "01");
-    row(2351, "3", board, 0x1300002B, "04");
     row(2340, "1", board, 0x13120000, "5b");
     row(2340, "0", board, 0x13120000, "ff");
     row(2341, "1", board, 0x13120010, "11001201");
@@ -141,20 +107,9 @@ void TestProto3rdSend::oneFrame_data()
     row(2342, "0", board, 0x13120014, "6900ff01");
     row(2343, "1", board, 0x13120018, "e000e001");
     row(2343, "0", board, 0x13120018, "e000ff01");
-    row(2356, "4", board, 0x1300009E, "f0");
-    row(2356, "3", board, 0x1300009E, "03");
-    row(2357, "100", board, 0x1300009F, "64");
-    row(3080, "0", board, 0x13019005, "01");
-    row(3080, "1", board, 0x13019005, "02");
-    row(3081, "0", board, 0x13019015, "01");
-    row(3081, "1", board, 0x13019015, "02");
-    row(3082, "0", board, 0x13019025, "00");
-    row(3082, "1", board, 0x13019025, "02");
     row(3083, "0", board, 0x13019035, "00");
-    row(3084, "1", board, 0x13019045, "02");
     row(3085, "0", board, 0x13019055, "00");
     row(3086, "1", board, 0x13019065, "02");
-    row(3087, "0", board, 0x13019075, "00");
     row(3087, "1", board, 0x13019075, "02");
     row(2359, "0", board, 0x02000039, "28");
     row(2359, "1", board, 0x02000039, "a8");
@@ -168,197 +123,66 @@ void TestProto3rdSend::oneFrame_data()
     row(3078, "65535", stereo, 0x02000002, "83ff7c");
     row(3079, "0", stereo, 0x02000001, "00");
     row(3079, "2", stereo, 0x02000001, "01");
-    row(1055, "0", board, 0x02000074, "00");
-    row(1055, "1", board, 0x02000074, "78");
     row(1057, "0", board, 0x020001DA, "00");
     row(1057, "1", board, 0x020001DA, "04");
-    row(1059, "", board, 0x13800000, "00");
-    row(1061, "", board, 0x01000002, "00");
-    row(1062, "", board, 0x01000002, "02");
-    row(1063, "", board, 0x01000002, "01");
     row(1065, "USBPreferred", board, 0x022000C0, "00");
     row(1065, "LANPreferred", board, 0x022000C0, "01");
-    row(2374, "1", board, 0x1300001A, "a8");
-    row(2374, "0", board, 0x1300001A, "00");
-    row(2378, "", board, 0x13000006, "c0 00 a8 00 00 00 0a 00 ff 00 ff 00 ff 00 00 00 c0 a8 00 01");
     row(1068, "1", board, 0x020001DF, "01");
     row(1068, "0", board, 0x020001DF, "00");
     row(1069, "1", board, 0x1300002C, "10");
     row(1069, "0", board, 0x1300002C, "00");
-    row(3397, "1", board, 0x020001F8, "a5");
-    row(3397, "0", board, 0x020001F8, "00");
-    row(3398, "", board, 0x020001F0, "fbffffff 70110100");
-    row(3399, "", board, 0x020001F0, "fbffffff 70110100");
-    row(2380, "1", board, 0x02810000, "a8");
-    row(2380, "0", board, 0x02810000, "b8");
-    row(1008, "0", board, 0x13411000, "00");
-    row(1008, "1", board, 0x13411000, "01");
-    row(1009, "7", board, 0x13411003, "07");
-    row(1010, "-32767", board, 0x13411020, "0180ffff");
-    row(1011, "32768", board, 0x13411024, "00800000");
-    row(1012, "1", board, 0x13411001, "01");
-    row(1036, "9", board, 0x13510102, "09");
-    row(1037, "3", board, 0x13510100, "03");
-    row(1038, "4", board, 0x13510104, "0004");
-    row(1039, "2_9", board, 0x13510106, "00020009");
     row(1040, "1", board, 0x13000053, "a8");
     row(1040, "0", board, 0x13000053, "00");
     for (int item = 1043; item <= 1046; ++item)
         row(item, "1", board, 0x13030010, "ffffffff 2c010000 0005 d002");
-    row(2391, "255", card, 0x02000002, "ff");
-    row(2392, "249", card, 0x02000003, "f9");
-    row(2393, "0", card, 0x02000004, "00");
 
-    // Layers
-    row(2100, "0", board, 0x13020010, "00");
-    row(2110, "1", board, 0x13020040, "01");
-    row(2120, "5", board, 0x13020070, "01");
-    row(2101, "0", board, 0x13020012, "000011");
-    row(2111, "2", board, 0x13020042, "020000");
-    row(2121, "3", board, 0x13020072, "030030");
+    // Layers: what a record does not list, four bytes of a place, crops of DVI (number 2) and SDI.
     row(2121, "9", board, 0x13020072, "000000");
-    for (int item = 2103; item <= 2106; ++item)
-        row(item, "1", board, 0x13020015, "fbffffff 70110100 80070000 38040000");
-    for (int item = 2113; item <= 2116; ++item)
-        row(item, "1", board, 0x13020045, "64000000 32000000 80020000 e0010000");
-    for (int item = 2123; item <= 2126; ++item)
-        row(item, "1", board, 0x13020075, "c8000000 0080ffff 40000000 41000000");
-    row(2107, "2", board, 0x13020013, "02");
-    row(2117, "1", board, 0x13020043, "01");
-    row(2127, "0", board, 0x13020073, "00");
-    row(2109, "100", board, 0x1302003F, "64");
-    row(2119, "50", board, 0x1302006F, "32");
-    row(2129, "0", board, 0x1302009F, "00");
-    // Crops: the input of the main layer is DVI, number 2; that of PIP 1 HDMI1, of PIP 2 SDI.
+    row(2103, "1", board, 0x13020015, "fbffffff 70110100 80070000 38040000");
     row(3000, "0", board, 0x13024034, "00 02 00 0a00 1400 2003 5802");
-    row(3001, "801", board, 0x13024034, "00 02 01 0a00 1400 2103 5802");
-    row(3002, "601", board, 0x13024034, "00 02 01 0a00 1400 2003 5902");
-    row(3003, "11", board, 0x13024034, "00 02 01 0b00 1400 2003 5802");
-    row(3004, "21", board, 0x13024034, "00 02 01 0a00 1500 2003 5802");
     row(3004, "", board, 0x13024034, "00 02 01 0a00 1400 2003 5802");
-    row(3006, "1", board, 0x13024098, "11 00 01 0000 0000 000f 3804");
-    row(3010, "2", board, 0x13024098, "11 00 00 0000 0200 000f 3804");
     row(3012, "1", board, 0x1302414C, "30 03 01 0201 0301 0001 0101");
-    row(3016, "1", board, 0x1302414C, "30 03 01 0201 0100 0001 0101");
 
-    // Inputs; second DVI is the fifth input that this device lists, SDI the fourth
-    row(3025, "0", board, 0x13050001, "00");
-    row(3037, "100", board, 0x13050015, "64");
-    row(3049, "50", board, 0x13050029, "32");
+    // Inputs; second DVI is the fifth input that this device lists
     row(3061, "1", board, 0x13050051, "01");
-    row(3066, "2", board, 0x1305003D, "02");
-    row(3026, "3", board, 0x13050002, "03");
-    row(3038, "4", board, 0x13050016, "04");
-    row(3050, "5", board, 0x1305002A, "05");
     row(3062, "6", board, 0x13050052, "06");
-    row(3067, "7", board, 0x1305003E, "07");
-    row(3027, "8", board, 0x13050004, "08");
-    row(3039, "9", board, 0x13050018, "09");
-    row(3051, "10", board, 0x1305002C, "0a");
     row(3063, "11", board, 0x13050054, "0b");
-    row(3068, "12", board, 0x13050040, "0c");
-    row(3028, "-180", board, 0x13050005, "4cff");
-    row(3040, "180", board, 0x13050019, "b400");
-    row(3052, "-1", board, 0x1305002D, "ffff");
     row(3064, "0", board, 0x13050055, "0000");
-    row(3069, "1", board, 0x13050041, "0100");
     row(3029, "", board, 0x13050000, "11 33 34 00 35 0c 0f 00000000000000000000000000");
-    row(3041, "", board, 0x13050014, "12 29 2a 00 2b 04 00 00000000000000000000000000");
-    row(3053, "", board, 0x13050028, "00 1f 20 00 21 00 00 00000000000000000000000000");
     row(3065, "", board, 0x1305003C, "6a 15 16 00 17 01 00 00000000000000000000000000");
-    row(3070, "", board, 0x13050050, "30 0b 0c 00 0d 0f 0f 00000000000000000000000000");
-    row(2302, "0", board, 0x13050013, "00");
-    row(2302, "1", board, 0x13050013, "01");
     row(2302, "2", board, 0x13050013, "00");
-    row(2307, "1", board, 0x13050027, "01");
-    row(2312, "1", board, 0x1305003B, "01");
     row(2317, "1", board, 0x1305004F, "01");
-    row(3021, "1920x1080x60", board, 0x13014200, "1100 8007 3804 7017");
-    row(3033, "1024x768x59.94", board, 0x13014200, "1201 0004 0003 6a17");
-    row(3045, "800x600x30", board, 0x13014200, "0002 2003 5802 b80b");
     row(3057, "3840x2160x30", board, 0x13014200, "3003 000f 7008 b80b");
     row(3075, "", board, 0x13060000,
         "0201 0201 0101 00000000000000000000 12 01 0000 0000 8007 3804 000000000000"
         "30 03 0000 3804 8007 3804 000000000000");
-}
 
-void TestProto3rdSend::oneFrame()
-{
-    QFETCH(int, item);
-    QFETCH(QString, value);
-    QFETCH(int, type);
-    QFETCH(quint32, address);
-    QFETCH(QByteArray, payload);
-
-    QCOMPARE(bench->change(item, value), 0);
-    QCOMPARE(bench->client.frames.size(), 1);
-    QVERIFY(bench->isFrame(0, type, address, payload));
-}
-
-struct Frame {
-    int type;
-    quint32 address;
-    QByteArray payload;
-};
-Q_DECLARE_METATYPE(QVector<Frame>)
-
-void TestProto3rdSend::series_data()
-{
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QVector<Frame>>("frames");
-    using Frames = QVector<Frame>;
-    auto hex = [](const char *text) { return QByteArray::fromHex(text); };
-
-    for (bool on : {false, true}) {
-        const QByteArray protection = hex(on ? "00" : "01");
-        QTest::newRow(on ? "copy protection on" : "copy protection off")
-            << 1054 << QString::number(on)
-            << Frames{{0, 0x13019004, protection},
-                      {0, 0x13019014, protection},
-                      {0, 0x13019024, protection},
-                      {0, 0x13019034, protection}};
-    }
-    struct Backup {
-        const char *value;
-        const char *word;
-        const char *role;
-    };
-    for (const Backup &b : {Backup{"0", "00000000", "5a"}, {"1", "80808080", "a5"}, {"2", "80808080", "5a"}})
-        QTest::addRow("device backup %s", b.value) << 1048 << QString(b.value)
-                                                   << Frames{{0, 0x02000018, hex(b.word)},
-                                                             {0, 0x02000098, hex(b.word)},
-                                                             {0, 0x02000100, hex(b.word)},
-                                                             {0, 0x02000104, hex(b.word)},
-                                                             {0, 0x0200009D, hex(b.role)}};
-    // Port p has p rows, p + 1 columns, starts at 256 p, 257 p and is wired in way (p - 1) of 8.
+    // Items that take several frames
+    const auto hex = [](const char *text) { return QByteArray::fromHex(text); };
+    addRow("device backup, copied", 1048, "2",
+           Frames{{board, 0x02000018, hex("80808080")},
+                  {board, 0x02000098, hex("80808080")},
+                  {board, 0x02000100, hex("80808080")},
+                  {board, 0x02000104, hex("80808080")},
+                  {board, 0x0200009D, hex("5a")}});
     Frames ports;
     for (quint32 p = 1; p <= 10; ++p) {
+        const quint32 parts[] = {p, p + 1, p * (p + 1), 0, 0, p, p, p};
         QByteArray position;
-        position += char(p);
-        position += char(p + 1);
-        position += char(p * (p + 1));
-        position += '\0';
-        position += '\0';
-        position += char(p);
-        position += char(p);
-        position += char(p);
-        ports.append({0, 0x02810016 + 64 * p, position});
-        ports.append({0, 0x02810011 + 64 * p, QByteArray(1, char((p - 1) % 8))});
+        for (quint32 part : parts)
+            position += char(part);
+        ports.append({board, 0x02810016 + 64 * p, position});
+        ports.append({board, 0x02810011 + 64 * p, QByteArray(1, char((p - 1) % 8))});
     }
-    ports.append({0, 0x02810000, hex("b9")});
-    QTest::newRow("advanced screen configuration") << 2387 << QString() << ports;
+    ports.append({board, 0x02810000, hex("b9")});
+    addRow("advanced screen configuration", 2387, "", ports);
 }
 
-void TestProto3rdSend::series()
+void TestProto3rdSend::frames()
 {
     QFETCH(int, item);
     QFETCH(QString, value);
-    QFETCH(QVector<Frame>, frames);
-    for (int p = 1; p <= 10; ++p)
-        bench->set(3151 + 5 * (p - 1), {QString::number(p), QString::number(p + 1), QString::number(256 * p),
-                                        QString::number(257 * p), QString::number((p - 1) % 8)});
-
+    QFETCH(Frames, frames);
     QCOMPARE(bench->change(item, value), 0);
     QCOMPARE(bench->client.frames.size(), frames.size());
     for (int i = 0; i < frames.size(); ++i)
@@ -367,10 +191,7 @@ void TestProto3rdSend::series()
 
 void TestProto3rdSend::refused_data()
 {
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("logged");
+    addColumns<int, QString, int, QString>({"item", "value", "result", "logged"});
     auto refused = [](int item, const char *value, int result, const char *logged) {
         QTest::addRow("%d:%s", item, value) << item << QString(value) << result << QString(logged);
     };
@@ -413,25 +234,19 @@ void TestProto3rdSend::refused()
 
 void TestProto3rdSend::busFull_data()
 {
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("accepted");
-    QTest::addColumn<QString>("logged");
-    auto full = [](const char *name, int item, const char *value, int accepted, const char *logged) {
-        QTest::newRow(name) << item << QString(value) << accepted << QString(logged);
-    };
-    full("plain", 1, "50", 0, "SendMsg Faild!");
-    full("OSD", 1010, "0", 0, "SendMsg Fail");
-    full("OSD priority", 1012, "0", 0, "SendMsg fail");
-    full("HDMI output mode", 2352, "0", 0, "SendMsg fail");
-    full("sending card", 3397, "1", 0, "SendMsg fail");
-    full("window", 2105, "0", 0, "SendMsg Faild!");
-    full("picture", 3025, "0", 0, "SendMsg Faild!");
-    full("third of four HDCP registers", 1054, "0", 2, "SendMsg Faild!");
-    full("last of the backup registers", 1048, "1", 4, "SendMsg Faild!");
-    full("second port", 2387, "", 3, "SendMsg Faild!");
-    full("gamma register", 2389, "2.8", 0, "SendMsg Faild!");
-    full("gamma table", 2389, "2.8", 1, "SendMsg Faild!");
+    addColumns<int, QString, int, QString>({"item", "value", "accepted", "logged"});
+    addRow("plain", 1, "50", 0, "SendMsg Faild!");
+    addRow("OSD", 1010, "0", 0, "SendMsg Fail");
+    addRow("OSD priority", 1012, "0", 0, "SendMsg fail");
+    addRow("HDMI output mode", 2352, "0", 0, "SendMsg fail");
+    addRow("sending card", 3397, "1", 0, "SendMsg fail");
+    addRow("window", 2105, "0", 0, "SendMsg Faild!");
+    addRow("picture", 3025, "0", 0, "SendMsg Faild!");
+    addRow("third of four HDCP registers", 1054, "0", 2, "SendMsg Faild!");
+    addRow("last of the backup registers", 1048, "1", 4, "SendMsg Faild!");
+    addRow("second port", 2387, "", 3, "SendMsg Faild!");
+    addRow("gamma register", 2389, "2.8", 0, "SendMsg Faild!");
+    addRow("gamma table", 2389, "2.8", 1, "SendMsg Faild!");
 }
 
 /// A series ends at the first frame that the bus does not take.
