@@ -16,27 +16,21 @@ class TestApplyDisplay : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void cleanupTestCase();
-    void init();
+    void cleanupTestCase() { delete m_rig; }
+    void init() { m_rig->reset(); }
 
     void entersMode_data();
     void entersMode();
-    void reportedModeIsShownNotSent_data();
-    void reportedModeIsShownNotSent();
     void secondFreezeOnlyLightsAgain();
-    void normalGivesEverythingBack();
-    void testPatternSendsTheLastOne_data();
-    void testPatternSendsTheLastOne();
-    void deviceTellsItsMode_data();
-    void deviceTellsItsMode();
     void knownModeIsNotToldAgain();
+    void normalGivesEverythingBack();
+    void lastPatternMayBeAPicture();
     void fnKey_data();
     void fnKey();
     void patternTypeSendsItsPattern_data();
     void patternTypeSendsItsPattern();
     void patternPageTakesThePlace();
     void wrongPatternTypeChangesNothing();
-    void patternChoosesItsFamily_data();
     void patternChoosesItsFamily();
     void lowestLayer_data();
     void lowestLayer();
@@ -69,81 +63,35 @@ void TestApplyDisplay::initTestCase()
     KeyEvent::getInstance()->InitKeyDriver(qApp);
 }
 
-void TestApplyDisplay::cleanupTestCase()
-{
-    delete m_rig;
-}
-
-void TestApplyDisplay::init()
-{
-    m_rig->reset();
-}
-
 void TestApplyDisplay::entersMode_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("function"); ///< of the Fn key
-    QTest::addColumn<QString>("marks");
-    QTest::addColumn<bool>("fnLit");
-    QTest::addColumn<QStringList>("sent");
-    QTest::newRow("freeze") << 1 << "3"
-                            << "oxo-" << true << QStringList{"1022=1"};
-    QTest::newRow("freeze, Fn is black") << 1 << "2"
-                                         << "oxo-" << false << QStringList{"1022=1"};
-    QTest::newRow("black") << 2 << "2"
-                           << "oox-" << true << QStringList{"1023=1"};
-    QTest::newRow("test pattern") << 3 << "4"
-                                  << "o--o" << true << QStringList{"2326=5"};
-    QTest::newRow("test pattern, Fn is sync") << 3 << "0"
-                                              << "o--o" << false << QStringList{"2326=5"};
+    addColumns<int, QString, QString, bool, QString>({"mode", "function", "marks", "fnLit", "sent"});
+    addRow("freeze", 1, "3", "oxo-", true, "1022=1");
+    addRow("freeze, Fn is black", 1, "2", "oxo-", false, "1022=1");
+    addRow("black", 2, "2", "oox-", true, "1023=1");
+    addRow("test pattern", 3, "4", "o--o", true, "2326=5");
+    addRow("test pattern, Fn is sync", 3, "0", "o--o", false, "2326=5");
 }
 
+/// A reported mode is shown, not sent.
 void TestApplyDisplay::entersMode()
 {
     QFETCH(int, mode);
     QFETCH(QString, function);
-    m_rig->set(MENU_FnMode, function);
-    m_rig->fromUser(modeItems[mode], "1");
-    QTEST(marks(), "marks");
-    QCOMPARE(m_rig->value(PARA_DisplayMode).toInt(), mode);
-    QCOMPARE(m_leds->lit(LED_FREEZE), mode == 1);
-    QCOMPARE(m_leds->lit(LED_TEST), mode == 3);
-    QTEST(m_leds->lit(LED_FN), "fnLit");
-    QVERIFY(pictureStands(mode));
-    QTEST(m_rig->device->sent.take(), "sent");
-}
-
-void TestApplyDisplay::reportedModeIsShownNotSent_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("function"); ///< of the Fn key, which is that mode's
-    QTest::addColumn<QString>("marks");
-    QTest::newRow("normal") << 0 << "0"
-                            << "xooo";
-    QTest::newRow("freeze") << 1 << "3"
-                            << "oxo-";
-    QTest::newRow("black") << 2 << "2"
-                           << "oox-";
-    QTest::newRow("test pattern") << 3 << "4"
-                                  << "o--o";
-}
-
-void TestApplyDisplay::reportedModeIsShownNotSent()
-{
-    QFETCH(int, mode);
-    QFETCH(QString, function);
-    m_rig->set(MENU_FnMode, function);
-    m_rig->process(PARA_DisplayMode, mode == 0 ? 1 : 0);
-    m_rig->fromDevice(modeItems[mode], "1");
-    QTEST(marks(), "marks");
-    QVERIFY(pictureStands(mode));
-    QCOMPARE(m_leds->lit(LED_FREEZE), mode == 1);
-    QCOMPARE(m_leds->lit(LED_TEST), mode == 3);
-    QCOMPARE(m_leds->lit(LED_FN), mode != 0);
-    QCOMPARE(m_rig->value(PARA_DisplayMode).toInt(), mode);
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    const QStringList told = m_rig->reported.take();
-    QCOMPARE(told.count(QString("%1=1").arg(modeItems[mode])), mode == 3 ? 0 : 1);
+    QFETCH(QString, sent);
+    for (const bool user : {true, false}) {
+        m_rig->reset();
+        m_rig->set(MENU_FnMode, function);
+        m_rig->engine->SetParaToXml("1", modeItems[mode], user ? SET_XML_USER : SET_XML_DEVICE);
+        m_rig->settle();
+        QTEST(marks(), "marks");
+        QCOMPARE(m_rig->value(PARA_DisplayMode).toInt(), mode);
+        QCOMPARE(m_leds->lit(LED_FREEZE), mode == 1);
+        QCOMPARE(m_leds->lit(LED_TEST), mode == 3);
+        QTEST(m_leds->lit(LED_FN), "fnLit");
+        QVERIFY(pictureStands(mode));
+        QCOMPARE(m_rig->device->sent.take().join(' '), user ? sent : QString());
+    }
 }
 
 void TestApplyDisplay::secondFreezeOnlyLightsAgain()
@@ -162,46 +110,16 @@ void TestApplyDisplay::normalGivesEverythingBack()
     m_rig->forget();
     m_rig->fromUser(MENU_Normal, "1");
     QCOMPARE(marks(), QString("xooo"));
+    QVERIFY(pictureStands(0));
     QCOMPARE(m_rig->value(PARA_DisplayMode), QString("0"));
     QVERIFY(!m_leds->lit(LED_TEST) && !m_leds->lit(LED_FREEZE) && !m_leds->lit(LED_FN));
     QCOMPARE(m_rig->device->sent.take(), QStringList{"1021=1"});
 }
 
-void TestApplyDisplay::testPatternSendsTheLastOne_data()
+void TestApplyDisplay::lastPatternMayBeAPicture()
 {
-    QTest::addColumn<int>("family");
-    QTest::addColumn<QStringList>("sent");
-    QTest::newRow("pure colour") << 0 << QStringList{"2326=5"};
-    QTest::newRow("gradient") << 1 << QStringList{"2327=0"};
-    QTest::newRow("grid") << 2 << QStringList{"2328=0"};
-    QTest::newRow("picture") << 3 << QStringList();
-}
-
-void TestApplyDisplay::testPatternSendsTheLastOne()
-{
-    QFETCH(int, family);
-    m_rig->process(PARA_TestPatternFamily, family);
+    m_rig->process(PARA_TestPatternFamily, 3);
     m_rig->fromUser(MENU_TestPattern, "1");
-    QTEST(m_rig->device->sent.take(), "sent");
-}
-
-void TestApplyDisplay::deviceTellsItsMode_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("marks");
-    QTest::newRow("normal") << 3 << "xooo";
-    QTest::newRow("freeze") << 4 << "oxo-";
-    QTest::newRow("black") << 5 << "oox-";
-    QTest::newRow("test pattern") << 6 << "o--o";
-}
-
-void TestApplyDisplay::deviceTellsItsMode()
-{
-    QFETCH(int, code);
-    m_rig->process(PARA_DisplayMode, code == 3 ? 2 : 0);
-    m_rig->engine->UpdataDispMode(code);
-    QTEST(marks(), "marks");
-    QCOMPARE(m_rig->value(PARA_DisplayMode).toInt(), code - 3);
     QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
@@ -215,16 +133,14 @@ void TestApplyDisplay::knownModeIsNotToldAgain()
 
 void TestApplyDisplay::fnKey_data()
 {
-    QTest::addColumn<int>("function");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("lit");
-    QTest::newRow("sync") << 0 << 1 << false;
-    QTest::newRow("HDMI output") << 1 << 1 << false;
-    QTest::newRow("black, is black") << 2 << 2 << true;
-    QTest::newRow("black, is frozen") << 2 << 1 << false;
-    QTest::newRow("freeze, is frozen") << 3 << 1 << true;
-    QTest::newRow("test pattern, is one") << 4 << 3 << true;
-    QTest::newRow("test pattern, is normal") << 4 << 0 << false;
+    addColumns<int, int, bool>({"function", "mode", "lit"});
+    addRow("sync", 0, 1, false);
+    addRow("HDMI output", 1, 1, false);
+    addRow("black, is black", 2, 2, true);
+    addRow("black, is frozen", 2, 1, false);
+    addRow("freeze, is frozen", 3, 1, true);
+    addRow("test pattern, is one", 4, 3, true);
+    addRow("test pattern, is normal", 4, 0, false);
 }
 
 void TestApplyDisplay::fnKey()
@@ -251,13 +167,12 @@ void TestApplyDisplay::fnKey()
 
 void TestApplyDisplay::patternTypeSendsItsPattern_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QStringList>("sent");
-    QTest::newRow("pure colour") << "0" << QStringList{"2326=5", "2325=0"};
-    QTest::newRow("gradient") << "1" << QStringList{"2327=0", "2325=1"};
-    QTest::newRow("grid") << "2" << QStringList{"2328=0", "2325=2"};
-    QTest::newRow("maker's picture") << "3" << QStringList{"2325=3"};
-    QTest::newRow("custom") << "4" << QStringList{"2325=4"};
+    addColumns<QString, QString>({"type", "sent"});
+    addRow("pure colour", "0", "2326=5 2325=0");
+    addRow("gradient", "1", "2327=0 2325=1");
+    addRow("grid", "2", "2328=0 2325=2");
+    addRow("maker's picture", "3", "2325=3");
+    addRow("custom", "4", "2325=4");
 }
 
 void TestApplyDisplay::patternTypeSendsItsPattern()
@@ -265,7 +180,7 @@ void TestApplyDisplay::patternTypeSendsItsPattern()
     QFETCH(QString, type);
     m_rig->fromUser(MENU_Test_Type, type);
     QCOMPARE(m_rig->value(PARA_TestPatternFamily), type);
-    QTEST(m_rig->device->sent.take(), "sent");
+    QTEST(m_rig->device->sent.take().join(' '), "sent");
     if (!m_rig->info(MENU_Test_Type).params.contains(type))
         return; // the row itself takes back what its list does not have
     m_rig->process(PARA_TestPatternFamily, 9);
@@ -298,46 +213,34 @@ void TestApplyDisplay::wrongPatternTypeChangesNothing()
     QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
-void TestApplyDisplay::patternChoosesItsFamily_data()
-{
-    QTest::addColumn<int>("pattern");
-    QTest::addColumn<QString>("family");
-    QTest::newRow("pure colour") << int(MENU_Test_PureColor) << "0";
-    QTest::newRow("gradient") << int(MENU_Test_Gradient) << "1";
-    QTest::newRow("grid") << int(MENU_Test_Grid) << "2";
-}
-
 void TestApplyDisplay::patternChoosesItsFamily()
 {
-    QFETCH(int, pattern);
-    m_rig->process(PARA_TestPatternFamily, 4);
-    m_rig->fromUser(ENUM_MenuIndex(pattern), "1");
-    QTEST(m_rig->value(PARA_TestPatternFamily), "family");
-    const QString line = QString("%1=1").arg(pattern);
-    QCOMPARE(m_rig->device->sent.take(), QStringList{line});
-    m_rig->process(PARA_TestPatternFamily, 4);
-    m_rig->fromDevice(ENUM_MenuIndex(pattern), "1");
-    QTEST(m_rig->value(PARA_TestPatternFamily), "family");
-    QVERIFY(m_rig->reported.take().contains(line));
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
+    const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
+    for (int family = 0; family < int(std::size(patterns)); ++family)
+        for (auto mode : {SET_XML_USER, SET_XML_DEVICE}) {
+            m_rig->process(PARA_TestPatternFamily, 4);
+            m_rig->engine->SetParaToXml("1", patterns[family], mode);
+            m_rig->settle();
+            QCOMPARE(m_rig->value(PARA_TestPatternFamily).toInt(), family);
+            const QString line = QString("%1=1").arg(patterns[family]);
+            QCOMPARE(m_rig->device->sent.take().join(' '), mode == SET_XML_USER ? line : QString());
+            QCOMPARE(m_rig->reported.take().contains(line), mode == SET_XML_DEVICE);
+        }
 }
 
 void TestApplyDisplay::lowestLayer_data()
 {
-    QTest::addColumn<QString>("on");         ///< status of the three layers
-    QTest::addColumn<QStringList>("places"); ///< their priorities
-    QTest::addColumn<QString>("scaling");
-    QTest::addColumn<int>("lowest");
-    QTest::addColumn<bool>("lit");
-    QTest::newRow("main alone, full screen") << "100" << QStringList{"0", "1", "2"} << "022" << 0 << true;
-    QTest::newRow("main alone, custom") << "100" << QStringList{"0", "1", "2"} << "202" << 0 << false;
-    QTest::newRow("PIP 2 below") << "111" << QStringList{"2", "1", "0"} << "220" << 2 << true;
-    QTest::newRow("the lowest is off") << "110" << QStringList{"2", "1", "0"} << "200" << 1 << true;
-    QTest::newRow("equal: the earlier") << "011" << QStringList{"0", "1", "1"} << "220" << 1 << false;
-    QTest::newRow("main without a place") << "110" << QStringList{"255", "1", "2"} << "020" << 1 << false;
-    QTest::newRow("main without a place alone")
-        << "100" << QStringList{"255", "1", "2"} << "000" << 255 << false;
-    QTest::newRow("none") << "000" << QStringList{"0", "1", "2"} << "000" << 255 << false;
+    // Of the three layers: status, priorities, scaling.
+    addColumns<QString, QStringList, QString, int, bool>({"on", "places", "scaling", "lowest", "lit"});
+    const QStringList inOrder{"0", "1", "2"}, turned{"2", "1", "0"}, without{"255", "1", "2"};
+    addRow("main alone, full screen", "100", inOrder, "022", 0, true);
+    addRow("main alone, custom", "100", inOrder, "202", 0, false);
+    addRow("PIP 2 below", "111", turned, "220", 2, true);
+    addRow("the lowest is off", "110", turned, "200", 1, true);
+    addRow("equal: the earlier", "011", QStringList{"0", "1", "1"}, "220", 1, false);
+    addRow("main without a place", "110", without, "020", 1, false);
+    addRow("main without a place alone", "100", without, "000", 255, false);
+    addRow("none", "000", inOrder, "000", 255, false);
 }
 
 void TestApplyDisplay::lowestLayer()

@@ -11,10 +11,13 @@ class TestApplyLayers : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void cleanupTestCase();
+    void cleanupTestCase()
+    {
+        delete m_leds;
+        delete m_rig;
+    }
     void init() { m_rig->start(); }
 
-    void mainStatus_data();
     void mainStatus();
     void pipOnTakesTheMosaicAway_data();
     void pipOnTakesTheMosaicAway();
@@ -43,47 +46,29 @@ void TestApplyLayers::initTestCase()
     KeyEvent::getInstance()->InitKeyDriver(qApp);
 }
 
-void TestApplyLayers::cleanupTestCase()
-{
-    delete m_leds;
-    delete m_rig;
-}
-
 void TestApplyLayers::eachPip()
 {
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<bool>("user");
-    QTest::newRow("PIP 1, user") << 1 << true;
-    QTest::newRow("PIP 1, device") << 1 << false;
-    QTest::newRow("PIP 2, user") << 2 << true;
-    QTest::newRow("PIP 2, device") << 2 << false;
-}
-
-void TestApplyLayers::mainStatus_data()
-{
-    QTest::addColumn<bool>("user");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("lowest");
-    QTest::newRow("user off") << true << "0" << 255;
-    QTest::newRow("user on") << true << "1" << 0;
-    QTest::newRow("device off") << false << "0" << 255;
-    QTest::newRow("device on") << false << "1" << 0;
+    addColumns<int, bool>({"layer", "user"});
+    for (int layer : {1, 2})
+        for (bool user : {true, false})
+            addRow(QString("PIP %1, %2").arg(layer).arg(user ? "user" : "device"), layer, user);
 }
 
 void TestApplyLayers::mainStatus()
 {
-    QFETCH(bool, user);
-    QFETCH(QString, value);
-    m_rig->fromUser(MENU_MainLayer_Status, value == "0" ? "1" : "0");
-    m_rig->set(MENU_Layout, "0");
-    m_rig->forget();
-    m_rig->put(user, MENU_MainLayer_Status, value);
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-    QCOMPARE(m_rig->layerShown(0), value == "1");
-    QTEST(m_rig->value(PARA_LowestLayer).toInt(), "lowest");
-    const QStringList told{LayerRig::line(2100, value)};
-    QCOMPARE(m_rig->device->sent.take(), user ? told : QStringList());
-    QCOMPARE(m_rig->reported.take(), user ? QStringList() : told);
+    for (const bool user : {true, false})
+        for (const QString value : {"0", "1"}) {
+            m_rig->fromUser(MENU_MainLayer_Status, value == "0" ? "1" : "0");
+            m_rig->set(MENU_Layout, "0");
+            m_rig->forget();
+            m_rig->put(user, MENU_MainLayer_Status, value);
+            QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
+            QCOMPARE(m_rig->layerShown(0), value == "1");
+            QCOMPARE(m_rig->value(PARA_LowestLayer).toInt(), value == "1" ? 0 : 255);
+            const QStringList told{LayerRig::line(2100, value)};
+            QCOMPARE(m_rig->device->sent.take(), user ? told : QStringList());
+            QCOMPARE(m_rig->reported.take(), user ? QStringList() : told);
+        }
 }
 
 void TestApplyLayers::pipOnTakesTheMosaicAway_data()
@@ -119,55 +104,44 @@ void TestApplyLayers::pipOnTakesTheMosaicAway()
 
 void TestApplyLayers::pipIsRefusedUnderTheMosaic_data()
 {
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<bool>("user");
-    QTest::addColumn<bool>("started");
-    for (int layer : {1, 2})
-        for (bool user : {true, false})
-            for (bool started : {true, false})
-                QTest::addRow("PIP %d%s%s", layer, user ? ", user" : "", started ? ", started" : "")
-                    << layer << user << started;
+    eachPip();
 }
 
+/// Once the device has told its state, and before.
 void TestApplyLayers::pipIsRefusedUnderTheMosaic()
 {
     QFETCH(int, layer);
     QFETCH(bool, user);
-    QFETCH(bool, started);
     const ENUM_MenuIndex status = LayerRig::of(MENU_MainLayer_Status, layer);
     m_rig->fromUser(status, "0");
     m_rig->set(MENU_MainLayer_InputSource, LayerRig::mosaicRow);
-    m_rig->forget();
-    ParaProcess::init_20m_flg = started;
-    m_rig->put(user, status, "1");
-    QTRY_COMPARE(m_rig->messages.size(), 1);
-    QVERIFY2(m_rig->messages.first().contains("mosaic", Qt::CaseInsensitive),
-             qPrintable(m_rig->messages.first()));
-    QCOMPARE(m_rig->value(status), QString("0"));
-    QVERIFY(!m_rig->layerShown(layer));
-    QVERIFY(m_rig->mosaicOffered());
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->reported.take(), QStringList());
-    QCOMPARE(m_rig->reloaded.take(), QStringList{LayerRig::line(status, "")});
+    for (const bool started : {true, false}) {
+        m_rig->forget();
+        ParaProcess::init_20m_flg = started;
+        m_rig->put(user, status, "1");
+        QTRY_COMPARE(m_rig->messages.size(), 1);
+        QVERIFY2(m_rig->messages.first().contains("mosaic", Qt::CaseInsensitive),
+                 qPrintable(m_rig->messages.first()));
+        QCOMPARE(m_rig->value(status), QString("0"));
+        QVERIFY(!m_rig->layerShown(layer));
+        QVERIFY(m_rig->mosaicOffered());
+        QCOMPARE(m_rig->device->sent.take(), QStringList());
+        QCOMPARE(m_rig->reported.take(), QStringList());
+        QCOMPARE(m_rig->reloaded.take(), QStringList{LayerRig::line(status, "")});
+    }
 }
 
 void TestApplyLayers::pipOffGivesBack_data()
 {
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("held");
-    QTest::addColumn<bool>("mosaic");
-    QTest::addColumn<QString>("transition");
+    addColumns<int, int, QString, bool, QString>({"layer", "item", "held", "mosaic", "transition"});
     for (int layer : {1, 2}) {
-        auto row = [layer](const char *name, ENUM_MenuIndex item, const QString &held, bool mosaic,
-                           const char *transition) {
-            QTest::addRow("PIP %d: %s", layer, name) << layer << int(item) << held << mosaic << transition;
-        };
-        row("alone", MENU_Mode3D_Status, "0", true, "y");
-        row("the other on", LayerRig::of(MENU_MainLayer_Status, 3 - layer), "1", false, "n");
-        row("3D on", MENU_Mode3D_Status, "1", true, "n");
-        row("mosaic shown", MENU_MainLayer_InputSource, LayerRig::mosaicRow, true, "n");
-        row("sending card", MENU_WorkMode, "2", false, "n");
+        const QString name = QString("PIP %1: ").arg(layer);
+        const ENUM_MenuIndex other = LayerRig::of(MENU_MainLayer_Status, 3 - layer);
+        addRow(name + "alone", layer, MENU_Mode3D_Status, "0", true, "y");
+        addRow(name + "the other on", layer, other, "1", false, "n");
+        addRow(name + "3D on", layer, MENU_Mode3D_Status, "1", true, "n");
+        addRow(name + "mosaic shown", layer, MENU_MainLayer_InputSource, LayerRig::mosaicRow, true, "n");
+        addRow(name + "sending card", layer, MENU_WorkMode, "2", false, "n");
     }
 }
 
@@ -202,28 +176,11 @@ void TestApplyLayers::scaleLightFollowsTheLowestLayer()
 
 void TestApplyLayers::priorityMovesTheOthers_data()
 {
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("place");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("main to the top") << 0 << "012"
-                                     << "2"
-                                     << "201";
-    QTest::newRow("main by one") << 0 << "012"
-                                 << "1"
-                                 << "102";
-    QTest::newRow("PIP 1 up") << 1 << "012"
-                              << "2"
-                              << "021";
-    QTest::newRow("PIP 1 down") << 1 << "012"
-                                << "0"
-                                << "102";
-    QTest::newRow("PIP 2 to the bottom") << 2 << "012"
-                                         << "0"
-                                         << "120";
-    QTest::newRow("PIP 2 from the bottom") << 2 << "210"
-                                           << "1"
-                                           << "201";
+    addColumns<int, QString, QString, QString>({"layer", "before", "place", "after"});
+    addRow("main to the top", 0, "012", "2", "201");
+    addRow("PIP 1 down", 1, "012", "0", "102");
+    addRow("PIP 2 to the bottom", 2, "012", "0", "120");
+    addRow("PIP 2 from the bottom", 2, "210", "1", "201");
 }
 
 void TestApplyLayers::priorityMovesTheOthers()
@@ -266,11 +223,9 @@ void TestApplyLayers::priorityThatMovesNothing()
 
 void TestApplyLayers::fixedLayout_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QStringList>("geometry");
-    QTest::newRow("1:1:1") << "0" << 1921 << QStringList{"641 1080 640 0", "640 1080 0 0", "640 1080 1281 0"};
-    QTest::newRow("1:2:1") << "1" << 1922 << QStringList{"962 1080 480 0", "480 1080 0 0", "480 1080 1442 0"};
+    addColumns<QString, int, QString>({"layout", "width", "geometry"});
+    addRow("1:1:1", "0", 1921, "641 1080 640 0, 640 1080 0 0, 640 1080 1281 0");
+    addRow("1:2:1", "1", 1922, "962 1080 480 0, 480 1080 0 0, 480 1080 1442 0");
 }
 
 void TestApplyLayers::fixedLayout()
@@ -293,7 +248,7 @@ void TestApplyLayers::fixedLayout()
         QCOMPARE(m_rig->value(LayerRig::of(MENU_MainLayer_ScalingMode, layer)), QString("2"));
         QVERIFY(m_rig->layerShown(layer));
     }
-    QTEST(found, "geometry");
+    QTEST(found.join(", "), "geometry");
     QCOMPARE(m_rig->device->sent.take(),
              (QStringList{"2106=0", "2116=0", "2110=1", "2126=0", "2120=1", "1019=1"}));
     QVERIFY(!m_rig->mosaicOffered());

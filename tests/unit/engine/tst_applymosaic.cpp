@@ -1,6 +1,6 @@
 // The mosaic of two inputs and the backup of inputs, as the user and as the device bring their values.
 
-#include "casetable.h"
+#include "enginerig.h"
 
 using namespace VASK;
 
@@ -10,16 +10,13 @@ class TestApplyMosaic : public QObject
 private slots:
     void initTestCase() { m_rig = new EngineRig; }
     void cleanupTestCase() { delete m_rig; }
-    void init();
+    void init() { m_rig->reset(); }
 
     void valueIsApplied_data();
     void valueIsApplied();
-    void totalSize_data();
-    void totalSize();
     void arrangement_data();
     void arrangement();
     void rowsFollowTheLayout();
-    void applyTellsWhetherItIsShown_data();
     void applyTellsWhetherItIsShown();
     void reset();
     void backupArrows_data();
@@ -32,17 +29,6 @@ private:
 
 namespace
 {
-const Values memories{{MENU_MosaicLayout0_Width, "1280"}, {MENU_MosaicLayout0_Height, "720"},
-                      {MENU_MosaicLayout1_Width, "800"},  {MENU_MosaicLayout1_Height, "600"},
-                      {MENU_Mosaic_Width, "1"},           {MENU_Mosaic_Height, "2"}};
-
-Values with(Values values, const Values &more)
-{
-    for (auto item = more.cbegin(); item != more.cend(); ++item)
-        values[item.key()] = item.value();
-    return values;
-}
-
 /// Notes what the rows of the mosaic and of the backup are told beside their values.
 class LookRow : public VaskUiObject
 {
@@ -56,108 +42,64 @@ private:
     QStringList &m_notes;
 };
 
-const Cases &allCases()
-{
-    static const Cases cases{
-        Case("side by side", memories)
-            .byDevice(MENU_Mosaic_Layout, "1")
-            .tells({"3071=1", "3071=1"})
-            .leaves({{MENU_Mosaic_Width, "1280"}, {MENU_Mosaic_Height, "720"}}),
-        // No row of it is known to the protocol but the apply row.
-        Case("one above the other", memories)
-            .byUser(MENU_Mosaic_Layout, "0")
-            .sends({"3071=0"})
-            .refreshes({"3072=", "3072=", "3073=", "3073="})
-            .leaves({{MENU_Mosaic_Width, "800"}, {MENU_Mosaic_Height, "600"}}),
-        Case("width, side by side", with(memories, {{MENU_Mosaic_Layout, "1"}}))
-            .byUser(MENU_Mosaic_Width, "640")
-            .refreshes({"3074=", "3074="})
-            .leaves({{MENU_MosaicLayout0_Width, "640"}, {MENU_MosaicLayout1_Width, "800"}}),
-        Case("width, above", with(memories, {{MENU_Mosaic_Layout, "0"}}))
-            .byDevice(MENU_Mosaic_Width, "640")
-            .refreshes({"3074=", "3074=", "3072=", "3072="})
-            .leaves({{MENU_MosaicLayout1_Width, "640"}, {MENU_MosaicLayout0_Width, "1280"}}),
-        Case("height, side by side", with(memories, {{MENU_Mosaic_Layout, "1"}}))
-            .byDevice(MENU_Mosaic_Height, "480")
-            .refreshes({"3074=", "3074=", "3073=", "3073="})
-            .leaves({{MENU_MosaicLayout0_Height, "480"}, {MENU_MosaicLayout1_Height, "600"}}),
-        Case("height, above", with(memories, {{MENU_Mosaic_Layout, "0"}}))
-            .byUser(MENU_Mosaic_Height, "480")
-            .refreshes({"3074=", "3074="})
-            .leaves({{MENU_MosaicLayout1_Height, "480"}, {MENU_MosaicLayout0_Height, "720"}}),
-    };
-    return cases;
-}
 } // namespace
-
-void TestApplyMosaic::init()
-{
-    m_rig->reset();
-}
 
 void TestApplyMosaic::valueIsApplied_data()
 {
-    addCaseRows(allCases());
+    // Afterwards: rows that are told to load, the size of the page and of each layout, and that of the whole.
+    addColumns<QString, int, QString, QString, QString, QString>(
+        {"layout", "index", "value", "reloaded", "sizes", "total"});
+    const QString sizes = "3072= 3072= 3073= 3073=", whole = "3074= 3074=";
+    addRow("side by side", "1", MENU_Mosaic_Layout, "1", sizes, "1280x720 1280x720 800x600", "2560x720");
+    addRow("above", "0", MENU_Mosaic_Layout, "0", sizes, "800x600 1280x720 800x600", "800x1200");
+    addRow("width of both", "1", MENU_Mosaic_Width, "640", whole, "640x2 640x720 800x600", "1280x1080");
+    addRow("width of one", "0", MENU_Mosaic_Width, "640", whole, "640x2 1280x720 640x600", "640x1080");
+    addRow("height of one", "1", MENU_Mosaic_Height, "480", whole, "1x480 1280x480 800x600", "3840x480");
+    addRow("height of both", "0", MENU_Mosaic_Height, "480", whole, "1x480 1280x720 800x480", "3840x960");
 }
 
 void TestApplyMosaic::valueIsApplied()
 {
-    QFETCH(int, row);
-    runCase(*m_rig, allCases().at(row));
-}
-
-void TestApplyMosaic::totalSize_data()
-{
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("size"); ///< of 1280x720 side by side, 800x600 above
-    QTest::newRow("side by side") << "1" << int(MENU_Mosaic_Layout) << "1"
-                                  << "2560x720";
-    QTest::newRow("above") << "0" << int(MENU_Mosaic_Layout) << "0"
-                           << "800x1200";
-    QTest::newRow("width of both") << "1" << int(MENU_Mosaic_Width) << "1920"
-                                   << "3840x1080";
-    QTest::newRow("height of one") << "1" << int(MENU_Mosaic_Height) << "900"
-                                   << "3840x900";
-    QTest::newRow("width of one") << "0" << int(MENU_Mosaic_Width) << "1000"
-                                  << "1000x1080";
-    QTest::newRow("height of both") << "0" << int(MENU_Mosaic_Height) << "500"
-                                    << "3840x1000";
-}
-
-void TestApplyMosaic::totalSize()
-{
     QFETCH(QString, layout);
     QFETCH(int, index);
     QFETCH(QString, value);
-    QFETCH(QString, size);
+    QFETCH(QString, reloaded);
+    const bool isLayout = index == MENU_Mosaic_Layout;
+    const QString line = isLayout ? "3071=" + value : QString();
+    const QList<QPair<int, const char *>> before{
+        {MENU_MosaicLayout0_Width, "1280"}, {MENU_MosaicLayout0_Height, "720"},
+        {MENU_MosaicLayout1_Width, "800"},  {MENU_MosaicLayout1_Height, "600"},
+        {MENU_Mosaic_Width, "1"},           {MENU_Mosaic_Height, "2"}};
     for (auto mode : {SET_XML_USER, SET_XML_DEVICE}) {
+        const bool user = mode == SET_XML_USER;
         m_rig->reset();
-        for (auto item = memories.cbegin(); item != memories.cend(); ++item)
-            m_rig->set(ENUM_MenuIndex(item.key()), item.value());
+        for (const auto &item : before)
+            m_rig->set(ENUM_MenuIndex(item.first), item.second);
         m_rig->set(MENU_Mosaic_Layout, layout);
-        QCOMPARE(m_rig->info(MENU_Mosaic_Arrangement).pixValue, QString("3840x1080"));
         m_rig->engine->SetParaToXml(value, ENUM_MenuIndex(index), mode);
-        QCOMPARE(m_rig->info(MENU_Mosaic_Arrangement).pixValue, size);
+        m_rig->settle();
+        QCOMPARE(m_rig->device->sent.take().join(' '), user ? line : QString());
+        QCOMPARE(m_rig->reported.take().join(' '), user || !isLayout ? QString() : line + ' ' + line);
+        const QString own = user || isLayout ? QString() : QString(" %1= %1=").arg(index);
+        QCOMPARE(m_rig->reloaded.take().join(' '), reloaded + own);
+        QStringList sizes;
+        for (auto width : {MENU_Mosaic_Width, MENU_MosaicLayout0_Width, MENU_MosaicLayout1_Width})
+            sizes << m_rig->value(width) + 'x' + m_rig->value(ENUM_MenuIndex(width + 1));
+        QTEST(sizes.join(' '), "sizes");
+        QTEST(m_rig->info(MENU_Mosaic_Arrangement).pixValue, "total");
     }
 }
 
 void TestApplyMosaic::arrangement_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-    for (int input = 0; input < 6; ++input)
-        QTest::addRow("user, %d", input) << int(SET_XML_USER) << QString::number(input)
-                                         << QString::number(input) << QString("103254").mid(input, 1);
-    QTest::newRow("user, in no pair") << int(SET_XML_USER) << "6"
-                                      << "6"
-                                      << "";
-    QTest::newRow("device") << int(SET_XML_DEVICE) << "3/0"
-                            << "3"
-                            << "0";
+    addColumns<int, QString, QString, QString>({"mode", "value", "first", "second"});
+    const QString other = "103254";
+    for (int input = 0; input < other.size(); ++input) {
+        const QString number = QString::number(input);
+        addRow("user, " + number, SET_XML_USER, number, number, other.mid(input, 1));
+    }
+    addRow("user, in no pair", SET_XML_USER, "6", "6", "");
+    addRow("device", SET_XML_DEVICE, "3/0", "3", "0");
 }
 
 void TestApplyMosaic::arrangement()
@@ -201,29 +143,21 @@ void TestApplyMosaic::rowsFollowTheLayout()
     pool->InsertData(ENUM_ROW_Mosaic_Arrangement, usual);
 }
 
-void TestApplyMosaic::applyTellsWhetherItIsShown_data()
-{
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("flag");
-    QTest::newRow("shown") << "4"
-                           << "1";
-    QTest::newRow("not shown") << "2"
-                               << "0";
-}
-
 void TestApplyMosaic::applyTellsWhetherItIsShown()
 {
-    QFETCH(QString, source);
-    QFETCH(QString, flag);
-    ST_ItemInfo sources = m_rig->info(MENU_MainLayer_InputSource);
-    sources.params["4"] = "MOSAIC";
-    sources.value = source;
-    m_rig->store->updataMenuItem(MENU_MainLayer_InputSource, sources);
-    m_rig->fromUser(MENU_Mosaic_Apply, "");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"3075=" + flag});
-    QCOMPARE(m_rig->messages, QStringList{"Waiting"});
-    m_rig->fromDevice(MENU_Mosaic_Apply, "");
-    QCOMPARE(m_rig->reported.take(), (QStringList{"3075=" + flag, "3075=" + flag}));
+    for (const bool shown : {true, false}) {
+        m_rig->reset();
+        m_rig->store->changeItem(MENU_MainLayer_InputSource, [shown](ST_ItemInfo &sources) {
+            sources.params["4"] = "MOSAIC";
+            sources.value = shown ? "4" : "2";
+        });
+        const QString told = shown ? "3075=1" : "3075=0";
+        m_rig->fromUser(MENU_Mosaic_Apply, "");
+        QCOMPARE(m_rig->device->sent.take(), QStringList{told});
+        QCOMPARE(m_rig->messages, QStringList{"Waiting"});
+        m_rig->fromDevice(MENU_Mosaic_Apply, "");
+        QCOMPARE(m_rig->reported.take(), (QStringList{told, told}));
+    }
 }
 
 void TestApplyMosaic::reset()
@@ -234,9 +168,7 @@ void TestApplyMosaic::reset()
             m_rig->set(ENUM_MenuIndex(item), "0");
         for (int item = MENU_MosaicLayout0_Width; item <= MENU_MosaicLayout1_Source; ++item)
             m_rig->set(ENUM_MenuIndex(item), "0");
-        ST_ItemInfo item = m_rig->info(MENU_Mosaic_Arrangement);
-        item.pixValue = "1x1";
-        m_rig->store->updataMenuItem(MENU_Mosaic_Arrangement, item);
+        m_rig->store->changeItem(MENU_Mosaic_Arrangement, [](ST_ItemInfo &item) { item.pixValue = "1x1"; });
         m_rig->engine->SetParaToXml("0", MENU_Mosaic_Reset, mode);
         QStringList values;
         for (int index = MENU_Mosaic_Layout; index <= MENU_Mosaic_Arrangement; ++index)
@@ -254,19 +186,15 @@ void TestApplyMosaic::reset()
 
 void TestApplyMosaic::backupArrows_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QList<int>>("silent"); ///< inputs whose signal is not stable
-    QTest::addColumn<QString>("arrows");
-    const int hdmi = MENU_InputBackup_HDMI1, dvi = MENU_InputBackup_DVI1, both = MENU_InputBackup_Mosaic;
-    const QString yes = "arrows", no = "no arrows";
-    QTest::newRow("HDMI") << hdmi << "1" << QList<int>{2, 3} << yes;
-    QTest::newRow("HDMI, off") << hdmi << "0" << QList<int>{} << no;
-    QTest::newRow("HDMI, one silent") << hdmi << "1" << QList<int>{1} << no;
-    QTest::newRow("DVI") << dvi << "1" << QList<int>{0, 1} << yes;
-    QTest::newRow("DVI, one silent") << dvi << "1" << QList<int>{3} << no;
-    QTest::newRow("both") << both << "1" << QList<int>{} << yes;
-    QTest::newRow("both, one silent") << both << "1" << QList<int>{2} << no;
+    using Inputs = QList<int>; ///< whose signal is not stable
+    addColumns<int, QString, Inputs, QString>({"index", "value", "silent", "arrows"});
+    addRow("HDMI", MENU_InputBackup_HDMI1, "1", Inputs{2, 3}, "arrows");
+    addRow("HDMI, off", MENU_InputBackup_HDMI1, "0", Inputs{}, "no arrows");
+    addRow("HDMI, one silent", MENU_InputBackup_HDMI1, "1", Inputs{1}, "no arrows");
+    addRow("DVI", MENU_InputBackup_DVI1, "1", Inputs{0, 1}, "arrows");
+    addRow("DVI, one silent", MENU_InputBackup_DVI1, "1", Inputs{3}, "no arrows");
+    addRow("both", MENU_InputBackup_Mosaic, "1", Inputs{}, "arrows");
+    addRow("both, one silent", MENU_InputBackup_Mosaic, "1", Inputs{2}, "no arrows");
 }
 
 void TestApplyMosaic::backupArrows()

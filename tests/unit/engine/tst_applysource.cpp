@@ -15,7 +15,6 @@ private slots:
     void sourceIsShownAndSent_data();
     void sourceIsShownAndSent();
     void interlacedSourceIsTold();
-    void mosaicTakesEverything_data();
     void mosaicTakesEverything();
     void plainSourceGivesBack_data();
     void plainSourceGivesBack();
@@ -29,20 +28,12 @@ private:
 
 void TestApplySource::sourceIsShownAndSent_data()
 {
-    QTest::addColumn<int>("layer");
-    QTest::addColumn<bool>("user");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("signal");
+    addColumns<int, bool, QString, QString, QString>({"layer", "user", "source", "name", "signal"});
     for (int layer = 0; layer < 3; ++layer)
         for (bool user : {true, false}) {
-            auto row = [=](const char *source, const char *name, const char *signal) {
-                QTest::addRow("layer %d, %s, %s", layer, user ? "user" : "device", name)
-                    << layer << user << source << name << signal;
-            };
-            row("1", "HDMI2", "1920x1080@59.94");
-            row("2", "DVI", "No Signal");
-            row("3", "SDI", "3840x2160@60");
+            const QString who = QString("layer %1, %2, ").arg(layer).arg(user ? "user" : "device");
+            addRow(who + "HDMI2", layer, user, "1", "HDMI2", "1920x1080@59.94");
+            addRow(who + "DVI", layer, user, "2", "DVI", "No Signal");
         }
 }
 
@@ -73,36 +64,27 @@ void TestApplySource::interlacedSourceIsTold()
     QCOMPARE(m_rig->layerSignal(1), QString("1920x1080i@59.94"));
 }
 
-void TestApplySource::mosaicTakesEverything_data()
-{
-    QTest::addColumn<bool>("user");
-    QTest::newRow("user") << true;
-    QTest::newRow("device") << false;
-}
-
 void TestApplySource::mosaicTakesEverything()
 {
-    QFETCH(bool, user);
-    m_rig->setRows(MENU_Layout, true);
-    m_rig->setTransition(true);
-    m_rig->put(user, MENU_MainLayer_InputSource, LayerRig::mosaicRow);
-    QCOMPARE(m_rig->rows(MENU_Layout), QString("nn"));
-    QCOMPARE(m_rig->transition(), QString("n"));
-    QCOMPARE(m_rig->layerName(0), QString("MOSAIC"));
-    QStringList sent{"1019=1"};
-    if (user)
-        sent << "2101=7";
-    QCOMPARE(m_rig->device->sent.take(), sent);
+    for (const bool user : {true, false}) {
+        m_rig->start();
+        m_rig->setRows(MENU_Layout, true);
+        m_rig->setTransition(true);
+        m_rig->put(user, MENU_MainLayer_InputSource, LayerRig::mosaicRow);
+        QCOMPARE(m_rig->rows(MENU_Layout), QString("nn"));
+        QCOMPARE(m_rig->transition(), QString("n"));
+        QCOMPARE(m_rig->layerName(0), QString("MOSAIC"));
+        QCOMPARE(m_rig->device->sent.take().join(' '), QString(user ? "1019=1 2101=7" : "1019=1"));
+    }
 }
 
 void TestApplySource::plainSourceGivesBack_data()
 {
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("transition");
-    QTest::newRow("main layer alone") << int(MENU_OSDState) << "y";
-    QTest::newRow("PIP 1 on") << int(MENU_PIP1_Status) << "n";
-    QTest::newRow("PIP 2 on") << int(MENU_PIP2_Status) << "n";
-    QTest::newRow("3D on") << int(MENU_Mode3D_Status) << "n";
+    addColumns<int, QString>({"item", "transition"});
+    addRow("main layer alone", MENU_OSDState, "y");
+    addRow("PIP 1 on", MENU_PIP1_Status, "n");
+    addRow("PIP 2 on", MENU_PIP2_Status, "n");
+    addRow("3D on", MENU_Mode3D_Status, "n");
 }
 
 void TestApplySource::plainSourceGivesBack()
@@ -119,16 +101,10 @@ void TestApplySource::plainSourceGivesBack()
 
 void TestApplySource::outputOfASendingCardFollows_data()
 {
-    QTest::addColumn<QString>("sync");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<QString>("resolution");
-    QTest::newRow("the input") << "0"
-                               << "1" << 5994 << "1920x1080@59.94";
-    QTest::newRow("an input that tells no rate") << "0"
-                                                 << "2" << 6000 << "1920x1080@60";
-    QTest::newRow("the reference") << "1"
-                                   << "1" << 5000 << "1920x1080@50";
+    addColumns<QString, QString, int, QString>({"sync", "source", "rate", "resolution"});
+    addRow("the input", "0", "1", 5994, "1920x1080@59.94");
+    addRow("an input that tells no rate", "0", "2", 6000, "1920x1080@60");
+    addRow("the reference", "1", "1", 5000, "1920x1080@50");
 }
 
 void TestApplySource::outputOfASendingCardFollows()
