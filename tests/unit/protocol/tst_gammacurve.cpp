@@ -3,7 +3,6 @@
 #include "framework/protocol/send/gammacurve.h"
 
 #include <QtTest>
-#include <cmath>
 
 using namespace VASK;
 
@@ -12,8 +11,6 @@ class TestGammaCurve : public QObject
     Q_OBJECT
 private slots:
     void everyGammaOfTheMenu();
-    void shapeOfTheCurve_data();
-    void shapeOfTheCurve();
     void outOfRange();
     void depthRatioAndLimit();
     void firstStepCanBeRaised();
@@ -52,30 +49,6 @@ void TestGammaCurve::everyGammaOfTheMenu()
 {
     for (const Golden &g : golden)
         QCOMPARE(weightedSum(CountGammaCurve(g.tenths / 10.0, 12, 1.0, 0)), g.sum);
-}
-
-void TestGammaCurve::shapeOfTheCurve_data()
-{
-    QTest::addColumn<double>("gamma");
-    for (double gamma : {1.0, 1.1, 1.7, 1.8, 2.8, 3.9, 4.0})
-        QTest::addRow("%g", gamma) << gamma;
-}
-
-void TestGammaCurve::shapeOfTheCurve()
-{
-    QFETCH(double, gamma);
-    const QVector<int> table = CountGammaCurve(gamma, 12, 1.0, 0);
-    QCOMPARE(table.size(), 256);
-    QCOMPARE(table.first(), 0);
-    QCOMPARE(table.last(), 65520);
-    for (int i = 0; i < 256; ++i) {
-        QCOMPARE(table[i] & 0xF, 0);
-        QVERIFY(table[i] >= 16 * i);                // never below one step an entry
-        QVERIFY(i == 0 || table[i] > table[i - 1]); // every entry is a level of its own
-    }
-    // Far above the bend the curve is the bare power.
-    for (int i = 150; i < 256; ++i)
-        QCOMPARE(table[i], int(4095 * std::pow(i / 255.0, gamma) * 65535 / 4095 + 0.5) & ~0xF);
 }
 
 void TestGammaCurve::outOfRange()
