@@ -1,5 +1,6 @@
 // What is taken and what is dropped of the datagrams that come up from the bus.
 
+#include "datarows.h"
 #include "frames.h"
 #include "framework/protocol/datagram.h"
 
@@ -40,15 +41,12 @@ private slots:
 
 void TestDatagram::kinds_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QByteArray>("packet");
-
+    addColumns<QByteArray, int, QByteArray>({"bytes", "kind", "packet"});
     const auto dropped = [](const char *name, const QByteArray &bytes, DatagramKind kind) {
-        QTest::newRow(name) << bytes << int(kind) << QByteArray();
+        addRow(name, bytes, kind, QByteArray());
     };
     const auto taken = [](const char *name, const QByteArray &bytes, const QByteArray &packet) {
-        QTest::newRow(name) << bytes << int(DATAGRAM_Packet) << packet;
+        addRow(name, bytes, DATAGRAM_Packet, packet);
     };
     constexpr quint32 heartbeat = 0x13001004;
     dropped("heartbeat, written", frame(requestHeader, 1, heartbeat), DATAGRAM_Heartbeat);

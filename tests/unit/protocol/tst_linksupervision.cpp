@@ -1,6 +1,7 @@
 // Cables and host session: every state of the four values, when the panel may return home, and how long a
 // silent host keeps the device.
 
+#include "datarows.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
 #include "framework/protocol/hostsession.h"
@@ -55,21 +56,14 @@ private slots:
     void unlockRepeatsWithoutLink();
     void secondCableLeavesTheTimerAlone();
     void changesAreToldOnce();
-    void silentHost_data();
     void silentHost();
     void unplugged();
 };
 
 void TestLinkSupervision::table_data()
 {
-    QTest::addColumn<int>("usb");
-    QTest::addColumn<int>("ethernet");
-    QTest::addColumn<int>("loop");
-    QTest::addColumn<int>("priority");
-    QTest::addColumn<int>("shown");
-    QTest::addColumn<bool>("goesHome");
-    QTest::addColumn<bool>("unlinked");
-
+    addColumns<int, int, int, int, int, bool, bool>(
+        {"usb", "ethernet", "loop", "priority", "shown", "goesHome", "unlinked"});
     // What is shown: 0 network, 1 USB loop, 2 nothing connected, 3 USB. All sixteen states.
     const int rows[][7] = {
         {0, 0, 0, 0, 2, 1, 1}, {0, 0, 0, 1, 2, 1, 1}, {0, 0, 1, 0, 2, 1, 1}, {0, 0, 1, 1, 2, 1, 1},
@@ -78,8 +72,8 @@ void TestLinkSupervision::table_data()
         {1, 1, 0, 0, 3, 0, 0}, {1, 1, 0, 1, 0, 0, 0}, {1, 1, 1, 0, 1, 0, 0}, {1, 1, 1, 1, 1, 0, 0},
     };
     for (const auto &r : rows)
-        QTest::addRow("usb %d eth %d loop %d priority %d", r[0], r[1], r[2], r[3])
-            << r[0] << r[1] << r[2] << r[3] << r[4] << bool(r[5]) << bool(r[6]);
+        addRow(QString("usb %1 eth %2 loop %3 priority %4").arg(r[0]).arg(r[1]).arg(r[2]).arg(r[3]), r[0],
+               r[1], r[2], r[3], r[4], bool(r[5]), bool(r[6]));
 }
 
 void TestLinkSupervision::table()
@@ -173,34 +167,29 @@ void TestLinkSupervision::changesAreToldOnce()
     QCOMPARE(ethernet.first().first().toInt(), 2);
 }
 
-void TestLinkSupervision::silentHost_data()
-{
-    QTest::addColumn<int>("silentTicks");
-    QTest::addColumn<bool>("over");
-    QTest::newRow("15") << 15 << false;
-    QTest::newRow("16") << 16 << true;
-}
-
+/// The tick after a packet sees it; fifteen more are not enough, sixteen are. A packet in between starts
+/// anew.
 void TestLinkSupervision::silentHost()
 {
-    QFETCH(int, silentTicks);
-    QFETCH(bool, over);
     HostSession session;
     QSignalSpy ended(&session, &HostSession::over);
-    session.slot_Heartbeat();
+    const auto tick = [&session](int times) {
+        for (int i = 0; i < times; ++i)
+            session.slot_Heartbeat();
+    };
+    tick(1);
     QVERIFY(!session.isActive()); // a tick starts nothing
-    for (int round = 0; round < 2; ++round) {
+    for (int round = 1; round <= 2; ++round) {
         session.heartbeat();
         QVERIFY(session.isActive());
-        // A packet in between starts the count anew.
-        for (int i = 0; i < 10; ++i)
-            session.slot_Heartbeat();
+        tick(10);
         session.heartbeat();
-        session.slot_Heartbeat();
-        for (int i = 0; i < silentTicks; ++i)
-            session.slot_Heartbeat();
-        QCOMPARE(session.isActive(), !over);
-        QCOMPARE(ended.count(), over ? round + 1 : 0);
+        tick(16);
+        QVERIFY(session.isActive());
+        QCOMPARE(ended.count(), round - 1);
+        tick(1);
+        QVERIFY(!session.isActive());
+        QCOMPARE(ended.count(), round);
     }
 }
 

@@ -1,5 +1,6 @@
 // Packets to the byte: what the builders make, what is read from a reply, and what a damaged frame does.
 
+#include "datarows.h"
 #include "frames.h"
 #include "framework/protocol/datagram.h"
 #include "framework/protocol/packagerequestproto3rd.h"
@@ -18,12 +19,10 @@ private slots:
     void readAndReply();
     void serialNumberWraps();
     void frameSizes();
-    void writeData_data();
     void writeData();
     void commonBuilders();
     void reply_data();
     void reply();
-    void checksumOverflows();
     void damagedFrameIsRefused();
 };
 
@@ -97,26 +96,19 @@ void TestPackages::frameSizes()
     QCOMPARE(frames::withChecksum(frame.left(18)), frame);
 }
 
-void TestPackages::writeData_data()
-{
-    QTest::addColumn<QByteArray>("given");
-    QTest::addColumn<QByteArray>("written");
-    QTest::newRow("as long as the register") << QByteArray("\x07") << QByteArray("\x07");
-    QTest::newRow("longer is cut") << QByteArray("\x07\x08") << QByteArray("\x07");
-    QTest::newRow("none at all") << QByteArray() << QByteArray(1, '\0');
-}
-
+/// As long as the register, longer, and none at all.
 void TestPackages::writeData()
 {
-    QFETCH(QByteArray, given);
-    QFETCH(QByteArray, written);
-    const auto package = screenEffect(given);
-    QCOMPARE(package->data(), written);
-    frames::Fields f;
-    f.serial = package->getSerialNum();
-    f.address = 0x13000001;
-    f.payload = written;
-    QCOMPARE(package->ParseSendRequest(), frames::frame(f));
+    const QByteArray given[] = {"\x07", "\x07\x08", ""};
+    for (const QByteArray &data : given) {
+        const auto package = screenEffect(data);
+        frames::Fields f;
+        f.serial = package->getSerialNum();
+        f.address = 0x13000001;
+        f.payload = data.isEmpty() ? QByteArray(1, '\0') : QByteArray("\x07");
+        QCOMPARE(package->data(), f.payload);
+        QCOMPARE(package->ParseSendRequest(), frames::frame(f));
+    }
 }
 
 void TestPackages::commonBuilders()
@@ -157,25 +149,22 @@ void TestPackages::commonBuilders()
 
 void TestPackages::reply_data()
 {
-    QTest::addColumn<QByteArray>("frame");
-    QTest::addColumn<int>("length");
-    QTest::addColumn<QByteArray>("payload");
-
+    addColumns<QByteArray, int, QByteArray>({"frame", "length", "payload"});
     frames::Fields f;
     f.header = QByteArray::fromHex("aa55");
     f.protoType = 0;
-    QTest::newRow("no data") << frames::frame(f) << 0 << QByteArray();
+    addRow("no data", frames::frame(f), 0, QByteArray());
     f.payload = "abc";
-    QTest::newRow("all there") << frames::frame(f) << 3 << QByteArray("abc");
+    addRow("all there", frames::frame(f), 3, QByteArray("abc"));
     f.length = 2;
-    QTest::newRow("more than promised") << frames::frame(f) << 2 << QByteArray("ab");
+    addRow("more than promised", frames::frame(f), 2, QByteArray("ab"));
     f.length = 9;
-    QTest::newRow("less than promised") << frames::frame(f) << 9 << QByteArray("abc");
+    addRow("less than promised", frames::frame(f), 9, QByteArray("abc"));
     f.length = 3;
     f.protoType = 2;
-    QTest::newRow("neither read nor write") << frames::frame(f) << 3 << QByteArray();
-    QTest::newRow("too short for its fields")
-        << frames::withChecksum(QByteArray::fromHex("aa550005")) << 0 << QByteArray();
+    addRow("neither read nor write", frames::frame(f), 3, QByteArray());
+    addRow("too short for its fields", frames::withChecksum(QByteArray::fromHex("aa550005")), 0,
+           QByteArray());
 }
 
 void TestPackages::reply()
@@ -187,20 +176,6 @@ void TestPackages::reply()
     QVERIFY(package.unPackageReply(frame));
     QCOMPARE(int(package.getReplyDataLength()), length);
     QCOMPARE(package.data(), payload);
-}
-
-void TestPackages::checksumOverflows()
-{
-    frames::Fields f;
-    f.address = 0x02810000;
-    f.payload = QByteArray(200, '\xFF'); // takes the sum past 16 bits
-    const std::unique_ptr<PackageRequestWriteData> package(
-        TGProtocolParser3rd::Set_CommonWrite(f.payload, f.address, "x"));
-    f.serial = package->getSerialNum();
-    QCOMPARE(package->ParseSendRequest(), frames::frame(f));
-    PackageRequestProto3rd received;
-    QVERIFY(received.unPackageReply(package->getDataProto()));
-    QCOMPARE(received.data(), f.payload);
 }
 
 void TestPackages::damagedFrameIsRefused()

@@ -2,6 +2,7 @@
 // reader of the reports, and which requests an answer retires.
 
 #include "boardio.h"
+#include "datarows.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
 #include "frames.h"
@@ -27,20 +28,17 @@ namespace
 {
 const QString controller = "0", fiber = "1", sendingCard = "2";
 
-QByteArray heartbeat()
-{
-    frames::Fields f;
-    f.address = 0x13001004;
-    f.payload = "\x01";
-    return frames::frame(f);
-}
-
 QByteArray pushedWrite(quint32 address)
 {
     frames::Fields f;
     f.address = address;
     f.payload = "\x01";
     return frames::frame(f);
+}
+
+QByteArray heartbeat()
+{
+    return pushedWrite(0x13001004);
 }
 
 /// A packet in a message of the bus, as a device may answer to a write, too.
@@ -118,17 +116,15 @@ private slots:
 
 void TestProto3rd::hostTakesOver_data()
 {
-    QTest::addColumn<QString>("workMode");
-    QTest::addColumn<QByteArray>("datagram");
-    QTest::addColumn<int>("returns");
-    QTest::newRow("heartbeat, controller") << controller << heartbeat() << 1;
-    QTest::newRow("heartbeat, sending card") << sendingCard << heartbeat() << 1;
-    QTest::newRow("heartbeat, fiber converter") << fiber << heartbeat() << 0;
-    QTest::newRow("pushed write, controller") << controller << pushedWrite(0x13000001) << 1;
-    QTest::newRow("pushed write, fiber converter") << fiber << pushedWrite(0x13000001) << 0;
-    QTest::newRow("pushed write that says nothing") << controller << pushedWrite(0x0200003F) << 0;
-    QTest::newRow("damaged") << controller << pushedWrite(0x13000001).replace(19, 1, "x") << 0;
-    QTest::newRow("report") << controller << frames::report(0x13000001, "\x01") << 0;
+    addColumns<QString, QByteArray, int>({"workMode", "datagram", "returns"});
+    addRow("heartbeat, controller", controller, heartbeat(), 1);
+    addRow("heartbeat, sending card", sendingCard, heartbeat(), 1);
+    addRow("heartbeat, fiber converter", fiber, heartbeat(), 0);
+    addRow("pushed write, controller", controller, pushedWrite(0x13000001), 1);
+    addRow("pushed write, fiber converter", fiber, pushedWrite(0x13000001), 0);
+    addRow("pushed write that says nothing", controller, pushedWrite(0x0200003F), 0);
+    addRow("damaged", controller, pushedWrite(0x13000001).replace(19, 1, "x"), 0);
+    addRow("report", controller, frames::report(0x13000001, "\x01"), 0);
 }
 
 void TestProto3rd::hostTakesOver()

@@ -1,5 +1,6 @@
 // The queue of reports: what is folded, in which order reports are read; and the requests that wait.
 
+#include "datarows.h"
 #include "frames.h"
 #include "framework/protocol/packagehandler.h"
 #include "framework/protocol/requestlist.h"
@@ -65,36 +66,25 @@ private slots:
 
 void TestReports::folding_data()
 {
-    QTest::addColumn<QVector<quint32>>("addresses");
-    QTest::addColumn<QStringList>("payloads");
-    QTest::addColumn<QStringList>("read");
-
-    QTest::newRow("newest value, newest place")
-        << QVector<quint32>{0x0200001F, 0x13000001, 0x0200001F, 0x0200001F} << QStringList{"a", "b", "c", "d"}
-        << QStringList{"13000001:b", "0200001f:d"};
-    QTest::newRow("another length is another report")
-        << QVector<quint32>{0x0200001F, 0x0200001F} << QStringList{"a", "bc"}
-        << QStringList{"0200001f:a", "0200001f:bc"};
-    QTest::newRow("input records all stay, in order")
-        << QVector<quint32>{0x13010001, 0x13010021, 0x13010001} << QStringList{"a", "b", "c"}
-        << QStringList{"13010001:a", "13010021:b", "13010001:c"};
-    QTest::newRow("pieces of a picture all stay")
-        << QVector<quint32>{0x13400003, 0x13400003, 0x13400016, 0x13400016} << QStringList{"a", "b", "c", "d"}
-        << QStringList{"13400003:a", "13400003:b", "13400016:c", "13400016:d"};
-    QTest::newRow("their neighbours are folded")
-        << QVector<quint32>{0x13400008, 0x13400008, 0x13400007, 0x13400007} << QStringList{"a", "b", "c", "d"}
-        << QStringList{"13400008:b", "13400007:d"};
+    addColumns<QString, QString>({"queued", "read"});
+    addRow("newest value, newest place", "0200001f:a 13000001:b 0200001f:c 0200001f:d",
+           "13000001:b 0200001f:d");
+    addRow("another length is another report", "0200001f:a 0200001f:bc", "0200001f:a 0200001f:bc");
+    const QString records = "13010001:a 13010021:b 13010001:c";
+    addRow("input records all stay, in order", records, records);
+    const QString pieces = "13400003:a 13400003:b 13400016:c 13400016:d";
+    addRow("pieces of a picture all stay", pieces, pieces);
+    addRow("their neighbours are folded", "13400008:a 13400008:b 13400007:c 13400007:d",
+           "13400008:b 13400007:d");
 }
 
 void TestReports::folding()
 {
-    QFETCH(QVector<quint32>, addresses);
-    QFETCH(QStringList, payloads);
-    QFETCH(QStringList, read);
+    QFETCH(QString, queued);
     QList<PackageRequestProto3rd *> reports;
-    for (int i = 0; i < addresses.size(); ++i)
-        reports += report(addresses[i], payloads[i].toLatin1());
-    QCOMPARE(NotingHandler().readAll(reports), read);
+    for (const QString &one : queued.split(' '))
+        reports += report(one.section(':', 0, 0).toUInt(nullptr, 16), one.section(':', 1).toLatin1());
+    QTEST(NotingHandler().readAll(reports).join(' '), "read");
 }
 
 void TestReports::refusedReportIsNotRead()

@@ -37,12 +37,9 @@ class TestSnapshotAccess : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void flashIsTriedThreeTimes_data();
     void flashIsTriedThreeTimes();
     void writeAndReadBack();
-    void cabinetFiles_data();
     void cabinetFiles();
-    void missingCabinetList();
 };
 
 void TestSnapshotAccess::initTestCase()
@@ -51,32 +48,19 @@ void TestSnapshotAccess::initTestCase()
     QFile::resize(host::stateFile(hostlink::flashFile), hostlink::flashSize);
 }
 
-void TestSnapshotAccess::flashIsTriedThreeTimes_data()
-{
-    QTest::addColumn<int>("failures");
-    QTest::addColumn<bool>("good");
-    QTest::addColumn<int>("failuresLeft");
-    QTest::newRow("none") << 0 << true << 0;
-    QTest::newRow("one") << 1 << true << 0;
-    QTest::newRow("two") << 2 << true << 0;
-    QTest::newRow("three") << 3 << false << 0;
-    QTest::newRow("no fourth try") << 4 << false << 1;
-}
-
 void TestSnapshotAccess::flashIsTriedThreeTimes()
 {
-    QFETCH(int, failures);
-    QFETCH(bool, good);
-    QFETCH(int, failuresLeft);
     const QString faults = host::stateFile(hostlink::flashFaultFile);
-    write(faults, QByteArray::number(failures));
-    unsigned char bytes[5] = "****";
-    QCOMPARE(driverutil::getInstance()->ReadDataFromFile(2, 4, bytes) == 0, good);
-    QCOMPARE(QByteArray(reinterpret_cast<char *>(bytes)), QByteArray(good ? "2345" : "****"));
-    QFile left(faults);
-    QVERIFY(left.open(QIODevice::ReadOnly));
-    QCOMPARE(left.readAll().toInt(), failuresLeft);
-    left.close();
+    for (int failures = 0; failures <= 4; ++failures) {
+        const bool good = failures < 3;
+        write(faults, QByteArray::number(failures));
+        unsigned char bytes[5] = "****";
+        QCOMPARE(driverutil::getInstance()->ReadDataFromFile(2, 4, bytes) == 0, good);
+        QCOMPARE(QByteArray(reinterpret_cast<char *>(bytes)), QByteArray(good ? "2345" : "****"));
+        QFile left(faults);
+        QVERIFY(left.open(QIODevice::ReadOnly));
+        QCOMPARE(left.readAll().toInt(), failures == 4 ? 1 : 0); // no fourth try
+    }
     write(faults, "0");
 }
 
@@ -90,33 +74,25 @@ void TestSnapshotAccess::writeAndReadBack()
     QVERIFY(driverutil::getInstance()->ReadDataFromFile(hostlink::flashSize - 1, 2, read) != 0);
 }
 
-void TestSnapshotAccess::cabinetFiles_data()
-{
-    QTest::addColumn<QByteArray>("index");
-    QTest::addColumn<QString>("names");
-    const QByteArray unused(64, '\0');
-    QTest::newRow("nothing") << QByteArray() << "";
-    QTest::newRow("one record and no more") << record("P2.5.vcab") << "";
-    QTest::newRow("one, then unused") << record("P2.5.vcab") + unused << "P2.5.vcab";
-    QTest::newRow("two and a rest") << record("P2.5") + record(QString::fromUtf8("箱体")) + "x"
-                                    << QString::fromUtf8("P2.5+箱体");
-    QTest::newRow("an empty one ends the list") << record("A") + unused + record("B") + unused << "A";
-    QTest::newRow("a full record") << record(QString(40, 'n')) + unused << QString(32, 'n');
-}
-
 void TestSnapshotAccess::cabinetFiles()
 {
-    QFETCH(QByteArray, index);
-    QFETCH(QString, names);
+    QCOMPARE(readFileGetNames(), QString()); // no list
     const QString file = board::filePath("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName");
-    write(file, index);
-    QCOMPARE(readFileGetNames(), names);
+    const QByteArray unused(64, '\0');
+    const QString chinese = QString::fromUtf8("箱体");
+    const QPair<QByteArray, QString> lists[] = {
+        {QByteArray(), ""},
+        {record("P2.5.vcab"), ""}, // one record and no more
+        {record("P2.5.vcab") + unused, "P2.5.vcab"},
+        {record("P2.5") + record(chinese) + "x", "P2.5+" + chinese},
+        {record("A") + unused + record("B") + unused, "A"},
+        {record(QString(40, 'n')) + unused, QString(32, 'n')},
+    };
+    for (const auto &list : lists) {
+        write(file, list.first);
+        QCOMPARE(readFileGetNames(), list.second);
+    }
     QFile::remove(file);
-}
-
-void TestSnapshotAccess::missingCabinetList()
-{
-    QCOMPARE(readFileGetNames(), QString());
 }
 
 QTEST_GUILESS_MAIN(TestSnapshotAccess)
