@@ -86,12 +86,18 @@ bool TestStorySoak::comesToRest()
 QString TestStorySoak::missingAtHome()
 {
     QStringList sights;
-    const QRegularExpression size("output: (\\d+x\\d+@\\d+).*");
+    const QStringList lines = m_panel.ask({"device", "show"}).lines;
+    const auto tells = [&lines](const char *line) { return lines.contains(QString("  ") + line); };
+    // Of 3D the screen shows the pictures of both eyes, unless they come one by one.
+    const bool doubled = tells("3D: on") && !tells("format: frame sequential");
+    const QRegularExpression size("output: (\\d+x\\d+)@([\\d.]+).*");
     const QRegularExpression port("port (\\d+): link (on|off), backup (on|off), engaged (on|off)");
-    for (const QString &line : m_panel.ask({"device", "show"}).lines) {
+    for (const QString &line : lines) {
         const QRegularExpressionMatch output = size.match(line.trimmed()), told = port.match(line);
         if (output.hasMatch())
-            sights << "screen:" + output.captured(1);
+            sights << QString("screen:%1@%2")
+                          .arg(output.captured(1))
+                          .arg(output.captured(2).toDouble() * (doubled ? 2 : 1));
         if (!told.hasMatch() || told.captured(1).toInt() > homePorts)
             continue;
         const auto is = [&](int part) { return told.captured(part) == "on"; };
