@@ -41,7 +41,7 @@ uchar *PanelLcdScreen::mapFile()
 
 QRegion PanelLcdScreen::doRedraw()
 {
-    const QRegion touched = QFbScreen::doRedraw();
+    QRegion touched = QFbScreen::doRedraw();
     if (m_memory && !touched.isEmpty())
         copyToFile(touched);
     return touched;
