@@ -121,7 +121,7 @@ void leds(Session &session, const QStringList &list)
         session.print(session.emulator.keypad.ledText());
         return session.ok();
     }
-    constexpr int longestWatch = 24 * 3600;
+    constexpr int longestWatch = 7 * 24 * 3600; // seconds
     const auto seconds = arguments::real(list.value(1), 0, longestWatch);
     if (list[0] != "--watch" || list.size() != 2 || !seconds)
         return failUsage(session, "leds");
