@@ -72,24 +72,51 @@ Cost bareLabel(const Panel &panel)
     return {ms(after) - ms(before), process.readAllStandardOutput().trimmed().toDouble()};
 }
 
-/// From the key word, as the emulator hands it out, to the next change of the LCD, in ms; negative if nothing
-/// changes. One word is measured: the press of a key or its release.
-double lcdAnswerMs(Panel &panel, const QStringList &words)
+/// Key words of one step of the knob.
+constexpr const char *left = "0120", *right = "0121";
+
+/// What a region of the LCD holds.
+QByteArray regionOf(const uchar *memory, const QRect &region)
+{
+    constexpr int bytesPerPixel = 4;
+    QByteArray pixels;
+    for (int y = region.top(); y <= region.bottom(); ++y)
+        pixels.append(reinterpret_cast<const char *>(memory) +
+                          (y * hostlink::lcdWidth + region.left()) * bytesPerPixel,
+                      region.width() * bytesPerPixel);
+    return pixels;
+}
+
+constexpr QRect wholeLcd(0, 0, hostlink::lcdWidth, hostlink::lcdHeight);
+/// Of a page: its title, and of its first row the icon, which only the cursor changes.
+constexpr QRect pageTitle(0, 0, 200, 24), firstIcon(0, 26, 30, 30);
+
+/// From the key word, as the emulator hands it out, until that region of the LCD is another, in ms; negative
+/// if it stays. One word is measured: the press of a key or its release.
+double lcdAnswerMs(Panel &panel, const QStringList &words, const QRect &region)
 {
     constexpr qint64 patienceNs = 2000000000;
     QFile lcd(panel.statePath() + hostlink::lcdFile);
     if (!lcd.open(QIODevice::ReadOnly))
         return -1;
     const uchar *memory = lcd.map(0, hostlink::lcdFileSize);
-    const auto *changedNs = reinterpret_cast<const volatile qint64 *>(memory + hostlink::lcdBytes) + 1;
+    const QByteArray before = regionOf(memory, region);
     panel.ask(words);
     const qint64 sentNs = panel.ask({"sent"}).lines.value(0).toLongLong();
-    while (*changedNs < sentNs) {
+    while (regionOf(memory, region) == before) {
         if (nowNs() - sentNs > patienceNs)
             return -1;
         QThread::usleep(50);
     }
-    return double(*changedNs - sentNs) / 1e6;
+    return double(nowNs() - sentNs) / 1e6;
+}
+
+void openMenuAtTheTop(Panel &panel, MenuWalk &walk)
+{
+    constexpr int moreThanRows = 16;
+    walk.openMenu();
+    panel.turn(Left, moreThanRows);
+    panel.settle();
 }
 
 /// The middle of some starts; the last one stays up.
@@ -208,19 +235,19 @@ void measureIdle(Panel &panel)
 void measureKeys(Panel &panel)
 {
     MenuWalk walk(panel);
-    walk.openMenu();
+    openMenuAtTheTop(panel, walk);
     QVector<double> cursor, value, frame;
     for (int i = 0; i < 40; ++i)
-        cursor << lcdAnswerMs(panel, {"word", i % 2 ? "0120" : "0121"});
+        cursor << lcdAnswerMs(panel, {"word", i % 2 ? left : right}, firstIcon);
     walk.home();
     walk.go({MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume});
     for (int i = 0; i < 40; ++i)
-        value << lcdAnswerMs(panel, {"word", i % 2 ? "0120" : "0121"});
+        value << lcdAnswerMs(panel, {"word", i % 2 ? left : right}, wholeLcd);
     for (int i = 0; i < 20; ++i) {
         QThread::msleep(400); // past the hold-back of the step before
         panel.ask({"writes", "--clear"});
         const qint64 start = nowNs();
-        panel.ask({"word", i % 2 ? "0120" : "0121"});
+        panel.ask({"word", i % 2 ? left : right});
         while (panel.writes().isEmpty() && nowNs() - start < 1000000000)
             QThread::usleep(200);
         frame << double(nowNs() - start) / 1e6;
@@ -354,7 +381,7 @@ void measureLoad(Panel &panel)
     constexpr int seconds = 60, perSecond = 10000, keysPerPage = 20;
     const int id = procfs::panelOf(panel.statePath());
     MenuWalk walk(panel);
-    walk.openMenu();
+    openMenuAtTheTop(panel, walk);
     Flood flood(panel);
     flood.start(perSecond);
     QVector<double> answers, pages;
@@ -362,14 +389,16 @@ void measureLoad(Panel &panel)
     QElapsedTimer passed;
     passed.start();
     while (passed.elapsed() < seconds * 1000) {
-        answers << lcdAnswerMs(panel, {"word", answers.size() % 2 ? "0120" : "0121"});
+        answers << lcdAnswerMs(panel, {"word", answers.size() % 2 ? left : right}, firstIcon);
         QThread::msleep(20);
         if (answers.size() % keysPerPage == 0) {
+            lcdAnswerMs(panel, {"word", right}, firstIcon); // the second row opens a page
             panel.ask({"key", keys::Ok, "press"});
             QThread::msleep(30);
-            pages << lcdAnswerMs(panel, {"key", keys::Ok, "release"}); // then a page opens
-            panel.press(keys::Esc);
-            QThread::msleep(100);
+            pages << lcdAnswerMs(panel, {"key", keys::Ok, "release"}, pageTitle);
+            lcdAnswerMs(panel, {"key", keys::Esc}, pageTitle);
+            QThread::msleep(100); // the title is drawn before the rows
+            lcdAnswerMs(panel, {"word", left}, firstIcon);
         }
         flood.readLog();
         if (passed.elapsed() >= 10000 * (memory.size() + 1))
