@@ -1,6 +1,6 @@
 // What the whole panel costs, measured from outside with the floor beside each number. One line a question:
 // name, measured, floor, ratio.
-#include "benchmark/procfs.h"
+#include "tests/system/procfs.h"
 #include "benchmark/tickspy.h"
 #include "fpd_hostlink.h"
 #include "framework/ctimer.h"

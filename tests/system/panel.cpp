@@ -2,6 +2,7 @@
 
 #include "fpd_hostlink.h"
 #include "tests/system/lcdtext.h"
+#include "tests/system/procfs.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,6 +21,7 @@ constexpr int patienceMs = 30000;
 #endif
 constexpr int lookMs = 10;
 constexpr int stillMs = 50;
+constexpr int busyMs = 1000;
 const QString storeFile = "/usr/vask/etc/fpd/config/config.xml";
 
 QDomElement itemElement(const QDomDocument &store, int item)
@@ -143,6 +145,14 @@ QImage Panel::screen() const
     return picture;
 }
 
+/// A panel that has work to do, though it may not come to it, has not answered yet.
+bool Panel::isBusy()
+{
+    if (procfs::read(QString("/proc/%1/comm").arg(m_process)) != "fpd\n")
+        m_process = procfs::panelOf(m_state);
+    return m_process != 0 && (procfs::isBusy(m_process, "keypad") || procfs::isBusy(m_process, "fpd"));
+}
+
 bool Panel::settle()
 {
     const auto changes = [this] {
@@ -153,14 +163,18 @@ bool Panel::settle()
         return counter;
     };
     quint64 seen = changes();
-    QElapsedTimer still, passed;
+    // Still, and at rest; a panel that is kept busy by something else is taken by its LCD alone.
+    QElapsedTimer still, rest, passed;
     still.start();
+    rest.start();
     passed.start();
-    while (!still.hasExpired(stillMs)) {
+    while (!rest.hasExpired(stillMs) && !still.hasExpired(busyMs)) {
         QThread::msleep(lookMs);
         const quint64 now = changes();
         if (now != seen)
             still.restart();
+        if (now != seen || isBusy())
+            rest.restart();
         seen = now;
         if (passed.hasExpired(patienceMs))
             return false;

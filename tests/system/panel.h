@@ -88,6 +88,7 @@ public:
 
 private:
     void readLog(int timeoutMs);
+    bool isBusy();
     QDomDocument store() const;
 
     QTemporaryDir m_folder;
@@ -97,4 +98,5 @@ private:
     std::unique_ptr<ConsoleClient> m_logConsole;
     QStringList m_log;
     int m_mark = 0;
+    int m_process = 0; ///< the panel's number, as last seen
 };

@@ -59,6 +59,19 @@ inline QMap<QString, double> wakes(int process)
     return threads;
 }
 
+/// True while a thread of that name runs, or waits for a processor or a disk; the main thread is "fpd".
+inline bool isBusy(int process, const QByteArray &thread)
+{
+    const QString folder = QString("/proc/%1/task/").arg(process);
+    for (const QString &id : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QByteArray stat = read(folder + id + "/stat");
+        const int name = stat.indexOf('('), end = stat.lastIndexOf(')');
+        if (stat.mid(name + 1, end - name - 1) == thread)
+            return stat.mid(end + 2, 1) != "S";
+    }
+    return false;
+}
+
 inline double memoryMb(int process)
 {
     const QByteArray status = read(QString("/proc/%1/status").arg(process));
