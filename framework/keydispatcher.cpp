@@ -7,8 +7,17 @@
 
 namespace VASK
 {
+namespace
+{
+/// A window that a key brought up becomes the active one in the event loop's next pass; that of the timer's
+/// first look may have looked at the timer before.
+constexpr int passesOfAWindow = 2;
+} // namespace
+
 KeyDispatcher::KeyDispatcher()
 {
+    m_passes.setInterval(1);
+    connect(&m_passes, &QTimer::timeout, this, &KeyDispatcher::pass);
     postToGui(this, [this] { m_loopRuns = true; });
 }
 
@@ -18,19 +27,39 @@ void KeyDispatcher::post(KEY_TYPE type, unsigned char key, unsigned char speed, 
         drop(key);
         return;
     }
-    postToGui(this, [this, type, key, speed, longPress] { deliver(type, key, speed, longPress); });
+    postToGui(this, [this, given = Key{type, key, speed, longPress}] { take(given); });
 }
 
-/// Delivered at once, not queued again: a key that opens another window must have done so before the next
-/// key looks for the active one.
-void KeyDispatcher::deliver(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress)
+/// A key that opens another window must have done so before the next key looks for the active one: keys that
+/// were typed while the panel was busy come in a row.
+void KeyDispatcher::take(const Key &key)
 {
+    if (m_passes.isActive())
+        m_waiting.append(key);
+    else
+        deliver(key);
+}
+
+void KeyDispatcher::pass()
+{
+    if (--m_passesLeft > 0)
+        return;
+    m_passes.stop();
+    if (!m_waiting.isEmpty())
+        deliver(m_waiting.takeFirst());
+}
+
+void KeyDispatcher::deliver(const Key &key)
+{
+    // Before the key does its work: a dialog runs an event loop of its own, which goes on with the keys.
+    m_passesLeft = passesOfAWindow;
+    m_passes.start();
     QWidget *window = QApplication::activeWindow();
     if (!window) {
-        drop(key);
+        drop(key.key);
         return;
     }
-    KeypadEvent event(type, key, speed, longPress);
+    KeypadEvent event(key.type, key.key, key.speed, key.longPress);
     QCoreApplication::sendEvent(window, &event);
 }
 

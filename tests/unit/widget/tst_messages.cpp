@@ -127,6 +127,34 @@ private slots:
         QCOMPARE(seen, 1);
     }
 
+    /// Keys that were typed before the box came up are its own, not those of the page below.
+    void keysTypedAheadReachTheBox()
+    {
+        PageRig::open(ENUM_MAIN_MENU, m_rig->home);
+        const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(MSG_UpdateError, QString()));
+        class Opener : public QWidget
+        {
+        public:
+            explicit Opener(QDialog &dialog) : m_dialog(dialog) {}
+            int result = stillOpen;
+
+        private:
+            bool event(QEvent *event) override
+            {
+                if (event->type() == KeypadEvent::eventType)
+                    result = m_dialog.exec();
+                return QWidget::event(event);
+            }
+            QDialog &m_dialog;
+        } page(*box);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QTimer::singleShot(3000, box.get(), [&box] { box->done(stillOpen); });
+        for (KEY_TYPE type : {KEY_RELEASED, KEY_PRESSED, KEY_RELEASED})
+            m_keypad.post(type, ok, 1, false);
+        QTRY_COMPARE(page.result, 1);
+    }
+
     /// All of them at once, one over the other, so that it takes no longer than the longest.
     void timedOnesCloseByThemselves()
     {
@@ -179,8 +207,9 @@ private:
 
     void deliver(KEY_TYPE type, unsigned char key)
     {
+        constexpr int betweenKeysMs = 5;
         m_keypad.post(type, key, 1, false);
-        QCoreApplication::sendPostedEvents();
+        QTest::qWait(betweenKeysMs);
     }
     /// The result of a box that gets these keys, and is looked at before.
     int answer(QDialog &box, const QList<unsigned char> &keys, const std::function<void()> &look)
