@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QWindow>
 
 namespace VASK
 {
@@ -12,6 +13,15 @@ namespace
 /// A window that a key brought up becomes the active one in the event loop's next pass; that of the timer's
 /// first look may have looked at the timer before.
 constexpr int passesOfAWindow = 2;
+
+QVector<QWindow *> visibleWindows()
+{
+    QVector<QWindow *> visible;
+    for (QWindow *window : QGuiApplication::topLevelWindows())
+        if (window->isVisible())
+            visible.append(window);
+    return visible;
+}
 } // namespace
 
 KeyDispatcher::KeyDispatcher()
@@ -45,15 +55,16 @@ void KeyDispatcher::pass()
     if (--m_passesLeft > 0)
         return;
     m_passes.stop();
-    if (!m_waiting.isEmpty())
+    while (!m_passes.isActive() && !m_waiting.isEmpty())
         deliver(m_waiting.takeFirst());
 }
 
 void KeyDispatcher::deliver(const Key &key)
 {
     // Before the key does its work: a dialog runs an event loop of its own, which goes on with the keys.
-    m_passesLeft = passesOfAWindow;
-    m_passes.start();
+    const unsigned int number = ++m_delivered;
+    waitForWindow();
+    const QVector<QWindow *> before = visibleWindows();
     QWidget *window = QApplication::activeWindow();
     if (!window) {
         drop(key.key);
@@ -61,6 +72,17 @@ void KeyDispatcher::deliver(const Key &key)
     }
     KeypadEvent event(key.type, key.key, key.speed, key.longPress);
     QCoreApplication::sendEvent(window, &event);
+    const bool loopRan = number != m_delivered || m_passesLeft < passesOfAWindow;
+    if (loopRan)
+        waitForWindow(); // what the key brought up has gone again
+    else if (visibleWindows() == before)
+        m_passes.stop(); // nothing came up: the next key need not wait
+}
+
+void KeyDispatcher::waitForWindow()
+{
+    m_passesLeft = passesOfAWindow;
+    m_passes.start();
 }
 
 void KeyDispatcher::drop(unsigned char key)

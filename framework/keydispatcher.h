@@ -32,6 +32,7 @@ private:
     void take(const Key &key);
     void deliver(const Key &key);
     void pass();
+    void waitForWindow();
     static void drop(unsigned char key);
 
     std::atomic<bool> m_loopRuns{false};
@@ -39,5 +40,6 @@ private:
     QVector<Key> m_waiting;
     QTimer m_passes; ///< runs while the last key may still bring up a window
     int m_passesLeft = 0;
+    unsigned int m_delivered = 0;
 };
 } // namespace VASK
