@@ -1,6 +1,5 @@
 // What the whole panel costs, measured from outside with the floor beside each number. One line a question:
 // name, measured, floor, ratio.
-#include "tests/system/procfs.h"
 #include "benchmark/tickspy.h"
 #include "fpd_hostlink.h"
 #include "framework/ctimer.h"
@@ -9,6 +8,7 @@
 #include "tests/system/flood.h"
 #include "tests/system/framedrive.h"
 #include "tests/system/menuwalk.h"
+#include "tests/system/procfs.h"
 
 #include <QApplication>
 #include <QDir>
