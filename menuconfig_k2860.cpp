@@ -1,6 +1,6 @@
 #include "menuconfig_k2860.h"
 
-#include "menutables.h"
+#include "menu/tables.h"
 
 #include <tuple>
 #include <utility>

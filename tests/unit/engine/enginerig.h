@@ -3,7 +3,7 @@
 // noted by their key and answered at once.
 #pragma once
 
-#include "../protocol/datarows.h"
+#include "tests/unit/protocol/datarows.h"
 #include "boardio.h"
 #include "fpd_hostlink.h"
 #include "framework/menuanalysis.h"

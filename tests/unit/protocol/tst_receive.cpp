@@ -1,7 +1,7 @@
 // What the device reports becomes values of items, where no report to the running panel shows it; the tables
 // of the inputs, and the self test.
 
-#include "../engine/enginerig.h"
+#include "tests/unit/engine/enginerig.h"
 #include "datarows.h"
 #include "frames.h"
 #include "framework/keypadevent.h"

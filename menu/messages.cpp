@@ -1,4 +1,4 @@
-#include "menutables.h"
+#include "tables.h"
 
 // All messages, one row a message. A row shares the number of the item whose question it asks.
 

@@ -1,4 +1,4 @@
-#include "menutables.h"
+#include "tables.h"
 
 // All items, one row an item. The helper functions name the kind of a row and take, in this order, its
 // number, its tag, what its kind needs, and its default. Families of twins stand once, as a function of their

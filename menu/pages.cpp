@@ -1,4 +1,4 @@
-#include "menutables.h"
+#include "tables.h"
 
 // All pages, one row a line. A page that is another's twin is told by what raises its numbers.
 
