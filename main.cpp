@@ -1,4 +1,4 @@
-#include "framework/keyevent.h"
+#include "framework/input/keyevent.h"
 #include "initialize.h"
 
 #include <QApplication>

@@ -2,9 +2,9 @@
 // name, measured, floor, ratio.
 #include "benchmark/tickspy.h"
 #include "fpd_hostlink.h"
-#include "framework/ctimer.h"
-#include "framework/protocol/packageframe.h"
-#include "framework/protocol/packagerequestproto3rd.h"
+#include "framework/thread/ctimer.h"
+#include "framework/protocol/packet/packageframe.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "tests/system/flood.h"
 #include "tests/system/framedrive.h"
 #include "tests/system/menuwalk.h"

@@ -1,8 +1,8 @@
 // How long one step of the knob may take: the worst case of every search behind a limit, in microseconds on
 // this machine, with the input on which it was met. Run it on the device to see what the device makes of it.
 
-#include "framework/engine/bandwidth.h"
-#include "framework/engine/videotiming.h"
+#include "framework/engine/limits/bandwidth.h"
+#include "framework/engine/limits/videotiming.h"
 
 #include <chrono>
 #include <cstdio>

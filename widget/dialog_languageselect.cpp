@@ -1,6 +1,6 @@
 #include "widget/dialog_languageselect.h"
 
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 
 #include <QDebug>
 #include <QLabel>

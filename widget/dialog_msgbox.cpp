@@ -1,6 +1,6 @@
 #include "widget/dialog_msgbox.h"
 
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 #include "widget/language.h"
 #include "widget/ui_dialog_msgbox.h"
 

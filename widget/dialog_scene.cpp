@@ -1,6 +1,6 @@
 #include "widget/dialog_scene.h"
 
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
 #include "widget/picturelabel.h"

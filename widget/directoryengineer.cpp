@@ -1,6 +1,6 @@
 #include "widget/directoryengineer.h"
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/menudirectoty.h"
 #include "widget/menuitemfactory.h"
 

@@ -2,7 +2,7 @@
 // Made at start-up, and again for a page that is built on demand; keeps nothing once it returns. GUI thread.
 #pragma once
 
-#include "framework/vaskobject.h"
+#include "framework/object/vaskobject.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK

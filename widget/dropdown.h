@@ -2,7 +2,7 @@
 // owns it through this holder. GUI thread.
 #pragma once
 
-#include "framework/vaskobject.h"
+#include "framework/object/vaskobject.h"
 #include "widget/elidinglabel.h"
 
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "widget/framedrow.h"
 
-#include "framework/handover.h"
+#include "framework/thread/handover.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
 #include "widget/picturelabel.h"

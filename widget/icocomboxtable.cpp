@@ -1,6 +1,6 @@
 #include "widget/icocomboxtable.h"
 
-#include "framework/handover.h"
+#include "framework/thread/handover.h"
 #include "widget/focusdelegate.h"
 
 #include <QDebug>

@@ -1,7 +1,7 @@
 // The open drop-down of a list of pictures, several side by side. The row that opened it owns it. GUI thread.
 #pragma once
 
-#include "framework/vaskobject.h"
+#include "framework/object/vaskobject.h"
 #include "menuconfig_k2860.h"
 
 class QTableWidget;

@@ -1,7 +1,7 @@
 #include "widget/keydialog.h"
 
-#include "framework/globaltimer.h"
-#include "framework/keypadevent.h"
+#include "framework/object/globaltimer.h"
+#include "framework/input/keypadevent.h"
 
 using namespace VASK;
 

@@ -1,7 +1,7 @@
 #include "widget/language.h"
 
 #include "boardio.h"
-#include "framework/menuanalysis.h"
+#include "framework/store/menuanalysis.h"
 
 #include <QCoreApplication>
 #include <QDebug>

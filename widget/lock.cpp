@@ -1,6 +1,6 @@
 #include "widget/lock.h"
 
-#include "framework/transport.h"
+#include "framework/object/transport.h"
 #include "menuconfig_k2860.h"
 #include "widget/language.h"
 

@@ -2,8 +2,8 @@
 
 #include "widget/mainwindow_k2860.h"
 
-#include "framework/paraprocess.h"
-#include "framework/transport.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/object/transport.h"
 #include "widget/mainwindowui.h"
 #include "widget/menudirectoty.h"
 

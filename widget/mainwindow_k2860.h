@@ -4,8 +4,8 @@
 // once and hands the drawing over. The slots are reached by queued signals.
 #pragma once
 
-#include "framework/keypadevent.h"
-#include "framework/vaskobject.h"
+#include "framework/input/keypadevent.h"
+#include "framework/object/vaskobject.h"
 #include "widget/mainwindowstates.h"
 
 #include <QDialog>

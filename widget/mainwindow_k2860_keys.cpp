@@ -2,10 +2,10 @@
 
 #include "widget/mainwindow_k2860.h"
 
-#include "framework/globaltimer.h"
-#include "framework/menuanalysis.h"
-#include "framework/paraprocess.h"
-#include "framework/transport.h"
+#include "framework/object/globaltimer.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/object/transport.h"
 #include "widget/dialog_factory.h"
 #include "widget/lock.h"
 #include "widget/mainwindowui.h"

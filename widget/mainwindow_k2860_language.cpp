@@ -2,8 +2,8 @@
 
 #include "widget/mainwindow_k2860.h"
 
-#include "framework/handover.h"
-#include "framework/paraprocess.h"
+#include "framework/thread/handover.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/dialog_languageselect.h"
 #include "widget/dialog_wait.h"
 #include "widget/language.h"

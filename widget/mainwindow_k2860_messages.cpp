@@ -2,7 +2,7 @@
 
 #include "widget/mainwindow_k2860.h"
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/dialog_factory.h"
 #include "widget/menudirectoty.h"
 

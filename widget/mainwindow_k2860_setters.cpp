@@ -3,7 +3,7 @@
 
 #include "widget/mainwindow_k2860.h"
 
-#include "framework/handover.h"
+#include "framework/thread/handover.h"
 #include "menuconfig_k2860.h"
 #include "widget/mainwindowui.h"
 #include "widget/menudirectoty.h"

@@ -2,7 +2,7 @@
 
 #include "widget/menudirectoty.h"
 
-#include "framework/handover.h"
+#include "framework/thread/handover.h"
 #include "widget/language.h"
 
 #include <QHeaderView>

@@ -4,8 +4,8 @@
 // GUI thread, but for what says otherwise.
 #pragma once
 
-#include "framework/keypadevent.h"
-#include "framework/vaskobject.h"
+#include "framework/input/keypadevent.h"
+#include "framework/object/vaskobject.h"
 #include "menuconfig_k2860.h"
 
 #include <QDialog>

@@ -2,7 +2,7 @@
 
 #include "widget/menudirectoty.h"
 
-#include "framework/menuanalysis.h"
+#include "framework/store/menuanalysis.h"
 #include "widget/rowkinds.h"
 
 namespace VASK

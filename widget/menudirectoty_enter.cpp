@@ -2,8 +2,8 @@
 
 #include "widget/menudirectoty.h"
 
-#include "framework/menuanalysis.h"
-#include "framework/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/dialog_factory.h"
 #include "widget/dialog_msgbox.h"
 #include "widget/directoryengineer.h"

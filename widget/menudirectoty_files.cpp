@@ -3,7 +3,7 @@
 #include "widget/menudirectoty.h"
 
 #include "boardio.h"
-#include "framework/menuanalysis.h"
+#include "framework/store/menuanalysis.h"
 
 #include <QDir>
 

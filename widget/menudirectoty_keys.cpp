@@ -2,8 +2,8 @@
 
 #include "widget/menudirectoty.h"
 
-#include "framework/globaltimer.h"
-#include "framework/menuanalysis.h"
+#include "framework/object/globaltimer.h"
+#include "framework/store/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/panelkeys.h"
 

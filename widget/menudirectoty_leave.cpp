@@ -2,8 +2,8 @@
 
 #include "widget/menudirectoty.h"
 
-#include "framework/menuanalysis.h"
-#include "framework/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/panellayers.h"
 #include "widget/rowkinds.h"
 

@@ -1,7 +1,7 @@
 // Makes the widget of a row by its kind. No data of its own. GUI thread.
 #pragma once
 
-#include "framework/vaskobject.h"
+#include "framework/object/vaskobject.h"
 
 namespace VASK
 {

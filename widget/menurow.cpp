@@ -1,7 +1,7 @@
 #include "widget/menurow.h"
 
-#include "framework/handover.h"
-#include "framework/paraprocess.h"
+#include "framework/thread/handover.h"
+#include "framework/engine/paraprocess.h"
 
 #include <QDebug>
 

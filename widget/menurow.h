@@ -3,7 +3,7 @@
 // tells it to. Rows live on the GUI thread; the operations that the report thread may call say so.
 #pragma once
 
-#include "framework/vaskobject.h"
+#include "framework/object/vaskobject.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK

@@ -2,8 +2,8 @@
 
 #include "widget/panelkeys.h"
 
-#include "framework/keyevent.h"
-#include "framework/paraprocess.h"
+#include "framework/input/keyevent.h"
+#include "framework/engine/paraprocess.h"
 
 #include <QTimer>
 

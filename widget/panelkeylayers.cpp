@@ -2,7 +2,7 @@
 
 #include "widget/panelkeys.h"
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/menudirectoty.h"
 #include "widget/panellayers.h"
 

@@ -1,6 +1,6 @@
 #include "widget/panelkeys.h"
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 
 #include <iterator>
 

@@ -2,7 +2,7 @@
 // home screen and from every page of the menu; only the work modes in which they count differ. GUI thread.
 #pragma once
 
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 
 #include <QString>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #include "widget/stringcomboxtable.h"
 
-#include "framework/handover.h"
+#include "framework/thread/handover.h"
 #include "widget/focusdelegate.h"
 #include "widget/language.h"
 

@@ -2,7 +2,7 @@
 // chosen. GUI thread.
 #pragma once
 
-#include "framework/vaskobject.h"
+#include "framework/object/vaskobject.h"
 #include "menuconfig_k2860.h"
 
 class QStandardItemModel;

@@ -1,6 +1,6 @@
 #include "widget/typeintadjust.h"
 
-#include "framework/menuanalysis.h"
+#include "framework/store/menuanalysis.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 #include "widget/typeipadjust.h"
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/elidinglabel.h"
 #include "widget/framedrow.h"
 #include "widget/language.h"

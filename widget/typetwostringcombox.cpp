@@ -1,6 +1,6 @@
 #include "widget/typetwostringcombox.h"
 
-#include "framework/handover.h"
+#include "framework/thread/handover.h"
 #include "widget/language.h"
 
 #include <QDebug>

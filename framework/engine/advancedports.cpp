@@ -1,7 +1,7 @@
 #include "framework/engine/advancedports.h"
 
-#include "framework/engine/bandwidth.h"
-#include "framework/paraprocess.h"
+#include "framework/engine/limits/bandwidth.h"
+#include "framework/engine/paraprocess.h"
 
 namespace VASK
 {

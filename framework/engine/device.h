@@ -2,7 +2,7 @@
 // text. Any thread: each read takes its own short lock.
 #pragma once
 
-#include "framework/processdata.h"
+#include "framework/engine/processdata.h"
 
 #include <QString>
 

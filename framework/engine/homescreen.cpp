@@ -1,9 +1,9 @@
 // The home screen as the engine sets it at start-up, and the device's own name.
 
-#include "framework/engine/bandwidth.h"
+#include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/device.h"
-#include "framework/engine/snapshotmirror.h"
-#include "framework/paraprocess.h"
+#include "framework/engine/start/snapshotmirror.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/mainwindow_k2860.h"
 
 namespace VASK

@@ -3,7 +3,7 @@
 // Runs where the change came in: on the GUI thread, or on the report thread for what the device tells.
 #pragma once
 
-#include "framework/engine/change.h"
+#include "framework/engine/parachange.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 // The messages of the menu table as dialogs.
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/dialog_factory.h"
 #include "widget/dialog_msgbox.h"
 

@@ -1,7 +1,7 @@
 #include "framework/engine/pages.h"
 
-#include "framework/handover.h"
-#include "framework/paraprocess.h"
+#include "framework/thread/handover.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/directoryengineer.h"
 #include "widget/menudirectoty.h"
 

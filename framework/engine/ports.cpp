@@ -1,7 +1,7 @@
 // The states of the Ethernet ports on the home screen, from what the ports and the optical links report.
 
 #include "framework/engine/device.h"
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "widget/mainwindow_k2860.h"
 
 namespace VASK

@@ -2,7 +2,7 @@
 // them. For the cases of the items of either form; thread as theirs.
 #pragma once
 
-#include "framework/engine/change.h"
+#include "framework/engine/parachange.h"
 
 namespace VASK
 {

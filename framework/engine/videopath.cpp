@@ -2,8 +2,8 @@
 
 #include "framework/engine/workmode.h"
 
-#include "framework/engine/bandwidth.h"
-#include "framework/keyevent.h"
+#include "framework/engine/limits/bandwidth.h"
+#include "framework/input/keyevent.h"
 #include "widget/mainwindow_k2860.h"
 
 namespace VASK

@@ -2,10 +2,10 @@
 
 #include "framework/engine/workmode.h"
 
-#include "framework/globaltimer.h"
-#include "framework/handover.h"
-#include "framework/keyevent.h"
-#include "framework/menuanalysis.h"
+#include "framework/object/globaltimer.h"
+#include "framework/thread/handover.h"
+#include "framework/input/keyevent.h"
+#include "framework/store/menuanalysis.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/menudirectoty.h"
 

@@ -1,10 +1,10 @@
 // What comes from the bus, fed to every decoder of frames and messages: no byte of it may crash the panel,
 // and what a decoder accepts must hold together.
 
-#include "framework/protocol/datagram.h"
-#include "framework/protocol/ipcheaderinfo.h"
-#include "framework/protocol/packageframe.h"
-#include "framework/protocol/packagerequestproto3rd.h"
+#include "framework/protocol/bus/datagram.h"
+#include "framework/protocol/bus/ipcheaderinfo.h"
+#include "framework/protocol/packet/packageframe.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
 
 #include <QtGlobal>
 #include <cstdint>

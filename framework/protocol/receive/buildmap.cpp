@@ -1,6 +1,6 @@
 // The tables of the inputs, built once from the device's own list.
-#include "framework/paraprocess.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 
 #include <QDebug>
 

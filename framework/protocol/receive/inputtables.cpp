@@ -1,4 +1,4 @@
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 
 namespace VASK
 {

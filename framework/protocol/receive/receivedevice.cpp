@@ -1,8 +1,8 @@
 // Reports about the device as a whole: it has started, was reset or renamed, has changed its mode, or was set
 // up by a host.
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 #include "framework/protocol/devicecodes.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/receive/selftest.h"
 
 #include <QDebug>

@@ -1,5 +1,5 @@
 // Reports about the inputs: what they carry, their picture, their sound, and the mosaic of two of them.
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 
 #include <QDebug>
 #include <iterator>

@@ -1,8 +1,8 @@
 // Reports about the output and the wall: sizes, rates, brightness, mapping, and what the output shows.
-#include "framework/menuanalysis.h"
-#include "framework/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
 #include "framework/protocol/devicecodes.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 
 #include <QDebug>
 #include <QStringList>

@@ -1,6 +1,6 @@
 // Reports about 3D.
 #include "framework/protocol/devicecodes.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 
 #include <QDebug>
 #include <iterator>

@@ -2,7 +2,7 @@
 // Made on the report thread, read there, gone when the handler returns.
 #pragma once
 
-#include "framework/protocol/packagebase.h"
+#include "framework/protocol/packet/packagebase.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,8 +1,8 @@
 #include "framework/protocol/receive/reportdispatch.h"
 
-#include "framework/protocol/packagerequestproto3rd.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
-#include "framework/protocol/registeraddress.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/packet/registeraddress.h"
 
 #include <QDebug>
 

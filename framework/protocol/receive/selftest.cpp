@@ -1,9 +1,9 @@
 #include "framework/protocol/receive/selftest.h"
 
 #include "boardio.h"
-#include "framework/handover.h"
-#include "framework/keypadevent.h"
-#include "framework/selfchecklist.h"
+#include "framework/thread/handover.h"
+#include "framework/input/keypadevent.h"
+#include "framework/legacy/selfchecklist.h"
 #include "widget/dialog_factory.h"
 
 #include <QApplication>

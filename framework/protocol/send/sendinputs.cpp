@@ -1,7 +1,7 @@
 // The inputs: picture, colour range, EDID, audio, copy protection, backup and the mosaic of two inputs.
 
-#include "framework/paraprocess.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
 #include "framework/protocol/send/videomode.h"
 

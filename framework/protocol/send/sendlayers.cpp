@@ -1,7 +1,7 @@
 // The three layers: what they show, where, in which order and which part of their input. A change of one
 // number of a window sends the whole window.
 
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
 
 #include <QDebug>

@@ -1,6 +1,6 @@
 #include "framework/protocol/send/sendrow.h"
 
-#include "framework/paraprocess.h"
+#include "framework/engine/paraprocess.h"
 
 #include <QDebug>
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "framework/protocol/devicecodes.h"
-#include "framework/protocol/proto3rdsend.h"
+#include "framework/protocol/link/proto3rdsend.h"
 #include "framework/protocol/send/valueform.h"
-#include "framework/protocol/tgprotocolparser3rd.h"
+#include "framework/protocol/packet/tgprotocolparser3rd.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK

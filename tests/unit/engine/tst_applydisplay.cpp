@@ -1,7 +1,7 @@
 // Display mode, Fn key and test pattern, with the LEDs that they light.
 
 #include "enginerig.h"
-#include "framework/keyevent.h"
+#include "framework/input/keyevent.h"
 #include "ledpanel.h"
 
 using namespace VASK;

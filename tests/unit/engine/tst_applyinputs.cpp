@@ -2,7 +2,7 @@
 // test.
 
 #include "enginerig.h"
-#include "framework/keyevent.h"
+#include "framework/input/keyevent.h"
 #include "ledpanel.h"
 #include "widget/dialog_factory.h"
 

@@ -1,6 +1,6 @@
 // Which layers are on, in which order they stand, and the fixed layouts.
 
-#include "framework/keyevent.h"
+#include "framework/input/keyevent.h"
 #include "layerrig.h"
 #include "ledpanel.h"
 

@@ -2,7 +2,7 @@
 // production test has the screen to itself.
 
 #include "enginerig.h"
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 #include "widget/dialog_factory.h"
 
 #include <QSignalSpy>

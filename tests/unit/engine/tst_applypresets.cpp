@@ -2,8 +2,8 @@
 // loading by number.
 
 #include "enginerig.h"
-#include "framework/globaltimer.h"
-#include "framework/keypadevent.h"
+#include "framework/object/globaltimer.h"
+#include "framework/input/keypadevent.h"
 #include "widget/dialog_scene.h"
 
 using namespace VASK;

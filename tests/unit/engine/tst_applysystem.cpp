@@ -1,7 +1,7 @@
 // Plain items, language, boot logo, services and inputs, and reports that come from another thread.
 
 #include "enginerig.h"
-#include "framework/engine/change.h"
+#include "framework/engine/parachange.h"
 #include "netstatus.h"
 
 #include <QThread>

@@ -2,7 +2,7 @@
 // another.
 
 #include "caseline.h"
-#include "framework/keyevent.h"
+#include "framework/input/keyevent.h"
 #include "ledpanel.h"
 
 using namespace VASK;

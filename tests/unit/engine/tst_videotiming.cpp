@@ -1,8 +1,8 @@
 // The timing model against modes worked out by hand, and the searches against the plain walk that defines
 // them.
 
-#include "framework/engine/bandwidth.h"
-#include "framework/engine/videotiming.h"
+#include "framework/engine/limits/bandwidth.h"
+#include "framework/engine/limits/videotiming.h"
 
 #include <QRandomGenerator>
 #include <QtTest>

@@ -1,6 +1,6 @@
 // The way home when no key comes: from where the panel goes home, what it ends on the way, and when it stays.
 
-#include "framework/globaltimer.h"
+#include "framework/object/globaltimer.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog_factory.h"
 

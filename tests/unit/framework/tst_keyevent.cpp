@@ -3,8 +3,8 @@
 
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
-#include "framework/keyevent.h"
-#include "framework/keypadevent.h"
+#include "framework/input/keyevent.h"
+#include "framework/input/keypadevent.h"
 
 #include <QApplication>
 #include <QDir>

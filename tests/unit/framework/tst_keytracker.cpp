@@ -1,6 +1,6 @@
 // What a stream of key words means, on a clock that the test turns.
 
-#include "framework/keytracker.h"
+#include "framework/input/keytracker.h"
 
 #include <QtTest>
 #include <atomic>

@@ -1,7 +1,7 @@
 // The item store: what it remembers, what it writes and when.
 
 #include "boardio.h"
-#include "framework/menuanalysis.h"
+#include "framework/store/menuanalysis.h"
 
 #include <QDir>
 #include <QFileInfo>

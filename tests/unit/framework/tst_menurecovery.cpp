@@ -1,7 +1,7 @@
 // The store's three files against damage and against death in the middle of a save.
 
 #include "boardio.h"
-#include "framework/menuanalysis.h"
+#include "framework/store/menuanalysis.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 // The ticker and the gate in front of a receiver.
 
-#include "framework/tickgate.h"
+#include "framework/thread/tickgate.h"
 
 #include <QtTest>
 

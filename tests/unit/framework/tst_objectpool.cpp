@@ -1,8 +1,8 @@
 // The registry, and how a row finds store and protocol through it.
 
-#include "framework/menuanalysis.h"
-#include "framework/protocol/protocolinterface.h"
-#include "framework/transport.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/protocol/link/protocolinterface.h"
+#include "framework/object/transport.h"
 
 #include <QPointer>
 #include <QtTest>

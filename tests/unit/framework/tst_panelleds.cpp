@@ -1,6 +1,6 @@
 // The LED commands as the driver gets them.
 
-#include "framework/panelleds.h"
+#include "framework/input/panelleds.h"
 #include "menuindex.h"
 
 #include <QtTest>

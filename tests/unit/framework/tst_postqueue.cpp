@@ -1,6 +1,6 @@
 // Work for the GUI thread from a poster that is faster than it: the order, the bound, and who waits for whom.
 
-#include "framework/postqueue.h"
+#include "framework/thread/postqueue.h"
 
 #include <QtTest>
 #include <thread>

@@ -1,6 +1,6 @@
 // The timer service on a clock that the test turns.
 
-#include "framework/ctimer.h"
+#include "framework/thread/ctimer.h"
 
 #include <QMap>
 #include <QSemaphore>

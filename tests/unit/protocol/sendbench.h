@@ -3,12 +3,12 @@
 #pragma once
 
 #include "frames.h"
-#include "framework/menuanalysis.h"
-#include "framework/paraprocess.h"
-#include "framework/protocol/communicationclientinterface.h"
-#include "framework/protocol/proto3rd.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
-#include "framework/protocol/proto3rdsend.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/protocol/link/communicationclientinterface.h"
+#include "framework/protocol/link/proto3rd.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdsend.h"
 
 #include <QtTest>
 

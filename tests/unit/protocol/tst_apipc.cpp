@@ -5,10 +5,10 @@
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
 #include "frames.h"
-#include "framework/protocol/apipcservice.h"
-#include "framework/protocol/apipcsocket.h"
-#include "framework/protocol/ipcheaderinfo.h"
-#include "framework/protocol/protocolinterface.h"
+#include "framework/protocol/bus/apipcservice.h"
+#include "framework/protocol/bus/apipcsocket.h"
+#include "framework/protocol/bus/ipcheaderinfo.h"
+#include "framework/protocol/link/protocolinterface.h"
 #include "platform/host/statefile.h"
 
 #include <QDir>

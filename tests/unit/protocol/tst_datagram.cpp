@@ -2,7 +2,7 @@
 
 #include "datarows.h"
 #include "frames.h"
-#include "framework/protocol/datagram.h"
+#include "framework/protocol/bus/datagram.h"
 
 #include <QtTest>
 

@@ -4,8 +4,8 @@
 #include "datarows.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
-#include "framework/protocol/hostsession.h"
-#include "framework/protocol/linksupervision.h"
+#include "framework/protocol/link/hostsession.h"
+#include "framework/protocol/link/linksupervision.h"
 #include "platform/host/statefile.h"
 
 #include <QSignalSpy>

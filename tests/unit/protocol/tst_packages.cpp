@@ -2,9 +2,9 @@
 
 #include "datarows.h"
 #include "frames.h"
-#include "framework/protocol/datagram.h"
-#include "framework/protocol/packagerequestproto3rd.h"
-#include "framework/protocol/tgprotocolparser3rd.h"
+#include "framework/protocol/bus/datagram.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
+#include "framework/protocol/packet/tgprotocolparser3rd.h"
 
 #include <QtTest>
 #include <memory>

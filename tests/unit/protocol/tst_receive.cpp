@@ -4,11 +4,11 @@
 #include "tests/unit/engine/enginerig.h"
 #include "datarows.h"
 #include "frames.h"
-#include "framework/keypadevent.h"
-#include "framework/protocol/packagerequestproto3rd.h"
-#include "framework/protocol/proto3rdreceiveparse.h"
+#include "framework/input/keypadevent.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/receive/reportdispatch.h"
-#include "framework/selfchecklist.h"
+#include "framework/legacy/selfchecklist.h"
 #include "widget/dialog_factory.h"
 
 #include <QtTest>

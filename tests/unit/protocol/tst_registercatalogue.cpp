@@ -1,7 +1,7 @@
 // The register catalogue: a builder of each form to the byte, and what must hold of every row.
 
 #include "frames.h"
-#include "framework/protocol/tgprotocolparser3rd.h"
+#include "framework/protocol/packet/tgprotocolparser3rd.h"
 
 #include <QMap>
 #include <QtTest>
@@ -69,7 +69,7 @@ void TestRegisterCatalogue::rowsFitAndDiffer()
 #define FPD_WRITE_PAIR(name, address, stride, stride2, bytes, device)                                        \
     {#name, address, stride, stride2, bytes, device},
 #define FPD_READ(name, address, bytes) {#name, address, 0, 0, bytes, asked},
-#include "framework/protocol/registercatalogue.def"
+#include "framework/protocol/packet/registercatalogue.def"
 #undef FPD_WRITE
 #undef FPD_WRITE_EACH
 #undef FPD_WRITE_PAIR

@@ -3,8 +3,8 @@
 #include "boardio.h"
 #include "fpd_hostlink.h"
 #include "frames.h"
-#include "framework/protocol/cabinetnames.h"
-#include "framework/protocol/driverutil.h"
+#include "framework/protocol/link/cabinetnames.h"
+#include "framework/protocol/snapshot/driverutil.h"
 #include "platform/host/statefile.h"
 
 #include <QDir>

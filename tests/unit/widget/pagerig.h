@@ -4,11 +4,11 @@
 #pragma once
 
 #include "boardio.h"
-#include "framework/menuanalysis.h"
-#include "framework/menushown.h"
-#include "framework/paraprocess.h"
-#include "framework/protocol/protocolinterface.h"
-#include "framework/transport.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/store/menushown.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/protocol/link/protocolinterface.h"
+#include "framework/object/transport.h"
 #include "widget/directoryengineer.h"
 #include "widget/mainwindow_k2860.h"
 #include "widget/menudirectoty.h"

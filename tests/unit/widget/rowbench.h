@@ -3,8 +3,8 @@
 #pragma once
 
 #include "boardio.h"
-#include "framework/menuanalysis.h"
-#include "framework/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
 
 #include <QDir>
 #include <QLabel>

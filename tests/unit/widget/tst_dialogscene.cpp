@@ -1,6 +1,6 @@
 // The preset dialog under the keypad's keys: where the knob goes, and what can be chosen.
 
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog_scene.h"
 

@@ -1,6 +1,6 @@
 // The choice of the language: what its keys do, when the home screen asks for it, and what follows an answer.
 
-#include "framework/keypadevent.h"
+#include "framework/input/keypadevent.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog_languageselect.h"
 #include "widget/dialog_msgbox.h"

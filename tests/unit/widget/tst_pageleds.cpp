@@ -1,6 +1,6 @@
 // The LEDs of the layer and input keys, as the keypad's driver is told: which are lit, dark or blink.
 
-#include "framework/keyevent.h"
+#include "framework/input/keyevent.h"
 #include "tests/unit/engine/ledpanel.h"
 #include "tests/unit/widget/pagerig.h"
 

@@ -1,0 +1,53 @@
+// Brightness, and the items that are commands to the device rather than values.
+
+#include "framework/engine/parachange.h"
+
+#include "netstatus.h"
+#include "widget/mainwindow_k2860.h"
+
+namespace VASK
+{
+namespace
+{
+void applyBrightness(ParaChange &change)
+{
+    change.home()->SetBrightNess(change.value + "%");
+    change.tail();
+}
+
+void saveToReceivingCard(ParaChange &change)
+{
+    if (!change.engine.GetPortLinkStatus()) {
+        change.dialog(MSG_CheckReceiveCard);
+        return;
+    }
+    change.send(MENU_SavetoRVCard, change.value);
+    change.dialog(MSG_SavingHardwareInformation);
+    change.dialog(MSG_SaveHardwareInformationSucceed);
+}
+
+void startSelfTest(ParaChange &change)
+{
+    change.send(MENU_SelfTest, change.value);
+    if (change.fromUser())
+        change.dialog(MSG_SelfTesting);
+}
+
+void applyCommunicationMode(ParaChange &change)
+{
+    set_pc_connect_priority(change.value == QLatin1String("0") ? 1 : 0);
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_ScreenBrightness, MENU_ScreenBrightness, applyBrightness},
+    {MENU_SavetoRVCard, MENU_SavetoRVCard, saveToReceivingCard},
+    {MENU_SelfTest, MENU_SelfTest, startSelfTest},
+    {MENU_CommunicationMode, MENU_CommunicationMode, applyCommunicationMode},
+};
+} // namespace
+
+ApplyFamily commandFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

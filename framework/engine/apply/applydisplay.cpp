@@ -1,0 +1,176 @@
+// Display mode (normal, freeze, black, test pattern) and the assignment of the Fn key: two radio groups that
+// light the panel.
+
+#include "framework/engine/parachange.h"
+
+#include "framework/input/keyevent.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/protocol/devicecodes.h"
+
+namespace VASK
+{
+namespace
+{
+/// The display mode's numbers in PARA_DisplayMode.
+enum DisplayMode { Normal, Frozen, Black, Testing };
+
+/// The Fn key's functions in MENU_FnMode.
+enum FnFunction { FnSync, FnOutput, FnBlack, FnFreeze, FnTest };
+
+void light(ENUM_LedIndex led, bool on)
+{
+    KeyEvent::SendLedCommand(led, on ? LED_ON : LED_OFF);
+}
+
+/// The Fn key is lit while the mode that it switches is the current one.
+bool fnStandsFor(int function, int displayMode)
+{
+    switch (function) {
+    case FnBlack:
+        return displayMode == Black;
+    case FnFreeze:
+        return displayMode == Frozen;
+    case FnTest:
+        return displayMode == Testing;
+    }
+    return false;
+}
+
+void lightMode(ParaChange &change, int displayMode)
+{
+    light(LED_FREEZE, displayMode == Frozen);
+    light(LED_TEST, displayMode == Testing);
+    light(LED_FN, fnStandsFor(change.number(MENU_FnMode), displayMode));
+}
+
+void refreshDisplayRows(ParaChange &change)
+{
+    for (ENUM_MenuIndex item : {MENU_Normal, MENU_Freeze, MENU_FTB, MENU_TestPattern})
+        change.refresh(item);
+}
+
+void enterMode(ParaChange &change, DisplayMode mode)
+{
+    change.set(PARA_DisplayMode, QString::number(mode));
+}
+
+void applyNormal(ParaChange &change)
+{
+    qDebug() << "ENUM_MENUINDEX_SCREEN_CONTROL_NORMAL_DISPLAY_MENU::: testMode="
+             << change.item(PARA_DisplayMode);
+    lightMode(change, Normal);
+    for (ENUM_MenuIndex item : {MENU_Freeze, MENU_FTB, MENU_TestPattern})
+        change.enable(item, true);
+    change.choice(MENU_Normal, true);
+    change.choice(MENU_Freeze, false);
+    change.choice(MENU_FTB, false);
+    refreshDisplayRows(change);
+    enterMode(change, Normal);
+    change.tail();
+}
+
+/// Freeze and black: the other two lose their mark, and the test pattern cannot be opened.
+void applyHeldPicture(ParaChange &change, DisplayMode mode, ENUM_MenuIndex other)
+{
+    lightMode(change, mode);
+    if (change.number(PARA_DisplayMode) == mode)
+        return;
+    change.choice(change.index, true);
+    change.choice(MENU_Normal, false);
+    change.choice(other, false);
+    change.enable(MENU_TestPattern, false);
+    refreshDisplayRows(change);
+    enterMode(change, mode);
+    change.tail();
+}
+
+void applyFreeze(ParaChange &change)
+{
+    qDebug() << "ENUM_MENUINDEX_SCREEN_CONTROL_PIC_FROZEN_MENU::: testMode=" << change.item(PARA_DisplayMode);
+    applyHeldPicture(change, Frozen, MENU_FTB);
+}
+
+void applyBlack(ParaChange &change)
+{
+    qDebug() << "ENUM_MENUINDEX_SCREEN_CONTROL_PIC_BLACK_MENU::: testMode=" << change.item(PARA_DisplayMode);
+    applyHeldPicture(change, Black, MENU_Freeze);
+}
+
+void applyTestPattern(ParaChange &change)
+{
+    lightMode(change, Testing);
+    if (change.number(PARA_DisplayMode) == Testing)
+        return;
+    if (change.fromUser()) {
+        static const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
+        const int family = change.number(PARA_TestPatternFamily);
+        if (family >= 0 && family < int(std::size(patterns))) {
+            qDebug() << "ENUM_MENUINDEX_TEST_MODE_CUR ==" << family;
+            change.send(patterns[family], change.item(patterns[family]));
+        }
+    }
+    for (ENUM_MenuIndex item : {MENU_Normal, MENU_Freeze, MENU_FTB})
+        change.choice(item, false);
+    change.enable(MENU_Freeze, false);
+    change.enable(MENU_FTB, false);
+    refreshDisplayRows(change);
+    enterMode(change, Testing);
+}
+
+void applyFnFunction(ParaChange &change)
+{
+    const int function = change.index - MENU_Fn_Synchronization;
+    for (int i = MENU_Fn_Synchronization; i <= MENU_Fn_TestPattern; ++i)
+        change.choice(ENUM_MenuIndex(i), i == change.index);
+    for (int i = MENU_Fn_Synchronization; i <= MENU_Fn_TestPattern; ++i)
+        change.refresh(ENUM_MenuIndex(i));
+    change.set(MENU_FnMode, QString::number(function));
+    light(LED_FN, fnStandsFor(function, change.number(PARA_DisplayMode)));
+    change.tail();
+}
+
+/// How the device names the display modes.
+struct ReportedMode {
+    int code;
+    ENUM_MenuIndex item;
+    DisplayMode mode;
+};
+constexpr ReportedMode reportedModes[] = {
+    {DISPLAY_Normal, MENU_Normal, Normal},
+    {DISPLAY_Freeze, MENU_Freeze, Frozen},
+    {DISPLAY_Black, MENU_FTB, Black},
+    {DISPLAY_Test, MENU_TestPattern, Testing},
+};
+
+constexpr ApplyCase cases[] = {
+    {MENU_Normal, MENU_Normal, applyNormal},
+    {MENU_Freeze, MENU_Freeze, applyFreeze},
+    {MENU_FTB, MENU_FTB, applyBlack},
+    {MENU_TestPattern, MENU_TestPattern, applyTestPattern},
+    {MENU_Fn_Synchronization, MENU_Fn_TestPattern, applyFnFunction},
+};
+} // namespace
+
+void ParaProcess::UpdataDispMode(int code)
+{
+    for (const ReportedMode &reported : reportedModes) {
+        if (reported.code != code)
+            continue;
+        if (reported.mode != Testing) {
+            if (m_processData.value(PARA_DisplayMode) == reported.mode)
+                return;
+            if (MenuAnalysis *store = neededStore()) {
+                ParaChange change(*this, *store, QString(), reported.item, SET_XML_DEVICE);
+                change.choice(reported.item, true);
+                change.refresh(reported.item);
+            }
+        }
+        SetParaToXml(QString(), reported.item, SET_XML_DEVICE);
+    }
+}
+
+ApplyFamily displayFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

@@ -1,0 +1,209 @@
+// The device tells what its inputs carry: layers, output rate, LEDs and the production test follow.
+
+#include "framework/engine/layers.h"
+
+#include "framework/engine/limits/bandwidth.h"
+#include "framework/store/menuanalysis.h"
+#include "widget/dialog_factory.h"
+#include "widget/menudirectoty.h"
+
+namespace VASK
+{
+namespace
+{
+/// Fields of an input record, from its first number on. The device tells a record in their order, so that
+/// its period stands for the whole.
+enum RecordField { FieldPeriod = 5, FieldSampling = 6 };
+
+constexpr ENUM_MenuIndex recordField(int input, RecordField field)
+{
+    return ENUM_MenuIndex(PARA_InputRecordFirst + input * STRIDE_InputRecord + field);
+}
+
+/// One report of an input on its way through the cases below.
+struct InputReport {
+    int number;
+    InputRecord record;
+    int width; ///< what a layer takes from it; a usual size while there is no signal
+    int height;
+
+    bool stable() const { return record.signalState == stableSignal; }
+    int rate() const { return record.measuredRateCentiHz(); }
+    int snappedRate() const { return FrameRateAdj(uint16_t(rate())); }
+};
+
+InputReport reportOf(const ParaChange &change)
+{
+    constexpr int usualWidth = 1920;
+    constexpr int usualHeight = 1080;
+    const int number = (change.index - PARA_InputRecordFirst) / STRIDE_InputRecord;
+    const InputRecord record = DeviceView(change.engine).input(number);
+    const bool stable = record.signalState == stableSignal;
+    return {number, record, stable ? record.width : usualWidth, stable ? record.height : usualHeight};
+}
+
+bool isShownBy(const ParaChange &change, const InputReport &input, int layer)
+{
+    return change.number(layerItem(MENU_MainLayer_InputSource, layer)) == input.number;
+}
+
+bool isCropped(const ParaChange &change, int layer)
+{
+    return change.item(ENUM_MenuIndex(MENU_MainLayerCrop_Status + layer * STRIDE_Crop)) != QLatin1String("0");
+}
+
+bool isPixelToPixel(const ParaChange &change, int layer)
+{
+    return change.isOn(layerItem(MENU_MainLayer_ScalingMode, layer));
+}
+
+void offerCrop(ParaChange &change, int layer, bool on)
+{
+    setEnabled(change, layerItem(MENU_MainLayer_InputCrop, layer), on);
+}
+
+void showSignal(ParaChange &change, const InputReport &input, int layer)
+{
+    if (input.stable())
+        qDebug() << "----------------- Set Sres Res -----------------";
+    else
+        qDebug() << "input_num+" << input.number << "input_stable+ ==" << input.record.signalState;
+    change.engine.showLayerSignal(layer, input.record, input.rate());
+}
+
+void followWithMainLayer(ParaChange &change, const InputReport &input, WorkMode mode)
+{
+    if (mode != WORK_SENDER)
+        offerCrop(change, 0, input.stable());
+    if (!isCropped(change, 0) && isPixelToPixel(change, 0))
+        takeSize(change, layers[0], {input.width, input.height});
+    showSignal(change, input, 0);
+}
+
+/// A PIP layer carries no picture beyond its limit: it keeps its size then.
+void followWithPip(ParaChange &change, const InputReport &input, int layer, WorkMode mode)
+{
+    constexpr int pipPixels = 3250000;
+    offerCrop(change, layer, input.stable());
+    if (!isCropped(change, layer) && input.width * input.height <= pipPixels) {
+        const ENUM_MenuIndex scaling = layerItem(MENU_MainLayer_ScalingMode, layer);
+        if (isPixelToPixel(change, layer))
+            takeSize(change, layers[size_t(layer)], {input.width, input.height});
+        else if (change.item(MENU_ImageMosaic_Status) == QLatin1String("0") &&
+                 change.info(scaling).params1.value(QString::number(pixelToPixelRow)) != optionEnable)
+            change.enableRow(scaling, pixelToPixelRow, true);
+    }
+    if (input.stable() || mode != WORK_SENDER)
+        showSignal(change, input, layer);
+}
+
+void takeOutputRate(ParaChange &change, int rateCentiHz)
+{
+    change.set(PARA_OutputRate, QString::number(rateCentiHz));
+    change.redoResolution(rateCentiHz);
+}
+
+/// The output of a sending card runs at the rate of the reference or of the main layer's input.
+void followWithSenderOutput(ParaChange &change, const InputReport &input)
+{
+    const DeviceView device(change.engine);
+    const bool sync = device.syncOn();
+    if (sync ? input.record.sourceCode != SOURCE_SYNC_REFERENCE : !isShownBy(change, input, 0))
+        return;
+    if (input.stable())
+        takeOutputRate(change, input.snappedRate());
+    else if (!sync)
+        change.redoResolution(unknownRate);
+}
+
+/// The output of a controller follows its source of synchronisation as far as it can.
+void followWithOutput(ParaChange &change, const InputReport &input)
+{
+    if (!change.isOn(MENU_Sync_Status) || change.number(MENU_Sync_Source) != input.number ||
+        input.record.framePeriodUs == 0)
+        return;
+    const int rate = change.engine.OutputFrameAdj(input.rate(), change.number(PARA_OutputRate));
+    takeOutputRate(change, rate ? rate : unknownRate);
+}
+
+/// The input under test fails when it loses its signal; how it stands before is kept for every input.
+void followWithTest(const ParaChange &change, const InputReport &input)
+{
+    static std::atomic<int> lastSignal[ProcessData::inputCount];
+    const int last = lastSignal[input.number].exchange(input.record.signalState);
+    if (Factory::m_cur_step != FACTORY_STEP_IN_OUT || Factory::InputTestNumCur != input.number)
+        return;
+    if (input.stable())
+        change.engine.raiseSourceStable();
+    else if (last == stableSignal)
+        change.engine.raiseTested(en_inout_test_index(input.number), ITEM_FAILED);
+}
+
+void applyInput(ParaChange &change)
+{
+    const InputReport input = reportOf(change);
+    const WorkMode mode = DeviceView(change.engine).workMode();
+    qDebug() << "input_num" << input.number << "input_stable ==" << input.record.signalState;
+    if (isShownBy(change, input, 0))
+        followWithMainLayer(change, input, mode);
+    for (int layer = 1; layer < layerCount; ++layer)
+        if (isShownBy(change, input, layer))
+            followWithPip(change, input, layer, mode);
+    if (mode == WORK_SENDER)
+        followWithSenderOutput(change, input);
+    else
+        followWithOutput(change, input);
+    MenuDirectory::UpdateSourceLedStatus();
+    followWithTest(change, input);
+}
+
+/// Which page shows the colour sampling of an input, by its source code.
+struct SamplingRow {
+    int code;
+    ENUM_MenuIndex item;
+};
+constexpr SamplingRow samplingRows[] = {
+    {96, MENU_HDMI1_ColorSample}, {97, MENU_HDMI1_ColorSample}, {98, MENU_HDMI2_ColorSample},
+    {104, MENU_DVI_ColorSample},  {105, MENU_DVI_ColorSample},  {0, MENU_DVI_ColorSample},
+    {1, MENU_DVI_ColorSample},    {2, MENU_DVI2_ColorSample},   {106, MENU_DVI2_ColorSample},
+    {48, MENU_SDI_ColorSample},
+};
+constexpr const char *samplings[] = {"RGB 4:4:4", "YCbCr 4:2:2", "YCbCr 4:4:4"};
+constexpr int sampledInputs = 5; ///< inputs of which the sampling is shown
+
+void applySampling(ParaChange &change)
+{
+    const int input = (change.index - PARA_InputRecordFirst) / STRIDE_InputRecord;
+    qDebug() << "CSC para ==" << change.value;
+    const int sampling = change.number(change.index);
+    const QString text = sampling < int(std::size(samplings)) ? samplings[sampling] : "";
+    const int code = DeviceView(change.engine).input(input).sourceCode;
+    for (const SamplingRow &row : samplingRows)
+        if (row.code == code)
+            change.show(row.item, text);
+}
+
+/// One row an input and field: the records lie too far apart for a range.
+const QVector<ApplyCase> &inputCases()
+{
+    static const QVector<ApplyCase> cases = [] {
+        QVector<ApplyCase> rows;
+        for (int input = 0; input < ProcessData::inputCount; ++input) {
+            const ENUM_MenuIndex period = recordField(input, FieldPeriod);
+            rows << ApplyCase{period, period, applyInput};
+        }
+        for (int input = 0; input < sampledInputs; ++input) {
+            const ENUM_MenuIndex sampling = recordField(input, FieldSampling);
+            rows << ApplyCase{sampling, sampling, applySampling};
+        }
+        return rows;
+    }();
+    return cases;
+}
+} // namespace
+
+ApplyFamily inputFamily()
+{
+    return {inputCases().constData(), inputCases().size()};
+}
+} // namespace VASK

@@ -1,0 +1,156 @@
+// Language, brand items, cabinet files, OSD picture slots, soft calibration and the start of the device's
+// services.
+
+#include "framework/engine/parachange.h"
+
+#include "boardio.h"
+#include "framework/thread/handover.h"
+#include "framework/store/menuanalysis.h"
+#include "widget/language.h"
+#include "widget/mainwindow_k2860.h"
+#include "widget/menudirectoty.h"
+
+#include <QApplication>
+#include <QThread>
+
+namespace VASK
+{
+namespace
+{
+constexpr unsigned long cabinetLoadSeconds = 3;
+
+struct Language {
+    ENUM_MenuIndex item;
+    ENUM_MenuIndex other;
+    bool english;
+    const char *already;
+};
+constexpr Language languages[] = {
+    {MENU_LanguageEn, MENU_LanguageZh, true, "now is en!"},
+    {MENU_LanguageZh, MENU_LanguageEn, false, "now is zh!"},
+};
+
+void translateEverything()
+{
+    for (int object = 0; object < ENUM_OBJECT_END; ++object)
+        if (auto *ui =
+                dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(ENUM_ObjectIndex(object))))
+            ui->SetParaEntry(MENU_OWN, QString(), SET_XML_DEVICE);
+}
+
+void applyLanguage(ParaChange &change)
+{
+    const Language &language = languages[change.index == MENU_LanguageZh];
+    QString chosen;
+    change.store.GetItemCurChoice(language.item, chosen);
+    if (chosen == SELECTED) {
+        qDebug() << language.already;
+        return;
+    }
+    change.choice(language.item, true);
+    change.choice(language.other, false);
+    change.refresh(language.item);
+    change.refresh(language.other);
+    speakLanguage(change.engine, language.english);
+    runOnGui(&change.engine, [] {
+        // From elsewhere the page above, that it was opened from once, must not come up.
+        auto *page = poolObject<MenuDirectory>(ENUM_PAGE_Language);
+        if (page && page->isVisible())
+            page->keypadEScEvent(nullptr);
+    });
+}
+
+void applyBootLogo(ParaChange &change)
+{
+    if (!change.changed())
+        return;
+    board::runCommand(change.value == QLatin1String("0")
+                          ? "cp -a /usr/vask/etc/logo/logo_hide.bmp /usr/vask/etc/logo/logo.bmp"
+                          : "cp -a /usr/vask/etc/logo/logo_vask.bmp /usr/vask/etc/logo/logo.bmp");
+    board::runCommand("sync");
+}
+
+void applyMakerSign(ParaChange &change)
+{
+    if (change.changed())
+        change.home()->SetDevNameState(change.value == QLatin1String("0") ? COMMON_OFF : COMMON_ON);
+}
+
+void loadCabinetFile(ParaChange &change)
+{
+    if (!change.engine.GetPortLinkStatus()) {
+        change.dialog(MSG_CheckReceiveCard);
+        return;
+    }
+    const ST_ItemInfo file = change.info(change.index);
+    change.send(change.index, file.perBase + "+" + file.value);
+    change.dialog(MSG_Waiting);
+    QThread::sleep(cabinetLoadSeconds);
+    change.dialog(MSG_LoadSucceed);
+}
+
+/// The device has brought a list of cabinet files: the open page shows it.
+void showCabinetFiles(ParaChange &change)
+{
+    runOnGui(&change.engine, [engine = &change.engine, store = &change.store] {
+        auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow());
+        if (!page || page != ObjectPool::getInstance()->GetObject(ENUM_PAGE_LoadCabFiles))
+            return;
+        QStringList names;
+        MenuDirectory::GetCabCfgFileName(names); // without any, the page is left without rows
+        if (names.size() > MenuDirectory::fileRowCount) {
+            qDebug() << "too many file";
+            names = names.mid(0, MenuDirectory::fileRowCount);
+        }
+        for (int row = 0; row < MenuDirectory::fileRowCount; ++row)
+            store->UpdataItemEnable(ENUM_MenuIndex(MENU_CabinetFile1 + row), row < names.size());
+        page->showFiles(names);
+    });
+}
+
+void applyOsdPicture(ParaChange &change)
+{
+    change.enableRow(MENU_OSDChoice, change.index - EVENT_OSDPictureFirst,
+                     change.value == QLatin1String("1"));
+}
+
+void applySoftCalibration(ParaChange &change)
+{
+    if (!change.fromDevice() || !ParaProcess::init_20m_flg)
+        return;
+    change.engine.raiseReturnToMain(true);
+    change.engine.raiseSoftCalibrate(change.value == QLatin1String("1"));
+}
+
+void applyServiceStarted(ParaChange &change)
+{
+    change.engine.serviceStarted(change.index);
+}
+
+constexpr int osdPictureCount = 8;
+
+constexpr ApplyCase cases[] = {
+    {MENU_LanguageEn, MENU_LanguageZh, applyLanguage},
+    {MENU_BootLogo, MENU_BootLogo, applyBootLogo},
+    {MENU_MakerSign, MENU_MakerSign, applyMakerSign},
+    {MENU_CabinetFile1, MENU_CabinetFile8, loadCabinetFile},
+    {EVENT_OSDPictureFirst, ENUM_MenuIndex(EVENT_OSDPictureFirst + osdPictureCount - 1), applyOsdPicture},
+    {EVENT_CabinetListLoaded, EVENT_CabinetListLoaded, showCabinetFiles},
+    {EVENT_SoftCalibrate, EVENT_SoftCalibrate, applySoftCalibration},
+    {EVENT_VideoServiceStarted, EVENT_SenderServiceStarted, applyServiceStarted},
+};
+} // namespace
+
+void speakLanguage(ParaProcess &engine, bool english)
+{
+    runOnGui(&engine, [&engine, english] {
+        installLanguage(&engine, english);
+        translateEverything();
+    });
+}
+
+ApplyFamily systemFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

@@ -1,0 +1,70 @@
+// The test pattern pages, which take each other's place, and the custom pictures.
+
+#include "framework/engine/parachange.h"
+#include "framework/engine/pages.h"
+#include "framework/thread/handover.h"
+
+#include "framework/input/keypadevent.h"
+#include "widget/menudirectoty.h"
+
+#include <QApplication>
+
+namespace VASK
+{
+namespace
+{
+void applyType(ParaChange &change)
+{
+    static const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
+    qDebug() << "ParaProcess::SetParaToXml===ENUM_MENUINDEX_SCREEN_CONTROL_PIC_TEST_TYPE_MENU:para=="
+             << change.value;
+    constexpr int typeCount = 5;
+    const int type = change.value.toInt();
+    if (type < 0 || type >= typeCount) {
+        qDebug() << "param is invalid!";
+        return;
+    }
+    if (type < int(std::size(patterns)) && change.fromUser())
+        change.send(patterns[type], change.item(patterns[type]));
+    change.set(PARA_TestPatternFamily, QString::number(type));
+    swapPage(change.engine, {ENUM_PAGE_TestPattern, ENUM_ObjectIndex(ENUM_PAGE_TestPureColor + type),
+                             ENUM_ConfigIndex(CONFIG_TestPureColor + type), ENUM_PAGE_DisplayControl});
+    change.tail();
+}
+
+void applyPattern(ParaChange &change)
+{
+    change.set(PARA_TestPatternFamily, QString::number(change.index - MENU_Test_PureColor));
+    change.tail();
+}
+
+void openSnapshotPage(ParaChange &change)
+{
+    runOnGui(&change.engine, [engine = &change.engine] {
+        MenuDirectory *page = pageOrBuild(*engine, ENUM_PAGE_SnapshotSlots, CONFIG_SnapshotSlots);
+        if (page)
+            openBelow(page, poolObject<MenuDirectory>(ENUM_PAGE_CustomPictures));
+    });
+}
+
+void leaveCustomPicture(ParaChange &change)
+{
+    runOnGui(&change.engine, [] {
+        if (QWidget *active = QApplication::activeWindow())
+            QCoreApplication::postEvent(active, new KeypadEvent(KEY_RELEASED, KEY_ESC, 1, false));
+    });
+}
+
+constexpr ApplyCase cases[] = {
+    {MENU_Test_Type, MENU_Test_Type, applyType},
+    {MENU_Test_PureColor, MENU_Test_Grid, applyPattern},
+    {MENU_Test_Snapshot, MENU_Test_Snapshot, openSnapshotPage},
+    {MENU_Test_CustomPicture1, MENU_Test_CustomPicture4, leaveCustomPicture},
+};
+} // namespace
+
+ApplyFamily testPatternFamily()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

@@ -1,0 +1,135 @@
+// Limits of a custom EDID: width, height and rate of a mode that the input's pixel clock carries.
+
+#include "framework/engine/limits/limits.h"
+#include "framework/engine/limits/videotiming.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
+
+namespace VASK
+{
+namespace
+{
+constexpr uint32_t highClock = 165000000; ///< hertz
+constexpr uint32_t lowClock = 25000000;   ///< hertz
+constexpr int maxRateCentiHz = 12000;
+constexpr int minRateCentiHz = 2300;
+constexpr int maxSize = 4092; ///< pixels or lines
+constexpr int minWidth = 800;
+constexpr int minHeight = 600;
+constexpr int maxTotalLines = 4096;
+constexpr uint64_t frameStoreBits = 0x10000000;
+
+/// The three items of one input's custom EDID.
+struct CustomEdid {
+    explicit CustomEdid(const ParaProcess &paraProcess, ENUM_MenuIndex index)
+        : engine(paraProcess),
+          distance((index - MENU_HDMI1_EDIDWidth) / STRIDE_InputPicture * STRIDE_InputPicture)
+    {
+    }
+    ENUM_MenuIndex of(ENUM_MenuIndex first) const { return ENUM_MenuIndex(first + distance); }
+    int width() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDWidth)).toInt()); }
+    int height() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDHeight)).toInt()); }
+    int rateCentiHz() const
+    {
+        constexpr float centi = 100.f;
+        ST_ItemInfo item;
+        engine.GetInfoFromIndex(of(MENU_HDMI1_EDIDCustomRate), item);
+        return int(item.params.value(item.value).toFloat() * centi);
+    }
+
+    const ParaProcess &engine;
+    int distance;
+};
+
+/// A 24-bit frame, whose lines take whole units of 64 bytes, has to fit the frame store.
+bool fitsFrameStore(int width, int height)
+{
+    const uint64_t units = (uint64_t(width) * 3 + 63) / 64;
+    return units * uint64_t(height) * 512 <= frameStoreBits;
+}
+
+QString limitWidth(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+{
+    const CustomEdid edid(engine, index);
+    const int height = edid.height();
+    const int rate = edid.rateCentiHz();
+    if (rate == 0)
+        return value;
+    int max = _CVT_GetWidthMaxValue(highClock, height, rate);
+    max = max > maxSize ? maxSize : max & ~1;
+    const int min = qMax(_CVT_GetWidthMinValue(lowClock, height, rate), minWidth);
+    int width = qMin(int(uint16_t(value.toInt())), max);
+    while (width > 0 && !fitsFrameStore(width, height))
+        width -= 2;
+    return QString::number(qMax(width, min));
+}
+
+bool hasTooManyLines(int width, int height, int rateCentiHz)
+{
+    VideoMode mode;
+    vert_refresh(width, height, float(rateCentiHz) / 100.f, &mode);
+    return mode.totalLines >= maxTotalLines;
+}
+
+QString limitHeight(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+{
+    const CustomEdid edid(engine, index);
+    const int width = edid.width();
+    const int rate = edid.rateCentiHz();
+    if (rate == 0)
+        return value;
+    const int max = qMin(_CVT_GetHeightMaxValue(highClock, width, rate), maxSize);
+    const int min = qMax(_CVT_GetHeightMinValue(lowClock, width, rate), minHeight);
+    int height = qMin(int(uint16_t(value.toInt())), max);
+    while (height > 0 && !fitsFrameStore(width, height))
+        --height;
+    while (height > 0 && hasTooManyLines(width, height, rate))
+        --height;
+    return QString::number(height < min ? min : height);
+}
+
+/// The value stays; rates outside what the clocks allow are switched off in the list.
+QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+{
+    const CustomEdid edid(engine, ENUM_MenuIndex(index - 2));
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    if (!store)
+        return value;
+    const float highest =
+        float(qMin(_CVT_GetframeRateMaxValue(highClock, edid.width(), edid.height()), maxRateCentiHz)) /
+        100.f;
+    const int lowestCenti = _CVT_GetframeRateMinValue(lowClock, edid.width(), edid.height());
+    const float lowest = lowestCenti >= minRateCentiHz ? float(lowestCenti) / 100.f : 23.f;
+    store->changeItem(index, [lowest, highest](ST_ItemInfo &item) {
+        for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
+            const float rate = option.value().toFloat();
+            item.params1[option.key()] = rate < lowest || rate > highest ? optionDisable : optionEnable;
+        }
+    });
+    const int input = (index - MENU_HDMI1_EDIDCustomRate) / STRIDE_InputPicture;
+    constexpr int stride = ENUM_ROW_HDMI2_EDIDCustomRate - ENUM_ROW_HDMI1_EDIDCustomRate;
+    repaintList(ENUM_ObjectIndex(ENUM_ROW_HDMI1_EDIDCustomRate + input * stride), index);
+    return value;
+}
+
+constexpr LimitCase cases[] = {
+    {MENU_HDMI1_EDIDWidth, MENU_HDMI1_EDIDWidth, limitWidth},
+    {MENU_HDMI1_EDIDHeight, MENU_HDMI1_EDIDHeight, limitHeight},
+    {MENU_HDMI1_EDIDCustomRate, MENU_HDMI1_EDIDCustomRate, limitRate},
+    {MENU_HDMI2_EDIDWidth, MENU_HDMI2_EDIDWidth, limitWidth},
+    {MENU_HDMI2_EDIDHeight, MENU_HDMI2_EDIDHeight, limitHeight},
+    {MENU_HDMI2_EDIDCustomRate, MENU_HDMI2_EDIDCustomRate, limitRate},
+    {MENU_DVI_EDIDWidth, MENU_DVI_EDIDWidth, limitWidth},
+    {MENU_DVI_EDIDHeight, MENU_DVI_EDIDHeight, limitHeight},
+    {MENU_DVI_EDIDCustomRate, MENU_DVI_EDIDCustomRate, limitRate},
+    {MENU_DVI2_EDIDWidth, MENU_DVI2_EDIDWidth, limitWidth},
+    {MENU_DVI2_EDIDHeight, MENU_DVI2_EDIDHeight, limitHeight},
+    {MENU_DVI2_EDIDCustomRate, MENU_DVI2_EDIDCustomRate, limitRate},
+};
+} // namespace
+
+LimitFamily edidLimits()
+{
+    return {cases, int(std::size(cases))};
+}
+} // namespace VASK

@@ -1,0 +1,196 @@
+// The parameter engine: owns every parameter of the device. A changed value, from the user or from a report,
+// goes through CalParaLimit and SetParaToXml, which store it, move what depends on it and hand it to the
+// protocol. Entered on the GUI thread by rows and pages, and on the report thread for device values.
+#pragma once
+
+#include "framework/engine/start/snapshotmirror.h"
+#include "framework/engine/processdata.h"
+#include "framework/object/vaskobject.h"
+#include "menuconfig_k2860.h"
+
+#include <QByteArray>
+#include <QDialog>
+#include <QMap>
+#include <array>
+#include <atomic>
+
+class MainWindow;
+enum en_inout_test_index : int;
+enum en_item_state : int;
+
+namespace VASK
+{
+class MenuAnalysis;
+
+class ParaProcess : public VaskObject
+{
+    Q_OBJECT
+public:
+    explicit ParaProcess(ENUM_ObjectIndex index);
+    int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
+
+    /// Fills the name maps, resets the display-only items and connects the home screen. False without a
+    /// store.
+    bool Initialize();
+    /// Reads the blocks of the flash snapshot into the mirror.
+    void InitReadParaFrom20M();
+    /// Pushes the mirror into the menu, then sets everything on the home screen.
+    void InitializeMainWindow();
+    void InitdefaultValue();
+
+    /// The value of an item or of a process-data field as text; empty if there is none. Any thread.
+    QString GetParaFromIndex(ENUM_MenuIndex index) const;
+    /// The whole item from the store. True in every case; an unknown item leaves the target as it was. Any
+    /// thread.
+    bool GetInfoFromIndex(ENUM_MenuIndex index, ST_ItemInfo &item) const;
+    /// True when at least one Ethernet or optical port has a link.
+    bool GetPortLinkStatus() const;
+    /// The lowest layer that is on: 0 main, 1 PIP 1, 2 PIP 2, 255 none. Sets the scale LED.
+    unsigned char GetLowLayerNum();
+    /// The name of an input by the key of the source items; empty if there is none.
+    QString GetInputNameByIndex(const QString &key) const;
+    /// The name of a source code with its number, such as "HDMI1.42"; empty for an unknown code.
+    QString GetSourceNameByCode(unsigned char code) const;
+
+    /// Applies a value: stores it, moves what depends on it, shows it and, in user mode, sends it. Any
+    /// thread.
+    void SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode);
+    /// The value that may be used instead of the given one.
+    QString CalParaLimit(QString value, ENUM_MenuIndex index);
+    /// The rate that the output takes for a source: the source's where it can follow, else its own.
+    /// Hundredths of a hertz.
+    int OutputFrameAdj(int rate, int outputRate) const;
+    const ProcessData &processData() const { return m_processData; }
+    /// Writes one process-data field; an index outside the block is ignored.
+    void SaveProcessData(QString value, ENUM_MenuIndex index);
+    /// The message of an item, or null if it has none. The caller runs and deletes it. GUI thread.
+    QDialog *CreateDialog(ENUM_MenuIndex index, QString text);
+    /// Runs the message of an item and gives its result; 0 if it has none. From another thread than the GUI's
+    /// the home screen shows the message later, and the result is 0.
+    int runMessage(ENUM_MenuIndex index);
+
+    /// Writes the network items from the snapshot again, unless the address comes from DHCP.
+    void UpdateIp();
+    /// Reads the device's own name from the snapshot and shows it.
+    void UpdataDevRename();
+    /// One of the device's two services has started; when both have, the start sequence runs.
+    void serviceStarted(ENUM_MenuIndex event);
+    bool videoServiceStarted() const { return videodStarted; }
+    /// Start of the right eye's picture in pixels as kept for a 3D format: 0 side by side, 1 top and bottom.
+    int rightEyeStart(int format) const;
+    void setRightEyeStart(int format, int pixels);
+    /// Does a preset, from 0, stand under a name that the device keeps? GUI thread.
+    bool presetNamed(int preset) const { return m_presetNamed[size_t(preset)]; }
+    void setPresetNamed(int preset, bool named) { m_presetNamed[size_t(preset)] = named; }
+    /// Loads a preset, from 0, without its dialog; tells if it is empty. GUI thread.
+    void QuickLoadScene(int preset);
+
+    /// The device reports its display mode: 3 normal, 4 freeze, 5 black, 6 test pattern. Any thread.
+    void UpdataDispMode(int code);
+    /// The input list of the device is complete: the SDI input can be chosen or not. Any thread.
+    void HideSdiMenu(bool bHave);
+    /// The input that a layer shows has a signal or not. Any thread.
+    void SetLayerSrc_Res(int layer);
+    /// The names of the layers' sources and, for the layers that are on, what those carry. Any thread.
+    void ChangeLayerSrc();
+    /// The home screen shows what the source of a layer carries, at a rate in hundredths of a hertz, or that
+    /// it has no signal. Any thread.
+    void showLayerSignal(int layer, const InputRecord &input, int rateCentiHz);
+    /// The number of the input with a source code, 255 if there is none. Any thread.
+    int FindKeyByValue(int code) const;
+
+    /// The home screen shows the state of an Ethernet port, from 0, as its own or as the first optical link
+    /// tells it; a port without an optical link shows its own. Any thread.
+    /// @{
+    void UpdatePortState(int port);
+    void UpdataOPT1PortState(int port);
+    void UpdateOPT1_PortLinkState();
+    /// @}
+    /// An optical link, from 0, came or went. Any thread.
+    void UpdateOPTLinkState(int link);
+    /// Works out whether the backup of a port of the second optical link is in use. Any thread.
+    void UpdateOPT2PortBackUPState(int port);
+
+    /// Set at the end of the first InitializeMainWindow: from then on the home screen is reached by queued
+    /// signals.
+    static std::atomic<bool> init_20m_flg;
+    static std::atomic<bool> bHaveSDI;
+    static std::atomic<bool> bRelOnloadRegionStart;
+    /// A reset has run: there is one in a run of the program.
+    static std::atomic<bool> m_ResetFlg;
+    /// The preset that is being copied, 0 to 9; -1 for none.
+    static int m_CopySceneNum;
+    static constexpr int presetCount = 10;
+
+signals:
+    void signal_sync_state(qint8 state, QString text);
+    void signal_sync_state(qint32 state);
+    void signal_window_state(qint32 window, qint32 state);
+    void signal_factory_reset();
+    void signal_soft_calibrate(quint8 state);
+    void signal_createdialog();
+    void signal_popup_window(quint32 index);
+    void signal_return_main(bool mode);
+    void signal_Update_LedState();
+    void signal_Layer_state(qint32 layer, qint32 state);
+    void signal_SetRes_state(qint32 layer, QString text);
+    /// Connected by the production test: an input or output of the last step has passed or failed, and the
+    /// input under test has a stable signal.
+    void signal_update_menuitem(en_inout_test_index index, en_item_state state);
+    void signal_Source_Stable();
+
+public:
+    /// The home screen; null before Initialize.
+    MainWindow *mainWindow() const { return m_pMainWindow; }
+    // The signals of this object, raised by the cases of the engine.
+    void raiseWindowState(int layer, int state) { emit signal_window_state(layer, state); }
+    void raiseSyncState(int state) { emit signal_sync_state(state); }
+    void raiseSyncProblem(int signalState, const QString &text)
+    {
+        emit signal_sync_state(qint8(signalState), text);
+    }
+    void raisePopup(ENUM_MenuIndex index) { emit signal_popup_window(quint32(index)); }
+    void raiseFactoryReset() { emit signal_factory_reset(); }
+    void raiseCreateDialog() { emit signal_createdialog(); }
+    void raiseSoftCalibrate(bool on) { emit signal_soft_calibrate(on ? 1 : 0); }
+    void raiseReturnToMain(bool mode) { emit signal_return_main(mode); }
+    void raiseSourceLeds() { emit signal_Update_LedState(); }
+    void raiseTested(en_inout_test_index index, en_item_state state)
+    {
+        emit signal_update_menuitem(index, state);
+    }
+    void raiseSourceStable() { emit signal_Source_Stable(); }
+
+private:
+    /// Null, with a log line, while there is none.
+    /// @{
+    static MenuAnalysis *neededStore();
+    MainWindow *neededHome() const;
+    /// @}
+    void InitParaFrom20M();
+    void pushPresets();
+    QString readRootVersion();
+    void nameInputsAndSources();
+    void askBeforeQuickConfiguration();
+    void resetDisplayItems(MenuAnalysis &store);
+    void markFnFunction(MenuAnalysis &store);
+    void keepRightEyeStarts(MenuAnalysis &store);
+    void connectHomeScreen();
+    void showLayer(int layer);
+    void showSyncState();
+    void DeviceStartComplateHandle();
+    void HdcpPoweronHandle();
+    void SyncInit();
+    void DhcpInit();
+
+    MainWindow *m_pMainWindow = nullptr;
+    ProcessData m_processData;
+    SnapshotMirror m_mirror;
+    /// Does the preset hold a decoded name?
+    std::array<bool, presetCount> m_presetNamed{};
+    std::atomic<bool> videodStarted{false};
+    std::atomic<bool> senderdStarted{true};
+    QMap<QString, QString> m_inputNames;
+    QMap<unsigned char, QString> m_sourceNames;
+};
+} // namespace VASK

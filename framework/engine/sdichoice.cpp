@@ -1,0 +1,24 @@
+// What the engine does once it knows which inputs the device has.
+
+#include "framework/engine/parachange.h"
+#include "framework/store/menuanalysis.h"
+
+namespace VASK
+{
+void ParaProcess::HideSdiMenu(bool bHave)
+{
+    bHaveSDI = bHave;
+    MenuAnalysis *store = neededStore();
+    if (!store)
+        return;
+    ParaChange change(*this, *store, QString(), MENU_SDI, SET_XML_DEVICE);
+    for (ENUM_MenuIndex item : {MENU_SDI, MENU_AudioInput_SDI}) {
+        change.enable(item, bHave);
+        change.refresh(item);
+    }
+    constexpr int sdiRow = 3;
+    for (ENUM_MenuIndex list :
+         {MENU_MainLayer_InputSource, MENU_PIP1_InputSource, MENU_PIP2_InputSource, MENU_Sync_Source})
+        change.enableRow(list, sdiRow, bHave);
+}
+} // namespace VASK

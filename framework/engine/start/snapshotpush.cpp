@@ -1,0 +1,346 @@
+// What the flash snapshot says of the device goes into the menu: as reported values, in a fixed order.
+
+#include "framework/engine/device.h"
+#include "framework/engine/start/snapshotmirror.h"
+#include "framework/store/menuanalysis.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/protocol/snapshot/driverutil.h"
+
+#include <QTextCodec>
+
+namespace VASK
+{
+namespace
+{
+/// Pushes values into the engine as the device would report them.
+class SnapshotPush
+{
+public:
+    SnapshotPush(ParaProcess &engine, const SnapshotMirror &mirror) : m_engine(engine), m_mirror(mirror) {}
+
+    void transition();
+    void testPattern();
+    void network();
+    void pictures();
+    void crops();
+    void audioAndOutputSize();
+    void splicing();
+    void stereo();
+    void rates();
+    void inputBackup();
+    void hdcpAndInputAudio();
+
+private:
+    void report(ENUM_MenuIndex item, const QString &value)
+    {
+        m_engine.SetParaToXml(value, item, SET_XML_DEVICE);
+    }
+    void report(ENUM_MenuIndex item, int value) { report(item, QString::number(value)); }
+    void reportRate(ENUM_MenuIndex list, int rateCentiHz);
+    ParaProcess &m_engine;
+    const SnapshotMirror &m_mirror;
+};
+
+ENUM_MenuIndex raised(ENUM_MenuIndex first, int distance)
+{
+    return ENUM_MenuIndex(first + distance);
+}
+
+/// Hundredths as text with one decimal.
+QString tenths(int hundredths)
+{
+    return QString::number(hundredths / 100.0, 'f', 1);
+}
+
+/// Four numbers of an address, each that many bytes wide.
+QString dotted(const SnapshotBlock &block, int offset, int width)
+{
+    QStringList numbers;
+    for (int i = 0; i < 4; ++i)
+        numbers << QString::number(width == 2 ? block.u16(offset + 2 * i) : block.u8(offset + i));
+    return numbers.join('.');
+}
+
+void SnapshotPush::transition()
+{
+    report(MENU_MainLayerTransition, m_mirror.device.u8(DEVICE_Transition) ? 0 : 1);
+    report(MENU_TransitionDuration, tenths(m_mirror.device.u16(DEVICE_TransitionTime)));
+    report(MENU_FTBDuration, tenths(m_mirror.device.u16(DEVICE_BlackTime)));
+}
+
+void SnapshotPush::testPattern()
+{
+    struct Family {
+        int code;
+        int number; ///< in PARA_TestPatternFamily
+        ENUM_MenuIndex pattern;
+    };
+    static const Family families[] = {
+        {0x00, 0, MENU_Test_PureColor},
+        {0x10, 2, MENU_Test_Grid},
+        {0x20, 1, MENU_Test_Gradient},
+    };
+    const int code = m_mirror.device.u8(DEVICE_TestPattern);
+    for (const Family &family : families)
+        if ((code & 0xF0) == family.code) {
+            report(PARA_TestPatternFamily, family.number);
+            report(family.pattern, code & 0x0F);
+        }
+    report(MENU_Test_Brightness, m_mirror.device.u8(DEVICE_TestBrightness));
+    report(MENU_Test_Spacing, m_mirror.device.u8(DEVICE_TestSpacing));
+    report(MENU_Test_Speed, m_mirror.device.u8(DEVICE_TestSpeed));
+}
+
+void SnapshotPush::network()
+{
+    if (m_mirror.device.u8(DEVICE_Dhcp) == deviceOn)
+        return;
+    report(MENU_Net_NetMode, 0);
+    report(MENU_Net_IPAddress, dotted(m_mirror.device, DEVICE_IpAddress, 2));
+    report(MENU_Net_SubnetMask, dotted(m_mirror.device, DEVICE_SubnetMask, 2));
+    report(MENU_Net_Gateway, dotted(m_mirror.device, DEVICE_Gateway, 1));
+}
+
+void SnapshotPush::pictures()
+{
+    constexpr int inputCount = 4;
+    auto picture = [this](int input, ENUM_MenuIndex brightness) {
+        const int base = LIVE_Pictures + input * PICTURE_Stride;
+        report(brightness, m_mirror.live.u8(base + PICTURE_Brightness));
+        report(raised(brightness, 1), m_mirror.live.u8(base + PICTURE_Contrast));
+        report(raised(brightness, 2), m_mirror.live.u8(base + PICTURE_Saturation));
+        report(raised(brightness, 3), int16_t(m_mirror.live.u16(base + PICTURE_Hue)));
+    };
+    for (int input = 0; input < inputCount; ++input) {
+        picture(input, raised(MENU_HDMI1_Brightness, input * STRIDE_InputPicture));
+        const int fullRange = m_mirror.live.u8(LIVE_Pictures + input * PICTURE_Stride + PICTURE_FullRange);
+        report(raised(MENU_HDMI1_LimitedtoFull, input * STRIDE_Input), fullRange);
+    }
+    picture(inputCount, MENU_SDI_Brightness);
+}
+
+void SnapshotPush::crops()
+{
+    constexpr int inputCount = 8;
+    for (int layer = 0; layer < layerCount; ++layer) {
+        const int window = LIVE_Windows + WINDOW_First + layer * WINDOW_Stride;
+        const int input = m_mirror.live.u8(window + WINDOW_Input);
+        if (input >= inputCount)
+            continue;
+        const int base = LIVE_Crops + CROP_First + layer * CROP_LayerStride + input * CROP_InputStride;
+        const ENUM_MenuIndex status = raised(MENU_MainLayerCrop_Status, layer * STRIDE_Crop);
+        report(status, m_mirror.live.u8(base + CROP_Status));
+        report(raised(status, 1), m_mirror.live.u16(base + CROP_Width));
+        report(raised(status, 2), m_mirror.live.u16(base + CROP_Height));
+        report(raised(status, 3), m_mirror.live.u16(base + CROP_X));
+        report(raised(status, 4), m_mirror.live.u16(base + CROP_Y));
+    }
+}
+
+void SnapshotPush::audioAndOutputSize()
+{
+    const int audio = m_mirror.device.u8(DEVICE_AudioOutput);
+    report(MENU_Audio_AudioOutput, audio == audioLineIn ? audioLineInRow : audio);
+    report(MENU_Audio_Volume, m_mirror.device.u8(DEVICE_Volume));
+    const int mode = m_mirror.outputMode.u8(0);
+    report(MENU_OutputMode, mode);
+    const bool software = mode != 0;
+    m_engine.SaveProcessData(
+        QString::number(m_mirror.output.u16(software ? OUTPUT_SoftwareWidth : OUTPUT_Width)),
+        PARA_OutputWidth);
+    m_engine.SaveProcessData(
+        QString::number(m_mirror.output.u16(software ? OUTPUT_SoftwareHeight : OUTPUT_Height)),
+        PARA_OutputHeight);
+}
+
+void SnapshotPush::splicing()
+{
+    const bool on = m_mirror.device.u8(DEVICE_Splicing) == deviceOn;
+    if (!on) {
+        report(MENU_ImageMosaic_Status, 0);
+        return;
+    }
+    // The area first: the switch sends it.
+    report(MENU_ImageMosaic_TotalHPixels, m_mirror.live.i32(LIVE_Windows + WINDOW_First + WINDOW_Width));
+    report(MENU_ImageMosaic_TotalVPixels, m_mirror.live.i32(LIVE_Windows + WINDOW_First + WINDOW_Height));
+    report(MENU_ImageMosaic_LoadAreaWidth, m_mirror.loadArea.u16(LOADAREA_Width));
+    report(MENU_ImageMosaic_LoadAreaHeight, m_mirror.loadArea.u16(LOADAREA_Height));
+    report(MENU_ImageMosaic_LoadAreaInitialX, m_mirror.loadArea.i32(LOADAREA_X));
+    report(MENU_ImageMosaic_LoadAreaInitialY, m_mirror.loadArea.i32(LOADAREA_Y));
+    report(MENU_ImageMosaic_Status, 1);
+}
+
+void SnapshotPush::stereo()
+{
+    const SnapshotBlock &block = m_mirror.stereo;
+    report(MENU_Mode3D_Status, block.u8(STEREO_Switch) == deviceOn ? 1 : 0);
+    // Both are kept, as the device is told of both: an erased snapshot tells nothing.
+    if (block.u16(STEREO_StartSide))
+        m_engine.setRightEyeStart(0, block.u16(STEREO_StartSide));
+    if (block.u16(STEREO_StartTop))
+        m_engine.setRightEyeStart(1, block.u16(STEREO_StartTop));
+    switch (block.u8(STEREO_Format)) {
+    case STEREO_SideBySide:
+        report(MENU_Mode3D_Format, 0);
+        report(MENU_Mode3D_RightEyeStart, block.u16(STEREO_StartSide));
+        break;
+    case STEREO_TopAndBottom:
+        report(MENU_Mode3D_Format, 1);
+        report(MENU_Mode3D_RightEyeStart, block.u16(STEREO_StartTop));
+        break;
+    case STEREO_Sequential:
+        report(MENU_Mode3D_Format, 2);
+        break;
+    }
+    if (block.u8(STEREO_EyePriority) == EYE_LeftFirst)
+        report(MENU_Mode3D_EyePriority, 0);
+    else if (block.u8(STEREO_EyePriority) == EYE_RightFirst)
+        report(MENU_Mode3D_EyePriority, 1);
+    report(MENU_Mode3D_SignalDelayTime, block.u24(STEREO_Delay) / delayStepsPerMicrosecond);
+    report(MENU_Mode3D_ThirdPartyEmitter, block.u8(STEREO_Emitter));
+}
+
+/// The first option whose rate is the stored one.
+void SnapshotPush::reportRate(ENUM_MenuIndex list, int rateCentiHz)
+{
+    constexpr float centi = 100.f;
+    ST_ItemInfo item;
+    m_engine.GetInfoFromIndex(list, item);
+    for (int row = 0; row < item.params.size(); ++row)
+        if (qRound(item.params.value(QString::number(row)).toFloat() * centi) == rateCentiHz) {
+            report(list, row);
+            return;
+        }
+}
+
+void SnapshotPush::rates()
+{
+    reportRate(MENU_OutputFrameRate, m_mirror.output.u16(OUTPUT_Rate));
+    const QString size = QString("%1*%2")
+                             .arg(m_mirror.output.u16(OUTPUT_SoftwareWidth))
+                             .arg(m_mirror.output.u16(OUTPUT_SoftwareHeight));
+    ST_ItemInfo resolutions;
+    m_engine.GetInfoFromIndex(MENU_Output_Resolution, resolutions);
+    const QString row = resolutions.params.key(size);
+    if (!row.isEmpty())
+        report(MENU_Output_Resolution, row);
+    reportRate(MENU_Output_FrameRate, m_mirror.output.u16(OUTPUT_SoftwareRate));
+}
+
+void SnapshotPush::inputBackup()
+{
+    constexpr int noPartner = 255;
+    const SnapshotBlock &block = m_mirror.inputBackup;
+    report(MENU_InputBackup_Status, block.u8(BACKUP_Switch) == backupOn ? 1 : 0);
+    report(MENU_InputBackup_HDMI1, block.u8(BACKUP_Hdmi) < noPartner ? 1 : 0);
+    report(MENU_InputBackup_DVI1, block.u8(BACKUP_Dvi) == noPartner ? 0 : 1);
+    report(MENU_InputBackup_Mosaic, block.u8(BACKUP_Mosaic) < noPartner ? 1 : 0);
+}
+
+void SnapshotPush::hdcpAndInputAudio()
+{
+    constexpr int inputCount = 8;
+    constexpr int hdmiCount = 2;
+    if (m_engine.GetParaFromIndex(MENU_HDCPMemory) != QLatin1String("0"))
+        report(MENU_HDCP, (m_mirror.inputs.u8(INPUTS_Hdcp) & 1) ? 0 : 1);
+    for (int input = 0; input < inputCount; ++input) {
+        const int byte = m_mirror.inputs.u8(INPUTS_Audio + INPUTS_AudioStride * input);
+        const bool lineIn = input < hdmiCount ? byte != 1 : byte != 0;
+        report(raised(MENU_AudioInput_HDMI1, input), lineIn ? 1 : 0);
+    }
+}
+
+/// Name and state of a preset, from 0, as its record tells them. True if the device keeps the preset.
+bool decodePreset(const SnapshotBlock &record, int preset, ST_ItemInfo &item)
+{
+    static QTextCodec *const codec = QTextCodec::codecForName("GB2312");
+    const bool stored = record.u8(PRESET_Stored) == deviceOn;
+    item.tag = QString("Preset%1").arg(preset + 1);
+    item.value = stored ? "Saved" : "Blank";
+    if (stored) {
+        const QByteArray name = record.bytes(PRESET_Name, presetNameLength);
+        const QString text = codec->toUnicode(name.left(int(qstrnlen(name.constData(), uint(name.size())))));
+        if (!text.isEmpty())
+            item.tag = text;
+    }
+    return stored;
+}
+} // namespace
+
+void ParaProcess::InitReadParaFrom20M()
+{
+    qDebug() << "<- InitReadParaFrom20M start";
+    m_mirror.read();
+    qDebug() << "<- InitReadParaFrom20M end";
+}
+
+void ParaProcess::InitParaFrom20M()
+{
+    SnapshotPush push(*this, m_mirror);
+    push.transition();
+    push.testPattern();
+    push.network();
+    push.pictures();
+    push.crops();
+    push.audioAndOutputSize();
+    push.splicing();
+    push.stereo();
+    push.rates();
+    pushPresets();
+    push.inputBackup();
+    push.hdcpAndInputAudio();
+}
+
+void ParaProcess::pushPresets()
+{
+    MenuAnalysis *store = neededStore();
+    if (!store)
+        return;
+    const int inUse = m_mirror.presetInUse.u8(0);
+    for (int preset = 0; preset < presetCount; ++preset) {
+        const ENUM_MenuIndex index = raised(MENU_Preset1, preset);
+        ST_ItemInfo item;
+        store->GetMenuItem(index, item);
+        // The panel may have gone off while a copy had the preset as its source.
+        item.enable = true;
+        SnapshotBlock record(SNAPSHOT_FirstPreset + unsigned(preset) * LENGTH_Preset, LENGTH_Preset);
+        if (record.read())
+            m_presetNamed[size_t(preset)] = decodePreset(record, preset, item);
+        else if (item.value == "Used")
+            item.value = "Saved"; // which one is in use now is known
+        item.icon =
+            imgPath + (preset == inUse ? "sceneSetting/sceneused.png" : "sceneSetting/sceneunused.png");
+        if (preset == inUse)
+            item.value = "Used";
+        store->updataMenuItem(index, item);
+        for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1})
+            if (auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(first + preset)))
+                row->UpdateALLUI(index);
+    }
+    SaveProcessData(QString::number(inUse), PARA_PresetInUse);
+}
+
+void ParaProcess::UpdateIp()
+{
+    SnapshotBlock device = m_mirror.device; // what the start found, should the flash fail now
+    MenuAnalysis *store = neededStore();
+    if (!store || !device.read() || device.u8(DEVICE_Dhcp) == deviceOn)
+        return;
+    struct Field {
+        ENUM_MenuIndex item;
+        ENUM_ObjectIndex widget;
+        int offset;
+        int width;
+    };
+    static const Field fields[] = {
+        {MENU_Net_IPAddress, ENUM_ROW_Net_IPAddress, DEVICE_IpAddress, 2},
+        {MENU_Net_SubnetMask, ENUM_ROW_Net_SubnetMask, DEVICE_SubnetMask, 2},
+        {MENU_Net_Gateway, ENUM_ROW_Net_Gateway, DEVICE_Gateway, 1},
+    };
+    for (const Field &field : fields) {
+        store->UpdataItemCurValue(field.item, dotted(device, field.offset, field.width));
+        if (auto *row = poolObject<VaskUiObject>(field.widget))
+            row->SetParaEntry(field.item, QString(), SET_XML_STORE);
+    }
+}
+} // namespace VASK

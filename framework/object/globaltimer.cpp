@@ -1,0 +1,116 @@
+#include "framework/object/globaltimer.h"
+
+#include "framework/input/keypadevent.h"
+#include "framework/engine/paraprocess.h"
+#include "widget/dialog_factory.h"
+#include "widget/mainwindow_k2860.h"
+#include "widget/menudirectoty.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QDialog>
+
+namespace VASK
+{
+namespace
+{
+/// For a store that holds no usable time: a period of nothing would take the panel home without end.
+constexpr int defaultReturnS = 60;
+constexpr int msPerSecond = 1000;
+} // namespace
+
+GlobalTimer::GlobalTimer() : VaskObject(ENUM_GLOBAL_TIMER) {}
+
+GlobalTimer *GlobalTimer::getInstance()
+{
+    static GlobalTimer *instance = new GlobalTimer;
+    return instance;
+}
+
+void GlobalTimer::Initialize(MainWindow *mainWindow)
+{
+    m_paraProcess = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    m_pmainwindow = mainWindow;
+    m_presetPage = GetObjectFromPool(ENUM_PAGE_PresetSettings);
+    m_returnMainWindow = new QTimer(this);
+    m_returnMainWindow->setObjectName("return home");
+    m_returnTimeMs = readReturnTime();
+    m_returnMainWindow->setInterval(m_returnTimeMs);
+    qDebug() << "m_returnMainWindow" << m_returnMainWindow << m_returnTimeMs;
+    connect(m_returnMainWindow, &QTimer::timeout, this, &GlobalTimer::slot_ReturnToMain);
+    m_returnMainWindow->start();
+}
+
+bool GlobalTimer::ResetReturnToMain()
+{
+    if (m_returnMainWindow) {
+        m_returnTimeMs = readReturnTime();
+        m_returnMainWindow->stop();
+        m_returnMainWindow->setInterval(m_returnTimeMs);
+        m_returnMainWindow->start();
+    }
+    return true;
+}
+
+bool GlobalTimer::ChangeMainWindow(MainWindow *mainWindow)
+{
+    m_pmainwindow = mainWindow;
+    // A panel that has started as a fiber converter has no time to return until it gets a home screen.
+    if (!m_returnMainWindow)
+        Initialize(mainWindow);
+    return true;
+}
+
+void GlobalTimer::slot_ReturnToMain()
+{
+    qDebug() << "framework/object/globaltimer.cpp" << __LINE__ << "slot_ReturnToMain!!!!!!";
+    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || Factory::m_cur_step != FACTORY_STEP_NONE)
+        return;
+    QWidget *active = QApplication::activeWindow();
+    if (active && (active == m_pmainwindow || active == m_presetPage))
+        return;
+    qDebug() << "slot_ReturnToMain start!!!!!!";
+    if (qobject_cast<QDialog *>(active)) {
+        qDebug() << "now in pDialog";
+        return;
+    }
+    leavePage(active);
+    endBrightnessEdit();
+    qDebug() << "m_pmainwindow:" << m_pmainwindow << "GlobalTimer::slot_ReturnToMain" << m_returnMainWindow
+             << m_returnTimeMs;
+    if (m_pmainwindow)
+        m_pmainwindow->show();
+}
+
+int GlobalTimer::readReturnTime() const
+{
+    const int seconds = m_paraProcess ? m_paraProcess->GetParaFromIndex(MENU_ReturntoHome).toInt() : 0;
+    return (seconds > 0 ? seconds : defaultReturnS) * msPerSecond;
+}
+
+/// As if the user had pressed ESC, and then away from whatever page that led to.
+void GlobalTimer::leavePage(QWidget *activeWindow)
+{
+    auto *page = qobject_cast<MenuDirectory *>(activeWindow);
+    if (!page)
+        return;
+    KeypadEvent escape(KEY_RELEASED, KEY_ESC, 1, false);
+    page->keypadEScEvent(&escape);
+    MenuDirectory::setNoPage();
+    QWidget *now = QApplication::activeWindow();
+    if (now && now != m_pmainwindow)
+        now->hide();
+    // The window system tells of the page that ESC has brought up only later: it is not the active one yet.
+    MenuDirectory::hideAllPages();
+}
+
+/// A brightness that was being edited is saved like one whose edit was ended.
+void GlobalTimer::endBrightnessEdit()
+{
+    if (!MenuDirectory::bSetScreenBrightness)
+        return;
+    if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_SavetoRVCard))
+        row->CallProtocol("", MENU_SavetoRVCard);
+    MenuDirectory::bSetScreenBrightness = false;
+}
+} // namespace VASK

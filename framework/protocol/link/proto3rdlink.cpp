@@ -1,0 +1,93 @@
+// The part of the protocol object that starts it and ties cables, host session and home screen together.
+
+#include "framework/engine/paraprocess.h"
+#include "framework/protocol/receive/packagehandler.h"
+#include "framework/protocol/link/proto3rd.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/link/proto3rdsend.h"
+#include "framework/protocol/receive/reportdispatch.h"
+#include "widget/mainwindow_k2860.h"
+
+namespace VASK
+{
+namespace
+{
+constexpr int drainMs = 10;
+constexpr int sendMs = 200;
+const QString workModeFiber = QStringLiteral("1");
+} // namespace
+
+int Proto3rd::initialize()
+{
+    m_exit = false;
+    // A widget as all of the family: it must stand before the report thread sends through it.
+    Proto3rdSend::getInstance();
+    qDebug() << "create m_notifyThread";
+    m_notifyThread = std::make_unique<MsgThread>(drainMs);
+    m_notifyThread->setObjectName("tick drain");
+    m_notifyGate.open(
+        m_notifyThread.get(), this, [this] { return m_waiting > 0; },
+        [this](bool finishing) { slot_notifyThreadFun(finishing); });
+    m_notifyThread->start();
+    qDebug() << "create m_pMessageHandler";
+    // The readers of the reports are made here, on this thread, before the first report needs them.
+    Proto3rdReceiveParse::getInstance();
+    m_pMessageHandler = std::make_unique<PackageHandler>(dispatchReport);
+    m_pMessageHandler->start();
+    qDebug() << "create m_pMessageHandler end";
+    m_pParaProcess = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    m_link.start();
+    m_sendTimer.start(sendMs);
+    connectHomeScreen();
+    return 1;
+}
+
+void Proto3rd::connectSupervision()
+{
+    connect(&m_link, &LinkSupervision::connectState, this, &Proto3rd::showConnection);
+    connect(&m_link, &LinkSupervision::returnHome, this, [this] { returnMain(true); });
+    connect(&m_link, &LinkSupervision::linkLost, &m_session, [this] { m_session.DealNetorUsbLink(false); });
+    connect(&m_link, &LinkSupervision::usbChanged, this,
+            [this](int state) { passInOutTest(INOUT_USB_IN, state); });
+    connect(&m_link, &LinkSupervision::ethernetChanged, this,
+            [this](int state) { passInOutTest(INOUT_ETHERNET, state); });
+    connect(&m_session, &HostSession::over, this, [this] { returnMain(true); });
+}
+
+void Proto3rd::connectHomeScreen()
+{
+    VaskObject *home = GetObjectFromPool(ENUM_MAIN_WINDOW);
+    if (!home)
+        return;
+    connect(this, SIGNAL(signal_return_main(bool)), home, SLOT(slot_ReturnToMainSoft(bool)),
+            Qt::QueuedConnection);
+    connect(this, SIGNAL(signal_soft_calibrate(quint8)), home, SLOT(slot_soft_calibrate(quint8)),
+            Qt::QueuedConnection);
+}
+
+void Proto3rd::showConnection(ENUM_MainWindowConnectState state)
+{
+    if (auto *home = poolObject<MainWindow>(ENUM_MAIN_WINDOW))
+        home->SetConnectState(state);
+}
+
+/// The production test looks at the sockets while it stands at its last step.
+void Proto3rd::passInOutTest(en_inout_test_index index, int state)
+{
+    if (Factory::m_cur_step == FACTORY_STEP_IN_OUT && state != 0)
+        emit signal_update_menuitem(index, ITEM_PASSED);
+}
+
+Proto3rd::HostMode Proto3rd::hostMode(const ParaProcess *engine)
+{
+    if (!engine)
+        return HostMode::Unknown;
+    return engine->GetParaFromIndex(MENU_WorkMode) == workModeFiber ? HostMode::Fiber : HostMode::Allowed;
+}
+
+void Proto3rd::returnMain(bool mode)
+{
+    if (hostMode(m_pParaProcess) == HostMode::Allowed)
+        emit signal_return_main(mode);
+}
+} // namespace VASK

@@ -1,0 +1,130 @@
+// The item store: the current state of every menu item, in memory and in config.xml, with a backup copy and a
+// factory copy beside it. A change counts in memory at once and reaches the file a second after the last key;
+// a damaged file is repaired from the copies at start. Items may be read and changed from any thread, files
+// and document belong to whoever flushes, which is the GUI thread.
+#pragma once
+
+#include "framework/store/menuxml.h"
+#include "framework/object/vaskobject.h"
+
+#include <QDomDocument>
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QMutex>
+#include <QThread>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+namespace VASK
+{
+class MenuAnalysis : public VaskObject
+{
+    Q_OBJECT
+public:
+    explicit MenuAnalysis(ENUM_ObjectIndex index);
+    ~MenuAnalysis() override;
+    int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
+
+    /// Repairs the files, loads them or makes new ones from the table, and starts the write timer. True. GUI
+    /// thread.
+    bool initlize();
+    /// Puts the next write off to a second from now: called for every key. From any thread.
+    void restartUpdateTimer();
+
+    /// Readers: false, with the target as it was, for an item that the store does not hold. Any thread.
+    /// @{
+    bool GetMenuItem(ENUM_MenuIndex index, ST_ItemInfo &item) const;
+    bool GetItemCurValue(ENUM_MenuIndex index, QString &value) const;
+    bool GetItemCurChoice(ENUM_MenuIndex index, QString &choice) const;
+    bool GetItemEnable(ENUM_MenuIndex index, bool &enable) const;
+    bool GetItemEnableSelect(ENUM_MenuIndex index, bool &enableSelect) const;
+    bool IsEixstItemFromXMLFile(ENUM_MenuIndex index) const;
+    /// @}
+
+    /// Writers: false for an item that the store does not hold. Setting what is there already changes
+    /// nothing. Any thread.
+    /// @{
+    /// An empty value is refused, but for the one item that may be cleared.
+    bool UpdataItemCurValue(ENUM_MenuIndex index, QString value);
+    bool UpdataItemCurChoice(ENUM_MenuIndex index, QString choice);
+    bool UpdataItemEnable(ENUM_MenuIndex index, bool enable);
+    /// Stores the flag only when it is set to true.
+    bool UPdataItemEnableSelect(ENUM_MenuIndex index, bool enableSelect);
+    /// Changes what a function changes of the record, with no other change in between. The function runs
+    /// under the store's lock and calls nothing of the store.
+    bool changeItem(ENUM_MenuIndex index, const std::function<void(ST_ItemInfo &)> &change);
+    /// Replaces the whole record.
+    bool updataMenuItem(ENUM_MenuIndex index, ST_ItemInfo &item);
+    /// Adds an item; one that is there already keeps what it has.
+    bool AddMenuItem(ENUM_MenuIndex index, ST_ItemInfo item);
+    bool DeleteMenuItem(ENUM_MenuIndex index);
+    /// @}
+
+    /// Reads a file into document and memory, over what is there. False, with a log line, if it cannot be
+    /// read.
+    bool LoadXmlFile(const QString &name);
+    /// Writes what has changed since the last write. True in every case but a file that cannot be written.
+    bool updateActivittyItem();
+    /// Waits until the last save is on the disk and not only in its file.
+    void endSync();
+
+public slots:
+    /// The flush: added items, changed items, deleted items.
+    void slot_updateXml();
+
+private:
+    static bool conditionCheckMenuIndex(ENUM_MenuIndex index);
+    bool isExistItem(ENUM_MenuIndex index) const;
+    bool readItem(ENUM_MenuIndex index, const std::function<void(const ST_ItemInfo &)> &read) const;
+    void storeChanged(ENUM_MenuIndex index, const ST_ItemInfo &item);
+    void addMenuItem(ENUM_MenuIndex index, const ST_ItemInfo &item);
+    void deleteMenuItem(ENUM_MenuIndex index);
+
+    bool IsEixstFile();
+    bool CheckXmlfileIsVaild(const QString &name) const;
+    void createFromTable();
+    void repairFactoryFile();
+    void addHiddenItems();
+    void takeItemsFromDocument();
+    bool CreateMeunFile();
+    bool createXmlFile();
+    bool saveDataToFile(const QString &name);
+    bool saveFile();
+    void startSync();
+
+    void ensureDocument();
+    bool updateCacheList();
+    void updateDeleteItem();
+    void addItemToXML(ENUM_MenuIndex index, const ST_ItemInfo &item);
+    void modityItemToXML(ENUM_MenuIndex index, const ST_ItemInfo &item, QHash<int, QDomElement> &elements);
+    QHash<int, QDomElement> elementsByIndex() const;
+
+    const QString m_fileName = QStringLiteral("config.xml");
+    const QString m_backupName = QStringLiteral("config_backup.xml");
+    const QString m_factoryName = QStringLiteral("config_factory.xml");
+    QString m_path;
+    QTimer *m_updateTimer = nullptr;
+    const XmlNames m_elementNames = menuXmlNames();
+
+    /// Guards the document and the files for the length of a load or a flush. Taken before m_mutex, never
+    /// inside it.
+    QMutex m_documentMutex;
+    QDomDocument m_xmldoc;
+    /// Brings the last save to the disk, which can take longer than a user at the knob should notice.
+    std::unique_ptr<QThread> m_sync;
+    /// The file does not hold the whole table yet: nothing worth a backup.
+    bool m_creating = false;
+
+    /// Guards the item map and the three lists for one access.
+    mutable QMutex m_mutex;
+    QMap<ENUM_MenuIndex, ST_ItemInfo> m_items;
+    /// Added since the last flush.
+    QMap<ENUM_MenuIndex, ST_ItemInfo> cacheList;
+    /// Changed since the last flush, each once: while keys put the flush off, reports change the same items
+    /// again and again.
+    QList<ENUM_MenuIndex> m_activityElementList;
+    QList<ENUM_MenuIndex> m_deleteItemList;
+};
+} // namespace VASK

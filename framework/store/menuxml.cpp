@@ -1,0 +1,192 @@
+#include "framework/store/menuxml.h"
+
+#include <QDebug>
+
+namespace VASK
+{
+namespace
+{
+/// A child with plain text and the field that it holds.
+struct TextField {
+    XMLELEMENT name;
+    QString ST_ItemInfo::*field;
+};
+struct NumberField {
+    XMLELEMENT name;
+    int ST_ItemInfo::*field;
+};
+struct FlagField {
+    XMLELEMENT name;
+    bool ST_ItemInfo::*field;
+    const char *complaint;
+};
+struct MapField {
+    XMLELEMENT name;
+    QMap<QString, QString> ST_ItemInfo::*field;
+};
+
+// In the file the numbers stand behind the first four texts, the flags and maps at the end.
+const TextField firstTexts[] = {
+    {XML_ICON, &ST_ItemInfo::icon},
+    {XML_TAG, &ST_ItemInfo::tag},
+    {XML_VALUE, &ST_ItemInfo::value},
+    {XML_ICONEX, &ST_ItemInfo::iconRight},
+};
+const NumberField numbers[] = {
+    {XML_ROW, &ST_ItemInfo::row},
+    {XML_COL, &ST_ItemInfo::col},
+};
+const TextField lastTexts[] = {
+    {XML_MAX, &ST_ItemInfo::max},         {XML_MIN, &ST_ItemInfo::min},
+    {XML_PERBASE, &ST_ItemInfo::perBase}, {XML_PIXVALUE, &ST_ItemInfo::pixValue},
+    {XML_STEP, &ST_ItemInfo::step},       {XML_UNIT, &ST_ItemInfo::unit},
+    {XML_CHOICE, &ST_ItemInfo::choice},
+};
+const FlagField flags[] = {
+    {XML_ENABLE, &ST_ItemInfo::enable, "enable is invalid:"},
+    {XML_ENABLESELECT, &ST_ItemInfo::enableSelect, "EnableSelect is invalid:"},
+};
+const MapField maps[] = {
+    {XML_PARAMS, &ST_ItemInfo::params},
+    {XML_PARAMS1, &ST_ItemInfo::params1},
+};
+
+/// The text without the characters that no XML document may hold: with one of them the whole file would
+/// count as damaged at the next start.
+QString storableText(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            result += text.mid(i++, 2);
+        else if (!c.isSurrogate() && c.unicode() < 0xFFFE &&
+                 (c.unicode() >= 0x20 || c == '\t' || c == '\n' || c == '\r'))
+            result += c;
+    }
+    return result;
+}
+
+/// An empty text makes no node: a document that was read has none either, and both shall be written alike.
+void setText(QDomDocument &document, QDomElement &element, const QString &text)
+{
+    if (!text.isEmpty())
+        element.appendChild(document.createTextNode(storableText(text)));
+}
+
+void appendText(QDomDocument &document, QDomElement &parent, const QString &name, const QString &text)
+{
+    QDomElement child = document.createElement(name);
+    setText(document, child, text);
+    parent.appendChild(child);
+}
+
+void appendMap(QDomDocument &document, QDomElement &parent, const XmlNames &names, XMLELEMENT name,
+               const QMap<QString, QString> &map)
+{
+    QDomElement child = document.createElement(names[name]);
+    for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
+        QDomElement param = document.createElement(names[XML_PARAM]);
+        param.setAttribute(names[XML_PARAMNAME], storableText(entry.key()));
+        setText(document, param, entry.value());
+        child.appendChild(param);
+    }
+    parent.appendChild(child);
+}
+
+void readMap(const QDomElement &element, const XmlNames &names, QMap<QString, QString> &map)
+{
+    for (QDomElement param = element.firstChildElement(names[XML_PARAM]); !param.isNull();
+         param = param.nextSiblingElement(names[XML_PARAM])) {
+        const QString key = param.attribute(names[XML_PARAMNAME]);
+        if (!key.isEmpty())
+            map.insert(key, param.text());
+    }
+}
+
+void readFlag(const QString &text, const FlagField &flag, ST_ItemInfo &item)
+{
+    if (text == "true" || text == "false")
+        item.*flag.field = text == "true";
+    else
+        qDebug() << flag.complaint << text;
+}
+
+template <class Table, class Read>
+bool readFrom(const Table &table, const XmlNames &names, const QString &tag, Read read)
+{
+    for (const auto &row : table)
+        if (names[row.name] == tag) {
+            read(row);
+            return true;
+        }
+    return false;
+}
+
+void readChild(const QDomElement &child, const XmlNames &names, ST_ItemInfo &item)
+{
+    const QString tag = child.tagName();
+    const auto readText = [&](const TextField &row) { item.*row.field = child.text(); };
+    const bool known =
+        readFrom(firstTexts, names, tag, readText) || readFrom(lastTexts, names, tag, readText) ||
+        readFrom(numbers, names, tag,
+                 [&](const NumberField &row) { item.*row.field = child.text().toInt(); }) ||
+        readFrom(flags, names, tag, [&](const FlagField &row) { readFlag(child.text(), row, item); }) ||
+        readFrom(maps, names, tag, [&](const MapField &row) { readMap(child, names, item.*row.field); });
+    if (!known)
+        qDebug() << "no this tagName:" << tag;
+}
+} // namespace
+
+XmlNames menuXmlNames()
+{
+    return {
+        {XML_LIST, "List"},       {XML_ITEMS, "Items"},
+        {XML_INDEX, "Index"},     {XML_ICON, "Icon"},
+        {XML_TAG, "Tag"},         {XML_VALUE, "Value"},
+        {XML_ICONEX, "IconEx"},   {XML_MAX, "Max"},
+        {XML_MIN, "Min"},         {XML_PIXVALUE, "PixValue"},
+        {XML_PERBASE, "PerBase"}, {XML_UNIT, "Unit"},
+        {XML_CHOICE, "Choice"},   {XML_STEP, "Step"},
+        {XML_ROW, "Row"},         {XML_COL, "Col"},
+        {XML_ENABLE, "Enable"},   {XML_ENABLESELECT, "EnableSelect"},
+        {XML_PARAMS, "Params"},   {XML_PARAMS1, "Params1"},
+        {XML_PARAM, "param"},     {XML_PARAMNAME, "paramName"},
+    };
+}
+
+QDomDocument emptyMenuDocument()
+{
+    QDomDocument document;
+    document.appendChild(document.createProcessingInstruction("xml", "version='1.0' encoding='UTF-8'"));
+    QDomElement root = document.createElement("MenuItemList");
+    root.setAttribute("Version", "1.0");
+    document.appendChild(root);
+    return document;
+}
+
+QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
+                                 const ST_ItemInfo &item)
+{
+    QDomElement element = document.createElement(names[XML_ITEMS]);
+    element.setAttribute(names[XML_INDEX], int(index));
+    for (const TextField &row : firstTexts)
+        appendText(document, element, names[row.name], item.*row.field);
+    for (const NumberField &row : numbers)
+        appendText(document, element, names[row.name], QString::number(item.*row.field));
+    for (const TextField &row : lastTexts)
+        appendText(document, element, names[row.name], item.*row.field);
+    for (const FlagField &row : flags)
+        appendText(document, element, names[row.name], item.*row.field ? "true" : "false");
+    for (const MapField &row : maps)
+        appendMap(document, element, names, row.name, item.*row.field);
+    return element;
+}
+
+void menuItemFromXml(const QDomElement &element, const XmlNames &names, ST_ItemInfo &item)
+{
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        readChild(child, names, item);
+}
+} // namespace VASK
