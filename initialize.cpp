@@ -9,9 +9,9 @@
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/snapshot/protomemory20m.h"
 #include "framework/object/transport.h"
-#include "widget/directoryengineer.h"
+#include "widget/page/directoryengineer.h"
 #include "widget/language.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 #include <QCoreApplication>
 #include <QDebug>

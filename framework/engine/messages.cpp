@@ -1,8 +1,8 @@
 // The messages of the menu table as dialogs.
 
 #include "framework/engine/paraprocess.h"
-#include "widget/dialog_factory.h"
-#include "widget/dialog_msgbox.h"
+#include "widget/factory/dialog_factory.h"
+#include "widget/dialog/dialog_msgbox.h"
 
 namespace VASK
 {

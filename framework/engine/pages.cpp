@@ -2,8 +2,8 @@
 
 #include "framework/thread/handover.h"
 #include "framework/engine/paraprocess.h"
-#include "widget/directoryengineer.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/directoryengineer.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QDebug>
 

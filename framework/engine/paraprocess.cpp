@@ -8,7 +8,7 @@
 #include "framework/engine/limits/limits.h"
 #include "framework/input/keyevent.h"
 #include "framework/store/menuanalysis.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 #include <QCoreApplication>
 #include <QThread>

@@ -2,7 +2,7 @@
 
 #include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {

@@ -6,8 +6,8 @@
 #include "framework/thread/handover.h"
 #include "framework/input/keyevent.h"
 #include "framework/store/menuanalysis.h"
-#include "widget/mainwindow_k2860.h"
-#include "widget/menudirectoty.h"
+#include "widget/home/mainwindow_k2860.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QApplication>
 

@@ -2,9 +2,9 @@
 
 #include "framework/input/keypadevent.h"
 #include "framework/engine/paraprocess.h"
-#include "widget/dialog_factory.h"
-#include "widget/mainwindow_k2860.h"
-#include "widget/menudirectoty.h"
+#include "widget/factory/dialog_factory.h"
+#include "widget/home/mainwindow_k2860.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QApplication>
 #include <QDebug>

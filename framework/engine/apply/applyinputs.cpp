@@ -4,8 +4,8 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/store/menuanalysis.h"
-#include "widget/dialog_factory.h"
-#include "widget/menudirectoty.h"
+#include "widget/factory/dialog_factory.h"
+#include "widget/page/menudirectoty.h"
 
 namespace VASK
 {

@@ -4,7 +4,7 @@
 
 #include "framework/engine/advancedports.h"
 #include "framework/engine/layers.h"
-#include "widget/mainwindowstates.h"
+#include "widget/home/mainwindowstates.h"
 
 namespace VASK
 {

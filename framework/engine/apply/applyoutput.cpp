@@ -3,7 +3,7 @@
 #include "framework/engine/layers.h"
 
 #include "framework/store/menuanalysis.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {

@@ -2,8 +2,8 @@
 
 #include "framework/engine/parachange.h"
 
-#include "widget/dialog_factory.h"
-#include "widget/mainwindowstates.h"
+#include "widget/factory/dialog_factory.h"
+#include "widget/home/mainwindowstates.h"
 
 namespace VASK
 {

@@ -5,9 +5,9 @@
 
 #include "framework/input/keypadevent.h"
 #include "framework/store/menuanalysis.h"
-#include "widget/dialog_scene.h"
+#include "widget/dialog/dialog_scene.h"
 #include "widget/language.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QApplication>
 #include <memory>

@@ -5,7 +5,7 @@
 #include "framework/thread/handover.h"
 
 #include "framework/input/keypadevent.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QApplication>
 

@@ -4,7 +4,7 @@
 #include "framework/engine/workmode.h"
 
 #include "framework/input/keyevent.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {

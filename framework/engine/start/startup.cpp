@@ -4,7 +4,7 @@
 #include "framework/engine/device.h"
 #include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {

@@ -2,7 +2,7 @@
 // the panel may return home. GUI thread.
 #pragma once
 
-#include "widget/mainwindowstates.h"
+#include "widget/home/mainwindowstates.h"
 
 #include <QObject>
 #include <QTimer>

@@ -9,7 +9,7 @@
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/protocol/link/requestlist.h"
 #include "framework/thread/tickgate.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 #include <QList>
 #include <QMutex>

@@ -6,7 +6,7 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/link/proto3rdsend.h"
 #include "framework/protocol/receive/reportdispatch.h"
-#include "widget/mainwindow_k2860.h"
+#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {

@@ -2,7 +2,7 @@
 
 #include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QDebug>
 

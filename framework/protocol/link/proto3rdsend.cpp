@@ -4,7 +4,7 @@
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/send/sendrow.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QDebug>
 #include <QThread>

@@ -4,7 +4,7 @@
 #include "framework/thread/handover.h"
 #include "framework/input/keypadevent.h"
 #include "framework/legacy/selfchecklist.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 #include <QApplication>
 #include <QStringList>

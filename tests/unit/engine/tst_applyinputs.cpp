@@ -4,7 +4,7 @@
 #include "enginerig.h"
 #include "framework/input/keyevent.h"
 #include "ledpanel.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 using namespace VASK;
 

@@ -3,7 +3,7 @@
 
 #include "enginerig.h"
 #include "framework/input/keypadevent.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 #include <QSignalSpy>
 #include <QTableView>

@@ -1,7 +1,7 @@
 // The Ethernet ports on the home screen, with their backup and the optical links, as the device reports them.
 
 #include "enginerig.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 using namespace VASK;
 

@@ -4,7 +4,7 @@
 #include "enginerig.h"
 #include "framework/object/globaltimer.h"
 #include "framework/input/keypadevent.h"
-#include "widget/dialog_scene.h"
+#include "widget/dialog/dialog_scene.h"
 
 using namespace VASK;
 

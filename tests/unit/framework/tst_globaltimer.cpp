@@ -2,7 +2,7 @@
 
 #include "framework/object/globaltimer.h"
 #include "tests/unit/widget/pagerig.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 #include <QDialog>
 

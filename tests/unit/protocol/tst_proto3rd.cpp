@@ -15,7 +15,7 @@
 #include "framework/protocol/snapshot/protomemory20m.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
 #include "platform/host/statefile.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QDir>
 #include <QFileInfo>

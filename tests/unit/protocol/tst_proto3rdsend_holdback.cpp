@@ -3,7 +3,7 @@
 
 #include "sendbench.h"
 
-#include "widget/menudirectoty.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QLoggingCategory>
 #include <QThread>

@@ -9,7 +9,7 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/receive/reportdispatch.h"
 #include "framework/legacy/selfchecklist.h"
-#include "widget/dialog_factory.h"
+#include "widget/factory/dialog_factory.h"
 
 #include <QtTest>
 

@@ -2,10 +2,10 @@
 // the other one, and no text is cut off. Each is kept as a picture under the build folder to look at.
 
 #include "tests/unit/widget/looks.h"
-#include "widget/dialog_msgbox.h"
+#include "widget/dialog/dialog_msgbox.h"
 #include "widget/language.h"
-#include "widget/lock.h"
-#include "widget/stringcomboxtable.h"
+#include "widget/dialog/lock.h"
+#include "widget/row/stringcomboxtable.h"
 
 #include <QXmlStreamReader>
 

@@ -2,7 +2,7 @@
 // the size of the label that shows it, and what must be told apart differs.
 
 #include "menuconfig_k2860.h"
-#include "widget/mainwindowui.h"
+#include "widget/home/mainwindowui.h"
 
 #include <QDirIterator>
 #include <QImage>

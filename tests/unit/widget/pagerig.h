@@ -9,9 +9,9 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/object/transport.h"
-#include "widget/directoryengineer.h"
-#include "widget/mainwindow_k2860.h"
-#include "widget/menudirectoty.h"
+#include "widget/page/directoryengineer.h"
+#include "widget/home/mainwindow_k2860.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QApplication>
 #include <QDir>

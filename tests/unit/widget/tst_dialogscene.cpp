@@ -2,7 +2,7 @@
 
 #include "framework/input/keypadevent.h"
 #include "tests/unit/widget/pagerig.h"
-#include "widget/dialog_scene.h"
+#include "widget/dialog/dialog_scene.h"
 
 #include <QLabel>
 

@@ -1,7 +1,7 @@
 // The address row: number by number, the limits of each, the repair of an address, OK and ESC.
 
 #include "rowbench.h"
-#include "widget/typeipadjust.h"
+#include "widget/row/typeipadjust.h"
 
 #include <QLabel>
 

@@ -2,9 +2,9 @@
 
 #include "framework/input/keypadevent.h"
 #include "tests/unit/widget/pagerig.h"
-#include "widget/dialog_languageselect.h"
-#include "widget/dialog_msgbox.h"
-#include "widget/dialog_wait.h"
+#include "widget/dialog/dialog_languageselect.h"
+#include "widget/dialog/dialog_msgbox.h"
+#include "widget/dialog/dialog_wait.h"
 #include "widget/language.h"
 
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 // Lists: the way through the drop-down, disabled options, reversed lists, preview, ESC and stray values.
 
 #include "rowbench.h"
-#include "widget/typeicocombox.h"
-#include "widget/typemosaic.h"
-#include "widget/typestringcombox.h"
+#include "widget/row/typeicocombox.h"
+#include "widget/row/typemosaic.h"
+#include "widget/row/typestringcombox.h"
 
 #include <QLabel>
 

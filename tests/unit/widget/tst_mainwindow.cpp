@@ -2,8 +2,8 @@
 // blinks, and a take-over by a PC.
 
 #include "tests/unit/widget/pagerig.h"
-#include "widget/dialog_factory.h"
-#include "widget/lock.h"
+#include "widget/factory/dialog_factory.h"
+#include "widget/dialog/lock.h"
 
 #include <QElapsedTimer>
 #include <QLabel>

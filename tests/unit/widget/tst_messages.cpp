@@ -4,7 +4,7 @@
 #include "framework/object/globaltimer.h"
 #include "framework/input/keydispatcher.h"
 #include "tests/unit/widget/pagerig.h"
-#include "widget/dialog_msgbox.h"
+#include "widget/dialog/dialog_msgbox.h"
 
 #include <QElapsedTimer>
 #include <QLabel>

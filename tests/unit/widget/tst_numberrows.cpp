@@ -1,8 +1,8 @@
 // Numbers under the knob: steps, limits, decimals, and what ESC and a report do to them.
 
 #include "rowbench.h"
-#include "widget/typefloatadjust.h"
-#include "widget/typeintadjust.h"
+#include "widget/row/typefloatadjust.h"
+#include "widget/row/typeintadjust.h"
 
 #include <QLabel>
 

@@ -2,12 +2,12 @@
 // act.
 
 #include "rowbench.h"
-#include "widget/typeapply.h"
-#include "widget/typeapplyreset.h"
-#include "widget/typebutton.h"
-#include "widget/typecheckitem.h"
-#include "widget/typefourpic.h"
-#include "widget/typetwostringcombox.h"
+#include "widget/row/typeapply.h"
+#include "widget/row/typeapplyreset.h"
+#include "widget/row/typebutton.h"
+#include "widget/row/typecheckitem.h"
+#include "widget/row/typefourpic.h"
+#include "widget/row/typetwostringcombox.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -4,9 +4,9 @@
 
 #include "tests/contactsheet.h"
 #include "tests/unit/widget/looks.h"
-#include "widget/icocomboxtable.h"
-#include "widget/rowkinds.h"
-#include "widget/stringcomboxtable.h"
+#include "widget/row/icocomboxtable.h"
+#include "widget/row/rowkinds.h"
+#include "widget/row/stringcomboxtable.h"
 
 #include <QSet>
 #include <functional>

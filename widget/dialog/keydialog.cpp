@@ -1,0 +1,15 @@
+#include "widget/dialog/keydialog.h"
+
+#include "framework/object/globaltimer.h"
+#include "framework/input/keypadevent.h"
+
+using namespace VASK;
+
+bool KeyDialog::event(QEvent *event)
+{
+    if (!event || event->type() != KeypadEvent::eventType)
+        return QDialog::event(event);
+    GlobalTimer::getInstance()->ResetReturnToMain();
+    handleKey(static_cast<const KeypadEvent &>(*event));
+    return true;
+}

@@ -1,0 +1,91 @@
+// The keys of the layers and of the scaling.
+
+#include "widget/home/panelkeys.h"
+
+#include "framework/engine/paraprocess.h"
+#include "widget/page/menudirectoty.h"
+#include "widget/home/panellayers.h"
+
+namespace VASK
+{
+namespace
+{
+const QString on = QStringLiteral("1");
+const QString off = QStringLiteral("0");
+const QString fullScreen = QStringLiteral("0");
+const QString customSize = QStringLiteral("2");
+const QString mosaicSource = QStringLiteral("MOSAIC");
+
+int layerOfKey(unsigned char key)
+{
+    for (size_t layer = 0; layer < panelLayers.size(); ++layer)
+        if (panelLayers[layer].key == key)
+            return int(layer);
+    return -1;
+}
+
+bool isOn(const ParaProcess &engine, const PanelLayer &layer)
+{
+    return engine.GetParaFromIndex(layer.status) != off;
+}
+
+void setRow(ENUM_ObjectIndex row, ENUM_MenuIndex item, const QString &value)
+{
+    if (auto *widget = poolObject<VaskUiObject>(row))
+        widget->SetParaEntry(item, value, SET_XML_USER);
+}
+
+/// The mosaic takes the whole picture: no layer can be put over it.
+bool mainLayerShowsMosaic(const ParaProcess &engine)
+{
+    ST_ItemInfo source;
+    engine.GetInfoFromIndex(panelLayers[mainLayer].source, source);
+    return source.params.value(source.value) == mosaicSource;
+}
+} // namespace
+
+void keypadLayerEvent(QWidget *screen, unsigned char key)
+{
+    const int number = layerOfKey(key);
+    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    if (number < 0 || !engine)
+        return;
+    // A sending card has one layer only.
+    if (number != mainLayer && currentWorkMode() == workModeSendingCard)
+        return;
+    const PanelLayer &layer = panelLayers[size_t(number)];
+    if (!isOn(*engine, layer) && (number == mainLayer || !mainLayerShowsMosaic(*engine)))
+        setRow(layer.statusRow, layer.status, on);
+    openMenuPath(screen, {ENUM_MAIN_MENU, ENUM_PAGE_LayerSettings, layer.page});
+}
+
+void keypadLayerLongEvent(QWidget *, unsigned char key)
+{
+    const int number = layerOfKey(key);
+    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    if (number < 0 || !engine)
+        return;
+    const PanelLayer &layer = panelLayers[size_t(number)];
+    if (!isOn(*engine, layer))
+        return;
+    setRow(layer.statusRow, layer.status, off);
+    MenuDirectory::UpdateLayerLedStatus(MenuDirectory::m_currentLayer);
+}
+
+void keypadScaleEvent(QWidget *, unsigned char)
+{
+    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
+    if (!engine || engine->GetParaFromIndex(MENU_ImageMosaic_Status) == on)
+        return;
+    const size_t lowest = engine->GetParaFromIndex(PARA_LowestLayer).toUInt();
+    if (lowest >= panelLayers.size())
+        return;
+    const PanelLayer &layer = panelLayers[lowest];
+    ST_ItemInfo scaling;
+    engine->GetInfoFromIndex(layer.scaling, scaling);
+    const QString next = scaling.value == fullScreen ? customSize : fullScreen;
+    if (next == fullScreen && scaling.params1.value(fullScreen) == optionDisable)
+        return;
+    setRow(layer.scalingRow, layer.scaling, next);
+}
+} // namespace VASK

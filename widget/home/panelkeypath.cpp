@@ -1,0 +1,41 @@
+// How a dedicated key reaches a page deep in the menu.
+
+#include "widget/home/panelkeys.h"
+
+#include "widget/home/mainwindow_k2860.h"
+#include "widget/page/menudirectoty.h"
+
+namespace VASK
+{
+bool openMenuPath(QWidget *screen, std::initializer_list<ENUM_ObjectIndex> path)
+{
+    QList<MenuDirectory *> pages;
+    for (ENUM_ObjectIndex object : path) {
+        auto *page = poolObject<MenuDirectory>(object);
+        if (!page)
+            return false;
+        pages.append(page);
+    }
+
+    // The main menu starts over; a preset that waits for its copy is given back, as on the way out.
+    if (pages.first()->isEditing())
+        pages.first()->keypadEScEvent(nullptr);
+    MenuDirectory::enableCopiedPreset();
+
+    QWidget *above = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
+    for (int i = 0; i < pages.size(); ++i) {
+        pages[i]->m_pparerentdirectory = above;
+        above = pages[i];
+        if (i + 1 < pages.size())
+            pages[i]->setCurrentRow(pages[i]->rowOfPage(path.begin()[i + 1]));
+    }
+
+    // The new page comes up before the old one goes, so that the LCD never shows what lies below.
+    MenuDirectory *target = pages.last();
+    target->show();
+    if (screen != target)
+        screen->hide();
+    MenuDirectory::setCurrentPage(*(path.end() - 1));
+    return true;
+}
+} // namespace VASK

@@ -1,0 +1,56 @@
+// A row in the common frame: icon, name, value and the small picture at the right end, each shown only if the
+// item has it. GUI thread.
+#pragma once
+
+#include "widget/row/menurow.h"
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace VASK
+{
+class FramedRow : public MenuRow
+{
+    Q_OBJECT
+public:
+    using MenuRow::MenuRow;
+
+    /// From any thread.
+    void UpdateTagName(ENUM_MenuIndex index, QString text) override;
+
+protected:
+    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
+    void redraw() override;
+
+    /// Builds the frame with a value part in front of the right picture: a label by default, null for none.
+    void CreatEntry(QWidget *valuePart, int spaceBeforeRight = 4);
+    QLabel *createValueLabel();
+
+    void drawIcons();
+    void drawName();
+    /// Shows a text in the value label, if the row has one.
+    void showValue(const QString &text);
+    QLabel *valueLabel() const { return m_value; }
+    QPushButton *rightButton() const { return m_rightButton; }
+
+    /// The picture in front of the name; that of the item by default. None leaves the item's room free.
+    virtual QString iconPath() const;
+    /// How the value of the item reads; its translation by default.
+    virtual QString valueText() const;
+
+private:
+    QLabel *m_icon = nullptr;
+    QString m_drawnIcon; ///< path of the picture that it shows
+    QLabel *m_name = nullptr;
+    QLabel *m_value = nullptr;
+    QPushButton *m_rightButton = nullptr;
+};
+
+/// The value of a row; of the two it is the name that is shortened.
+QLabel *createRowValue(QWidget *parent, Qt::Alignment alignment);
+/// The small button-shaped picture at the right end of a row.
+QPushButton *createRightPicture(QWidget *parent);
+/// A picture of the row in front of the name; hidden while the item has none.
+QLabel *createRowIcon(QWidget *parent, int width, int height);
+} // namespace VASK

@@ -1,0 +1,103 @@
+#include "widget/row/numberrow.h"
+
+#include <QLabel>
+
+namespace VASK
+{
+namespace
+{
+constexpr int valueHeight = 25; ///< pixels, the frame of an edit
+}
+
+NumberRow::NumberRow(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
+    : FramedRow(menuIndex, objectIndex)
+{
+    CreatEntry(createValueLabel());
+    valueLabel()->setFixedHeight(valueHeight);
+    showNumber();
+}
+
+QString NumberRow::inRange(const QString &value) const
+{
+    if (value.toDouble() < m_item.min.toDouble())
+        return m_item.min;
+    if (value.toDouble() > m_item.max.toDouble())
+        return m_item.max;
+    return value;
+}
+
+void NumberRow::EnterEntry(ENUM_MenuIndex index, unsigned char edit, unsigned char entered)
+{
+    if (edit == 0) {
+        valueLabel()->setStyleSheet(QStringLiteral(
+            "QLabel{color:#ebc613;border-width: 1px;border-style: solid;border-color: #3939ad;}"));
+        return;
+    }
+    endLook(endStyle());
+    if (entered != 0)
+        commit(index);
+}
+
+void NumberRow::EscEntry(ENUM_MenuIndex index, unsigned char entered)
+{
+    endLook(QStringLiteral("QLabel{border: 0px solid #54535c;}"));
+    if (entered != 0)
+        commit(index);
+}
+
+QString NumberRow::endStyle() const
+{
+    return QStringLiteral("QLabel{border: 0px solid #54535c;}");
+}
+
+void NumberRow::endLook(const QString &style)
+{
+    valueLabel()->setFixedHeight(valueHeight);
+    valueLabel()->setStyleSheet(style);
+}
+
+void NumberRow::commit(ENUM_MenuIndex index)
+{
+    m_item.value = limited(inRange(m_item.value), index);
+    apply(m_item.value, index);
+    showNumber();
+    m_editing = false;
+}
+
+void NumberRow::UpEntry(ENUM_MenuIndex index, unsigned char &speed)
+{
+    turn(index, -speed);
+}
+
+void NumberRow::DownEntry(ENUM_MenuIndex index, unsigned char &speed)
+{
+    turn(index, speed);
+}
+
+void NumberRow::turn(ENUM_MenuIndex index, int steps)
+{
+    const QString value = limited(stepped(steps), index);
+    m_item.value = value;
+    apply(value, index);
+    showNumber();
+}
+
+void NumberRow::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
+{
+    if (!value.isEmpty()) {
+        const bool outside = inRange(value) != value;
+        m_item.value = inRange(value);
+        if (outside)
+            mode = SET_XML_USER;
+        if (outside || !takesAsReported(index, mode)) {
+            m_item.value = limited(m_item.value, index);
+            // A value that the limits have changed goes back to the device.
+            if (m_item.value != value)
+                mode = SET_XML_USER;
+            if (mode != SET_XML_DEVICE)
+                apply(QString(m_item.value), index, mode);
+        }
+    }
+    redraw();
+}
+} // namespace VASK

@@ -1,0 +1,71 @@
+#include "widget/row/typeapply.h"
+
+#include "widget/language.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace VASK
+{
+namespace
+{
+const QString transparent = QStringLiteral("background-color:rgba(0,0,0,0)");
+
+QString buttonStyle(bool enabled, const QString &background)
+{
+    const QString colour = enabled ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c");
+    return QStringLiteral("QPushButton{border-style: inset;border-radius:4px;color: %1; "
+                          "border: 1px solid #3939ad;%2}"
+                          "QPushButton:focus{background:#3939ad; color: %1;outline: none;}")
+        .arg(colour, background);
+}
+} // namespace
+
+typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : MenuRow(menuIndex, objectIndex)
+{
+    constexpr QSize size(128, 32); // pixels
+    setStyleSheet(QStringLiteral("background-color: rgba(0, 0, 0, 0);"));
+    m_button = new QPushButton(this);
+    m_button->setObjectName(m_item.tag);
+    m_button->setFixedSize(size);
+    // Only the page's cursor gives it the focus, never the opening of the page.
+    m_button->setFocusPolicy(Qt::NoFocus);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addWidget(m_button);
+    layout->addStretch();
+    redraw();
+    m_button->setStyleSheet(buttonStyle(m_item.enable, transparent));
+}
+
+void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
+{
+    m_marked = on != 0;
+    if (m_marked)
+        m_button->setFocus();
+    else
+        m_button->clearFocus();
+}
+
+/// A disabled button has lost the focus, though the cursor may stand on it still.
+void typeapply::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange && isEnabled() && m_marked)
+        m_button->setFocus();
+    MenuRow::changeEvent(event);
+}
+
+void typeapply::redraw()
+{
+    m_button->setText(translated(m_item.tag));
+    m_button->setStyleSheet(buttonStyle(m_item.enable, QString()));
+}
+
+void typeapply::takeValue(ENUM_MenuIndex, const QString &, ENUM_MODE_SET_XML)
+{
+    redraw();
+}
+} // namespace VASK

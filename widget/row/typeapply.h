@@ -1,0 +1,29 @@
+// A push button in the middle of its row; it looks pressed while the cursor stands on it. GUI thread.
+#pragma once
+
+#include "widget/row/menurow.h"
+
+class QPushButton;
+
+namespace VASK
+{
+class typeapply : public MenuRow
+{
+    Q_OBJECT
+public:
+    typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    using VaskUiObject::EnterEntry;
+    void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+    void ChangeStyleEntry(ENUM_MenuIndex index, unsigned char on) override;
+
+protected:
+    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
+    void redraw() override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    bool m_marked = false; ///< the cursor stands on it
+    QPushButton *m_button = nullptr;
+};
+} // namespace VASK

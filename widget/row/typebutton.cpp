@@ -1,0 +1,26 @@
+#include "widget/row/typebutton.h"
+
+#include <QLabel>
+
+namespace VASK
+{
+typebutton::typebutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
+    : FramedRow(menuIndex, objectIndex)
+{
+    CreatEntry(createValueLabel());
+}
+
+/// The picture of a preset tells whether it is loaded: an empty one has none.
+QString typebutton::iconPath() const
+{
+    const bool isPreset = ownIndex() >= MENU_Preset1 && ownIndex() <= MENU_Preset10;
+    return isPreset && m_item.value == QLatin1String("Blank") ? QString() : FramedRow::iconPath();
+}
+
+/// The value of a file is its name, which its row shows as such.
+QString typebutton::valueText() const
+{
+    const bool isFile = ownIndex() >= MENU_CabinetFile1 && ownIndex() <= MENU_CabinetFile8;
+    return isFile ? QString() : FramedRow::valueText();
+}
+} // namespace VASK

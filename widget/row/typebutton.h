@@ -1,0 +1,21 @@
+// A row that acts when OK is pressed and shows a text as its state. GUI thread.
+#pragma once
+
+#include "widget/row/framedrow.h"
+
+namespace VASK
+{
+class typebutton : public FramedRow
+{
+    Q_OBJECT
+public:
+    typebutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    using VaskUiObject::EnterEntry;
+    void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+
+protected:
+    QString iconPath() const override;
+    QString valueText() const override;
+};
+} // namespace VASK

@@ -1,0 +1,41 @@
+#include "widget/row/typecheckitem.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace VASK
+{
+typecheckitem::typecheckitem(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
+    : FramedRow(menuIndex, objectIndex)
+{
+    constexpr int tickSize = 24; // pixels
+    m_tick = createRowIcon(this, tickSize, tickSize);
+    CreatEntry(m_tick, 0);
+}
+
+void typecheckitem::EnterEntry(ENUM_MenuIndex index)
+{
+    // The change to a sending card takes long: the user sees at once that the key was taken.
+    const bool first = index == MENU_SendingCard;
+    m_item.choice = SELECTED;
+    if (first)
+        showTick();
+    act(index);
+    m_item.choice = SELECTED;
+    if (!first)
+        showTick();
+}
+
+void typecheckitem::redraw()
+{
+    FramedRow::redraw();
+    rightButton()->hide();
+    showTick();
+}
+
+void typecheckitem::showTick()
+{
+    m_tick->setPixmap(QPixmap(m_item.iconRight));
+    m_tick->setVisible(m_item.choice == SELECTED);
+}
+} // namespace VASK

@@ -1,0 +1,26 @@
+// A row with a tick: one choice of several, or a switch. Which ticks go when one comes is the engine's
+// matter. GUI thread.
+#pragma once
+
+#include "widget/row/framedrow.h"
+
+namespace VASK
+{
+class typecheckitem : public FramedRow
+{
+    Q_OBJECT
+public:
+    typecheckitem(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    using VaskUiObject::EnterEntry;
+    void EnterEntry(ENUM_MenuIndex index) override;
+
+protected:
+    void redraw() override;
+
+private:
+    void showTick();
+
+    QLabel *m_tick = nullptr;
+};
+} // namespace VASK

@@ -1,0 +1,40 @@
+// A choice of pictures. Some lists show each picture on the wall while the knob passes over it. GUI thread.
+#pragma once
+
+#include "widget/row/dropdown.h"
+#include "widget/row/framedrow.h"
+#include "widget/row/icocomboxtable.h"
+
+namespace VASK
+{
+class typeicocombox : public FramedRow
+{
+    Q_OBJECT
+public:
+    typeicocombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
+    using VaskUiObject::DownEntry;
+    using VaskUiObject::EnterEntry;
+    using VaskUiObject::EscEntry;
+    using VaskUiObject::UpEntry;
+    void EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char) override;
+    /// Gives the flow way back what it was before the list opened; other lists keep what was shown last.
+    void EscEntry(ENUM_MenuIndex index) override;
+    void UpEntry(ENUM_MenuIndex index) override;
+    void DownEntry(ENUM_MenuIndex index) override;
+
+protected:
+    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
+    void redraw() override;
+
+private:
+    void preview(ENUM_MenuIndex index);
+    void use(ENUM_MenuIndex index, const QString &value);
+    void drawPicture();
+
+    QLabel *m_picture = nullptr;
+    DropDown<icocomboxtable> m_dropDown;
+    QString m_oldValue; ///< before the list opened
+};
+} // namespace VASK

@@ -1,0 +1,32 @@
+// A row that is only read: a name and a text. GUI thread.
+#pragma once
+
+#include "widget/row/menurow.h"
+
+class QLabel;
+class QPushButton;
+
+namespace VASK
+{
+class typeinformation : public MenuRow
+{
+    Q_OBJECT
+public:
+    typeinformation(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    using VaskUiObject::EnterEntry;
+    void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+
+protected:
+    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
+    void redraw() override;
+
+private:
+    void CreatEntry();
+
+    QLabel *m_icon = nullptr;
+    QLabel *m_name = nullptr;
+    QLabel *m_value = nullptr;
+    QPushButton *m_rightButton = nullptr;
+};
+} // namespace VASK

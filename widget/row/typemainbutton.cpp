@@ -1,0 +1,11 @@
+#include "widget/row/typemainbutton.h"
+
+namespace VASK
+{
+typemainbutton::typemainbutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
+    : FramedRow(menuIndex, objectIndex)
+{
+    CreatEntry(nullptr);
+    setStyleSheet(QStringLiteral("*:disabled{color:#54535c;}"));
+}
+} // namespace VASK

@@ -1,0 +1,17 @@
+// An entry: the way to a sub-page, or a row that only acts. Shows no value. GUI thread.
+#pragma once
+
+#include "widget/row/framedrow.h"
+
+namespace VASK
+{
+class typemainbutton : public FramedRow
+{
+    Q_OBJECT
+public:
+    typemainbutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+    using VaskUiObject::EnterEntry;
+    void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+};
+} // namespace VASK

@@ -1,0 +1,58 @@
+#include "widget/row/typestringcombox.h"
+
+#include "widget/language.h"
+
+#include <QDebug>
+#include <QLabel>
+
+namespace VASK
+{
+typestringcombox::typestringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
+    : FramedRow(menuIndex, objectIndex)
+{
+    CreatEntry(createValueLabel());
+    showValue(valueText());
+}
+
+QString typestringcombox::valueText() const
+{
+    return translated(m_item.params.value(m_item.value));
+}
+
+void typestringcombox::EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char)
+{
+    if (edit != 0) {
+        takeChoice(index);
+        return;
+    }
+    if (isRateList(index)) {
+        limited(QString(), index);
+        UpdataEntry(index);
+    }
+    m_dropDown.open(std::make_unique<stringcomboxtable>(index, objectIndex(), m_item), page);
+    qDebug() << "typestringcombox::EnterEntry: strCurValue=" << m_item.value;
+}
+
+void typestringcombox::takeChoice(ENUM_MenuIndex index)
+{
+    if (!m_dropDown.isOpen())
+        return;
+    const QString old = m_item.value;
+    QString value = m_dropDown.table()->chosenKey();
+    m_item.value = value;
+    if (value != old) {
+        value = limited(value, index);
+        m_item.value = value;
+        apply(value, index);
+    }
+    m_dropDown.close();
+    showValue(valueText());
+}
+
+void typestringcombox::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
+{
+    if (!value.isEmpty())
+        takeOption(index, value, mode, m_dropDown.table());
+    redraw();
+}
+} // namespace VASK

@@ -1,0 +1,46 @@
+#include "widget/row/typetip.h"
+
+#include "widget/row/framedrow.h"
+#include "widget/language.h"
+
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace VASK
+{
+typetip::typetip(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : MenuRow(menuIndex, objectIndex)
+{
+    constexpr int iconSize = 16; // pixels, as all below
+    constexpr int leftSpace = 8;
+    QLabel *icon = createRowIcon(this, iconSize, iconSize);
+    icon->setPixmap(QPixmap(imgPath + "mainMenu/prompt_icon.png"));
+    m_text = new QLabel(this);
+    m_text->setWordWrap(true);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addSpacing(leftSpace);
+    layout->addWidget(icon);
+    layout->addSpacing(leftSpace);
+    layout->addWidget(m_text, 1);
+    redraw();
+}
+
+void typetip::redraw()
+{
+    const bool english = englishChosen();
+    qDebug() << (english ? "English" : "Chinese");
+    m_text->setStyleSheet(english ? QStringLiteral("*{font-family: \"Arial\";font-size: 18px;color: #83818c;"
+                                                   "background-color:rgba(0,0,0,0);}")
+                                  : QStringLiteral("*{font-family: \"宋体\";font-size: 18px;color: #70739c;"
+                                                   "background-color:rgba(0,0,0,0);}"));
+    m_text->setText(translated(m_item.tag));
+}
+
+void typetip::takeValue(ENUM_MenuIndex, const QString &, ENUM_MODE_SET_XML)
+{
+    redraw();
+}
+} // namespace VASK

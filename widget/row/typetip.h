@@ -1,0 +1,23 @@
+// A note between rows, which the cursor skips. GUI thread.
+#pragma once
+
+#include "widget/row/menurow.h"
+
+class QLabel;
+
+namespace VASK
+{
+class typetip : public MenuRow
+{
+    Q_OBJECT
+public:
+    typetip(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+
+protected:
+    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
+    void redraw() override;
+
+private:
+    QLabel *m_text = nullptr;
+};
+} // namespace VASK
