@@ -1,6 +1,6 @@
 // The emulator's console client: one command, its output on stdout. Exit status 0, 1 with a reason on stderr,
 // 2 when no emulator answers.
-#include "emulator/defaultstate.h"
+#include "emulator/host/defaultstate.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
 

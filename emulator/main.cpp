@@ -1,6 +1,6 @@
 #include "emulator/console/server.h"
 #include "emulator/emulator.h"
-#include "emulator/signals.h"
+#include "emulator/host/signals.h"
 #include "emulator/window/window.h"
 
 #include <QApplication>

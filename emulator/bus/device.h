@@ -5,7 +5,7 @@
 #include "emulator/bus/flashimage.h"
 #include "emulator/bus/wire.h"
 #include "emulator/model/devicemodel.h"
-#include "emulator/packetserver.h"
+#include "emulator/host/packetserver.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

@@ -2,7 +2,7 @@
 
 #include "emulator/bus/flashmap.h"
 #include "emulator/bus/plausibledevice.h"
-#include "emulator/diskimage.h"
+#include "emulator/host/diskimage.h"
 #include "emulator/model/registermap.h"
 #include "fpd_hostlink.h"
 

@@ -2,7 +2,7 @@
 #include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
-#include "emulator/replayer.h"
+#include "emulator/device/replayer.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // A key of the panel with its LED above. It presses and releases with the mouse button. Main thread.
 #pragma once
 
-#include "emulator/keynames.h"
+#include "emulator/device/keynames.h"
 
 #include <QWidget>
 

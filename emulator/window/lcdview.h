@@ -1,7 +1,7 @@
 // Shows the LCD at twice its size and follows it. Main thread.
 #pragma once
 
-#include "emulator/lcd.h"
+#include "emulator/device/lcd.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -2,7 +2,7 @@
 // blocking calls run on a thread of their own.
 #include "apipc.h"
 #include "emulator/bus/device.h"
-#include "emulator/keypad.h"
+#include "emulator/device/keypad.h"
 #include "fpd_hostlink.h"
 #include "keypaddevice.h"
 

@@ -1,6 +1,6 @@
 // The board's files, commands, flash and environment on a PC, in a state folder with an awkward name.
 #include "boardio.h"
-#include "emulator/shelltools.h"
+#include "emulator/host/shelltools.h"
 #include "flashx.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"

@@ -1,5 +1,5 @@
 // The virtual LCD: what a window draws reaches the mapped file, and windows become active as on the board.
-#include "emulator/lcd.h"
+#include "emulator/device/lcd.h"
 #include "fpd_hostlink.h"
 
 #include <QApplication>

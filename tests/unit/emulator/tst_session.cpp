@@ -1,6 +1,6 @@
 // Sessions as text, recorded from a keypad and a device and played again to both.
-#include "emulator/recorder.h"
-#include "emulator/replayer.h"
+#include "emulator/device/recorder.h"
+#include "emulator/device/replayer.h"
 #include "fulldisk.h"
 #include "panelend.h"
 

@@ -1,7 +1,7 @@
 // The state folder on a disk that is full, and one that is not what it should be.
 #include "emulator/bus/flashimage.h"
-#include "emulator/lcd.h"
-#include "emulator/statefolder.h"
+#include "emulator/device/lcd.h"
+#include "emulator/host/statefolder.h"
 #include "fpd_hostlink.h"
 #include "fulldisk.h"
 

@@ -1,4 +1,4 @@
-#include "emulator/lcd.h"
+#include "emulator/device/lcd.h"
 
 #include "fpd_hostlink.h"
 

@@ -1,4 +1,4 @@
-#include "emulator/packetserver.h"
+#include "emulator/host/packetserver.h"
 
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"

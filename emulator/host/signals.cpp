@@ -1,4 +1,4 @@
-#include "emulator/signals.h"
+#include "emulator/host/signals.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>

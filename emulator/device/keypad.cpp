@@ -1,4 +1,4 @@
-#include "emulator/keypad.h"
+#include "emulator/device/keypad.h"
 
 #include "fpd_hostlink.h"
 

@@ -1,6 +1,6 @@
-#include "emulator/session.h"
+#include "emulator/device/recording.h"
 
-#include "emulator/keynames.h"
+#include "emulator/device/keynames.h"
 
 namespace session
 {

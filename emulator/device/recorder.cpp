@@ -1,4 +1,4 @@
-#include "emulator/recorder.h"
+#include "emulator/device/recorder.h"
 
 #include <QDateTime>
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "emulator/bus/device.h"
-#include "emulator/keypad.h"
-#include "emulator/session.h"
+#include "emulator/device/keypad.h"
+#include "emulator/device/recording.h"
 
 class Replayer : public QObject
 {

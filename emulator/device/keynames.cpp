@@ -1,4 +1,4 @@
-#include "emulator/keynames.h"
+#include "emulator/device/keynames.h"
 
 const QVector<KeyName> &keyNames()
 {

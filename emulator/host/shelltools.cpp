@@ -1,4 +1,4 @@
-#include "emulator/shelltools.h"
+#include "emulator/host/shelltools.h"
 
 #include "fpd_hostlink.h"
 

@@ -1,4 +1,4 @@
-#include "emulator/cabinetfiles.h"
+#include "emulator/host/cabinetfiles.h"
 
 #include <QtEndian>
 

@@ -1,4 +1,4 @@
-#include "emulator/replayer.h"
+#include "emulator/device/replayer.h"
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "emulator/panelprocess.h"
+#include "emulator/host/panelprocess.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "emulator/bootflag.h"
+#include "emulator/host/bootflag.h"
 
 #include <QFile>
 #include <QFileInfo>

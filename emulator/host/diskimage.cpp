@@ -1,4 +1,4 @@
-#include "emulator/diskimage.h"
+#include "emulator/host/diskimage.h"
 
 #include <cstring>
 #include <fcntl.h>

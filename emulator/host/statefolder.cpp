@@ -1,9 +1,9 @@
-#include "emulator/statefolder.h"
+#include "emulator/host/statefolder.h"
 
-#include "emulator/bootflag.h"
-#include "emulator/cabinetfiles.h"
-#include "emulator/defaultstate.h"
-#include "emulator/diskimage.h"
+#include "emulator/host/bootflag.h"
+#include "emulator/host/cabinetfiles.h"
+#include "emulator/host/defaultstate.h"
+#include "emulator/host/diskimage.h"
 #include "fpd_hostlink.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 // The keypad as the panel sees it: key words go up to every reader, LED commands come down. Main thread.
 #pragma once
 
-#include "emulator/keynames.h"
-#include "emulator/packetserver.h"
+#include "emulator/device/keynames.h"
+#include "emulator/host/packetserver.h"
 
 #include <QSet>
 
