@@ -1,6 +1,6 @@
 // The floor of start-up and memory: one label on the same LCD. Ends itself once it is shown and prints its
 // memory in MB; its CPU time is read by who started it.
-#include "tests/system/procfs.h"
+#include "testkit/procfs.h"
 
 #include <QApplication>
 #include <QLabel>

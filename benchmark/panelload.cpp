@@ -5,10 +5,10 @@
 #include "framework/thread/ctimer.h"
 #include "framework/protocol/packet/packageframe.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
-#include "tests/system/flood.h"
-#include "tests/system/framedrive.h"
-#include "tests/system/menuwalk.h"
-#include "tests/system/procfs.h"
+#include "testkit/flood.h"
+#include "testkit/framedrive.h"
+#include "testkit/menuwalk.h"
+#include "testkit/procfs.h"
 
 #include <QApplication>
 #include <QDir>

@@ -3,8 +3,8 @@
 //   fpd-tour DIR      saves DIR/en/*.png and DIR/zh/*.png and a contact sheet of each, DIR/en-1.png and so
 //   on;
 //                     prints what was not as it should be
-#include "tests/system/tour.h"
-#include "tests/contactsheet.h"
+#include "tools/menutour.h"
+#include "testkit/contactsheet.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,5 +1,5 @@
 // The finder of texts on the LCD must find what stands there and nothing else.
-#include "tests/system/lcdtext.h"
+#include "testkit/lcdtext.h"
 
 #include <QLabel>
 #include <QTest>

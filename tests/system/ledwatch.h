@@ -2,7 +2,7 @@
 // thread of the test.
 #pragma once
 
-#include "tests/system/consoleclient.h"
+#include "testkit/consoleclient.h"
 
 #include <QTime>
 #include <QVector>

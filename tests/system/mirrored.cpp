@@ -1,7 +1,7 @@
 #include "tests/system/mirrored.h"
 
 #include "menuindex.h"
-#include "tests/system/panel.h"
+#include "testkit/panel.h"
 
 #include <QRegularExpression>
 #include <QVector>

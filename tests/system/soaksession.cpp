@@ -1,7 +1,7 @@
 #include "tests/system/soaksession.h"
 
 #include "menuindex.h"
-#include "tests/system/flood.h"
+#include "testkit/flood.h"
 
 #include <QMap>
 #include <QVector>

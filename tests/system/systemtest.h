@@ -3,7 +3,7 @@
 // thread of the test.
 #pragma once
 
-#include "tests/system/menuwalk.h"
+#include "testkit/menuwalk.h"
 
 #include <QObject>
 #include <QTest>

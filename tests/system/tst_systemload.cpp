@@ -1,5 +1,5 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
-#include "tests/system/flood.h"
+#include "testkit/flood.h"
 #include "tests/system/systemtest.h"
 
 using namespace VASK;

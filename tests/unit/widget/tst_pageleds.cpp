@@ -1,7 +1,7 @@
 // The LEDs of the layer and input keys, as the keypad's driver is told: which are lit, dark or blink.
 
 #include "framework/input/keyevent.h"
-#include "tests/unit/engine/ledpanel.h"
+#include "tests/unit/framework/engine/ledpanel.h"
 #include "tests/unit/widget/pagerig.h"
 
 #include <QElapsedTimer>

@@ -2,7 +2,7 @@
 // with each option of its list, with its list open, and disabled: nothing is cut off or overlaps, the cursor
 // is seen, all texts of a kind stand on one line. FPD_LOOKS=folder saves contact sheets of them to look at.
 
-#include "tests/contactsheet.h"
+#include "testkit/contactsheet.h"
 #include "tests/unit/widget/looks.h"
 #include "widget/row/icocomboxtable.h"
 #include "widget/row/rowkinds.h"

@@ -1,0 +1,102 @@
+// The panel with the device around it, for tests that act and look like a user: press, turn, read the LCD.
+// Every Panel has a fresh state folder, its own emulator and its own panel process. GUI thread of the test.
+#pragma once
+
+#include "testkit/consoleclient.h"
+
+#include <QDomDocument>
+#include <QImage>
+#include <QMap>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <functional>
+#include <memory>
+
+/// Keys as the console names them.
+namespace keys
+{
+constexpr const char *Ok = "ok";
+constexpr const char *Esc = "esc";
+constexpr const char *Main = "main";
+constexpr const char *Pip1 = "pip1";
+constexpr const char *Pip2 = "pip2";
+constexpr const char *Fn = "fn";
+constexpr const char *Freeze = "freeze";
+constexpr const char *Test = "test";
+constexpr const char *Preset = "preset";
+} // namespace keys
+
+enum Direction { Left, Right };
+
+class Panel
+{
+public:
+    Panel();
+    ~Panel();
+
+    /// Starts the device with the panel still off; wrapper: a command to start the emulator with.
+    bool powerDevice(const QStringList &wrapper = {});
+    /// Starts the panel and waits until its start-up has ended.
+    bool start();
+    /// The device, the panel, and the first picture.
+    bool startReady();
+    void stop();
+
+    bool press(const QString &key) { return ask({"key", key}).ok; }
+    bool hold(const QString &key) { return ask({"key", key, "hold"}).ok; }
+    bool turn(Direction direction, int steps = 1, int speed = 1);
+    Answer ask(const QStringList &words);
+    /// Many requests at once; false if one was refused.
+    bool askAll(const QList<QStringList> &requests);
+
+    QImage screen() const;
+    /// Waits until the LCD has stood still for a moment.
+    bool settle();
+    bool shows(const QString &text, const QRect &area = QRect());
+    /// Waits until the LCD shows the text, in the area if one is given, which is faster.
+    bool waitFor(const QString &text, const QRect &area = QRect());
+    /// Waits until it does not.
+    bool waitUntilGone(const QString &text);
+    bool waitUntil(const std::function<bool()> &condition) const;
+
+    /// From here on the log is looked at.
+    void mark();
+    /// Waits until the log holds the text, behind the mark.
+    bool waitForLog(const QString &text);
+    /// Lines behind the mark with that text, by now.
+    QStringList logLines(const QString &text);
+    /// What is logged from now on is left to another reader: too much of it would come.
+    void stopFollowingLog();
+
+    QString leds() { return ask({"leds"}).lines.value(0); }
+    /// Register writes as the console prints them.
+    QStringList writes() { return ask({"writes"}).lines; }
+    /// A field of an item in config.xml, as "Value".
+    QString stored(int item, const QString &field = "Value") const;
+    /// All of config.xml: values by "ITEM", other fields by "ITEM/Enable" and "ITEM/Params1/KEY".
+    QMap<QString, QString> storedFields() const;
+
+    /// Changes a field in config.xml, while the panel is off.
+    bool setStored(int item, const QString &value, const QString &field = "Value");
+
+    QString statePath() const { return m_state; }
+    QString file(const QString &boardPath) const { return m_state + boardPath; }
+    /// What a sanitizer or a crash left behind, empty if nothing.
+    QString damage();
+    /// Keeps the LCD's picture and the end of the log below the build folder.
+    void keepEvidence(const QString &name);
+
+private:
+    void readLog(int timeoutMs);
+    bool isBusy();
+    QDomDocument store() const;
+
+    QTemporaryDir m_folder;
+    QString m_state;
+    QProcess m_emulator;
+    std::unique_ptr<ConsoleClient> m_console;
+    std::unique_ptr<ConsoleClient> m_logConsole;
+    QStringList m_log;
+    int m_mark = 0;
+    int m_process = 0; ///< the panel's number, as last seen
+};

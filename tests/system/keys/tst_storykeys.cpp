@@ -1,0 +1,12 @@
+// Each dedicated key, pressed at home and on pages, of a video controller and of a sending card.
+#include "tests/system/keys/keystory.h"
+
+#include <QTest>
+
+class TestStoryKeys : public KeyStory
+{
+public:
+    TestStoryKeys() : KeyStory(keytable::Press::Tap, 8) {}
+};
+
+QTEST_MAIN(TestStoryKeys)

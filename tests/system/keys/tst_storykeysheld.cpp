@@ -1,0 +1,12 @@
+// Each dedicated key, held at home and on pages, of a video controller and of a sending card.
+#include "tests/system/keys/keystory.h"
+
+#include <QTest>
+
+class TestStoryKeysHeld : public KeyStory
+{
+public:
+    TestStoryKeysHeld() : KeyStory(keytable::Press::Hold, 6) {}
+};
+
+QTEST_MAIN(TestStoryKeysHeld)

@@ -1,0 +1,164 @@
+// A long session, played at speed: at its end the store holds what the device holds. FPD_SOAK_SECONDS makes
+// it longer: 600 play a whole hour. FPD_SOAK_SPEED and FPD_SOAK_SEED choose another speed and another
+// session.
+#include "testkit/consoleclient.h"
+#include "testkit/homescreen.h"
+#include "tests/system/mirrored.h"
+#include "testkit/panel.h"
+#include "tests/system/soaksession.h"
+
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QTest>
+#include <atomic>
+#include <thread>
+
+class TestStorySoak : public QObject
+{
+    Q_OBJECT
+private slots:
+    void storeEqualsDevice();
+
+private:
+    QString replay(const QString &file, int speed, int seconds);
+    bool comesToRest();
+    QString missingAtHome();
+
+    Panel m_panel;
+};
+
+namespace
+{
+constexpr int homePorts = 6; ///< of the device's ten
+
+int setting(const char *name, int otherwise)
+{
+    const int value = qEnvironmentVariableIntValue(name);
+    return value > 0 ? value : otherwise;
+}
+} // namespace
+
+/// Plays the session on a connection of its own, while cables are pulled and put back. Empty, or what went
+/// wrong.
+QString TestStorySoak::replay(const QString &file, int speed, int seconds)
+{
+    std::atomic<bool> ended{false};
+    Answer answer;
+    std::thread player([&] {
+        ConsoleClient console;
+        if (console.connectTo(m_panel.statePath()))
+            answer = console.ask({"replay", file, QString::number(speed)}, seconds * 3000 + 60000);
+        ended = true;
+    });
+    constexpr const char *cables[] = {"eth", "usb", "loop", "priority"};
+    for (int i = 0; !ended; ++i) {
+        m_panel.ask({"link", cables[i / 2 % 4], i % 2 ? "0" : "1"});
+        constexpr const char *states[] = {"link", "backup", "engaged"};
+        m_panel.ask(
+            {"port", QString::number(i * 5 % homePorts + 1), states[i % 3], i / 3 % 2 ? "on" : "off"});
+        for (int waited = 0; waited < 30 && !ended; ++waited)
+            QTest::qWait(100);
+        m_panel.mark(); // the log so far has been read
+    }
+    player.join();
+    qInfo("%s", qPrintable(answer.lines.join(' ')));
+    return answer.ok ? QString() : "replay: " + answer.error;
+}
+
+/// Whatever is held back or told late has come, and the store is written.
+bool TestStorySoak::comesToRest()
+{
+    constexpr int stillMs = 3000;
+    QElapsedTimer still;
+    still.start();
+    int seen = -1;
+    return m_panel.waitUntil([&] {
+        const int now = m_panel.writes().size();
+        if (now != seen)
+            still.restart();
+        seen = now;
+        return still.hasExpired(stillMs);
+    });
+}
+
+/// What the store does not keep, and the home screen shows: the size that leaves the device and its ports.
+/// Empty, or the first sight that is not the device's.
+QString TestStorySoak::missingAtHome()
+{
+    QStringList sights;
+    const QStringList lines = m_panel.ask({"device", "show"}).lines;
+    const auto tells = [&lines](const char *line) { return lines.contains(QString("  ") + line); };
+    // Of 3D the screen shows the pictures of both eyes, unless they come one by one.
+    const bool doubled = tells("3D: on") && !tells("format: frame sequential");
+    const QRegularExpression size("output: (\\d+x\\d+)@([\\d.]+).*");
+    const QRegularExpression port("port (\\d+): link (on|off), backup (on|off), engaged (on|off)");
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch output = size.match(line.trimmed()), told = port.match(line);
+        if (output.hasMatch())
+            sights << QString("screen:%1@%2")
+                          .arg(output.captured(1))
+                          .arg(output.captured(2).toDouble() * (doubled ? 2 : 1));
+        if (!told.hasMatch() || told.captured(1).toInt() > homePorts)
+            continue;
+        const auto is = [&](int part) { return told.captured(part) == "on"; };
+        const char *colour = !is(2) ? "dark" : is(4) ? "blinking" : is(3) ? "yellow" : "green";
+        sights << "port" + told.captured(1) + ':' + colour;
+    }
+    // A timed message at the end of the session takes the keys until its time is over.
+    m_panel.waitUntil([&] {
+        m_panel.press(keys::Esc);
+        return homescreen::sees(m_panel, sights.value(0));
+    });
+    for (const QString &sight : sights)
+        if (!homescreen::waitToSee(m_panel, sight))
+            return sight;
+    return sights.size() == 1 + homePorts ? QString() : "the device tells too little: " + sights.join(' ');
+}
+
+void TestStorySoak::storeEqualsDevice()
+{
+    const int seconds = setting("FPD_SOAK_SECONDS", 25);
+    const int speed = setting("FPD_SOAK_SPEED", 6);
+    const auto seed = unsigned(setting("FPD_SOAK_SEED", 1));
+    QVERIFY(m_panel.startReady());
+    QVERIFY(m_panel.waitForLog("StartComplate: 2"));
+    QVERIFY(comesToRest());
+    m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
+    QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
+
+    const QString file = m_panel.statePath() + "/soak.txt";
+    QFile session(file);
+    QVERIFY(session.open(QIODevice::WriteOnly));
+    session.write(soakSession(seed, qMax(1, seconds * speed / 60), speed));
+    session.close();
+    QCOMPARE(replay(file, speed, seconds), QString());
+    for (int i = 0; i < 8; ++i)
+        m_panel.press(keys::Esc);
+    QVERIFY(comesToRest());
+    m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
+    qInfo("%d registers written by the panel, %d items compared", m_panel.writes().size(), mirrored::count());
+    const QStringList differences = mirrored::differences(m_panel);
+    if (!differences.isEmpty())
+        m_panel.keepEvidence("storysoak");
+    QCOMPARE(differences.join('\n'), QString());
+    QVERIFY(mirrored::count() > 100);
+    QVERIFY(m_panel.ask({"push", "020001f2", "00"}).ok); // no fibers, which could stand in for a port
+    const QString missing = missingAtHome();
+    if (!missing.isEmpty())
+        m_panel.keepEvidence("storysoakhome");
+    QCOMPARE(missing, QString());
+    QCOMPARE(m_panel.damage(), QString());
+}
+
+int main(int argc, char **argv)
+{
+    // The test library's own patience of five minutes would end a long session.
+    constexpr int msPerSecond = 1000, forTheRest = 300;
+    qputenv("QTEST_FUNCTION_TIMEOUT",
+            QByteArray::number((setting("FPD_SOAK_SECONDS", 0) * 2 + forTheRest) * msPerSecond));
+    QGuiApplication application(argc, argv);
+    TestStorySoak test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_storysoak.moc"
