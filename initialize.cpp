@@ -1,17 +1,19 @@
 #include "initialize.h"
 
 #include "boardio.h"
-#include "framework/object/globaltimer.h"
-#include "framework/input/keyevent.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/input/keyevent.h"
+#include "framework/object/globaltimer.h"
+#include "framework/object/transport.h"
 #include "framework/protocol/bus/apipcservice.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/snapshot/protomemory20m.h"
-#include "framework/object/transport.h"
-#include "widget/page/directoryengineer.h"
-#include "widget/language.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
+#include "widget/language.h"
+#include "widget/page/directoryengineer.h"
 
 #include <QCoreApplication>
 #include <QDebug>

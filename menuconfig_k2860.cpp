@@ -1,5 +1,9 @@
 #include "menuconfig_k2860.h"
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "menu/tables.h"
 
 #include <tuple>

@@ -3,7 +3,10 @@
 // engine changes rows of g_dialogConfig, on the GUI thread.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 
 #include <QMap>
 #include <QString>

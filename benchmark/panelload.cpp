@@ -2,9 +2,10 @@
 // name, measured, floor, ratio.
 #include "benchmark/tickspy.h"
 #include "fpd_hostlink.h"
-#include "framework/thread/ctimer.h"
 #include "framework/protocol/packet/packageframe.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
+#include "framework/thread/ctimer.h"
+#include "menu/itemindex.h"
 #include "testkit/flood.h"
 #include "testkit/framedrive.h"
 #include "testkit/menuwalk.h"

@@ -1,12 +1,12 @@
 // The whole device around one panel: everything that the console and the window work with. Main thread.
 #pragma once
 
-#include "emulator/host/bootflag.h"
 #include "emulator/bus/device.h"
 #include "emulator/device/keypad.h"
 #include "emulator/device/lcd.h"
-#include "emulator/host/panelprocess.h"
 #include "emulator/device/recorder.h"
+#include "emulator/host/bootflag.h"
+#include "emulator/host/panelprocess.h"
 #include "emulator/host/shelltools.h"
 #include "emulator/host/statefolder.h"
 

@@ -1,3 +1,4 @@
+#include "menu/itemindex.h"
 #include "tables.h"
 
 // All items, one row an item. The helper functions name the kind of a row and take, in this order, its

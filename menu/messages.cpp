@@ -1,3 +1,5 @@
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tables.h"
 
 // All messages, one row a message. A row shares the number of the item whose question it asks.

@@ -1,3 +1,7 @@
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tables.h"
 
 // All pages, one row a line. A page that is another's twin is told by what raises its numbers.

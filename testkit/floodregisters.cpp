@@ -1,5 +1,5 @@
 // The registers of the flood, a row each.
-#include "menuindex.h"
+#include "menu/itemindex.h"
 #include "testkit/flood.h"
 
 using namespace VASK;

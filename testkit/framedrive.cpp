@@ -1,4 +1,6 @@
 #include "testkit/framedrive.h"
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 
 #include <QCryptographicHash>
 #include <QElapsedTimer>

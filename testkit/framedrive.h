@@ -2,6 +2,8 @@
 // a table and compares every register write that came of it. GUI thread of the test.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "tests/system/systemtest.h"
 
 #include <QVector>

@@ -1,5 +1,9 @@
 #include "testkit/menuwalk.h"
 
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/pageindex.h"
 #include "testkit/lcdtext.h"
 
 #include <QRegularExpression>

@@ -3,6 +3,8 @@
 // the test.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
 #include "testkit/panel.h"
 

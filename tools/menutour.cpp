@@ -1,4 +1,7 @@
 #include "tools/menutour.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/pageindex.h"
 
 #include <QDir>
 

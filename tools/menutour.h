@@ -3,6 +3,8 @@
 // thread of its program.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "testkit/menuwalk.h"
 
 #include <QSet>

@@ -2,6 +2,8 @@
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -4,8 +4,8 @@
 
 #include "emulator/bus/flashimage.h"
 #include "emulator/bus/wire.h"
-#include "emulator/model/devicemodel.h"
 #include "emulator/host/packetserver.h"
+#include "emulator/model/devicemodel.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

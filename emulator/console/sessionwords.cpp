@@ -1,8 +1,8 @@
 // Words that record a session and play it again.
 #include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
-#include "emulator/emulator.h"
 #include "emulator/device/replayer.h"
+#include "emulator/emulator.h"
 
 namespace
 {

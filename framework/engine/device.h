@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/engine/processdata.h"
+#include "menu/itemindex.h"
 
 #include <QString>
 

@@ -1,9 +1,10 @@
 // The home screen as the engine sets it at start-up, and the device's own name.
 
-#include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/device.h"
-#include "framework/engine/start/snapshotmirror.h"
+#include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/start/snapshotmirror.h"
+#include "menu/itemindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "framework/engine/parachange.h"
+#include "menu/itemindex.h"
 
 #include <array>
 

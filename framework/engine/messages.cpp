@@ -1,8 +1,9 @@
 // The messages of the menu table as dialogs.
 
 #include "framework/engine/paraprocess.h"
-#include "widget/factory/dialog_factory.h"
+#include "menu/itemindex.h"
 #include "widget/dialog/dialog_msgbox.h"
+#include "widget/factory/dialog_factory.h"
 
 namespace VASK
 {

@@ -1,7 +1,9 @@
 #include "framework/engine/pages.h"
 
-#include "framework/thread/handover.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/thread/handover.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"
 

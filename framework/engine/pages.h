@@ -2,7 +2,8 @@
 // thread.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 
 namespace VASK
 {

@@ -1,6 +1,9 @@
 #include "framework/engine/parachange.h"
 
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 #include <QDialog>

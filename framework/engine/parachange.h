@@ -5,6 +5,8 @@
 
 #include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 
 #include <QVector>
 #include <functional>

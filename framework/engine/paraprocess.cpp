@@ -4,10 +4,14 @@
 #include "framework/engine/paraprocess.h"
 
 #include "framework/engine/limits/bandwidth.h"
-#include "framework/engine/parachange.h"
 #include "framework/engine/limits/limits.h"
+#include "framework/engine/parachange.h"
 #include "framework/input/keyevent.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 #include <QCoreApplication>

@@ -3,9 +3,12 @@
 // protocol. Entered on the GUI thread by rows and pages, and on the report thread for device values.
 #pragma once
 
-#include "framework/engine/start/snapshotmirror.h"
 #include "framework/engine/processdata.h"
+#include "framework/engine/start/snapshotmirror.h"
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
 
 #include <QByteArray>

@@ -2,6 +2,7 @@
 
 #include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

@@ -1,4 +1,5 @@
 #include "framework/engine/processdata.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

@@ -3,7 +3,7 @@
 // GUI thread and the report thread; each access takes a short lock of its own.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/itemindex.h"
 
 #include <QMutex>
 #include <QString>

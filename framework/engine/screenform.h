@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/engine/parachange.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

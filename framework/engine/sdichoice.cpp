@@ -2,6 +2,8 @@
 
 #include "framework/engine/parachange.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 
 namespace VASK
 {

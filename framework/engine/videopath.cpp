@@ -4,6 +4,9 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/input/keyevent.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

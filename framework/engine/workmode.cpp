@@ -2,10 +2,11 @@
 
 #include "framework/engine/workmode.h"
 
-#include "framework/object/globaltimer.h"
-#include "framework/thread/handover.h"
 #include "framework/input/keyevent.h"
+#include "framework/object/globaltimer.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/thread/handover.h"
+#include "menu/itemindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 #include <initializer_list>
 

@@ -1,7 +1,7 @@
 #include "framework/input/keyevent.h"
 
-#include "framework/thread/ctimer.h"
 #include "framework/input/keydispatcher.h"
+#include "framework/thread/ctimer.h"
 #include "keypaddevice.h"
 
 #include <QDebug>

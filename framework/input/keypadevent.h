@@ -2,8 +2,6 @@
 // function. Made on the keypad or the timer thread, delivered on the GUI thread to the active window.
 #pragma once
 
-#include "menuindex.h"
-
 #include <QEvent>
 
 namespace VASK

@@ -1,4 +1,5 @@
 #include "framework/input/keytracker.h"
+#include "menu/keycodes.h"
 
 #include <QDebug>
 #include <QList>

@@ -4,8 +4,8 @@
 // the decisions.
 #pragma once
 
-#include "framework/thread/ctimer.h"
 #include "framework/input/keypadevent.h"
+#include "framework/thread/ctimer.h"
 
 #include <QMutex>
 #include <QVector>

@@ -1,7 +1,10 @@
 #include "framework/object/globaltimer.h"
 
-#include "framework/input/keypadevent.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/input/keypadevent.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "widget/factory/dialog_factory.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"

@@ -1,6 +1,7 @@
 #include "framework/object/objectpool.h"
 
 #include "framework/object/vaskobject.h"
+#include "menu/objectindex.h"
 
 #include <new>
 

@@ -3,7 +3,7 @@
 // short lock.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/objectindex.h"
 
 #include <QDebug>
 #include <QMap>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/object/vaskobject.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

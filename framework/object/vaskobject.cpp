@@ -1,4 +1,5 @@
 #include "framework/object/vaskobject.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

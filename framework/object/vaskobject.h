@@ -3,7 +3,9 @@
 #pragma once
 
 #include "framework/object/objectpool.h"
-#include "menuindex.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <QMap>
 #include <QString>

@@ -1,6 +1,9 @@
-#include "framework/store/menuanalysis.h"
-#include "framework/protocol/link/protocolinterface.h"
 #include "framework/object/vaskobject.h"
+#include "framework/protocol/link/protocolinterface.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <new>
 

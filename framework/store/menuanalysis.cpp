@@ -2,6 +2,8 @@
 #include "framework/store/menuanalysis.h"
 
 #include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QDebug>
 

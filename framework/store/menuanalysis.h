@@ -4,8 +4,10 @@
 // and document belong to whoever flushes, which is the GUI thread.
 #pragma once
 
-#include "framework/store/menuxml.h"
 #include "framework/object/vaskobject.h"
+#include "framework/store/menuxml.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QDomDocument>
 #include <QHash>

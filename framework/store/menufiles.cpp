@@ -4,6 +4,7 @@
 
 #include "boardio.h"
 #include "framework/store/menushown.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <QFile>

@@ -1,4 +1,7 @@
 #include "framework/store/menushown.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/pageindex.h"
 
 namespace VASK
 {

@@ -1,6 +1,8 @@
 // Which items have a widget: those of the pages that the builder makes at start. Read from any thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
 
 #include <QList>

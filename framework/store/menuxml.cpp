@@ -1,4 +1,5 @@
 #include "framework/store/menuxml.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

@@ -2,6 +2,7 @@
 // Without state, on a document that the caller has made or locked.
 #pragma once
 
+#include "menu/itemindex.h"
 #include "menuconfig_k2860.h"
 
 #include <QDomDocument>

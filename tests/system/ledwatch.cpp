@@ -1,6 +1,5 @@
 #include "tests/system/ledwatch.h"
-
-#include "menuindex.h"
+#include "menu/ledindex.h"
 
 #include <QElapsedTimer>
 

@@ -1,6 +1,6 @@
 #include "tests/system/mirrored.h"
 
-#include "menuindex.h"
+#include "menu/itemindex.h"
 #include "testkit/panel.h"
 
 #include <QRegularExpression>

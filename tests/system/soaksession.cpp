@@ -1,6 +1,6 @@
 #include "tests/system/soaksession.h"
 
-#include "menuindex.h"
+#include "menu/keycodes.h"
 #include "testkit/flood.h"
 
 #include <QMap>

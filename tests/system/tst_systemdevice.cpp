@@ -110,4 +110,5 @@ private:
 };
 
 QTEST_MAIN(TestSystemDevice)
+#include "menu/itemindex.h"
 #include "tst_systemdevice.moc"

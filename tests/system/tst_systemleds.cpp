@@ -50,4 +50,5 @@ private slots:
 };
 
 QTEST_MAIN(TestSystemLeds)
+#include "menu/itemindex.h"
 #include "tst_systemleds.moc"

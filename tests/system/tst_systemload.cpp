@@ -150,4 +150,5 @@ private:
 };
 
 QTEST_MAIN(TestSystemLoad)
+#include "menu/itemindex.h"
 #include "tst_systemload.moc"

@@ -1,6 +1,7 @@
 #include "widget/dialog/dialog_languageselect.h"
 
 #include "framework/input/keypadevent.h"
+#include "menu/keycodes.h"
 
 #include <QDebug>
 #include <QLabel>

@@ -1,8 +1,10 @@
 #include "widget/dialog/dialog_msgbox.h"
 
 #include "framework/input/keypadevent.h"
-#include "widget/language.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
 #include "widget/dialog/ui_dialog_msgbox.h"
+#include "widget/language.h"
 
 #include <QDebug>
 #include <QLabel>

@@ -2,7 +2,7 @@
 // owner makes it from a row of the message table, runs it and deletes it; GUI thread.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/menutypes.h"
 #include "widget/dialog/keydialog.h"
 
 #include <memory>

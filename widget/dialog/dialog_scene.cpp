@@ -1,10 +1,11 @@
 #include "widget/dialog/dialog_scene.h"
 
 #include "framework/input/keypadevent.h"
+#include "menu/keycodes.h"
+#include "widget/dialog/ui_dialog_scene.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
 #include "widget/picturelabel.h"
-#include "widget/dialog/ui_dialog_scene.h"
 
 #include <QDebug>
 

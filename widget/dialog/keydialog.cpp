@@ -1,7 +1,7 @@
 #include "widget/dialog/keydialog.h"
 
-#include "framework/object/globaltimer.h"
 #include "framework/input/keypadevent.h"
+#include "framework/object/globaltimer.h"
 
 using namespace VASK;
 

@@ -1,6 +1,7 @@
 #include "widget/dialog/lock.h"
 
 #include "framework/object/transport.h"
+#include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
 #include "widget/language.h"
 

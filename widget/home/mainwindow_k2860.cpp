@@ -4,6 +4,8 @@
 
 #include "framework/engine/paraprocess.h"
 #include "framework/object/transport.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindowui.h"
 #include "widget/page/menudirectoty.h"
 

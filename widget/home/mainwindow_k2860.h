@@ -6,6 +6,9 @@
 
 #include "framework/input/keypadevent.h"
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindowstates.h"
 
 #include <QDialog>

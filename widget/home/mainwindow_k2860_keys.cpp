@@ -2,15 +2,18 @@
 
 #include "widget/home/mainwindow_k2860.h"
 
-#include "framework/object/globaltimer.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/object/globaltimer.h"
 #include "framework/object/transport.h"
-#include "widget/factory/dialog_factory.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "widget/dialog/lock.h"
+#include "widget/factory/dialog_factory.h"
 #include "widget/home/mainwindowui.h"
-#include "widget/page/menudirectoty.h"
 #include "widget/home/panelkeys.h"
+#include "widget/page/menudirectoty.h"
 
 using namespace VASK;
 

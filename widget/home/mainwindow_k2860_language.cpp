@@ -2,12 +2,15 @@
 
 #include "widget/home/mainwindow_k2860.h"
 
-#include "framework/thread/handover.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/dialog/dialog_languageselect.h"
 #include "widget/dialog/dialog_wait.h"
-#include "widget/language.h"
 #include "widget/home/mainwindowui.h"
+#include "widget/language.h"
 
 #include <QApplication>
 

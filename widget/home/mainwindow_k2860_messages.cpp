@@ -3,6 +3,9 @@
 #include "widget/home/mainwindow_k2860.h"
 
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "widget/factory/dialog_factory.h"
 #include "widget/page/menudirectoty.h"
 

@@ -2,8 +2,11 @@
 
 #include "widget/home/panelkeys.h"
 
-#include "framework/input/keyevent.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/input/keyevent.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/objectindex.h"
 
 #include <QTimer>
 

@@ -2,6 +2,7 @@
 
 #include "widget/home/panelkeys.h"
 
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
 

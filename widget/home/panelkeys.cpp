@@ -1,6 +1,9 @@
 #include "widget/home/panelkeys.h"
 
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 
 #include <iterator>
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/input/keypadevent.h"
+#include "menu/objectindex.h"
 
 #include <QString>
 #include <initializer_list>

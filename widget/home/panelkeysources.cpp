@@ -3,8 +3,12 @@
 #include "widget/home/panelkeys.h"
 
 #include "framework/engine/paraprocess.h"
-#include "widget/page/menudirectoty.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
+#include "widget/page/menudirectoty.h"
 
 namespace VASK
 {

@@ -1,7 +1,10 @@
 // The three layers as the keys and LEDs of the panel know them: one row of numbers a layer.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/ledindex.h"
+#include "menu/objectindex.h"
 
 #include <array>
 

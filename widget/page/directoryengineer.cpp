@@ -1,6 +1,10 @@
 #include "widget/page/directoryengineer.h"
 
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/page/menudirectoty.h"
 #include "widget/page/menuitemfactory.h"
 

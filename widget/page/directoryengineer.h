@@ -3,6 +3,8 @@
 #pragma once
 
 #include "framework/object/vaskobject.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK

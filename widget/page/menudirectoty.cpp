@@ -3,6 +3,10 @@
 #include "widget/page/menudirectoty.h"
 
 #include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/language.h"
 
 #include <QHeaderView>

@@ -6,6 +6,10 @@
 
 #include "framework/input/keypadevent.h"
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
 
 #include <QDialog>

@@ -3,6 +3,9 @@
 #include "widget/page/menudirectoty.h"
 
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/rowkinds.h"
 
 namespace VASK

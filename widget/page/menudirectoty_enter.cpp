@@ -2,10 +2,14 @@
 
 #include "widget/page/menudirectoty.h"
 
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
-#include "widget/factory/dialog_factory.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/dialog/dialog_msgbox.h"
+#include "widget/factory/dialog_factory.h"
 #include "widget/page/directoryengineer.h"
 #include "widget/row/rowkinds.h"
 

@@ -4,6 +4,9 @@
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <QDir>
 

@@ -4,6 +4,8 @@
 
 #include "framework/object/globaltimer.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/home/panelkeys.h"
 

@@ -2,8 +2,10 @@
 
 #include "widget/page/menudirectoty.h"
 
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
 #include "widget/row/rowkinds.h"
 

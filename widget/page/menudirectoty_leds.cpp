@@ -2,8 +2,11 @@
 
 #include "widget/page/menudirectoty.h"
 
-#include "framework/input/keyevent.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/input/keyevent.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
 
 namespace VASK

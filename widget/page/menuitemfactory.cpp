@@ -1,5 +1,8 @@
 #include "widget/page/menuitemfactory.h"
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/typeapply.h"
 #include "widget/row/typeapplyreset.h"
 #include "widget/row/typebutton.h"

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

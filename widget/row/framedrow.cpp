@@ -1,6 +1,8 @@
 #include "widget/row/framedrow.h"
 
 #include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
 #include "widget/picturelabel.h"

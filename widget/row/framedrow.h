@@ -2,6 +2,8 @@
 // item has it. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "widget/row/menurow.h"
 
 class QHBoxLayout;

@@ -1,6 +1,9 @@
 #include "widget/row/icocomboxtable.h"
 
 #include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/focusdelegate.h"
 
 #include <QDebug>

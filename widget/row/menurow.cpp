@@ -1,7 +1,10 @@
 #include "widget/row/menurow.h"
 
-#include "framework/thread/handover.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <QDebug>
 

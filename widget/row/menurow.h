@@ -4,6 +4,9 @@
 #pragma once
 
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK

@@ -1,4 +1,7 @@
 #include "widget/row/numberrow.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <QLabel>
 

@@ -2,6 +2,9 @@
 // What stays open is how a step is computed and how the number reads. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/framedrow.h"
 
 namespace VASK

@@ -1,4 +1,5 @@
 #include "widget/row/partsrow.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <QEvent>

@@ -2,6 +2,7 @@
 // share the movement, and the row takes off the speed what it used inside. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
 #include "widget/row/menurow.h"
 
 #include <QList>

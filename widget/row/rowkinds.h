@@ -1,7 +1,7 @@
 // What a page does with a row depends on its kind only; here is which kinds go together.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/menutypes.h"
 
 namespace VASK
 {

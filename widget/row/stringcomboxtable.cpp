@@ -1,8 +1,11 @@
 #include "widget/row/stringcomboxtable.h"
 
 #include "framework/thread/handover.h"
-#include "widget/row/focusdelegate.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/row/focusdelegate.h"
 
 #include <QHeaderView>
 #include <QScrollBar>

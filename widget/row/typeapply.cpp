@@ -1,5 +1,8 @@
 #include "widget/row/typeapply.h"
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/language.h"
 
 #include <QEvent>

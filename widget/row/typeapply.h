@@ -1,6 +1,9 @@
 // A push button in the middle of its row; it looks pressed while the cursor stands on it. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/menurow.h"
 
 class QPushButton;

@@ -1,6 +1,9 @@
 // Two push buttons side by side: the item of the row and the one behind it. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/partsrow.h"
 
 class QPushButton;

@@ -1,4 +1,6 @@
 #include "widget/row/typebutton.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QLabel>
 

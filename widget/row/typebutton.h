@@ -1,6 +1,8 @@
 // A row that acts when OK is pressed and shows a text as its state. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/row/framedrow.h"
 
 namespace VASK

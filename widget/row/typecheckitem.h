@@ -2,6 +2,8 @@
 // matter. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/row/framedrow.h"
 
 namespace VASK

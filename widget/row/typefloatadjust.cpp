@@ -1,4 +1,6 @@
 #include "widget/row/typefloatadjust.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 
 #include <QDebug>
 

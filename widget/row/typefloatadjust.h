@@ -1,6 +1,8 @@
 // A decimal number with as many decimals as its step has, turned by the knob. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "widget/row/numberrow.h"
 
 namespace VASK

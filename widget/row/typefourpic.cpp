@@ -1,5 +1,8 @@
 #include "widget/row/typefourpic.h"
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/picturelabel.h"
 
 #include <QDebug>

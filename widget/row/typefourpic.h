@@ -1,6 +1,9 @@
 // Four pictures side by side, each on or off: the slots of the user's own test pictures. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/partsrow.h"
 
 #include <array>

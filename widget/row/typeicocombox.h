@@ -1,6 +1,9 @@
 // A choice of pictures. Some lists show each picture on the wall while the knob passes over it. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/dropdown.h"
 #include "widget/row/framedrow.h"
 #include "widget/row/icocomboxtable.h"

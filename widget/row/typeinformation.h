@@ -1,6 +1,9 @@
 // A row that is only read: a name and a text. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/menurow.h"
 
 class QLabel;

@@ -1,6 +1,9 @@
 #include "widget/row/typeintadjust.h"
 
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,8 @@
 // A whole number, turned by the knob or typed digit by digit. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "widget/row/numberrow.h"
 
 namespace VASK

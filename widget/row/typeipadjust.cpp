@@ -1,9 +1,12 @@
 #include "widget/row/typeipadjust.h"
 
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
-#include "widget/row/framedrow.h"
 #include "widget/language.h"
+#include "widget/row/framedrow.h"
 
 #include <QDebug>
 #include <QHBoxLayout>

@@ -3,6 +3,9 @@
 // GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/menurow.h"
 
 #include <array>

@@ -1,4 +1,6 @@
 #include "widget/row/typemainbutton.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

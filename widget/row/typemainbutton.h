@@ -1,6 +1,8 @@
 // An entry: the way to a sub-page, or a row that only acts. Shows no value. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/row/framedrow.h"
 
 namespace VASK

@@ -2,6 +2,9 @@
 // together. Only the first source is chosen; the second follows. GUI thread, but for what says otherwise.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/dropdown.h"
 #include "widget/row/menurow.h"
 #include "widget/row/stringcomboxtable.h"

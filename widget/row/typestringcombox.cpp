@@ -1,5 +1,8 @@
 #include "widget/row/typestringcombox.h"
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/language.h"
 
 #include <QDebug>

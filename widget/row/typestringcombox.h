@@ -1,6 +1,9 @@
 // A choice of texts. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/dropdown.h"
 #include "widget/row/framedrow.h"
 #include "widget/row/stringcomboxtable.h"

@@ -1,7 +1,10 @@
 #include "widget/row/typetip.h"
 
-#include "widget/row/framedrow.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/row/framedrow.h"
 
 #include <QDebug>
 #include <QHBoxLayout>

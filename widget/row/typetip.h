@@ -1,6 +1,9 @@
 // A note between rows, which the cursor skips. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/menurow.h"
 
 class QLabel;

@@ -1,6 +1,9 @@
 #include "widget/row/typetwostringcombox.h"
 
 #include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/language.h"
 
 #include <QDebug>

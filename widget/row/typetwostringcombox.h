@@ -2,6 +2,9 @@
 // the other. The cursor only ever stands on the choice. GUI thread.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/row/dropdown.h"
 #include "widget/row/partsrow.h"
 #include "widget/row/stringcomboxtable.h"

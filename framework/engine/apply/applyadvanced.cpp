@@ -4,6 +4,7 @@
 
 #include "framework/engine/advancedports.h"
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

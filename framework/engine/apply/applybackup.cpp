@@ -1,6 +1,8 @@
 // The backup of inputs by inputs: which pairs stand by, and whether their signals let them.
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QVector>
 

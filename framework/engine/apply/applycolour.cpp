@@ -1,6 +1,7 @@
 // Colour of the LED screen, and the picture reset of an input.
 
 #include "framework/engine/parachange.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

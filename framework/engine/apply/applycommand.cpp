@@ -2,6 +2,7 @@
 
 #include "framework/engine/parachange.h"
 
+#include "menu/itemindex.h"
 #include "netstatus.h"
 #include "widget/home/mainwindow_k2860.h"
 

@@ -6,6 +6,7 @@
 #include "framework/engine/layers.h"
 #include "framework/engine/limits/limits.h"
 #include "framework/thread/handover.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

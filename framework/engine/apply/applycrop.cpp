@@ -1,6 +1,7 @@
 // The part of its input that a layer shows.
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

@@ -4,8 +4,11 @@
 #include "framework/engine/parachange.h"
 
 #include "framework/input/keyevent.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/protocol/devicecodes.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/menutypes.h"
 
 namespace VASK
 {

@@ -3,6 +3,9 @@
 
 #include "framework/engine/layers.h"
 #include "framework/engine/pages.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 
 namespace VASK
 {

@@ -1,6 +1,7 @@
 // How a layer is scaled, and where it stands.
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

@@ -4,6 +4,7 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
 #include "widget/factory/dialog_factory.h"
 #include "widget/page/menudirectoty.h"
 

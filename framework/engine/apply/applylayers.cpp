@@ -1,6 +1,7 @@
 // Which layers are on, and in which order they stand.
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

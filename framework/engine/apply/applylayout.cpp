@@ -1,6 +1,7 @@
 // The fixed layouts: the three layers side by side over the whole output.
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

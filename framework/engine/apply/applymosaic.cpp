@@ -4,6 +4,7 @@
 #include "framework/engine/layers.h"
 
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
 
 #include <QFileInfo>
 

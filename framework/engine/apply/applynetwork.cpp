@@ -3,6 +3,7 @@
 #include "framework/engine/parachange.h"
 
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 #include <array>

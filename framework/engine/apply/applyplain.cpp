@@ -1,6 +1,7 @@
 // Items on which nothing depends: the value goes on to the protocol or to the widget.
 
 #include "framework/engine/parachange.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

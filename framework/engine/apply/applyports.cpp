@@ -2,6 +2,7 @@
 
 #include "framework/engine/parachange.h"
 
+#include "menu/itemindex.h"
 #include "widget/factory/dialog_factory.h"
 #include "widget/home/mainwindowstates.h"
 

@@ -1,10 +1,15 @@
 // The ten presets: OK on a row of the preset page opens their dialog, OK on the page of copy targets copies.
 
-#include "framework/engine/parachange.h"
 #include "framework/engine/pages.h"
+#include "framework/engine/parachange.h"
 
 #include "framework/input/keypadevent.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/dialog/dialog_scene.h"
 #include "widget/language.h"
 #include "widget/page/menudirectoty.h"

@@ -5,6 +5,7 @@
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
 #include "netstatus.h"
 #include "widget/language.h"
 

@@ -3,6 +3,7 @@
 #include "framework/engine/layers.h"
 
 #include "framework/engine/limits/bandwidth.h"
+#include "menu/itemindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

@@ -2,6 +2,7 @@
 // picture alone, over twice the output.
 
 #include "framework/engine/layers.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

@@ -4,6 +4,7 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

@@ -4,10 +4,13 @@
 #include "framework/engine/parachange.h"
 
 #include "boardio.h"
-#include "framework/thread/handover.h"
 #include "framework/store/menuanalysis.h"
-#include "widget/language.h"
+#include "framework/thread/handover.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
+#include "widget/language.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QApplication>

@@ -1,10 +1,14 @@
 // The test pattern pages, which take each other's place, and the custom pictures.
 
-#include "framework/engine/parachange.h"
 #include "framework/engine/pages.h"
+#include "framework/engine/parachange.h"
 #include "framework/thread/handover.h"
 
 #include "framework/input/keypadevent.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QApplication>

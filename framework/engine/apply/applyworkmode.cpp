@@ -4,6 +4,7 @@
 #include "framework/engine/workmode.h"
 
 #include "framework/input/keyevent.h"
+#include "menu/itemindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

@@ -2,8 +2,10 @@
 
 #include "framework/engine/limits/limits.h"
 #include "framework/engine/limits/videotiming.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

@@ -1,6 +1,9 @@
 #include "framework/engine/limits/limits.h"
 
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <algorithm>
 #include <array>

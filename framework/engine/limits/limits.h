@@ -3,7 +3,8 @@
 // Any thread.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QString>
 

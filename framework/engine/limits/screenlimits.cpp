@@ -2,11 +2,13 @@
 // what was asked for until the device can carry it.
 
 #include "framework/engine/advancedports.h"
-#include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/device.h"
+#include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/limits/limits.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

@@ -1,8 +1,11 @@
 // What runs when the device's two services have started: HDCP, synchronisation, DHCP and the version.
 
 #include "framework/engine/device.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "sysconf.h"
 #include "widget/home/mainwindow_k2860.h"
 

@@ -1,10 +1,13 @@
 // What the flash snapshot says of the device goes into the menu: as reported values, in a fixed order.
 
 #include "framework/engine/device.h"
-#include "framework/engine/start/snapshotmirror.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/start/snapshotmirror.h"
 #include "framework/protocol/snapshot/driverutil.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 
 #include <QTextCodec>
 

@@ -2,8 +2,10 @@
 // screen.
 
 #include "framework/engine/device.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

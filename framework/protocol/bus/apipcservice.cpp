@@ -2,6 +2,7 @@
 
 #include "framework/protocol/bus/apipcsocket.h"
 #include "framework/protocol/link/protocolinterface.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

@@ -4,6 +4,7 @@
 
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/thread/tickgate.h"
+#include "menu/objectindex.h"
 
 #include <QByteArray>
 #include <QList>

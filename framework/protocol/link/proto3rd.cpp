@@ -1,14 +1,16 @@
 #include "framework/protocol/link/proto3rd.h"
 
-#include "framework/protocol/packet/notifystruct.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/cabinetnames.h"
+#include "framework/protocol/link/proto3rdsend.h"
+#include "framework/protocol/packet/notifystruct.h"
 #include "framework/protocol/packet/packageframe.h"
-#include "framework/protocol/receive/packagehandler.h"
 #include "framework/protocol/packet/packagerequestreaddata3rd.h"
 #include "framework/protocol/packet/packagerequestwritedata.h"
-#include "framework/protocol/link/proto3rdsend.h"
 #include "framework/protocol/packet/registeraddress.h"
+#include "framework/protocol/receive/packagehandler.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

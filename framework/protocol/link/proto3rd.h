@@ -9,6 +9,8 @@
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/protocol/link/requestlist.h"
 #include "framework/thread/tickgate.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/factory/dialog_factory.h"
 
 #include <QList>

@@ -1,11 +1,13 @@
 // The part of the protocol object that starts it and ties cables, host session and home screen together.
 
 #include "framework/engine/paraprocess.h"
-#include "framework/protocol/receive/packagehandler.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/link/proto3rdsend.h"
+#include "framework/protocol/receive/packagehandler.h"
 #include "framework/protocol/receive/reportdispatch.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 
 namespace VASK

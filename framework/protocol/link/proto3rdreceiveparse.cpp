@@ -1,7 +1,10 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QDebug>

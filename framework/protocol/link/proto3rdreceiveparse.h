@@ -3,9 +3,11 @@
 // Made on the GUI thread; everything else runs on the report thread.
 #pragma once
 
+#include "framework/object/vaskobject.h"
 #include "framework/protocol/inputtable.h"
 #include "framework/protocol/receive/report.h"
-#include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QMutex>
 #include <atomic>

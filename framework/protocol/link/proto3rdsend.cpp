@@ -4,6 +4,8 @@
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/send/sendrow.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QDebug>

@@ -4,8 +4,9 @@
 // report thread.
 #pragma once
 
-#include "framework/protocol/send/gammacurve.h"
 #include "framework/object/vaskobject.h"
+#include "framework/protocol/send/gammacurve.h"
+#include "menu/itemindex.h"
 
 #include <QMutex>
 #include <atomic>

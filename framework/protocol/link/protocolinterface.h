@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/object/vaskobject.h"
+#include "menu/itemindex.h"
 
 #include <QByteArray>
 

@@ -1,6 +1,7 @@
 // The tables of the inputs, built once from the device's own list.
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

@@ -4,6 +4,7 @@
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/receive/selftest.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <iterator>

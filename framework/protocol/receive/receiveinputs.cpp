@@ -1,5 +1,6 @@
 // Reports about the inputs: what they carry, their picture, their sound, and the mosaic of two of them.
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <iterator>

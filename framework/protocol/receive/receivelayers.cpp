@@ -1,7 +1,9 @@
 // Reports about the layers: their windows, what they cut out of their source, and the area of the wall.
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QDebug>
 #include <iterator>

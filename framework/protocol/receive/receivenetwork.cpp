@@ -1,6 +1,7 @@
 // Reports about the device's address.
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <QStringList>

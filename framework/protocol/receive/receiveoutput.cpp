@@ -1,8 +1,9 @@
 // Reports about the output and the wall: sizes, rates, brightness, mapping, and what the output shows.
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <QStringList>

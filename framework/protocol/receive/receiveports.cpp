@@ -1,6 +1,7 @@
 // Reports about the Ethernet ports and the optical links. The device tells the ten ports in groups, a
 // register a group.
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <iterator>

@@ -1,6 +1,7 @@
 // Reports about audio, on-screen display and latency.
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <iterator>

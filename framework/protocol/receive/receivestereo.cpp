@@ -1,6 +1,7 @@
 // Reports about 3D.
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <iterator>

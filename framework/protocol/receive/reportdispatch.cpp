@@ -1,7 +1,7 @@
 #include "framework/protocol/receive/reportdispatch.h"
 
-#include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/protocol/packet/registeraddress.h"
 
 #include <QDebug>

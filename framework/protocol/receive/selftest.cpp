@@ -1,9 +1,10 @@
 #include "framework/protocol/receive/selftest.h"
 
 #include "boardio.h"
-#include "framework/thread/handover.h"
 #include "framework/input/keypadevent.h"
 #include "framework/legacy/selfchecklist.h"
+#include "framework/thread/handover.h"
+#include "menu/keycodes.h"
 #include "widget/factory/dialog_factory.h"
 
 #include <QApplication>

@@ -2,6 +2,7 @@
 // OSD.
 
 #include "framework/protocol/send/sendrow.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

@@ -1,6 +1,7 @@
 // Gamma: the exponent goes to the receiving cards together with the table that was computed from it.
 
 #include "framework/protocol/send/sendrow.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

@@ -4,6 +4,7 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
 #include "framework/protocol/send/videomode.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

@@ -3,6 +3,7 @@
 
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

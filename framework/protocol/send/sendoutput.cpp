@@ -2,6 +2,7 @@
 
 #include "framework/protocol/send/sendrow.h"
 #include "framework/protocol/send/videomode.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

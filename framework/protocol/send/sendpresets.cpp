@@ -1,6 +1,7 @@
 // Presets, and the splicing of several devices to one picture.
 
 #include "framework/protocol/send/sendrow.h"
+#include "menu/itemindex.h"
 
 #include <QStringList>
 

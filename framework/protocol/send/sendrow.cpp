@@ -1,6 +1,7 @@
 #include "framework/protocol/send/sendrow.h"
 
 #include "framework/engine/paraprocess.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 

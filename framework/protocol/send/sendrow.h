@@ -4,8 +4,9 @@
 
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdsend.h"
-#include "framework/protocol/send/valueform.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
+#include "framework/protocol/send/valueform.h"
+#include "menu/itemindex.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK

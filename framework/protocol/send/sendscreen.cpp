@@ -1,6 +1,7 @@
 // The LED screen behind the ports: brightness, colour channels, cabinets, their wiring and their files.
 
 #include "framework/protocol/send/sendrow.h"
+#include "menu/itemindex.h"
 
 #include <QDebug>
 #include <QVector>

@@ -2,6 +2,7 @@
 
 #include "framework/protocol/send/sendrow.h"
 
+#include "menu/itemindex.h"
 #include "sysconf.h"
 
 #include <QDebug>

@@ -1,6 +1,7 @@
 #include "framework/protocol/snapshot/protomemory20m.h"
 
 #include "framework/engine/paraprocess.h"
+#include "menu/objectindex.h"
 
 namespace VASK
 {

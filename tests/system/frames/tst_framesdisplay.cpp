@@ -1,4 +1,5 @@
 // What the rows of picture, test pattern, OSD and LED screen send when a user changes them with the keys.
+#include "menu/itemindex.h"
 #include "testkit/framedrive.h"
 
 using namespace VASK;

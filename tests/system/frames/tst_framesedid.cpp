@@ -101,4 +101,6 @@ void TestFramesEdid::pagesTakeTurns()
 }
 
 QTEST_MAIN(TestFramesEdid)
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "tst_framesedid.moc"

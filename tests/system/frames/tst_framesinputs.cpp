@@ -130,4 +130,5 @@ void TestFramesInputs::aFastTurnIsThinnedOut()
 }
 
 QTEST_MAIN(TestFramesInputs)
+#include "menu/itemindex.h"
 #include "tst_framesinputs.moc"

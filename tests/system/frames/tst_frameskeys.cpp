@@ -1,4 +1,5 @@
 // What the keys of layers, inputs, scaling and display modes send, from the home screen.
+#include "menu/itemindex.h"
 #include "tests/system/frames/layerframes.h"
 
 using namespace VASK;

@@ -1,4 +1,5 @@
 // What the rows of the three layers and their crops send.
+#include "menu/itemindex.h"
 #include "tests/system/frames/layerframes.h"
 
 using namespace VASK;

@@ -107,4 +107,5 @@ void TestFramesOutput::aSendingCardHasAStartOfItsOwn()
 }
 
 QTEST_MAIN(TestFramesOutput)
+#include "menu/itemindex.h"
 #include "tst_framesoutput.moc"

@@ -1,4 +1,5 @@
 // What the presets send: each action of their dialog, and the choice of a target for a copy.
+#include "menu/itemindex.h"
 #include "testkit/framedrive.h"
 
 using namespace VASK;

@@ -49,4 +49,6 @@ private:
 };
 
 QTEST_MAIN(TestFramesResets)
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "tst_framesresets.moc"

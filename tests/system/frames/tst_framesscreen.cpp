@@ -128,4 +128,6 @@ void TestFramesScreen::theOtherFormAsks()
 }
 
 QTEST_MAIN(TestFramesScreen)
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "tst_framesscreen.moc"

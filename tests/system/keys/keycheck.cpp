@@ -1,4 +1,7 @@
 #include "tests/system/keys/keycheck.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/pageindex.h"
 
 #include <QRegularExpression>
 #include <QSize>

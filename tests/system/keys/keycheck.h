@@ -3,9 +3,10 @@
 // the device was told. It may work in any one thread.
 #pragma once
 
+#include "menu/pageindex.h"
+#include "testkit/menuwalk.h"
 #include "tests/system/keys/keytable.h"
 #include "tests/system/ledwatch.h"
-#include "testkit/menuwalk.h"
 
 /// Each check says what is not as it should be, nothing if all is well.
 class KeyCheck

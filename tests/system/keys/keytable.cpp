@@ -1,4 +1,6 @@
 #include "tests/system/keys/keytable.h"
+#include "menu/ledindex.h"
+#include "menu/pageindex.h"
 
 #include <QMap>
 

@@ -2,7 +2,7 @@
 // key is pressed or held, where that leads and what the LEDs tell then. A table; any thread.
 #pragma once
 
-#include "menuindex.h"
+#include "menu/pageindex.h"
 
 #include <QList>
 #include <QString>

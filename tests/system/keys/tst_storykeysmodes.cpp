@@ -143,4 +143,7 @@ private:
 };
 
 QTEST_MAIN(TestStoryKeysModes)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/pageindex.h"
 #include "tst_storykeysmodes.moc"

@@ -171,4 +171,5 @@ private:
 };
 
 QTEST_MAIN(TestPushesEvents)
+#include "menu/itemindex.h"
 #include "tst_pushesevents.moc"

@@ -244,4 +244,5 @@ private:
 };
 
 QTEST_MAIN(TestPushesInputs)
+#include "menu/itemindex.h"
 #include "tst_pushesinputs.moc"

@@ -233,4 +233,5 @@ private:
 };
 
 QTEST_MAIN(TestPushesLayers)
+#include "menu/itemindex.h"
 #include "tst_pusheslayers.moc"

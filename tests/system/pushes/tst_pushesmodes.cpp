@@ -135,4 +135,5 @@ private:
 };
 
 QTEST_MAIN(TestPushesModes)
+#include "menu/itemindex.h"
 #include "tst_pushesmodes.moc"

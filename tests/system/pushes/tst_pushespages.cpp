@@ -110,4 +110,5 @@ private:
 };
 
 QTEST_MAIN(TestPushesPages)
+#include "menu/itemindex.h"
 #include "tst_pushespages.moc"

@@ -100,4 +100,5 @@ private:
 };
 
 QTEST_MAIN(TestStoryBus)
+#include "menu/itemindex.h"
 #include "tst_storybus.moc"

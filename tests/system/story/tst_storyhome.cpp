@@ -56,4 +56,5 @@ private slots:
 };
 
 QTEST_MAIN(TestStoryHome)
+#include "menu/itemindex.h"
 #include "tst_storyhome.moc"

@@ -159,4 +159,6 @@ private:
 };
 
 QTEST_MAIN(TestStoryLanguage)
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "tst_storylanguage.moc"

@@ -116,4 +116,5 @@ private:
 };
 
 QTEST_MAIN(TestStoryLink)
+#include "menu/itemindex.h"
 #include "tst_storylink.moc"

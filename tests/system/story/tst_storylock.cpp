@@ -87,4 +87,5 @@ private:
 };
 
 QTEST_MAIN(TestStoryLock)
+#include "menu/itemindex.h"
 #include "tst_storylock.moc"

@@ -211,4 +211,5 @@ private:
 };
 
 QTEST_MAIN(TestStoryPresets)
+#include "menu/itemindex.h"
 #include "tst_storypresets.moc"

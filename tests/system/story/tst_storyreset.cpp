@@ -146,4 +146,5 @@ private:
 };
 
 QTEST_MAIN(TestStoryReset)
+#include "menu/itemindex.h"
 #include "tst_storyreset.moc"

@@ -454,4 +454,6 @@ private:
 };
 
 QTEST_MAIN(TestStorySnapshot)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_storysnapshot.moc"

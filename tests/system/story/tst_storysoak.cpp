@@ -3,8 +3,8 @@
 // session.
 #include "testkit/consoleclient.h"
 #include "testkit/homescreen.h"
-#include "tests/system/mirrored.h"
 #include "testkit/panel.h"
+#include "tests/system/mirrored.h"
 #include "tests/system/soaksession.h"
 
 #include <QGuiApplication>

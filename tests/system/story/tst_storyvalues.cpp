@@ -152,4 +152,5 @@ private slots:
 };
 
 QTEST_MAIN(TestStoryValues)
+#include "menu/itemindex.h"
 #include "tst_storyvalues.moc"

@@ -162,4 +162,8 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestMenuTable)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tst_menutable.moc"

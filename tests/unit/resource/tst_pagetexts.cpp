@@ -3,8 +3,8 @@
 
 #include "tests/unit/widget/looks.h"
 #include "widget/dialog/dialog_msgbox.h"
-#include "widget/language.h"
 #include "widget/dialog/lock.h"
+#include "widget/language.h"
 #include "widget/row/stringcomboxtable.h"
 
 #include <QXmlStreamReader>
@@ -228,4 +228,8 @@ private:
 };
 
 QTEST_MAIN(TestPageTexts)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tst_pagetexts.moc"

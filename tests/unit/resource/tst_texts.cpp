@@ -210,4 +210,6 @@ private:
 };
 
 QTEST_MAIN(TestTexts)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_texts.moc"

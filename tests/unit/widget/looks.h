@@ -3,6 +3,10 @@
 // looked at on.
 #pragma once
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/elidinglabel.h"
 

@@ -4,13 +4,18 @@
 #pragma once
 
 #include "boardio.h"
+#include "framework/engine/paraprocess.h"
+#include "framework/object/transport.h"
+#include "framework/protocol/link/protocolinterface.h"
 #include "framework/store/menuanalysis.h"
 #include "framework/store/menushown.h"
-#include "framework/engine/paraprocess.h"
-#include "framework/protocol/link/protocolinterface.h"
-#include "framework/object/transport.h"
-#include "widget/page/directoryengineer.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "widget/home/mainwindow_k2860.h"
+#include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QApplication>

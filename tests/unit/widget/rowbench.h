@@ -3,8 +3,10 @@
 #pragma once
 
 #include "boardio.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QDir>
 #include <QLabel>

@@ -87,4 +87,5 @@ private:
 };
 
 QTEST_MAIN(TestDialogScene)
+#include "menu/keycodes.h"
 #include "tst_dialogscene.moc"

@@ -126,4 +126,7 @@ private:
 };
 
 QTEST_MAIN(TestIpAddressRow)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_ipaddressrow.moc"

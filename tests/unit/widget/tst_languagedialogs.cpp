@@ -139,4 +139,7 @@ private:
 };
 
 QTEST_MAIN(TestLanguageDialogs)
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_languagedialogs.moc"

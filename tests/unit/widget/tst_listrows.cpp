@@ -221,4 +221,7 @@ private:
 };
 
 QTEST_MAIN(TestListRows)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_listrows.moc"

@@ -2,8 +2,8 @@
 // blinks, and a take-over by a PC.
 
 #include "tests/unit/widget/pagerig.h"
-#include "widget/factory/dialog_factory.h"
 #include "widget/dialog/lock.h"
+#include "widget/factory/dialog_factory.h"
 
 #include <QElapsedTimer>
 #include <QLabel>
@@ -272,4 +272,7 @@ private:
 };
 
 QTEST_MAIN(TestMainWindow)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "tst_mainwindow.moc"

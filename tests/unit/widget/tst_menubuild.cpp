@@ -87,4 +87,9 @@ private:
 };
 
 QTEST_MAIN(TestMenuBuild)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tst_menubuild.moc"

@@ -284,4 +284,9 @@ private:
 };
 
 QTEST_MAIN(TestMenuKeys)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tst_menukeys.moc"

@@ -1,8 +1,8 @@
 // All messages of the table, shown as the engine shows them and answered through the keypad's way to the
 // active window: which keys answer what, which are not heard, the time of those that close by themselves.
 
-#include "framework/object/globaltimer.h"
 #include "framework/input/keydispatcher.h"
+#include "framework/object/globaltimer.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/dialog_msgbox.h"
 
@@ -254,4 +254,8 @@ private:
 };
 
 QTEST_MAIN(TestMessages)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_messages.moc"

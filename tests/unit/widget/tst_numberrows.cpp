@@ -190,4 +190,7 @@ private:
 };
 
 QTEST_MAIN(TestNumberRows)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_numberrows.moc"

@@ -76,4 +76,7 @@ private:
 };
 
 QTEST_MAIN(TestPageLeds)
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/objectindex.h"
 #include "tst_pageleds.moc"

@@ -193,4 +193,7 @@ private:
 };
 
 QTEST_MAIN(TestPartsRows)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_partsrows.moc"

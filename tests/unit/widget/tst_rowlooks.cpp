@@ -454,4 +454,8 @@ private:
 };
 
 QTEST_MAIN(TestRowLooks)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/pageindex.h"
 #include "tst_rowlooks.moc"

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 
 namespace VASK
 {

@@ -3,15 +3,18 @@
 // noted by their key and answered at once.
 #pragma once
 
-#include "tests/unit/framework/protocol/datarows.h"
 #include "boardio.h"
 #include "fpd_hostlink.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
-#include "framework/protocol/link/protocolinterface.h"
 #include "framework/object/transport.h"
-#include "widget/page/directoryengineer.h"
+#include "framework/protocol/link/protocolinterface.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/unit/framework/protocol/datarows.h"
 #include "widget/home/mainwindow_k2860.h"
+#include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QApplication>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
 
 namespace VASK
 {

@@ -156,4 +156,6 @@ void TestApplyAdvanced::reset()
 }
 
 QTEST_MAIN(TestApplyAdvanced)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_applyadvanced.moc"

@@ -250,4 +250,5 @@ void TestApplyCases::brandIsShown()
 }
 
 QTEST_MAIN(TestApplyCases)
+#include "menu/itemindex.h"
 #include "tst_applycases.moc"

@@ -164,4 +164,6 @@ void TestApplyConfiguration::lowLatencyEndsSync()
 }
 
 QTEST_MAIN(TestApplyConfiguration)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_applyconfiguration.moc"

@@ -259,4 +259,8 @@ void TestApplyDisplay::lowestLayer()
 }
 
 QTEST_MAIN(TestApplyDisplay)
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_applydisplay.moc"

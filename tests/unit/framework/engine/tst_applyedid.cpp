@@ -97,4 +97,7 @@ void TestApplyEdid::pagesTakeTurns()
 }
 
 QTEST_MAIN(TestApplyEdid)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_applyedid.moc"

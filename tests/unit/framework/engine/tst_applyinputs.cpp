@@ -268,4 +268,6 @@ void TestApplyInputs::inputUnderTest()
 }
 
 QTEST_MAIN(TestApplyInputs)
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
 #include "tst_applyinputs.moc"

@@ -271,4 +271,6 @@ void TestApplyLayers::layoutThatMovesNothing()
 }
 
 QTEST_MAIN(TestApplyLayers)
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
 #include "tst_applylayers.moc"

@@ -229,4 +229,7 @@ void TestApplyMosaic::backupReset()
 }
 
 QTEST_MAIN(TestApplyMosaic)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_applymosaic.moc"

@@ -133,4 +133,6 @@ void TestApplyOutput::stereoShowsThePipsOff()
 }
 
 QTEST_MAIN(TestApplyOutput)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_applyoutput.moc"

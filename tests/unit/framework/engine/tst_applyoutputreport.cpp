@@ -135,4 +135,5 @@ void TestApplyOutputReport::senderShowsItsOwnOutput()
 }
 
 QTEST_MAIN(TestApplyOutputReport)
+#include "menu/itemindex.h"
 #include "tst_applyoutputreport.moc"

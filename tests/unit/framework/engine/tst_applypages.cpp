@@ -194,4 +194,8 @@ void TestApplyPages::productionTestHasTheScreen()
 }
 
 QTEST_MAIN(TestApplyPages)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "tst_applypages.moc"

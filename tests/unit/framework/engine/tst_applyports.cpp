@@ -171,4 +171,5 @@ void TestApplyPorts::linkedPortPassesTheTest()
 }
 
 QTEST_MAIN(TestApplyPorts)
+#include "menu/itemindex.h"
 #include "tst_applyports.moc"

@@ -2,8 +2,8 @@
 // loading by number.
 
 #include "enginerig.h"
-#include "framework/object/globaltimer.h"
 #include "framework/input/keypadevent.h"
+#include "framework/object/globaltimer.h"
 #include "widget/dialog/dialog_scene.h"
 
 using namespace VASK;
@@ -240,4 +240,7 @@ void TestApplyPresets::timeTakesThePanelHomeFromTheTargets()
 }
 
 QTEST_MAIN(TestApplyPresets)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "tst_applypresets.moc"

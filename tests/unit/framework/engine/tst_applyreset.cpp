@@ -253,4 +253,7 @@ void TestApplyReset::clearAll()
 }
 
 QTEST_MAIN(TestApplyReset)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_applyreset.moc"

@@ -131,4 +131,5 @@ void TestApplySource::sendingCardShowsNoPip()
 }
 
 QTEST_MAIN(TestApplySource)
+#include "menu/itemindex.h"
 #include "tst_applysource.moc"

@@ -171,4 +171,5 @@ void TestApplySplicing::offOffersWhatFits()
 }
 
 QTEST_MAIN(TestApplySplicing)
+#include "menu/itemindex.h"
 #include "tst_applysplicing.moc"

@@ -262,4 +262,6 @@ void TestApplySystem::reportsFromAnotherThreadKeepTheirOrder()
 }
 
 QTEST_MAIN(TestApplySystem)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_applysystem.moc"

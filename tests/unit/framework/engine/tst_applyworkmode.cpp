@@ -240,4 +240,6 @@ void TestApplyWorkMode::makerSignComesBack()
 }
 
 QTEST_MAIN(TestApplyWorkMode)
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
 #include "tst_applyworkmode.moc"

@@ -164,4 +164,5 @@ void TestEngineStart::lowestLayerIsFound()
 }
 
 QTEST_MAIN(TestEngineStart)
+#include "menu/itemindex.h"
 #include "tst_enginestart.moc"

@@ -367,4 +367,6 @@ void TestLimits::outputFollowsSource()
 }
 
 QTEST_MAIN(TestLimits)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "tst_limits.moc"

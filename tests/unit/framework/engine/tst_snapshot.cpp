@@ -217,4 +217,5 @@ void TestSnapshot::deviceName()
 }
 
 QTEST_MAIN(TestSnapshot)
+#include "menu/itemindex.h"
 #include "tst_snapshot.moc"

@@ -198,4 +198,6 @@ private:
 };
 
 QTEST_MAIN(TestKeyEvent)
+#include "menu/keycodes.h"
+#include "menu/ledindex.h"
 #include "tst_keyevent.moc"

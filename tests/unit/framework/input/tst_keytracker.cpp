@@ -157,4 +157,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestKeyTracker)
+#include "menu/keycodes.h"
 #include "tst_keytracker.moc"

@@ -1,7 +1,6 @@
 // The LED commands as the driver gets them.
 
 #include "framework/input/panelleds.h"
-#include "menuindex.h"
 
 #include <QtTest>
 
@@ -195,4 +194,5 @@ private slots:
 };
 
 QTEST_GUILESS_MAIN(TestPanelLeds)
+#include "menu/ledindex.h"
 #include "tst_panelleds.moc"

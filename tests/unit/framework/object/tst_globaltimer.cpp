@@ -136,4 +136,7 @@ private:
 };
 
 QTEST_MAIN(TestGlobalTimer)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
 #include "tst_globaltimer.moc"

@@ -1,8 +1,8 @@
 // The registry, and how a row finds store and protocol through it.
 
-#include "framework/store/menuanalysis.h"
-#include "framework/protocol/link/protocolinterface.h"
 #include "framework/object/transport.h"
+#include "framework/protocol/link/protocolinterface.h"
+#include "framework/store/menuanalysis.h"
 
 #include <QPointer>
 #include <QtTest>
@@ -149,4 +149,7 @@ private slots:
 };
 
 QTEST_MAIN(TestObjectPool)
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "tst_objectpool.moc"

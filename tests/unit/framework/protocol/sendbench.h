@@ -3,12 +3,14 @@
 #pragma once
 
 #include "frames.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/link/proto3rdsend.h"
+#include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 
 #include <QtTest>
 

@@ -218,4 +218,5 @@ void TestApipc::arrivals(RecordingProtocol &protocol, FarEnd &device)
 }
 
 QTEST_MAIN(TestApipc)
+#include "menu/objectindex.h"
 #include "tst_apipc.moc"

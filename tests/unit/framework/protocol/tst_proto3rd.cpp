@@ -6,14 +6,14 @@
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
 #include "frames.h"
-#include "framework/store/menuanalysis.h"
 #include "framework/engine/paraprocess.h"
-#include "framework/protocol/packet/packagerequestreaddata3rd.h"
-#include "framework/protocol/packet/packagerequestwritedata.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
-#include "framework/protocol/snapshot/protomemory20m.h"
+#include "framework/protocol/packet/packagerequestreaddata3rd.h"
+#include "framework/protocol/packet/packagerequestwritedata.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
+#include "framework/protocol/snapshot/protomemory20m.h"
+#include "framework/store/menuanalysis.h"
 #include "platform/host/statefile.h"
 #include "widget/page/menudirectoty.h"
 
@@ -253,4 +253,6 @@ void TestProto3rd::snapshotObjectNeedsEngine()
 }
 
 QTEST_MAIN(TestProto3rd)
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "tst_proto3rd.moc"

@@ -347,4 +347,5 @@ void TestProto3rdSend::everyItemOfTheMenuThatIsSentHasARow()
 }
 
 QTEST_MAIN(TestProto3rdSend)
+#include "menu/menutypes.h"
 #include "tst_proto3rdsend.moc"

@@ -1,14 +1,14 @@
 // What the device reports becomes values of items, where no report to the running panel shows it; the tables
 // of the inputs, and the self test.
 
-#include "tests/unit/framework/engine/enginerig.h"
 #include "datarows.h"
 #include "frames.h"
 #include "framework/input/keypadevent.h"
-#include "framework/protocol/packet/packagerequestproto3rd.h"
-#include "framework/protocol/link/proto3rdreceiveparse.h"
-#include "framework/protocol/receive/reportdispatch.h"
 #include "framework/legacy/selfchecklist.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/packet/packagerequestproto3rd.h"
+#include "framework/protocol/receive/reportdispatch.h"
+#include "tests/unit/framework/engine/enginerig.h"
 #include "widget/factory/dialog_factory.h"
 
 #include <QtTest>
@@ -218,4 +218,6 @@ void TestReceive::selfTestTellsTheProductionTest()
 }
 
 QTEST_MAIN(TestReceive)
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
 #include "tst_receive.moc"

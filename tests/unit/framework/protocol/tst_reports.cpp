@@ -2,8 +2,8 @@
 
 #include "datarows.h"
 #include "frames.h"
-#include "framework/protocol/receive/packagehandler.h"
 #include "framework/protocol/link/requestlist.h"
+#include "framework/protocol/receive/packagehandler.h"
 
 #include <QElapsedTimer>
 #include <QSemaphore>

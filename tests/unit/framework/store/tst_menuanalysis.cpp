@@ -330,4 +330,6 @@ private:
 };
 
 QTEST_MAIN(TestMenuAnalysis)
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "tst_menuanalysis.moc"

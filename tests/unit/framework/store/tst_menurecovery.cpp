@@ -373,4 +373,6 @@ private:
 };
 
 QTEST_MAIN(TestMenuRecovery)
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "tst_menurecovery.moc"

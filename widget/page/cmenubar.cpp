@@ -1,4 +1,4 @@
-#include "widget/cmenubar.h"
+#include "widget/page/cmenubar.h"
 
 namespace VASK
 {
