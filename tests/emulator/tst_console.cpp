@@ -2,6 +2,7 @@
 // numbers out of any range.
 #include "emulator/window/window.h"
 #include "emulatorrig.h"
+#include "tests/testprogram.h"
 
 #include <sys/stat.h>
 
@@ -201,5 +202,5 @@ void TestConsole::requestsAreRefused()
     QVERIFY2(answer.startsWith("error ") && answer.contains(reason), answer);
 }
 
-QTEST_MAIN(TestConsole)
+FPD_TEST(TestConsole)
 #include "tst_console.moc"

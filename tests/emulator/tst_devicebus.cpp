@@ -5,6 +5,7 @@
 #include "emulator/device/keypad.h"
 #include "fpd_hostlink.h"
 #include "keypaddevice.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -311,5 +312,5 @@ void TestDeviceBus::ledCommands()
     QCOMPARE(keypad.ledText(), QString("1000000000000001"));
 }
 
-QTEST_GUILESS_MAIN(TestDeviceBus)
+FPD_TEST_GUILESS(TestDeviceBus)
 #include "tst_devicebus.moc"

@@ -3,6 +3,7 @@
 #include "emulator/model/output.h"
 #include "emulator/model/ports.h"
 #include "modelrig.h"
+#include "tests/testprogram.h"
 
 using inputs::Signal;
 
@@ -227,5 +228,5 @@ void TestDeviceInputs::portsTellWhatConcernsThem()
         QCOMPARE(ModelRig::hexOf(reports, idleAddress), idle);
 }
 
-QTEST_GUILESS_MAIN(TestDeviceInputs)
+FPD_TEST_GUILESS(TestDeviceInputs)
 #include "tst_deviceinputs.moc"

@@ -4,6 +4,7 @@
 #include "emulator/model/ports.h"
 #include "emulator/model/presets.h"
 #include "modelrig.h"
+#include "tests/testprogram.h"
 
 class TestDevicePresets : public QObject
 {
@@ -149,5 +150,5 @@ void TestDevicePresets::resetsSpareWhatTheyShould()
     QVERIFY(rig.write(0x01000002, "03").isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestDevicePresets)
+FPD_TEST_GUILESS(TestDevicePresets)
 #include "tst_devicepresets.moc"

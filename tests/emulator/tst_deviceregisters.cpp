@@ -1,5 +1,6 @@
 // Every kind of register that the panel writes: what the flash holds of it and what the device tells of it.
 #include "modelrig.h"
+#include "tests/testprogram.h"
 
 class TestDeviceRegisters : public QObject
 {
@@ -233,5 +234,5 @@ void TestDeviceRegisters::aReportFromOutsideIsHeld()
     QCOMPARE(rig.model.registers().read(0x020001F0, 8), before);
 }
 
-QTEST_GUILESS_MAIN(TestDeviceRegisters)
+FPD_TEST_GUILESS(TestDeviceRegisters)
 #include "tst_deviceregisters.moc"

@@ -2,6 +2,7 @@
 // tell.
 #include "emulator/bus/device.h"
 #include "panelend.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -143,5 +144,5 @@ void TestDeviceReports::stateOutlivesThePowerCut()
     QVERIFY(before.contains("  port 4: link on, backup on, engaged off"));
 }
 
-QTEST_GUILESS_MAIN(TestDeviceReports)
+FPD_TEST_GUILESS(TestDeviceReports)
 #include "tst_devicereports.moc"

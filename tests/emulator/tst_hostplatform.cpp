@@ -6,6 +6,7 @@
 #include "fpd_hostvalues.h"
 #include "netstatus.h"
 #include "sysconf.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -175,5 +176,5 @@ void TestHostPlatform::linkStateIsShared()
     QCOMPARE(get_eth1_status(), changes);
 }
 
-QTEST_APPLESS_MAIN(TestHostPlatform)
+FPD_TEST_APPLESS(TestHostPlatform)
 #include "tst_hostplatform.moc"

@@ -1,5 +1,6 @@
 // The finder of texts on the LCD must find what stands there and nothing else.
 #include "testkit/lcdtext.h"
+#include "tests/testprogram.h"
 
 #include <QLabel>
 #include <QTest>
@@ -55,5 +56,5 @@ void TestLcdText::fontsAreTheBoards()
     QVERIFY(QFontInfo(QFont(QString::fromUtf8("宋体"))).family().startsWith("WenQuanYi Zen Hei"));
 }
 
-QTEST_MAIN(TestLcdText)
+FPD_TEST(TestLcdText)
 #include "tst_lcdtext.moc"

@@ -1,6 +1,7 @@
 // The virtual LCD: what a window draws reaches the mapped file, and windows become active as on the board.
 #include "emulator/device/lcd.h"
 #include "fpd_hostlink.h"
+#include "tests/testprogram.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -11,16 +12,13 @@
 class TestPanelLcd : public QObject
 {
     Q_OBJECT
-public:
-    explicit TestPanelLcd(const QString &folder) : m_folder(folder) {}
-
 private slots:
     void drawingReachesTheFile();
     void onlyTheChangedPartIsDrawn();
     void pageBelowIsActiveAgain();
 
 private:
-    QString m_folder;
+    const QString m_folder = qEnvironmentVariable("FPD_STATE");
 };
 
 namespace
@@ -90,15 +88,13 @@ void TestPanelLcd::pageBelowIsActiveAgain()
     QTRY_COMPARE(lcd.picture().pixel(160, 120), qRgb(0, 0, 0));
 }
 
-int main(int argc, char *argv[])
+static void drawOnTheVirtualLcd()
 {
-    QTemporaryDir folder;
+    static const QTemporaryDir folder;
     qputenv("FPD_STATE", folder.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "panellcd");
     qputenv("QT_QPA_PLATFORM_PLUGIN_PATH", FPD_PLUGINS);
-    QApplication application(argc, argv);
-    TestPanelLcd test(folder.path());
-    return QTest::qExec(&test, argc, argv);
 }
 
+FPD_TEST_IN(TestPanelLcd, Gui, drawOnTheVirtualLcd)
 #include "tst_panellcd.moc"

@@ -3,6 +3,7 @@
 #include "emulator/device/replayer.h"
 #include "fulldisk.h"
 #include "panelend.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -221,5 +222,5 @@ void TestSession::nobodyAtTheKeypad()
     QCOMPARE(replayer.keysPlayed(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestSession)
+FPD_TEST_GUILESS(TestSession)
 #include "tst_session.moc"

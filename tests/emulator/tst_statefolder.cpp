@@ -4,6 +4,7 @@
 #include "emulator/host/statefolder.h"
 #include "fpd_hostlink.h"
 #include "fulldisk.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -144,5 +145,5 @@ void TestStateFolder::imagesTakeUpTheirRoom()
     }
 }
 
-QTEST_GUILESS_MAIN(TestStateFolder)
+FPD_TEST_GUILESS(TestStateFolder)
 #include "tst_statefolder.moc"

@@ -1,5 +1,6 @@
 // The device's reading of the wire format.
 #include "emulator/bus/wire.h"
+#include "tests/testprogram.h"
 
 #include <QTest>
 
@@ -93,5 +94,5 @@ void TestWire::damagedMessagesAreRefused()
     QVERIFY(!decodeMessage(whole + 'x'));
 }
 
-QTEST_APPLESS_MAIN(TestWire)
+FPD_TEST_APPLESS(TestWire)
 #include "tst_wire.moc"

@@ -1,6 +1,8 @@
 // The device by the words of its console, with the panel on its bus: what happens at the device is in its
 // state, the panel takes it over, and a session can be played again.
+#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QFile>
 
@@ -109,6 +111,6 @@ private:
     QStringList shown() { return m_panel.ask({"device", "show"}).lines; }
 };
 
-QTEST_MAIN(TestSystemDevice)
-#include "menu/itemindex.h"
+FPD_TEST(TestSystemDevice)
+
 #include "tst_systemdevice.moc"

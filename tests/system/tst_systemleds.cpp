@@ -1,5 +1,7 @@
 // The LEDs behind the keys, as the driver was told.
+#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QTime>
 
@@ -49,6 +51,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestSystemLeds)
-#include "menu/itemindex.h"
+FPD_TEST(TestSystemLeds)
+
 #include "tst_systemleds.moc"

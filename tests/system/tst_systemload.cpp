@@ -1,6 +1,8 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
+#include "menu/itemindex.h"
 #include "testkit/flood.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -149,6 +151,6 @@ private:
     }
 };
 
-QTEST_MAIN(TestSystemLoad)
-#include "menu/itemindex.h"
+FPD_TEST(TestSystemLoad)
+
 #include "tst_systemload.moc"

@@ -1,5 +1,6 @@
 // How the panel starts, with everything in place and with parts of the board missing.
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <unistd.h>
@@ -118,5 +119,5 @@ private:
     std::unique_ptr<Panel> m_fresh = std::make_unique<Panel>();
 };
 
-QTEST_MAIN(TestSystemStart)
+FPD_TEST(TestSystemStart)
 #include "tst_systemstart.moc"

@@ -1,6 +1,7 @@
 // The store's three files, damaged in every way that a power cut or a worn flash can think of: the next start
 // repairs them and keeps the values while one of them is whole.
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QFile>
 
@@ -104,5 +105,5 @@ private:
     QByteArray m_whole; ///< a file with a value of its own
 };
 
-QTEST_MAIN(TestSystemStore)
+FPD_TEST(TestSystemStore)
 #include "tst_systemstore.moc"

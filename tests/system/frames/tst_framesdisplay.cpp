@@ -1,6 +1,7 @@
 // What the rows of picture, test pattern, OSD and LED screen send when a user changes them with the keys.
 #include "menu/itemindex.h"
 #include "testkit/framedrive.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 using frames::path;
@@ -101,4 +102,4 @@ QVector<NamedFrames> TestFramesDisplay::table() const
     };
 }
 
-QTEST_MAIN(TestFramesDisplay)
+FPD_TEST(TestFramesDisplay)

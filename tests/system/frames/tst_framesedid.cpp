@@ -1,6 +1,9 @@
 // What the EDID of the inputs sends, and how its two pages take turns: the standard modes and a custom one.
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "testkit/framedrive.h"
 #include "testkit/lcdtext.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -100,7 +103,6 @@ void TestFramesEdid::pagesTakeTurns()
     QVERIFY(m_walk.home());
 }
 
-QTEST_MAIN(TestFramesEdid)
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestFramesEdid)
+
 #include "tst_framesedid.moc"

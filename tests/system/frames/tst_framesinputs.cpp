@@ -1,5 +1,7 @@
 // What the rows of the inputs send: picture, range, protection, sound.
+#include "menu/itemindex.h"
 #include "testkit/framedrive.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 
@@ -129,6 +131,6 @@ void TestFramesInputs::aFastTurnIsThinnedOut()
              QStringList{picture(hdmi1.number, 1, le(80, 1))});
 }
 
-QTEST_MAIN(TestFramesInputs)
-#include "menu/itemindex.h"
+FPD_TEST(TestFramesInputs)
+
 #include "tst_framesinputs.moc"

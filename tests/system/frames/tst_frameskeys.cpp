@@ -1,6 +1,7 @@
 // What the keys of layers, inputs, scaling and display modes send, from the home screen.
 #include "menu/itemindex.h"
 #include "tests/system/frames/layerframes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 using frames::path;
@@ -51,4 +52,4 @@ QVector<NamedFrames> TestFramesKeys::table() const
     };
 }
 
-QTEST_MAIN(TestFramesKeys)
+FPD_TEST(TestFramesKeys)

@@ -1,6 +1,7 @@
 // What the rows of the three layers and their crops send.
 #include "menu/itemindex.h"
 #include "tests/system/frames/layerframes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 using frames::twice;
@@ -157,4 +158,4 @@ QVector<NamedFrames> TestFramesLayers::table() const
     return lines;
 }
 
-QTEST_MAIN(TestFramesLayers)
+FPD_TEST(TestFramesLayers)

@@ -1,5 +1,7 @@
 // What the rows of output, synchronisation, backup and network send.
+#include "menu/itemindex.h"
 #include "testkit/framedrive.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 using frames::path;
@@ -106,6 +108,6 @@ void TestFramesOutput::aSendingCardHasAStartOfItsOwn()
              QString());
 }
 
-QTEST_MAIN(TestFramesOutput)
-#include "menu/itemindex.h"
+FPD_TEST(TestFramesOutput)
+
 #include "tst_framesoutput.moc"

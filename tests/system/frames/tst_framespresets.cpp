@@ -1,6 +1,7 @@
 // What the presets send: each action of their dialog, and the choice of a target for a copy.
 #include "menu/itemindex.h"
 #include "testkit/framedrive.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -35,4 +36,4 @@ QVector<NamedFrames> TestFramesPresets::table() const
     };
 }
 
-QTEST_MAIN(TestFramesPresets)
+FPD_TEST(TestFramesPresets)

@@ -1,6 +1,9 @@
 // What the resets send. One of them runs in a run of the panel, so each line has a run of its own.
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "testkit/framedrive.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QRegularExpression>
 
@@ -48,7 +51,6 @@ private:
     FrameDrive m_drive{m_panel, m_walk};
 };
 
-QTEST_MAIN(TestFramesResets)
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestFramesResets)
+
 #include "tst_framesresets.moc"

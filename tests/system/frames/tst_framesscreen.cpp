@@ -1,6 +1,9 @@
 // What the rows of the quick and the advanced screen configuration and of low latency send, and which of the
 // two pages asks before it opens.
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "testkit/framedrive.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 using frames::path;
@@ -127,7 +130,6 @@ void TestFramesScreen::theOtherFormAsks()
     opensPage(MENU_AdvancedCfg, true);
 }
 
-QTEST_MAIN(TestFramesScreen)
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestFramesScreen)
+
 #include "tst_framesscreen.moc"

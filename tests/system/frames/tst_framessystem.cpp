@@ -2,6 +2,7 @@
 // board than the page has rows, saving, self test.
 #include "menu/itemindex.h"
 #include "testkit/framedrive.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QFile>
@@ -56,4 +57,4 @@ QVector<NamedFrames> TestFramesSystem::table() const
     return lines;
 }
 
-QTEST_MAIN(TestFramesSystem)
+FPD_TEST(TestFramesSystem)

@@ -1,5 +1,6 @@
 // Each dedicated key, pressed at home and on pages, of a video controller and of a sending card.
 #include "tests/system/keys/keystory.h"
+#include "tests/testprogram.h"
 
 #include <QTest>
 
@@ -9,4 +10,4 @@ public:
     TestStoryKeys() : KeyStory(keytable::Press::Tap, 8) {}
 };
 
-QTEST_MAIN(TestStoryKeys)
+FPD_TEST(TestStoryKeys)

@@ -1,5 +1,6 @@
 // Each dedicated key, held at home and on pages, of a video controller and of a sending card.
 #include "tests/system/keys/keystory.h"
+#include "tests/testprogram.h"
 
 #include <QTest>
 
@@ -9,4 +10,4 @@ public:
     TestStoryKeysHeld() : KeyStory(keytable::Press::Hold, 6) {}
 };
 
-QTEST_MAIN(TestStoryKeysHeld)
+FPD_TEST(TestStoryKeysHeld)

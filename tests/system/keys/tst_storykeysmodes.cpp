@@ -1,7 +1,11 @@
 // The dedicated keys while the device changes its work mode under the panel, and in a panel that has started
 // as a fiber converter: it shows nothing and takes no key until the device calls it back.
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/pageindex.h"
 #include "tests/system/keys/keycheck.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 using namespace keytable;
@@ -142,8 +146,6 @@ private:
     KeyCheck m_check{m_panel, m_walk};
 };
 
-QTEST_MAIN(TestStoryKeysModes)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestStoryKeysModes)
+
 #include "tst_storykeysmodes.moc"

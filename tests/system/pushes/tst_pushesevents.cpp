@@ -1,7 +1,9 @@
 // What the device reports as events: its services' start, a name, cabinet files, calibration, an output that
 // a PC has chosen, a self test; and what is no report, in the running panel.
+#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -170,6 +172,6 @@ private:
     QImage screenBelowTheAddress() const { return m_panel.screen().copy(0, 28, 320, 212); }
 };
 
-QTEST_MAIN(TestPushesEvents)
-#include "menu/itemindex.h"
+FPD_TEST(TestPushesEvents)
+
 #include "tst_pushesevents.moc"

@@ -1,6 +1,8 @@
 // What the device reports of its inputs and ports, as the home screen of the running panel shows it.
+#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -243,6 +245,6 @@ private:
     }
 };
 
-QTEST_MAIN(TestPushesInputs)
-#include "menu/itemindex.h"
+FPD_TEST(TestPushesInputs)
+
 #include "tst_pushesinputs.moc"

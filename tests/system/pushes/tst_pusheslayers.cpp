@@ -1,7 +1,9 @@
 // What the device reports of the layers: their windows, crops, the spliced picture and the input mosaic, in
 // the running panel.
+#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -232,6 +234,6 @@ private:
     QString noSignal() const { return m_walk.text("No Signal"); }
 };
 
-QTEST_MAIN(TestPushesLayers)
-#include "menu/itemindex.h"
+FPD_TEST(TestPushesLayers)
+
 #include "tst_pusheslayers.moc"

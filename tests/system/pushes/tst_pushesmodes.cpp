@@ -1,6 +1,8 @@
 // The device changes its work mode and is reset, as the running panel follows it.
+#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -134,6 +136,6 @@ private:
     bool comeUp() { return m_panel.ask({"reports", "on"}).ok && m_panel.start() && m_pushes.begin(); }
 };
 
-QTEST_MAIN(TestPushesModes)
-#include "menu/itemindex.h"
+FPD_TEST(TestPushesModes)
+
 #include "tst_pushesmodes.moc"

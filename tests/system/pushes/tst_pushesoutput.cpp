@@ -2,6 +2,7 @@
 // panel.
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 class TestPushesOutput : public PushesTest
 {
@@ -163,5 +164,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestPushesOutput)
+FPD_TEST(TestPushesOutput)
 #include "tst_pushesoutput.moc"

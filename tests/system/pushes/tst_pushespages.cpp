@@ -1,6 +1,8 @@
 // An open page follows what the device reports, and a message comes and goes with it.
+#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -109,6 +111,6 @@ private:
     QString messageStart(const char *key) const { return m_walk.text(key).section(QChar(0xff0c), 0, 0); }
 };
 
-QTEST_MAIN(TestPushesPages)
-#include "menu/itemindex.h"
+FPD_TEST(TestPushesPages)
+
 #include "tst_pushespages.moc"

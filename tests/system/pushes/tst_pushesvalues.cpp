@@ -1,5 +1,6 @@
 // What the device reports of pictures, sound, on-screen display, wall and network, in the running panel.
 #include "tests/system/pushes/pushes.h"
+#include "tests/testprogram.h"
 
 class TestPushesValues : public PushesTest
 {
@@ -119,5 +120,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPushesValues)
+FPD_TEST(TestPushesValues)
 #include "tst_pushesvalues.moc"

@@ -1,5 +1,7 @@
 // The bus misbehaves: a packet that cannot be sent is lost alone, the order stays, and the panel goes on.
+#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 
@@ -99,6 +101,6 @@ private:
     bool touch(ENUM_MenuIndex row) { return m_walk.enter(row) && m_walk.press(keys::Ok); }
 };
 
-QTEST_MAIN(TestStoryBus)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryBus)
+
 #include "tst_storybus.moc"

@@ -1,5 +1,7 @@
 // The time after which a panel that nobody touches goes home, and what it spares.
+#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 
@@ -55,6 +57,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestStoryHome)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryHome)
+
 #include "tst_storyhome.moc"

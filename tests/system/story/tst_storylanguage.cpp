@@ -1,8 +1,11 @@
 // The language of the panel as its user changes it: OK held at home, a choice with the knob, and every page
 // speaks it at once, after a restart too.
+#include "menu/itemindex.h"
+#include "menu/pageindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/menutour.h"
 #include "tests/system/systemtest.h"
-#include "tools/menutour.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -158,7 +161,6 @@ private:
     }
 };
 
-QTEST_MAIN(TestStoryLanguage)
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestStoryLanguage)
+
 #include "tst_storylanguage.moc"

@@ -1,6 +1,8 @@
 // The cables of the panel: the picture of the connection for every state of the links, the way home, and the
 // session of a PC with its heartbeat.
+#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 
@@ -115,6 +117,6 @@ private:
     QMap<QString, QImage> m_pictures; ///< by what they stand for
 };
 
-QTEST_MAIN(TestStoryLink)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryLink)
+
 #include "tst_storylink.moc"

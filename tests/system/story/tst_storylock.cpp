@@ -1,5 +1,7 @@
 // The lock of the panel's keys: the chord, the lock window, and what survives a restart.
+#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 
@@ -86,6 +88,6 @@ private:
     bool showsWindow() { return m_panel.shows(m_walk.text("Locked"), lockWindow); }
 };
 
-QTEST_MAIN(TestStoryLock)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryLock)
+
 #include "tst_storylock.moc"

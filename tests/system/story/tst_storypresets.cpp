@@ -1,7 +1,9 @@
 // A user keeps what is on the wall: saves, loads, copies and clears presets, as the LCD, the store and the
 // device have it, after a restart too; and a PC takes over in the middle of it.
+#include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -210,6 +212,6 @@ private:
     QStringList device() { return m_panel.ask({"preset", "list"}).lines; }
 };
 
-QTEST_MAIN(TestStoryPresets)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryPresets)
+
 #include "tst_storypresets.moc"

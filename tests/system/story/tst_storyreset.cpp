@@ -1,7 +1,9 @@
 // A user resets the panel: what survives, what comes back from the factory copy, and what the three messages
 // say by the answers of the board's tools. Each reset has a run of its own, since its last message stays.
+#include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QRegularExpression>
 
@@ -145,6 +147,6 @@ private:
     }
 };
 
-QTEST_MAIN(TestStoryReset)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryReset)
+
 #include "tst_storyreset.moc"

@@ -1,7 +1,10 @@
 // What the device's parameter flash holds is what the panel shows after a start: every field of the memory
 // map, in three images of the flash that differ in all of them.
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -453,7 +456,6 @@ private:
     }
 };
 
-QTEST_MAIN(TestStorySnapshot)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestStorySnapshot)
+
 #include "tst_storysnapshot.moc"

@@ -6,6 +6,7 @@
 #include "testkit/panel.h"
 #include "tests/system/mirrored.h"
 #include "tests/system/soaksession.h"
+#include "tests/testprogram.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
@@ -150,15 +151,13 @@ void TestStorySoak::storeEqualsDevice()
     QCOMPARE(m_panel.damage(), QString());
 }
 
-int main(int argc, char **argv)
+/// The test library's own patience of five minutes would end a long session.
+static void beInNoHurry()
 {
-    // The test library's own patience of five minutes would end a long session.
     constexpr int msPerSecond = 1000, forTheRest = 300;
     qputenv("QTEST_FUNCTION_TIMEOUT",
             QByteArray::number((setting("FPD_SOAK_SECONDS", 0) * 2 + forTheRest) * msPerSecond));
-    QGuiApplication application(argc, argv);
-    TestStorySoak test;
-    return QTest::qExec(&test, argc, argv);
 }
 
+FPD_TEST_IN(TestStorySoak, Gui, beInNoHurry)
 #include "tst_storysoak.moc"

@@ -1,7 +1,9 @@
 // A user changes a value of every kind with the knob, and finds it on the screen, on the bus and in the
 // store.
+#include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 
@@ -151,6 +153,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestStoryValues)
-#include "menu/itemindex.h"
+FPD_TEST(TestStoryValues)
+
 #include "tst_storyvalues.moc"

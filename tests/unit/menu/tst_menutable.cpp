@@ -1,6 +1,11 @@
 // The menu as data: what the builder, the store and the rows rely on.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
+#include "tests/testprogram.h"
 
 #include <QSet>
 #include <QtTest>
@@ -161,9 +166,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMenuTable)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
+FPD_TEST_GUILESS(TestMenuTable)
+
 #include "tst_menutable.moc"

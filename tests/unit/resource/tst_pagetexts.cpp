@@ -1,6 +1,11 @@
 // The pages and messages as they come up in both languages: after a switch of the language nothing is left of
 // the other one, and no text is cut off. Each is kept as a picture under the build folder to look at.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/looks.h"
 #include "widget/dialog/dialog_msgbox.h"
 #include "widget/dialog/lock.h"
@@ -227,9 +232,6 @@ private:
     std::unique_ptr<LookRig> m_rig;
 };
 
-QTEST_MAIN(TestPageTexts)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestPageTexts)
+
 #include "tst_pagetexts.moc"

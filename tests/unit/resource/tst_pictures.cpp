@@ -2,6 +2,7 @@
 // the size of the label that shows it, and what must be told apart differs.
 
 #include "menuconfig_k2860.h"
+#include "tests/testprogram.h"
 #include "widget/home/mainwindowui.h"
 
 #include <QDirIterator>
@@ -240,5 +241,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPictures)
+FPD_TEST(TestPictures)
 #include "tst_pictures.moc"

@@ -1,6 +1,9 @@
 // All texts of the screen: none is missing in a language and none is left over.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "menuconfig_k2860.h"
+#include "tests/testprogram.h"
 
 #include <QDirIterator>
 #include <QTranslator>
@@ -101,7 +104,7 @@ QSet<QString> keysOfTables()
 QString sources()
 {
     QString text;
-    const QString top = qEnvironmentVariable("FPD_SOURCE");
+    const QString top = qEnvironmentVariable("FPD_SOURCES");
     for (const char *folder : {"/widget", "/framework"}) {
         QDirIterator files(top + folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
@@ -147,7 +150,7 @@ class TestTexts : public QObject
 private slots:
     void initTestCase()
     {
-        QVERIFY2(!sources().isEmpty(), "no sources in FPD_SOURCE");
+        QVERIFY2(!sources().isEmpty(), "no sources in FPD_SOURCES");
         QVERIFY(keysOfSources().contains("No Signal"));
     }
 
@@ -209,7 +212,6 @@ private:
     }
 };
 
-QTEST_MAIN(TestTexts)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestTexts)
+
 #include "tst_texts.moc"

@@ -1,6 +1,8 @@
 // The preset dialog under the keypad's keys: where the knob goes, and what can be chosen.
 
 #include "framework/input/keypadevent.h"
+#include "menu/keycodes.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/dialog_scene.h"
 
@@ -86,6 +88,6 @@ private:
     std::unique_ptr<PageRig> m_rig;
 };
 
-QTEST_MAIN(TestDialogScene)
-#include "menu/keycodes.h"
+FPD_TEST(TestDialogScene)
+
 #include "tst_dialogscene.moc"

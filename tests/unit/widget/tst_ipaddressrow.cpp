@@ -1,6 +1,10 @@
 // The address row: number by number, the limits of each, the repair of an address, OK and ESC.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "rowbench.h"
+#include "tests/testprogram.h"
 #include "widget/row/typeipadjust.h"
 
 #include <QLabel>
@@ -125,8 +129,6 @@ private:
     std::unique_ptr<RowBench> m_bench;
 };
 
-QTEST_MAIN(TestIpAddressRow)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestIpAddressRow)
+
 #include "tst_ipaddressrow.moc"

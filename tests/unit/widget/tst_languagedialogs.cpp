@@ -1,6 +1,10 @@
 // The choice of the language: what its keys do, when the home screen asks for it, and what follows an answer.
 
 #include "framework/input/keypadevent.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/dialog_languageselect.h"
 #include "widget/dialog/dialog_msgbox.h"
@@ -138,8 +142,6 @@ private:
     std::unique_ptr<PageRig> m_rig;
 };
 
-QTEST_MAIN(TestLanguageDialogs)
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestLanguageDialogs)
+
 #include "tst_languagedialogs.moc"

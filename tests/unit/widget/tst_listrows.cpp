@@ -1,6 +1,10 @@
 // Lists: the way through the drop-down, disabled options, reversed lists, preview, ESC and stray values.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "rowbench.h"
+#include "tests/testprogram.h"
 #include "widget/row/typeicocombox.h"
 #include "widget/row/typemosaic.h"
 #include "widget/row/typestringcombox.h"
@@ -220,8 +224,6 @@ private:
     std::unique_ptr<RowBench> m_bench;
 };
 
-QTEST_MAIN(TestListRows)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestListRows)
+
 #include "tst_listrows.moc"

@@ -1,6 +1,10 @@
 // The home screen: what its setters and slots show, the lock and its time, what comes up by itself, what
 // blinks, and a take-over by a PC.
 
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/lock.h"
 #include "widget/factory/dialog_factory.h"
@@ -271,8 +275,6 @@ private:
     std::unique_ptr<PageRig> m_rig;
 };
 
-QTEST_MAIN(TestMainWindow)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestMainWindow)
+
 #include "tst_mainwindow.moc"

@@ -1,5 +1,11 @@
 // The pages as the builder makes them of the menu table, with their real rows.
 
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 
 #include <QTableWidget>
@@ -86,10 +92,6 @@ private:
     std::unique_ptr<PageRig> m_rig;
 };
 
-QTEST_MAIN(TestMenuBuild)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestMenuBuild)
+
 #include "tst_menubuild.moc"

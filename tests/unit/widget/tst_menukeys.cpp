@@ -1,6 +1,12 @@
 // The cursor of a page, and the keys on its rows and from the home screen, as far as no test of the whole
 // panel presses them.
 
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 
 using namespace VASK;
@@ -283,10 +289,6 @@ private:
     std::unique_ptr<PageRig> m_rig;
 };
 
-QTEST_MAIN(TestMenuKeys)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestMenuKeys)
+
 #include "tst_menukeys.moc"

@@ -3,6 +3,11 @@
 
 #include "framework/input/keydispatcher.h"
 #include "framework/object/globaltimer.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/dialog_msgbox.h"
 
@@ -253,9 +258,6 @@ private:
     QVector<Timed> m_timed;
 };
 
-QTEST_MAIN(TestMessages)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestMessages)
+
 #include "tst_messages.moc"

@@ -1,6 +1,10 @@
 // Numbers under the knob: steps, limits, decimals, and what ESC and a report do to them.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "rowbench.h"
+#include "tests/testprogram.h"
 #include "widget/row/typefloatadjust.h"
 #include "widget/row/typeintadjust.h"
 
@@ -189,8 +193,6 @@ private:
     std::unique_ptr<RowBench> m_bench;
 };
 
-QTEST_MAIN(TestNumberRows)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestNumberRows)
+
 #include "tst_numberrows.moc"

@@ -1,6 +1,10 @@
 // The LEDs of the layer and input keys, as the keypad's driver is told: which are lit, dark or blink.
 
 #include "framework/input/keyevent.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/framework/engine/ledpanel.h"
 #include "tests/unit/widget/pagerig.h"
 
@@ -75,8 +79,6 @@ private:
     std::unique_ptr<LedPanel> m_leds;
 };
 
-QTEST_MAIN(TestPageLeds)
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestPageLeds)
+
 #include "tst_pageleds.moc"

@@ -1,7 +1,11 @@
 // Rows with parts: how the cursor comes in, walks and leaves, and what OK acts on; and the rows that only
 // act.
 
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "rowbench.h"
+#include "tests/testprogram.h"
 #include "widget/row/typeapply.h"
 #include "widget/row/typeapplyreset.h"
 #include "widget/row/typebutton.h"
@@ -192,8 +196,6 @@ private:
     std::unique_ptr<RowBench> m_bench;
 };
 
-QTEST_MAIN(TestPartsRows)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestPartsRows)
+
 #include "tst_partsrows.moc"

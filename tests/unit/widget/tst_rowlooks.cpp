@@ -2,7 +2,12 @@
 // with each option of its list, with its list open, and disabled: nothing is cut off or overlaps, the cursor
 // is seen, all texts of a kind stand on one line. FPD_LOOKS=folder saves contact sheets of them to look at.
 
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/menutypes.h"
+#include "menu/pageindex.h"
 #include "testkit/contactsheet.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/looks.h"
 #include "widget/row/icocomboxtable.h"
 #include "widget/row/rowkinds.h"
@@ -453,9 +458,6 @@ private:
     QImage m_picture;
 };
 
-QTEST_MAIN(TestRowLooks)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestRowLooks)
+
 #include "tst_rowlooks.moc"

@@ -1,6 +1,9 @@
 // The advanced screen configuration: the page with the record of one port, and the records of all.
 
 #include "caseline.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -155,7 +158,6 @@ void TestApplyAdvanced::reset()
         QCOMPARE(m_rig->value(ENUM_MenuIndex(item)), QString("11000").mid((item - 3151) % 5, 1));
 }
 
-QTEST_MAIN(TestApplyAdvanced)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestApplyAdvanced)
+
 #include "tst_applyadvanced.moc"

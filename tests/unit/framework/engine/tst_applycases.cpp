@@ -2,6 +2,8 @@
 // protocol, what the row is told, what is asked, what follows and what can be chosen then.
 
 #include "caseline.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -249,6 +251,6 @@ void TestApplyCases::brandIsShown()
     QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
 }
 
-QTEST_MAIN(TestApplyCases)
-#include "menu/itemindex.h"
+FPD_TEST(TestApplyCases)
+
 #include "tst_applycases.moc"

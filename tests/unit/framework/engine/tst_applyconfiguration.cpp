@@ -2,6 +2,9 @@
 // every screen allows.
 
 #include "caseline.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -163,7 +166,6 @@ void TestApplyConfiguration::lowLatencyEndsSync()
                              after});
 }
 
-QTEST_MAIN(TestApplyConfiguration)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestApplyConfiguration)
+
 #include "tst_applyconfiguration.moc"

@@ -3,6 +3,11 @@
 #include "enginerig.h"
 #include "framework/input/keyevent.h"
 #include "ledpanel.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -258,9 +263,6 @@ void TestApplyDisplay::lowestLayer()
     QTEST(m_leds->lit(LED_SCALE), "lit");
 }
 
-QTEST_MAIN(TestApplyDisplay)
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestApplyDisplay)
+
 #include "tst_applydisplay.moc"

@@ -2,6 +2,10 @@
 // applied.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -96,8 +100,6 @@ void TestApplyEdid::pagesTakeTurns()
     last->hide();
 }
 
-QTEST_MAIN(TestApplyEdid)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestApplyEdid)
+
 #include "tst_applyedid.moc"

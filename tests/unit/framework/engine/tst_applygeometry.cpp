@@ -3,6 +3,7 @@
 
 #include "caseline.h"
 #include "layerrig.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -125,5 +126,5 @@ void TestApplyGeometry::valueIsApplied()
     runCaseLine(*m_rig, allLines().at(row));
 }
 
-QTEST_MAIN(TestApplyGeometry)
+FPD_TEST(TestApplyGeometry)
 #include "tst_applygeometry.moc"

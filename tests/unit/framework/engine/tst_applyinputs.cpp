@@ -4,6 +4,9 @@
 #include "enginerig.h"
 #include "framework/input/keyevent.h"
 #include "ledpanel.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "tests/testprogram.h"
 #include "widget/factory/dialog_factory.h"
 
 using namespace VASK;
@@ -267,7 +270,6 @@ void TestApplyInputs::inputUnderTest()
     QCOMPARE(told.size(), 2);
 }
 
-QTEST_MAIN(TestApplyInputs)
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
+FPD_TEST(TestApplyInputs)
+
 #include "tst_applyinputs.moc"

@@ -3,6 +3,9 @@
 #include "framework/input/keyevent.h"
 #include "layerrig.h"
 #include "ledpanel.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -270,7 +273,6 @@ void TestApplyLayers::layoutThatMovesNothing()
     QCOMPARE(m_rig->geometry(0), before);
 }
 
-QTEST_MAIN(TestApplyLayers)
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
+FPD_TEST(TestApplyLayers)
+
 #include "tst_applylayers.moc"

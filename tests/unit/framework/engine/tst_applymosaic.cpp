@@ -1,6 +1,10 @@
 // The mosaic of two inputs and the backup of inputs, as the user and as the device bring their values.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -228,8 +232,6 @@ void TestApplyMosaic::backupReset()
     QCOMPARE(values.join(' '), QString("0 0 1 1"));
 }
 
-QTEST_MAIN(TestApplyMosaic)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestApplyMosaic)
+
 #include "tst_applymosaic.moc"

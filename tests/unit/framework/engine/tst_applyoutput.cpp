@@ -2,6 +2,9 @@
 // screen.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -132,7 +135,6 @@ void TestApplyOutput::stereoShowsThePipsOff()
     QVERIFY(!off->isHidden());
 }
 
-QTEST_MAIN(TestApplyOutput)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestApplyOutput)
+
 #include "tst_applyoutput.moc"

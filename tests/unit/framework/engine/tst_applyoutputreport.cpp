@@ -1,6 +1,8 @@
 // What follows when the device tells the size of its output.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -134,6 +136,6 @@ void TestApplyOutputReport::senderShowsItsOwnOutput()
     QCOMPARE(m_rig->value(PARA_OutputHeight), QString("0"));
 }
 
-QTEST_MAIN(TestApplyOutputReport)
-#include "menu/itemindex.h"
+FPD_TEST(TestApplyOutputReport)
+
 #include "tst_applyoutputreport.moc"

@@ -3,6 +3,11 @@
 
 #include "enginerig.h"
 #include "framework/input/keypadevent.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
+#include "menu/pageindex.h"
+#include "tests/testprogram.h"
 #include "widget/factory/dialog_factory.h"
 
 #include <QSignalSpy>
@@ -193,9 +198,6 @@ void TestApplyPages::productionTestHasTheScreen()
     QCOMPARE(m_rig->device->sent.take(), QStringList{"1002="});
 }
 
-QTEST_MAIN(TestApplyPages)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
+FPD_TEST(TestApplyPages)
+
 #include "tst_applypages.moc"

@@ -1,6 +1,8 @@
 // The Ethernet ports on the home screen, with their backup and the optical links, as the device reports them.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 #include "widget/factory/dialog_factory.h"
 
 using namespace VASK;
@@ -170,6 +172,6 @@ void TestApplyPorts::linkedPortPassesTheTest()
     QTEST(passed, "passed");
 }
 
-QTEST_MAIN(TestApplyPorts)
-#include "menu/itemindex.h"
+FPD_TEST(TestApplyPorts)
+
 #include "tst_applyports.moc"

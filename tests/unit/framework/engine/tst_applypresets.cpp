@@ -4,6 +4,10 @@
 #include "enginerig.h"
 #include "framework/input/keypadevent.h"
 #include "framework/object/globaltimer.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 #include "widget/dialog/dialog_scene.h"
 
 using namespace VASK;
@@ -239,8 +243,6 @@ void TestApplyPresets::timeTakesThePanelHomeFromTheTargets()
     QVERIFY(m_rig->enabled(itemOf(2)));
 }
 
-QTEST_MAIN(TestApplyPresets)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestApplyPresets)
+
 #include "tst_applypresets.moc"

@@ -1,7 +1,11 @@
 // The four resets: what survives, what comes back, what the user is told, and once in a run of the program.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
 #include "netstatus.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -252,8 +256,6 @@ void TestApplyReset::clearAll()
     QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
 }
 
-QTEST_MAIN(TestApplyReset)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestApplyReset)
+
 #include "tst_applyreset.moc"

@@ -1,6 +1,8 @@
 // What a layer shows: its source, and what follows from the signal of the source.
 
 #include "layerrig.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -130,6 +132,6 @@ void TestApplySource::sendingCardShowsNoPip()
     QCOMPARE(m_rig->layerSignal(2), QString("1280x720@50"));
 }
 
-QTEST_MAIN(TestApplySource)
-#include "menu/itemindex.h"
+FPD_TEST(TestApplySource)
+
 #include "tst_applysource.moc"

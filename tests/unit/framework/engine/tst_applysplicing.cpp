@@ -2,6 +2,8 @@
 
 #include "caseline.h"
 #include "layerrig.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -170,6 +172,6 @@ void TestApplySplicing::offOffersWhatFits()
     QVERIFY(m_rig->rowEnabled(MENU_PIP1_ScalingMode, 1));
 }
 
-QTEST_MAIN(TestApplySplicing)
-#include "menu/itemindex.h"
+FPD_TEST(TestApplySplicing)
+
 #include "tst_applysplicing.moc"

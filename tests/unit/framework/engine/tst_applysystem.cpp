@@ -2,7 +2,10 @@
 
 #include "enginerig.h"
 #include "framework/engine/parachange.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
 #include "netstatus.h"
+#include "tests/testprogram.h"
 
 #include <QThread>
 #include <QTranslator>
@@ -261,7 +264,6 @@ void TestApplySystem::reportsFromAnotherThreadKeepTheirOrder()
     QCOMPARE(brightness.mid(97, 3), (QStringList{"98", "99", "0"}));
 }
 
-QTEST_MAIN(TestApplySystem)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestApplySystem)
+
 #include "tst_applysystem.moc"

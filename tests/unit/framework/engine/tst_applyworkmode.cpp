@@ -4,6 +4,9 @@
 #include "caseline.h"
 #include "framework/input/keyevent.h"
 #include "ledpanel.h"
+#include "menu/itemindex.h"
+#include "menu/ledindex.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -239,7 +242,6 @@ void TestApplyWorkMode::makerSignComesBack()
     }
 }
 
-QTEST_MAIN(TestApplyWorkMode)
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
+FPD_TEST(TestApplyWorkMode)
+
 #include "tst_applyworkmode.moc"

@@ -2,6 +2,8 @@
 // kept is taken over; and the parts of the home screen that no other test looks at.
 
 #include "caseline.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 
 #include <QSignalSpy>
 
@@ -163,6 +165,6 @@ void TestEngineStart::lowestLayerIsFound()
     QCOMPARE(m_rig->value(PARA_LowestLayer), QString("1"));
 }
 
-QTEST_MAIN(TestEngineStart)
-#include "menu/itemindex.h"
+FPD_TEST(TestEngineStart)
+
 #include "tst_enginestart.moc"

@@ -2,6 +2,9 @@
 // the rates that can be chosen, and the rate that an output takes.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -366,7 +369,6 @@ void TestLimits::outputFollowsSource()
     }
 }
 
-QTEST_MAIN(TestLimits)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
+FPD_TEST(TestLimits)
+
 #include "tst_limits.moc"

@@ -2,6 +2,8 @@
 // the home screen makes of it.
 
 #include "enginerig.h"
+#include "menu/itemindex.h"
+#include "tests/testprogram.h"
 
 #include <QTextCodec>
 
@@ -216,6 +218,6 @@ void TestSnapshot::deviceName()
     QTEST(MainWindow::m_strDeviceRename, "shown");
 }
 
-QTEST_MAIN(TestSnapshot)
-#include "menu/itemindex.h"
+FPD_TEST(TestSnapshot)
+
 #include "tst_snapshot.moc"

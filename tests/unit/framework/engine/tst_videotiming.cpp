@@ -3,6 +3,7 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/limits/videotiming.h"
+#include "tests/testprogram.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -200,5 +201,5 @@ void TestVideoTiming::snapsRates()
         QVERIFY2(FrameRateAdj(uint16_t(rate)) == snapped[rate], QByteArray::number(rate));
 }
 
-QTEST_MAIN(TestVideoTiming)
+FPD_TEST(TestVideoTiming)
 #include "tst_videotiming.moc"

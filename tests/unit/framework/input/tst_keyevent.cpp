@@ -5,6 +5,9 @@
 #include "fpd_hostsocket.h"
 #include "framework/input/keyevent.h"
 #include "framework/input/keypadevent.h"
+#include "menu/keycodes.h"
+#include "menu/ledindex.h"
+#include "tests/testprogram.h"
 
 #include <QApplication>
 #include <QDir>
@@ -197,7 +200,6 @@ private:
     KeyWindow m_window;
 };
 
-QTEST_MAIN(TestKeyEvent)
-#include "menu/keycodes.h"
-#include "menu/ledindex.h"
+FPD_TEST(TestKeyEvent)
+
 #include "tst_keyevent.moc"

@@ -1,6 +1,8 @@
 // What a stream of key words means, on a clock that the test turns.
 
 #include "framework/input/keytracker.h"
+#include "menu/keycodes.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 #include <atomic>
@@ -156,6 +158,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestKeyTracker)
-#include "menu/keycodes.h"
+FPD_TEST_GUILESS(TestKeyTracker)
+
 #include "tst_keytracker.moc"

@@ -1,6 +1,8 @@
 // The LED commands as the driver gets them.
 
 #include "framework/input/panelleds.h"
+#include "menu/ledindex.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 
@@ -193,6 +195,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPanelLeds)
-#include "menu/ledindex.h"
+FPD_TEST_GUILESS(TestPanelLeds)
+
 #include "tst_panelleds.moc"

@@ -1,6 +1,10 @@
 // The way home when no key comes: from where the panel goes home, what it ends on the way, and when it stays.
 
 #include "framework/object/globaltimer.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/factory/dialog_factory.h"
 
@@ -135,8 +139,6 @@ private:
     std::unique_ptr<PageRig> m_rig;
 };
 
-QTEST_MAIN(TestGlobalTimer)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestGlobalTimer)
+
 #include "tst_globaltimer.moc"

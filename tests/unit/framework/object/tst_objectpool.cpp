@@ -3,6 +3,10 @@
 #include "framework/object/transport.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/menutypes.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 
 #include <QPointer>
 #include <QtTest>
@@ -148,8 +152,6 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestObjectPool)
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestObjectPool)
+
 #include "tst_objectpool.moc"

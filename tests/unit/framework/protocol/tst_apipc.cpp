@@ -9,7 +9,9 @@
 #include "framework/protocol/bus/apipcsocket.h"
 #include "framework/protocol/bus/ipcheaderinfo.h"
 #include "framework/protocol/link/protocolinterface.h"
+#include "menu/objectindex.h"
 #include "platform/host/statefile.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -217,6 +219,6 @@ void TestApipc::arrivals(RecordingProtocol &protocol, FarEnd &device)
     QCOMPARE(protocol.arrived, expected);
 }
 
-QTEST_MAIN(TestApipc)
-#include "menu/objectindex.h"
+FPD_TEST(TestApipc)
+
 #include "tst_apipc.moc"

@@ -3,6 +3,7 @@
 #include "datarows.h"
 #include "frames.h"
 #include "framework/protocol/bus/datagram.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 
@@ -92,5 +93,5 @@ void TestDatagram::kinds()
     QCOMPARE(datagram.hasLabels, !bytes.startsWith(requestHeader) && !bytes.startsWith(replyHeader));
 }
 
-QTEST_APPLESS_MAIN(TestDatagram)
+FPD_TEST_APPLESS(TestDatagram)
 #include "tst_datagram.moc"

@@ -1,6 +1,7 @@
 // Gamma curves against tables that were computed apart.
 
 #include "framework/protocol/send/gammacurve.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 
@@ -84,5 +85,5 @@ void TestGammaCurve::firstStepCanBeRaised()
     QCOMPARE(GetGammaBaseParameters(17, LOWGRAY_Base18, GRAY_Plain), 0);
 }
 
-QTEST_APPLESS_MAIN(TestGammaCurve)
+FPD_TEST_APPLESS(TestGammaCurve)
 #include "tst_gammacurve.moc"

@@ -7,6 +7,7 @@
 #include "framework/protocol/link/hostsession.h"
 #include "framework/protocol/link/linksupervision.h"
 #include "platform/host/statefile.h"
+#include "tests/testprogram.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -212,5 +213,5 @@ void TestLinkSupervision::unplugged()
     QCOMPARE(ended.count(), 1);
 }
 
-QTEST_GUILESS_MAIN(TestLinkSupervision)
+FPD_TEST_GUILESS(TestLinkSupervision)
 #include "tst_linksupervision.moc"

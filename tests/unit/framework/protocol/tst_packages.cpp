@@ -5,6 +5,7 @@
 #include "framework/protocol/bus/datagram.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 #include <memory>
@@ -203,5 +204,5 @@ void TestPackages::damagedFrameIsRefused()
     }
 }
 
-QTEST_APPLESS_MAIN(TestPackages)
+FPD_TEST_APPLESS(TestPackages)
 #include "tst_packages.moc"

@@ -14,7 +14,10 @@
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
 #include "framework/protocol/snapshot/protomemory20m.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "platform/host/statefile.h"
+#include "tests/testprogram.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QDir>
@@ -252,7 +255,6 @@ void TestProto3rd::snapshotObjectNeedsEngine()
     QCOMPARE(memory.initialize(), 1);
 }
 
-QTEST_MAIN(TestProto3rd)
-#include "menu/itemindex.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestProto3rd)
+
 #include "tst_proto3rd.moc"

@@ -4,7 +4,9 @@
 #include "datarows.h"
 #include "sendbench.h"
 
+#include "menu/menutypes.h"
 #include "sysconf.h"
+#include "tests/testprogram.h"
 
 using namespace VASK;
 
@@ -346,6 +348,6 @@ void TestProto3rdSend::everyItemOfTheMenuThatIsSentHasARow()
     QCOMPARE(missing, QStringList());
 }
 
-QTEST_MAIN(TestProto3rdSend)
-#include "menu/menutypes.h"
+FPD_TEST(TestProto3rdSend)
+
 #include "tst_proto3rdsend.moc"

@@ -1,6 +1,7 @@
 // How gamma leaves: the exponent and the table for the receiving cards, the tables of the sending side.
 
 #include "sendbench.h"
+#include "tests/testprogram.h"
 
 #include <cmath>
 
@@ -83,5 +84,5 @@ void TestProto3rdSendGamma::sendingSideGetsItsTables()
     QVERIFY(bench.isFrame(3, 1, 0x02000000, QByteArray(1, char(22))));
 }
 
-QTEST_MAIN(TestProto3rdSendGamma)
+FPD_TEST(TestProto3rdSendGamma)
 #include "tst_proto3rdsend_gamma.moc"

@@ -3,6 +3,7 @@
 
 #include "sendbench.h"
 
+#include "tests/testprogram.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QLoggingCategory>
@@ -225,5 +226,5 @@ void TestProto3rdSendHoldback::aHeldValueIsReleasedWithTheObject()
     QVERIFY(!Proto3rdSend::mSendDate);
 }
 
-QTEST_MAIN(TestProto3rdSendHoldback)
+FPD_TEST(TestProto3rdSendHoldback)
 #include "tst_proto3rdsend_holdback.moc"

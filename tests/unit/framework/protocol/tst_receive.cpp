@@ -8,6 +8,9 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/protocol/receive/reportdispatch.h"
+#include "menu/itemindex.h"
+#include "menu/keycodes.h"
+#include "tests/testprogram.h"
 #include "tests/unit/framework/engine/enginerig.h"
 #include "widget/factory/dialog_factory.h"
 
@@ -217,7 +220,6 @@ void TestReceive::selfTestTellsTheProductionTest()
     QCOMPARE(window.types, QList<int>({KEY_PRESSED * 100 + KEY_SELF_TEST_DONE}));
 }
 
-QTEST_MAIN(TestReceive)
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
+FPD_TEST(TestReceive)
+
 #include "tst_receive.moc"

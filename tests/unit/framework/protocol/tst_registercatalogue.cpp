@@ -2,6 +2,7 @@
 
 #include "frames.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
+#include "tests/testprogram.h"
 
 #include <QMap>
 #include <QtTest>
@@ -99,5 +100,5 @@ void TestRegisterCatalogue::cloneTakesItsData()
     }
 }
 
-QTEST_APPLESS_MAIN(TestRegisterCatalogue)
+FPD_TEST_APPLESS(TestRegisterCatalogue)
 #include "tst_registercatalogue.moc"

@@ -4,6 +4,7 @@
 #include "frames.h"
 #include "framework/protocol/link/requestlist.h"
 #include "framework/protocol/receive/packagehandler.h"
+#include "tests/testprogram.h"
 
 #include <QElapsedTimer>
 #include <QSemaphore>
@@ -156,5 +157,5 @@ void TestReports::answerRetiresOlderRequests()
     QVERIFY(!requests.takePackage(0));
 }
 
-QTEST_GUILESS_MAIN(TestReports)
+FPD_TEST_GUILESS(TestReports)
 #include "tst_reports.moc"

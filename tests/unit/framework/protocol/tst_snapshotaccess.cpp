@@ -6,6 +6,7 @@
 #include "framework/protocol/link/cabinetnames.h"
 #include "framework/protocol/snapshot/driverutil.h"
 #include "platform/host/statefile.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -95,5 +96,5 @@ void TestSnapshotAccess::cabinetFiles()
     QFile::remove(file);
 }
 
-QTEST_GUILESS_MAIN(TestSnapshotAccess)
+FPD_TEST_GUILESS(TestSnapshotAccess)
 #include "tst_snapshotaccess.moc"

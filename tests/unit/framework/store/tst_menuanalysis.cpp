@@ -2,6 +2,9 @@
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -329,7 +332,6 @@ private:
     QScopedPointer<QTemporaryDir> m_state;
 };
 
-QTEST_MAIN(TestMenuAnalysis)
-#include "menu/itemindex.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestMenuAnalysis)
+
 #include "tst_menuanalysis.moc"

@@ -2,6 +2,9 @@
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
+#include "menu/itemindex.h"
+#include "menu/objectindex.h"
+#include "tests/testprogram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -372,7 +375,6 @@ private:
     QScopedPointer<QTemporaryDir> m_state;
 };
 
-QTEST_MAIN(TestMenuRecovery)
-#include "menu/itemindex.h"
-#include "menu/objectindex.h"
+FPD_TEST(TestMenuRecovery)
+
 #include "tst_menurecovery.moc"

@@ -1,6 +1,7 @@
 // The ticker and the gate in front of a receiver.
 
 #include "framework/thread/tickgate.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 
@@ -59,5 +60,5 @@ void TestMsgThread::gateLetsWorkThrough()
     QVERIFY(ticker.wait(5000));
 }
 
-QTEST_GUILESS_MAIN(TestMsgThread)
+FPD_TEST_GUILESS(TestMsgThread)
 #include "tst_msgthread.moc"

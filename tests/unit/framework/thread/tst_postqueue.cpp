@@ -1,6 +1,7 @@
 // Work for the GUI thread from a poster that is faster than it: the order, the bound, and who waits for whom.
 
 #include "framework/thread/postqueue.h"
+#include "tests/testprogram.h"
 
 #include <QtTest>
 #include <thread>
@@ -111,5 +112,5 @@ void TestPostQueue::ownThreadNeverWaits()
     QVERIFY(isCounting(taken));
 }
 
-QTEST_GUILESS_MAIN(TestPostQueue)
+FPD_TEST_GUILESS(TestPostQueue)
 #include "tst_postqueue.moc"

@@ -1,6 +1,7 @@
 // The timer service on a clock that the test turns.
 
 #include "framework/thread/ctimer.h"
+#include "tests/testprogram.h"
 
 #include <QMap>
 #include <QSemaphore>
@@ -293,5 +294,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTimerQueue)
+FPD_TEST_GUILESS(TestTimerQueue)
 #include "tst_timerqueue.moc"

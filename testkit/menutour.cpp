@@ -1,4 +1,4 @@
-#include "tools/menutour.h"
+#include "testkit/menutour.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"

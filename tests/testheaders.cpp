@@ -1,0 +1,1 @@
+// Carries the headers that every test program takes precompiled.
