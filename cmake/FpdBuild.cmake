@@ -12,6 +12,10 @@ if(FPD_CCACHE)
       CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${FPD_CCACHE})
 endif()
 
+# Lines in a debugger and in a sanitizer's report; all of the variables would double what is written and linked.
+string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_RELWITHDEBINFO "${CMAKE_CXX_FLAGS_RELWITHDEBINFO}")
+string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
+
 add_library(fpd_options INTERFACE)
 target_include_directories(fpd_options INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/platform/include)
 target_compile_options(fpd_options INTERFACE -Wall -Wextra -Werror
