@@ -7,7 +7,7 @@
 #include "framework/thread/ctimer.h"
 #include "menu/itemindex.h"
 #include "testkit/flood.h"
-#include "testkit/framedrive.h"
+#include "testkit/hexvalue.h"
 #include "testkit/menuwalk.h"
 #include "testkit/procfs.h"
 

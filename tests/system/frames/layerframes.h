@@ -1,7 +1,7 @@
 // The writes to the registers of a layer, as a test expects them.
 #pragma once
 
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 
 namespace layerframes
 {

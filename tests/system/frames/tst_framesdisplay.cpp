@@ -1,6 +1,6 @@
 // What the rows of picture, test pattern, OSD and LED screen send when a user changes them with the keys.
 #include "menu/itemindex.h"
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
 using namespace VASK;

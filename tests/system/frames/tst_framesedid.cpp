@@ -1,8 +1,8 @@
 // What the EDID of the inputs sends, and how its two pages take turns: the standard modes and a custom one.
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/framedrive.h"
 #include "testkit/lcdtext.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
 using namespace VASK;

@@ -1,6 +1,6 @@
 // What the rows of the inputs send: picture, range, protection, sound.
 #include "menu/itemindex.h"
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
 #include <QElapsedTimer>

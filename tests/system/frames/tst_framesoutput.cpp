@@ -1,6 +1,6 @@
 // What the rows of output, synchronisation, backup and network send.
 #include "menu/itemindex.h"
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
 using namespace VASK;

@@ -1,7 +1,7 @@
 // What the resets send. One of them runs in a run of the panel, so each line has a run of its own.
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

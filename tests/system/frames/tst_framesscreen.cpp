@@ -2,7 +2,7 @@
 // two pages asks before it opens.
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
 using namespace VASK;

@@ -1,7 +1,7 @@
 // What the commands to the device send that take it some seconds: cabinet files, with more of them on the
 // board than the page has rows, saving, self test.
 #include "menu/itemindex.h"
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
 #include <QDir>

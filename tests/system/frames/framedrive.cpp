@@ -1,4 +1,4 @@
-#include "testkit/framedrive.h"
+#include "tests/system/frames/framedrive.h"
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
 
@@ -6,7 +6,6 @@
 #include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QThread>
-#include <QtEndian>
 
 using namespace VASK;
 
@@ -33,13 +32,6 @@ QString shortened(const QString &bytes)
     return QString("%1:%2").arg(data.size()).arg(QString(hash.toHex()));
 }
 } // namespace
-
-QString frames::le(qint64 value, int bytes)
-{
-    QByteArray data(int(sizeof value), 0);
-    qToLittleEndian(value, data.data());
-    return data.left(bytes).toHex();
-}
 
 bool FrameDrive::startPanel()
 {

@@ -4,6 +4,7 @@
 
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
+#include "testkit/hexvalue.h"
 #include "tests/system/systemtest.h"
 
 #include <QVector>
@@ -98,8 +99,6 @@ private slots:
 
 namespace frames
 {
-/// A number as it stands in a register, in hex.
-QString le(qint64 value, int bytes);
 /// The entries from the main menu on and at last a row.
 template <class... Rows> NamedFrames::Path path(Rows... rows)
 {
