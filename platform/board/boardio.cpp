@@ -9,6 +9,11 @@ QString filePath(const QString &boardPath)
     return boardPath;
 }
 
+unsigned short localPort(unsigned short boardPort)
+{
+    return boardPort;
+}
+
 int runCommand(const char *commandLine)
 {
     return std::system(commandLine);

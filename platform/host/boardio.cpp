@@ -1,6 +1,7 @@
 #include "boardio.h"
 
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 
 #include <QByteArray>
 #include <QRegularExpression>
@@ -43,6 +44,14 @@ QByteArray hostCommand(const char *commandLine)
 QString filePath(const QString &boardPath)
 {
     return stateFolder() + boardPath;
+}
+
+unsigned short localPort(unsigned short boardPort)
+{
+    if (stateFolder().isEmpty())
+        return boardPort;
+    const auto ports = hostlink::readValues(filePath(QLatin1String(hostlink::portFile)));
+    return ports.value(QByteArray::number(boardPort)).toUShort();
 }
 
 int runCommand(const char *commandLine)

@@ -43,6 +43,11 @@ constexpr const char *linkLoop = "usb_host";
 constexpr const char *linkEthernet = "eth1";
 constexpr const char *linkPriority = "pc_priority";
 
+/// Ports of services on the loopback address: lines of BOARDPORT=PORT, such as 8001=40123, written by the
+/// emulator when it listens, so that the panels of two state folders never reach the same service.
+constexpr const char *portFile = "/ports";
+constexpr unsigned short restPort = 8001; ///< the REST service, on the board
+
 /// Shell tools of the board; put in front of PATH.
 constexpr const char *toolFolder = "/bin";
 } // namespace hostlink
