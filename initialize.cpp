@@ -1,12 +1,14 @@
 #include "initialize.h"
 
 #include "boardio.h"
+#include "framework/communication/http/httpservice.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keyevent.h"
 #include "framework/object/globaltimer.h"
 #include "framework/object/transport.h"
 #include "framework/protocol/bus/apipcservice.h"
 #include "framework/protocol/link/proto3rd.h"
+#include "framework/protocol/link/proto4rd.h"
 #include "framework/protocol/snapshot/protomemory20m.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
@@ -84,6 +86,8 @@ private:
     MenuAnalysis *m_store = nullptr;
     ParaProcess *m_paraProcess = nullptr;
     transport *m_transport = nullptr;
+    httpService *m_http = nullptr;
+    Proto4rd *m_proto4rd = nullptr;
     MainWindow *m_mainWindow = nullptr;
     ST_ItemInfo m_screenLock;
     QString m_workMode;
@@ -123,13 +127,6 @@ void logMark(int step)
 {
     qDebug() << "start-up time ->" << QTime::currentTime().toString("hh:mm:ss.zzz")
              << runTime1.msecsTo(QTime::currentTime()) << "<- main 55555555 ,line:" << step;
-}
-
-/// A step whose class does not exist in this build.
-bool notBuilt(const char *what)
-{
-    qDebug() << "start-up: not in this build:" << what;
-    return true;
 }
 
 void StartUp::run()
@@ -183,21 +180,25 @@ bool StartUp::createTransport()
 
 bool StartUp::createHttp()
 {
-    return notBuilt("httpService");
+    m_http = new httpService(ENUM_COMMUNICATION_HTTP);
+    return true;
 }
 
 bool StartUp::createProto4rd()
 {
-    return notBuilt("Proto4rd");
+    m_proto4rd = new (std::nothrow) Proto4rd(ENUM_PROTOCOINTERFER_4RD);
+    return true;
 }
 
 bool StartUp::fillPool()
 {
     m_transport->InsertObject(ENUM_PROTOCOINTERFER_3RD, m_proto3rd);
+    m_transport->InsertObject(ENUM_PROTOCOINTERFER_4RD, m_proto4rd);
     m_transport->InsertObject(ENUM_COMMUNICATION_APIPC, m_apipc);
     m_transport->InsertObject(ENUM_PARAPROCESS, m_paraProcess);
     m_transport->InsertObject(ENUM_PROTOMEMORY_20M, m_memory);
     m_transport->InsertObject(ENUM_MENUANALYSIS, m_store);
+    m_transport->InsertObject(ENUM_COMMUNICATION_HTTP, m_http);
     m_transport->InsertObject(ENUM_TRANSPORT, m_transport);
     return true;
 }
@@ -323,7 +324,7 @@ bool StartUp::startProto3rd()
 
 bool StartUp::startProto4rd()
 {
-    return notBuilt("Proto4rd");
+    return m_proto4rd && m_proto4rd->initialize();
 }
 
 bool StartUp::finish()

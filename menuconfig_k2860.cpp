@@ -14,7 +14,6 @@ namespace VASK
 QMap<ENUM_ConfigIndex, ST_MenuConfig> g_config = menuPages();
 QMap<ENUM_MenuIndex, ST_ItemInfo> g_MenuXmlConfig = menuItems();
 QMap<ENUM_MenuIndex, ST_DialogInfo> g_dialogConfig = menuDialogs();
-QMap<ENUM_MenuIndex, ENUM_ProtocolType> g_protocolType;
 
 ST_MenuConfig::ST_MenuConfig(ENUM_ObjectIndex pageObject, short pageWidth, signed char rowCount,
                              QString titleKey, QString chineseStyle, QMap<int, st_MenuItemInfo> pageRows,
