@@ -1,16 +1,16 @@
 // The messages of the menu table as dialogs.
 
 #include "framework/engine/paraprocess.h"
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "widget/dialog/dialog_msgbox.h"
-#include "widget/factory/dialog_factory.h"
 
 namespace VASK
 {
 QDialog *ParaProcess::CreateDialog(ENUM_MenuIndex index, QString text)
 {
     // The production test has the screen to itself, apart from its own result.
-    if (Factory::m_cur_step != FACTORY_STEP_NONE && index != MSG_InOutTestSaveResult)
+    if (ProductionTest::runs() && index != MSG_InOutTestSaveResult)
         return nullptr;
     constexpr int messageKind = 2;
     const auto row = g_dialogConfig.constFind(index);

@@ -141,6 +141,8 @@ signals:
     /// input under test has a stable signal.
     void signal_update_menuitem(en_inout_test_index index, en_item_state state);
     void signal_Source_Stable();
+    /// The device has told the result of a self test.
+    void signal_selfcheck_filled();
 
 public:
     /// The home screen; null before Initialize.
@@ -163,6 +165,7 @@ public:
         emit signal_update_menuitem(index, state);
     }
     void raiseSourceStable() { emit signal_Source_Stable(); }
+    void raiseSelfCheckFilled() { emit signal_selfcheck_filled(); }
 
 private:
     /// Null, with a log line, while there is none.

@@ -2,10 +2,10 @@
 
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keypadevent.h"
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
-#include "widget/factory/dialog_factory.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
 
@@ -67,7 +67,7 @@ bool GlobalTimer::ChangeMainWindow(MainWindow *mainWindow)
 void GlobalTimer::slot_ReturnToMain()
 {
     qDebug() << "framework/object/globaltimer.cpp" << __LINE__ << "slot_ReturnToMain!!!!!!";
-    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || Factory::m_cur_step != FACTORY_STEP_NONE)
+    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || ProductionTest::runs())
         return;
     QWidget *active = QApplication::activeWindow();
     if (active && (active == m_pmainwindow || active == m_presetPage))

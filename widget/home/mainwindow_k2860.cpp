@@ -154,3 +154,8 @@ void MainWindow::paintEvent(QPaintEvent *)
 {
     QPainter(this).drawPixmap(0, 0, m_background);
 }
+
+void MainWindow::showEvent(QShowEvent *)
+{
+    MenuDirectory::closeSelfCheck();
+}

@@ -56,7 +56,7 @@ bool MainWindow::event(QEvent *event)
 
 bool MainWindow::keyEvent(KeypadEvent *event)
 {
-    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || Factory::m_cur_step != FACTORY_STEP_NONE)
+    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || ProductionTest::runs())
         return false;
     GlobalTimer::getInstance()->ResetReturnToMain();
     if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
@@ -117,7 +117,14 @@ void MainWindow::openMenu(ENUM_ObjectIndex object)
 
 void MainWindow::startFactoryTest(KeypadEvent *)
 {
-    qDebug() << "no window of the factory test";
+    QPointer<Factory> &test = MenuDirectory::m_factory;
+    if (!test)
+        test = new Factory;
+    test->beginSelfTest();
+    test->show();
+    hide();
+    if (auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS))
+        engine->SetParaToXml(QString(), MENU_SelfTest, SET_XML_DEVICE);
 }
 
 void MainWindow::keypadLockEvent(KeypadEvent *)

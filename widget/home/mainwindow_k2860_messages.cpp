@@ -3,10 +3,10 @@
 #include "widget/home/mainwindow_k2860.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
-#include "widget/factory/dialog_factory.h"
 #include "widget/page/menudirectoty.h"
 
 #include <memory>
@@ -138,7 +138,7 @@ void MainWindow::slot_soft_calibrate(quint8 state)
 
 void MainWindow::slot_update(quint8 mode, quint16 count)
 {
-    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || Factory::m_cur_step != FACTORY_STEP_NONE)
+    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || ProductionTest::runs())
         return;
     m_updateRunning = true;
     qDebug() << "slot_update == " << mode << count;
@@ -166,7 +166,7 @@ void MainWindow::slot_update(quint8 mode, quint16 count)
 void MainWindow::slot_ReturnToMainSoft(bool mode)
 {
     qDebug() << "slot_ReturnToMain!!!!!!";
-    if (Factory::m_cur_step != FACTORY_STEP_NONE)
+    if (ProductionTest::runs())
         return;
     if (m_bLockFlag) {
         if (!mode)

@@ -8,6 +8,7 @@
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "widget/language.h"
+#include "widget/menulook.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -18,45 +19,12 @@ namespace VASK
 {
 namespace
 {
-constexpr int pageHeight = 240; ///< pixels
-constexpr int pageWidth = 320;
-constexpr int titleHeight = 24;
-constexpr int titleMargin = 8;
 /// Titles are a little larger from the start than after a change of language.
 constexpr int firstTitlePixels = 16;
-constexpr int laterTitlePixels = 14;
 
 const QString commonEnglishStyle =
     QStringLiteral("*{font-family: \"Arial\";font-size: 20px;color: #b8b4cc;background-color:rgba(0,0,0,0);}"
                    "QTableWidget::item:selected{background:rgba(39,25,99);}");
-
-QString titleStyle(bool english, int pixels)
-{
-    return english ? QString("font-family: \"Arial\";font-size: %1px;color: #83818c;").arg(pixels)
-                   : QString("font-family: \"宋体\";font-size: %1px;color: #70739c;").arg(pixels);
-}
-
-/// Read once, all pages have the same.
-const QString &scrollBarStyle()
-{
-    static const QString style = [] {
-        QFile file(":/resource/qss/VerticalBar.qss");
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }();
-    return style;
-}
-
-const QPixmap &background()
-{
-    static const QPixmap picture = [] {
-        const QString path = imgPath + "mainMenu/menu_bg.png";
-        QPixmap loaded(path);
-        if (loaded.isNull())
-            qDebug() << "Set Back Ground faild! path:" << path;
-        return loaded;
-    }();
-    return picture;
-}
 } // namespace
 
 ENUM_ObjectIndex MenuDirectory::m_currentObj = ENUM_MAIN_MENU;
@@ -67,7 +35,7 @@ bool MenuDirectory::bSetScreenBrightness = false;
 MenuDirectory::MenuDirectory(ENUM_ObjectIndex index) : VaskUiObject(index)
 {
     setWindowFlags(Qt::FramelessWindowHint);
-    setFixedSize(pageWidth, pageHeight);
+    setFixedSize(menulook::width, menulook::height);
     m_titleLabel = new QLabel(this);
     m_table = new QTableWidget(this);
 }
@@ -97,10 +65,10 @@ bool MenuDirectory::SetTitleInfo(short width, signed char rowCount, QString titl
 
 void MenuDirectory::initialize()
 {
-    m_titleLabel->setGeometry(0, 0, m_width, titleHeight);
-    m_titleLabel->setContentsMargins(titleMargin, 0, 0, 0);
+    m_titleLabel->setGeometry(0, 0, m_width, menulook::titleHeight);
+    m_titleLabel->setContentsMargins(menulook::titleMargin, 0, 0, 0);
 
-    m_table->setGeometry(QRect(QPoint(0, titleHeight), QPoint(pageWidth - 1, pageHeight - 1)));
+    m_table->setGeometry(menulook::below);
     m_table->setColumnCount(1);
     m_table->setRowCount(m_rowCount);
     m_table->horizontalHeader()->hide();
@@ -114,7 +82,7 @@ void MenuDirectory::initialize()
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->verticalScrollBar()->setStyleSheet(scrollBarStyle());
+    m_table->verticalScrollBar()->setStyleSheet(menuScrollBarStyle());
     setLanguageStyle(firstTitlePixels);
 }
 
@@ -122,7 +90,7 @@ void MenuDirectory::setLanguageStyle(int titlePixels)
 {
     const bool english = englishChosen();
     m_titleLabel->setText(translated(m_title));
-    m_titleLabel->setStyleSheet(titleStyle(english, titlePixels));
+    m_titleLabel->setStyleSheet(menuTitleStyle(english, titlePixels));
     // A style goes to every widget of the page again: only when it differs.
     const QString &style = english ? m_englishStyle : m_style;
     if (m_table->styleSheet() != style)
@@ -158,13 +126,13 @@ void MenuDirectory::SetParaEntry(ENUM_MenuIndex, QString, ENUM_MODE_SET_XML)
     runOnGui(this, [this] {
         // A page that was never shown would keep the fonts of the first style.
         m_table->ensurePolished();
-        setLanguageStyle(laterTitlePixels);
+        setLanguageStyle(menulook::titlePixels);
     });
 }
 
 void MenuDirectory::paintEvent(QPaintEvent *)
 {
-    QPainter(this).drawPixmap(0, 0, background());
+    QPainter(this).drawPixmap(0, 0, menuBackground());
 }
 
 void MenuDirectory::setRowCount(int count)

@@ -18,6 +18,8 @@
 #include <QVector>
 #include <atomic>
 
+class DevCheckWin;
+class Factory;
 class QLabel;
 class QTableWidget;
 
@@ -92,6 +94,11 @@ public:
     /// Gives back the preset row that a copy had disabled.
     static void enableCopiedPreset();
     static void hideAllPages();
+    /// Brings up a new self-check window in the place of another window; test: on behalf of the production
+    /// test, for good.
+    static DevCheckWin *showSelfCheck(QWidget *instead, bool test);
+    /// The home screen comes up by itself: a self-check window from the menu must not stay below it.
+    static void closeSelfCheck();
 
     bool event(QEvent *event) override;
 
@@ -106,6 +113,9 @@ public:
     static std::atomic<bool> RotateFlg;
     /// True while the screen brightness is in edit mode.
     static bool bSetScreenBrightness;
+    /// The self-check window and the window of the production test; null before they are first needed.
+    static QPointer<DevCheckWin> m_win;
+    static QPointer<Factory> m_factory;
 
 public slots:
     /// The self-check window was left by ESC: that ESC must not leave the page too.
@@ -118,6 +128,7 @@ private:
     struct PageKey;
     static const QVector<PageKey> &pageKeys();
     void keyEvent(KeypadEvent *event);
+    void escPressed(KeypadEvent *event);
     void escKey(KeypadEvent *event);
     void lockPanel(KeypadEvent *event);
     void rotate(KeypadEvent *event, bool left);

@@ -3,13 +3,14 @@
 #include "widget/page/menudirectoty.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/productiontest/productiontest.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "widget/dialog/dialog_msgbox.h"
-#include "widget/factory/dialog_factory.h"
+#include "widget/factory/devcheckwin.h"
 #include "widget/page/directoryengineer.h"
 #include "widget/row/rowkinds.h"
 
@@ -44,7 +45,7 @@ void MenuDirectory::keypadOkEvent(KeypadEvent *)
 
 QDialog *MenuDirectory::CreateDialog(ENUM_MenuIndex index)
 {
-    if (Factory::m_cur_step != FACTORY_STEP_NONE)
+    if (ProductionTest::runs())
         return nullptr;
     // A number without a row has a message that is off.
     const ST_DialogInfo message = g_dialogConfig.value(index);
@@ -179,7 +180,8 @@ void MenuDirectory::pressButton(const st_MenuItemInfo &row)
     if (VaskUiObject *widget = rowWidget(row))
         widget->EnterEntry(row.menuIndex);
     if (row.itemObject == ENUM_ROW_SelfTest)
-        qDebug() << "no self-check window";
+        QObject::connect(showSelfCheck(this, false), SIGNAL(signal_devchk_end()), this,
+                         SLOT(slot_devchk_end()));
 }
 
 void MenuDirectory::startIpEdit(const st_MenuItemInfo &row)

@@ -36,6 +36,7 @@ const QVector<MenuDirectory::PageKey> &MenuDirectory::pageKeys()
         {KEY_KNOB_LEFT, anyType, true, &MenuDirectory::keypadRotateLeftEvent},
         {KEY_KNOB_RIGHT, anyType, true, &MenuDirectory::keypadRotateRightEvent},
         {KEY_OK, KEY_RELEASED, true, &MenuDirectory::keypadOkEvent},
+        {KEY_ESC, KEY_PRESSED, true, &MenuDirectory::escPressed},
         {KEY_ESC, KEY_RELEASED, true, &MenuDirectory::escKey},
     };
     return keys;
@@ -72,6 +73,12 @@ void MenuDirectory::keyEvent(KeypadEvent *event)
         keypadNumEvent(event);
 }
 
+/// A new ESC, whatever became of the one that closed another window.
+void MenuDirectory::escPressed(KeypadEvent *)
+{
+    m_skipNextEsc = false;
+}
+
 void MenuDirectory::escKey(KeypadEvent *event)
 {
     if (m_skipNextEsc)
@@ -101,11 +108,5 @@ void MenuDirectory::ReturnToMainWindows(KeypadEvent *)
         menu->keypadEScEvent(&esc);
     }
     setNoPage();
-}
-
-void MenuDirectory::slot_devchk_end()
-{
-    m_skipNextEsc = true;
-    show();
 }
 } // namespace VASK

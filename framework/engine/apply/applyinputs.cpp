@@ -3,9 +3,9 @@
 #include "framework/engine/layers.h"
 
 #include "framework/engine/limits/bandwidth.h"
+#include "framework/productiontest/productiontest.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
-#include "widget/factory/dialog_factory.h"
 #include "widget/page/menudirectoty.h"
 
 namespace VASK
@@ -132,7 +132,7 @@ void followWithTest(const ParaChange &change, const InputReport &input)
 {
     static std::atomic<int> lastSignal[ProcessData::inputCount];
     const int last = lastSignal[input.number].exchange(input.record.signalState);
-    if (Factory::m_cur_step != FACTORY_STEP_IN_OUT || Factory::InputTestNumCur != input.number)
+    if (ProductionTest::m_cur_step != FACTORY_STEP_IN_OUT || ProductionTest::InputTestNumCur != input.number)
         return;
     if (input.stable())
         change.engine.raiseSourceStable();

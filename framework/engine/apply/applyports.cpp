@@ -2,8 +2,8 @@
 
 #include "framework/engine/parachange.h"
 
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
-#include "widget/factory/dialog_factory.h"
 #include "widget/home/mainwindowstates.h"
 
 namespace VASK
@@ -25,7 +25,7 @@ void applyPortLink(ParaChange &change)
 {
     const int port = change.index - PARA_PortLink;
     change.engine.UpdatePortState(port);
-    if (Factory::m_cur_step == FACTORY_STEP_IN_OUT && change.number(change.index))
+    if (ProductionTest::m_cur_step == FACTORY_STEP_IN_OUT && change.number(change.index))
         change.engine.raiseTested(en_inout_test_index(INOUT_NET1 + port), ITEM_PASSED);
 }
 

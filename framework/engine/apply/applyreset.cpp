@@ -4,6 +4,7 @@
 #include "framework/engine/parachange.h"
 
 #include "boardio.h"
+#include "framework/productiontest/boardcheck.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "netstatus.h"
@@ -15,8 +16,6 @@ namespace
 {
 const char *const factoryFile = "/usr/vask/etc/fpd/config/config_factory.xml";
 const char *const removePictures = "rm /usr/vask/etc/osd/*";
-const char *const probeFpga = "fpga -v | grep FPGA | tail -l | awk '{print $4}'";
-const char *const probeMemory = "fpga r v 0x101f 1 | grep 0x01 -c";
 /// Items of which only the value survives a reset.
 using Kept = QMap<ENUM_MenuIndex, QString>;
 
@@ -73,34 +72,19 @@ void restoreMosaicSource(ParaChange &change)
     change.set(MENU_MainLayer_InputSource, "2");
 }
 
-/// What a probe prints first, at most six characters. False if the pipe could not be opened.
-bool probe(const char *commandLine, QByteArray &answer)
-{
-    constexpr int answerSize = 7;
-    FILE *pipe = board::openPipe(commandLine);
-    if (!pipe)
-        return false;
-    char buffer[answerSize] = "";
-    if (fgets(buffer, answerSize, pipe))
-        answer = buffer;
-    board::closePipe(pipe);
-    return true;
-}
-
 void tellOutcome(ParaChange &change)
 {
-    QByteArray version;
-    if (!probe(probeFpga, version)) {
-        qWarning() << "cannot run" << probeFpga;
+    using boardcheck::Answer;
+    const Answer version = boardcheck::fpgaVersion();
+    if (version == Answer::NotStarted) {
+        qWarning() << "cannot ask for the version of the FPGA";
         return;
     }
-    if (version.trimmed().isEmpty()) {
+    if (version == Answer::None) {
         change.dialog(MSG_FPGACommunication);
         return;
     }
-    QByteArray memory;
-    probe(probeMemory, memory);
-    change.dialog(memory.startsWith('0') ? MSG_FPGADDRCheckError : MSG_ResetSucceed);
+    change.dialog(boardcheck::fpgaMemory() == Answer::Zero ? MSG_FPGADDRCheckError : MSG_ResetSucceed);
 }
 
 /// One reset a run of the program: true if this is the first.

@@ -71,12 +71,10 @@ void LinkSupervision::start()
 void LinkSupervision::slot_ComLinkState()
 {
     const bool usb = follow(m_state.usb_link, get_usb_otg_status(), "usb_link == ");
-    if (usb)
-        emit usbChanged(m_state.usb_link);
+    emit usbPolled(m_state.usb_link);
     const bool loop = follow(m_state.loop_link, get_usb_host_status(), "loop_link == ");
     const bool ethernet = follow(m_state.eth_link, get_eth1_status(), "eth_link == ");
-    if (ethernet)
-        emit ethernetChanged(m_state.eth_link);
+    emit ethernetPolled(m_state.eth_link);
     const bool priority = follow(m_state.priority, get_pc_connect_priority(), "priority == ");
     if (!usb && !loop && !ethernet && !priority)
         return;

@@ -44,8 +44,11 @@ public slots:
 
 signals:
     void connectState(ENUM_MainWindowConnectState state);
-    void usbChanged(int state);
-    void ethernetChanged(int state);
+    /// What every poll finds, changed or not.
+    /// @{
+    void usbPolled(int state);
+    void ethernetPolled(int state);
+    /// @}
     /// The last cable went out.
     void linkLost();
     /// The panel may return home, if the work mode lets it.

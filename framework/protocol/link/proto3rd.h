@@ -3,6 +3,7 @@
 // thread; slot_ValueChanged and the two insert operations may be called from the report thread, too.
 #pragma once
 
+#include "framework/productiontest/productiontest.h"
 #include "framework/protocol/bus/datagram.h"
 #include "framework/protocol/link/hostsession.h"
 #include "framework/protocol/link/linksupervision.h"
@@ -11,7 +12,6 @@
 #include "framework/thread/tickgate.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "widget/factory/dialog_factory.h"
 
 #include <QList>
 #include <QMutex>

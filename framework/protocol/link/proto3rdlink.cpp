@@ -49,9 +49,9 @@ void Proto3rd::connectSupervision()
     connect(&m_link, &LinkSupervision::connectState, this, &Proto3rd::showConnection);
     connect(&m_link, &LinkSupervision::returnHome, this, [this] { returnMain(true); });
     connect(&m_link, &LinkSupervision::linkLost, &m_session, [this] { m_session.DealNetorUsbLink(false); });
-    connect(&m_link, &LinkSupervision::usbChanged, this,
+    connect(&m_link, &LinkSupervision::usbPolled, this,
             [this](int state) { passInOutTest(INOUT_USB_IN, state); });
-    connect(&m_link, &LinkSupervision::ethernetChanged, this,
+    connect(&m_link, &LinkSupervision::ethernetPolled, this,
             [this](int state) { passInOutTest(INOUT_ETHERNET, state); });
     connect(&m_session, &HostSession::over, this, [this] { returnMain(true); });
 }
@@ -73,10 +73,11 @@ void Proto3rd::showConnection(ENUM_MainWindowConnectState state)
         home->SetConnectState(state);
 }
 
-/// The production test looks at the sockets while it stands at its last step.
+/// The production test looks at the sockets while it stands at its last step. A cable that is in before counts
+/// as well as one that comes: a worker has plugged all of them.
 void Proto3rd::passInOutTest(en_inout_test_index index, int state)
 {
-    if (Factory::m_cur_step == FACTORY_STEP_IN_OUT && state != 0)
+    if (ProductionTest::m_cur_step == FACTORY_STEP_IN_OUT && state != 0)
         emit signal_update_menuitem(index, ITEM_PASSED);
 }
 

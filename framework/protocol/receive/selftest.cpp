@@ -1,11 +1,13 @@
 #include "framework/protocol/receive/selftest.h"
 
-#include "boardio.h"
+#include "framework/engine/paraprocess.h"
 #include "framework/input/keypadevent.h"
-#include "framework/legacy/selfchecklist.h"
+#include "framework/productiontest/boardcheck.h"
+#include "framework/productiontest/productiontest.h"
+#include "framework/productiontest/selfchecklist.h"
+#include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/thread/handover.h"
 #include "menu/keycodes.h"
-#include "widget/factory/dialog_factory.h"
 
 #include <QApplication>
 #include <QStringList>
@@ -15,38 +17,22 @@ namespace VASK
 {
 namespace
 {
-constexpr int answerSize = 6; ///< bytes of a tool's answer that are looked at
-
-enum class Answer { NotStarted, None, Zero, Other };
-
-/// Runs a command line and looks at the beginning of what it prints.
-Answer ask(const char *commandLine)
-{
-    FILE *pipe = board::openPipe(commandLine);
-    if (!pipe)
-        return Answer::NotStarted;
-    char text[answerSize] = {};
-    const size_t count = fread(text, 1, sizeof text, pipe);
-    board::closePipe(pipe);
-    if (count == 0)
-        return Answer::None;
-    return text[0] == '0' ? Answer::Zero : Answer::Other;
-}
+using boardcheck::Answer;
 
 QString record(const char *name, bool good)
 {
-    const QString state = good ? QStringLiteral("normal") : QStringLiteral("error");
+    const QString state = QLatin1String(good ? SelfCheckList::normal : SelfCheckList::error);
     return QStringLiteral("%1:--:--:%2:--:%2;").arg(QLatin1String(name), state);
 }
 
 QString fpgaRecords()
 {
-    const Answer version = ask("fpga -v | grep FPGA | tail -l | awk '{print $4}'");
+    const Answer version = boardcheck::fpgaVersion();
     if (version == Answer::NotStarted)
         return {};
     if (version == Answer::None)
         return record("FPGA_STATUS", false) + record("FPGA_DDR", false);
-    const Answer memory = ask("fpga r v 0x101f 1 | grep 0x01 -c");
+    const Answer memory = boardcheck::fpgaMemory();
     QString text = record("FPGA_STATUS", true);
     if (memory != Answer::NotStarted)
         text += record("FPGA_DDR", memory == Answer::Other);
@@ -55,7 +41,7 @@ QString fpgaRecords()
 
 QString mcuRecord()
 {
-    const Answer answer = ask("stm32 -v | grep mcu | grep 20 -c");
+    const Answer answer = boardcheck::mcuVersion();
     if (answer == Answer::NotStarted || answer == Answer::None)
         return {};
     return record("MCU_STATUS", answer == Answer::Other);
@@ -76,7 +62,7 @@ bool takeRecord(int number, const QString &text)
 /// The production test waits for a key of its own.
 void tellProductionTest(bool passed)
 {
-    if (Factory::m_cur_step != FACTORY_STEP_SELF_TEST)
+    if (ProductionTest::m_cur_step != FACTORY_STEP_SELF_TEST)
         return;
     postToGui(QCoreApplication::instance(), [passed] {
         if (QWidget *window = QApplication::activeWindow())
@@ -98,6 +84,7 @@ int ParseSelfTestInfo(const Report &report)
     for (int i = 1; i < pieces.size(); ++i)
         if (!takeRecord(i - 1, pieces.at(i)))
             passed = false;
+    report.parse.engine().raiseSelfCheckFilled();
     tellProductionTest(passed);
     return 0;
 }

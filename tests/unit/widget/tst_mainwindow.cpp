@@ -7,7 +7,7 @@
 #include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/lock.h"
-#include "widget/factory/dialog_factory.h"
+#include "framework/productiontest/productiontest.h"
 
 #include <QElapsedTimer>
 #include <QLabel>
@@ -100,10 +100,10 @@ private slots:
 
     void theFactoryTestHasTheKeys()
     {
-        Factory::m_cur_step = FACTORY_STEP_KEYS;
+        ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
         m_rig->press(KEY_OK);
         m_rig->hold(KEY_LOCK);
-        Factory::m_cur_step = FACTORY_STEP_NONE;
+        ProductionTest::m_cur_step = FACTORY_STEP_NONE;
         QCOMPARE(m_rig->shown(), m_rig->home);
         QVERIFY(!MainWindow::m_bLockFlag);
     }
@@ -149,9 +149,9 @@ private slots:
             m_rig->home->slot_update(step.mode, step.progress);
             QCOMPARE(boxes(), QStringList{step.text});
         }
-        Factory::m_cur_step = FACTORY_STEP_KEYS;
+        ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
         m_rig->home->slot_update(1, 0);
-        Factory::m_cur_step = FACTORY_STEP_NONE;
+        ProductionTest::m_cur_step = FACTORY_STEP_NONE;
         QCOMPARE(boxes(), QStringList{"UpdateStart253 %"});
     }
 

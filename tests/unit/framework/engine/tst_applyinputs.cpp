@@ -3,11 +3,11 @@
 
 #include "enginerig.h"
 #include "framework/input/keyevent.h"
+#include "framework/productiontest/productiontest.h"
 #include "ledpanel.h"
 #include "menu/itemindex.h"
 #include "menu/ledindex.h"
 #include "tests/testprogram.h"
-#include "widget/factory/dialog_factory.h"
 
 using namespace VASK;
 
@@ -30,7 +30,7 @@ private slots:
     void initTestCase();
     void cleanupTestCase() { delete m_rig; }
     void init();
-    void cleanup() { Factory::m_cur_step = FACTORY_STEP_NONE; }
+    void cleanup() { ProductionTest::m_cur_step = FACTORY_STEP_NONE; }
 
     void mainLayerShowsItsInput_data();
     void mainLayerShowsItsInput();
@@ -258,14 +258,14 @@ void TestApplyInputs::inputUnderTest()
                 told << QString("%1:%2").arg(index).arg(state);
             });
     report(1, 98, 0, 0, 0, 0);
-    Factory::m_cur_step = FACTORY_STEP_IN_OUT;
-    Factory::InputTestNumCur = INOUT_HDMI2;
+    ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
+    ProductionTest::InputTestNumCur = INOUT_HDMI2;
     report(1, 98, 3, 1920, 1080, 16667);
     report(0, 97, 0, 0, 0, 0); // another one between must not hide the loss
     report(1, 98, 0, 0, 0, 0);
     report(1, 98, 0, 0, 0, 0);
     QCOMPARE(told, (QStringList{"stable", "1:2"}));
-    Factory::m_cur_step = FACTORY_STEP_KEYS;
+    ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
     report(1, 98, 3, 1920, 1080, 16667);
     QCOMPARE(told.size(), 2);
 }

@@ -3,12 +3,12 @@
 
 #include "enginerig.h"
 #include "framework/input/keypadevent.h"
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "tests/testprogram.h"
-#include "widget/factory/dialog_factory.h"
 
 #include <QSignalSpy>
 #include <QTableView>
@@ -64,7 +64,7 @@ void TestApplyPages::init()
 
 void TestApplyPages::cleanup()
 {
-    Factory::m_cur_step = FACTORY_STEP_NONE;
+    ProductionTest::m_cur_step = FACTORY_STEP_NONE;
     for (ENUM_ObjectIndex number :
          {ENUM_PAGE_CustomPictures, ENUM_PAGE_SnapshotSlots, ENUM_PAGE_LoadCabFiles})
         if (page(number))
@@ -186,7 +186,7 @@ void TestApplyPages::emptyHomeScreen()
 
 void TestApplyPages::productionTestHasTheScreen()
 {
-    Factory::m_cur_step = FACTORY_STEP_IN_OUT;
+    ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
     QVERIFY(!m_rig->engine->CreateDialog(MSG_OverLoad, {}));
     const std::unique_ptr<QDialog> result(m_rig->engine->CreateDialog(MSG_InOutTestSaveResult, {}));
     QVERIFY(result);

@@ -1,9 +1,9 @@
 // The Ethernet ports on the home screen, with their backup and the optical links, as the device reports them.
 
 #include "enginerig.h"
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "tests/testprogram.h"
-#include "widget/factory/dialog_factory.h"
 
 using namespace VASK;
 
@@ -27,7 +27,7 @@ private slots:
     void initTestCase() { m_rig = new EngineRig; }
     void cleanupTestCase() { delete m_rig; }
     void init();
-    void cleanup() { Factory::m_cur_step = FACTORY_STEP_NONE; }
+    void cleanup() { ProductionTest::m_cur_step = FACTORY_STEP_NONE; }
 
     void portShowsItsState_data();
     void portShowsItsState();
@@ -161,7 +161,7 @@ void TestApplyPorts::linkedPortPassesTheTest()
 {
     QFETCH(int, step);
     QFETCH(QString, link);
-    Factory::m_cur_step = step;
+    ProductionTest::m_cur_step = step;
     int passed = -1;
     const auto connection = connect(m_rig->engine, &ParaProcess::signal_update_menuitem, this,
                                     [&passed](en_inout_test_index index, en_item_state state) {

@@ -1,12 +1,12 @@
 // The way home when no key comes: from where the panel goes home, what it ends on the way, and when it stays.
 
 #include "framework/object/globaltimer.h"
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
-#include "widget/factory/dialog_factory.h"
 
 #include <QDialog>
 
@@ -108,13 +108,13 @@ private slots:
         }
         MenuDirectory *menu = PageRig::page(ENUM_MAIN_MENU);
         if (where == "factory test")
-            Factory::m_cur_step = FACTORY_STEP_KEYS;
+            ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
         if (where == "no menu")
             ObjectPool::getInstance()->RemoveByIndex(ENUM_MAIN_MENU);
         QApplication::setActiveWindow(active);
         const QWidget *shown = m_rig->shown();
         timeIsUp();
-        Factory::m_cur_step = FACTORY_STEP_NONE;
+        ProductionTest::m_cur_step = FACTORY_STEP_NONE;
         ObjectPool::getInstance()->InsertData(ENUM_MAIN_MENU, menu);
         QCOMPARE(m_rig->shown(), shown);
         QVERIFY(active->isVisible());

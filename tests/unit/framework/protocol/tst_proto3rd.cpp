@@ -220,13 +220,13 @@ void TestProto3rd::productionTestSeesSockets()
             });
     setCables(0, 0);
     bench.protocol.initialize();
-    Factory::m_cur_step = FACTORY_STEP_KEYS;
+    ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
     setCables(1, 0);
     QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 1; }, 3000));
-    Factory::m_cur_step = FACTORY_STEP_IN_OUT;
+    ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
     setCables(0, 1); // one in, one out: only what is in has passed
     QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 2; }, 3000));
-    Factory::m_cur_step = FACTORY_STEP_NONE;
+    ProductionTest::m_cur_step = FACTORY_STEP_NONE;
     QCOMPARE(passed, (QList<QPair<int, int>>{{10, 1}}));
 }
 

@@ -5,6 +5,7 @@
 #include "frames.h"
 #include "framework/input/keypadevent.h"
 #include "framework/legacy/selfchecklist.h"
+#include "framework/productiontest/productiontest.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/protocol/receive/reportdispatch.h"
@@ -12,7 +13,6 @@
 #include "menu/keycodes.h"
 #include "tests/testprogram.h"
 #include "tests/unit/framework/engine/enginerig.h"
-#include "widget/factory/dialog_factory.h"
 
 #include <QtTest>
 
@@ -213,9 +213,9 @@ void TestReceive::selfTestTellsTheProductionTest()
 
     receive(0x13800000, "HEAD;");
     QCOMPARE(window.types, QList<int>());
-    Factory::m_cur_step = FACTORY_STEP_SELF_TEST;
+    ProductionTest::m_cur_step = FACTORY_STEP_SELF_TEST;
     receive(0x13800000, "HEAD;");
-    Factory::m_cur_step = FACTORY_STEP_NONE;
+    ProductionTest::m_cur_step = FACTORY_STEP_NONE;
     rig->settle();
     QCOMPARE(window.types, QList<int>({KEY_PRESSED * 100 + KEY_SELF_TEST_DONE}));
 }

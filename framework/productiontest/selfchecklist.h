@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QMutex>
 #include <QString>
+#include <QVector>
 
 namespace VASK
 {
@@ -19,12 +20,17 @@ class SelfCheckList
 {
 public:
     static constexpr const char *normal = "normal";
+    static constexpr const char *error = "error";
+    /// The rows that the panel fills by asking its own board; those before them come from the device.
+    enum OwnRow { FpgaStatus = 27, FpgaMemory = 28, McuStatus = 29 };
 
     /// The rows by their number in decimal.
     static QMap<QString, ListItemInfo> rows();
-    static void setRow(const QString &number, const ListItemInfo &row);
-    /// What a test found; the name of a row that is there stays.
+    /// The rows in the order of their numbers.
+    static QVector<ListItemInfo> inOrder();
+    /// What a test found; the name of the row stays, a row that is not there yet gets none.
     static void setResult(int number, const QString &text, const QString &status);
+    static void setVerdict(OwnRow row, bool good);
 
 private:
     static QMutex m_mutex;
