@@ -6,6 +6,7 @@
 #include "emulator/model/inputs.h"
 #include "emulator/model/ports.h"
 #include "emulator/model/presets.h"
+#include "emulator/model/selftest.h"
 #include "emulator/model/service.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
@@ -112,6 +113,20 @@ void calibrate(Session &session, const QStringList &list)
     tell(session, service::calibrate(session.emulator.device.registers(), *on));
 }
 
+/// What the next self test finds. The panel asks its own board by itself: that is the word fault tool.
+void selfTest(Session &session, const QStringList &list)
+{
+    Registers &registers = session.emulator.device.registers();
+    const bool healthy = !list.isEmpty() && list.last() == "healthy";
+    const bool done =
+        healthy ? list.size() <= 2 && selftest::heal(registers, list.mid(0, list.size() - 1).join(""))
+                : list.size() == 2 && selftest::setFault(registers, list[0], list[1]);
+    if (done)
+        session.ok();
+    else
+        failUsage(session, "selftest");
+}
+
 /// Progress goes out in hundredths of a percent, and errors above all of them.
 void update(Session &session, const QStringList &list)
 {
@@ -146,6 +161,8 @@ QVector<Word> modelWords()
         {"preset", "list", "the ten presets with state and name", preset},
         {"device", "show", "the whole state of the device", device},
         {"rename", "NAME", "a PC gives the device a name; \"\" takes it away", rename},
+        {"selftest", "NAME VALUE|healthy, or healthy",
+         "what the device finds at its self test: a value at fault, or all that is well", selfTest},
         {"calibrate", "on|off", "a PC calibrates the wall", calibrate},
         {"update", "PERCENT|ERRORCODE|end", "progress of a firmware update; errors: 25300, 25400, 25500",
          update},

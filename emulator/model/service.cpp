@@ -38,10 +38,12 @@ Reports allReports(const Registers &registers)
 QStringList describe(const Registers &registers)
 {
     const bool usbFirst = registers.u8(communicationRegister) == 0;
-    return {"name: " + devicename::nameOf(registers.flash()), "work mode: " + workmode::text(registers),
+    return {"name: " + devicename::nameOf(registers.flash()),
+            "work mode: " + workmode::text(registers),
             "low latency: " + onOff(registers.u8(lowLatencyRegister) == lowLatencyOn),
             "soft calibration: " + onOff(registers.u8(calibrationRegister) == deviceOn),
-            QString("communication: %1 preferred").arg(usbFirst ? "USB" : "LAN")};
+            QString("communication: %1 preferred").arg(usbFirst ? "USB" : "LAN"),
+            "self test: " + selftest::describe(registers)};
 }
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "emulator/model/inputs.h"
 #include "emulator/model/ports.h"
 #include "emulator/model/presets.h"
+#include "emulator/model/selftest.h"
 #include "modelrig.h"
 #include "tests/testprogram.h"
 
@@ -103,6 +104,21 @@ void TestDevicePresets::selfTestTellsItsRecords()
     QCOMPARE(records.size(), 29); // a header, 27 values and nothing behind the last
     for (const QByteArray &record : records.mid(1, 27))
         QVERIFY2(record.split(':').size() == 6 && record.endsWith(":normal"), record);
+
+    Registers &registers = rig.model.registers();
+    const auto found = [&] { return ModelRig::find(rig.write(0x13800000, "00"), 0x13800000)->bytes; };
+    QVERIFY(selftest::setFault(registers, "F_TEMP", "97"));
+    QVERIFY(selftest::setFault(registers, "S1_TEMP", QString(63, '9')));
+    QVERIFY(found().contains(";F_TEMP:--:--:97:--:error;F_D_CLK_ST:--:--:normal:--:normal;"));
+    QVERIFY(found().endsWith("999:--:error;" + QByteArray(1, '\0')));
+    for (const char *text : {"", "--", "a:b", "a;b", "温"})
+        QVERIFY2(!selftest::setFault(registers, "F_DDR", QString::fromUtf8(text)), text);
+    QVERIFY(!selftest::setFault(registers, "F_DDR", QString(64, 'x')));
+    QVERIFY(!selftest::setFault(registers, "FPGA_DDR", "error") && !selftest::heal(registers, "FPGA_DDR"));
+    QVERIFY(selftest::heal(registers, "S1_TEMP"));
+    QCOMPARE(rig.shown("self test"), QString("self test: F_TEMP 97"));
+    QVERIFY(selftest::heal(registers));
+    QVERIFY(!found().contains("error"));
 }
 
 void TestDevicePresets::resetsSpareWhatTheyShould_data()
