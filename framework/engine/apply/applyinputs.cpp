@@ -164,10 +164,10 @@ struct SamplingRow {
     ENUM_MenuIndex item;
 };
 constexpr SamplingRow samplingRows[] = {
-    {96, MENU_HDMI1_ColorSample}, {97, MENU_HDMI1_ColorSample}, {98, MENU_HDMI2_ColorSample},
-    {104, MENU_DVI_ColorSample},  {105, MENU_DVI_ColorSample},  {0, MENU_DVI_ColorSample},
-    {1, MENU_DVI_ColorSample},    {2, MENU_DVI2_ColorSample},   {106, MENU_DVI2_ColorSample},
-    {48, MENU_SDI_ColorSample},
+    {17, MENU_HDMI1_ColorSample}, {96, MENU_HDMI1_ColorSample}, {97, MENU_HDMI1_ColorSample},
+    {18, MENU_HDMI2_ColorSample}, {98, MENU_HDMI2_ColorSample}, {104, MENU_DVI_ColorSample},
+    {105, MENU_DVI_ColorSample},  {0, MENU_DVI_ColorSample},    {1, MENU_DVI_ColorSample},
+    {2, MENU_DVI2_ColorSample},   {106, MENU_DVI2_ColorSample}, {48, MENU_SDI_ColorSample},
 };
 constexpr const char *samplings[] = {"RGB 4:4:4", "YCbCr 4:2:2", "YCbCr 4:4:4"};
 constexpr int sampledInputs = 5; ///< inputs of which the sampling is shown

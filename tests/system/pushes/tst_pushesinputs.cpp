@@ -103,9 +103,11 @@ private slots:
                         "1020/Enable=false")
                 .shows({"pip1name:HDMI2", "pip2name:DVI"})
                 .answers({"13000001 00 00", "13000001 00 00"}),
-            inputRow("HDMI 1", 0, {0, 3, 1280, 720, 20000, 1}).shows({"main:1280x720@50"}),
+            inputRow("HDMI 1", 0, {0, 3, 1280, 720, 20000, 1})
+                .stores("2304=YCbCr 4:2:2")
+                .shows({"main:1280x720@50"}),
             inputRow("HDMI 2, interlaced", 1, {1, 3, 1920, 1080, 16667, 2})
-                .stores("2118/Enable=true")
+                .stores("2118/Enable=true 2309=YCbCr 4:4:4")
                 .shows({"pip1:1920x1080i@60"}),
             inputRow("DVI, a fraction", 2, {0, 3, 1024, 768, 16683, 1})
                 .stores("2128/Enable=true 2314=YCbCr 4:2:2")
@@ -127,7 +129,7 @@ private slots:
                 .shows({"pip2:" + noSignal}),
             PushRow("a short record", "13010021 12")
                 .tells("3254=18 3255=0 3256=0 3257=0 3258=0 3259=0 3260=0")
-                .stores("2118/Enable=false")
+                .stores("2118/Enable=false 2309=RGB 4:4:4")
                 .shows({"pip1:" + noSignal}),
             PushRow("HDMI 1 again", window(0, 1, 0))
                 .stores("2101=0 2108/Enable=true")
@@ -146,7 +148,9 @@ private slots:
                 .stores("2128/Enable=true")
                 .shows({"screen:1920x1080@60", "pip2:1024x768@60"}),
             inputRow("DVI too slow", 2, {0, 3, 1024, 768, 20000, 0}).shows({"pip2:1024x768@50"}),
-            inputRow("HDMI 1 a little slower", 0, {0, 3, 1280, 720, 16683, 0}).shows({"main:1280x720@59.94"}),
+            inputRow("HDMI 1 a little slower", 0, {0, 3, 1280, 720, 16683, 0})
+                .stores("2304=RGB 4:4:4")
+                .shows({"main:1280x720@59.94"}),
             PushRow("free", "1300002a 0003").stores("2350=0").answers({"13040007 00 7017"}),
             inputRow("DVI a little slower", 2, {0, 3, 1024, 768, 16683, 0}).shows({"pip2:1024x768@59.94"}),
         });

@@ -226,10 +226,9 @@ void TestApplyInputs::sourceLedsFollow()
 void TestApplyInputs::samplingGoesToItsPage_data()
 {
     addColumns<int, int, QString, int, QString>({"input", "code", "value", "item", "text"});
-    const int codes[][2] = {{96, MENU_HDMI1_ColorSample},
-                            {104, MENU_DVI_ColorSample},
-                            {1, MENU_DVI_ColorSample},
-                            {2, MENU_DVI2_ColorSample}};
+    const int codes[][2] = {{96, MENU_HDMI1_ColorSample}, {17, MENU_HDMI1_ColorSample},
+                            {18, MENU_HDMI2_ColorSample}, {104, MENU_DVI_ColorSample},
+                            {1, MENU_DVI_ColorSample},    {2, MENU_DVI2_ColorSample}};
     for (const auto &row : codes)
         addRow(QString("code %1").arg(row[0]), 1, row[0], "2", row[1], "YCbCr 4:4:4");
     addRow("unknown sampling", 0, 97, "3", MENU_HDMI1_ColorSample, "RGB 4:4:4");
