@@ -129,10 +129,13 @@ bool Device::report(const Reports &reports)
 
 bool Device::reportAndAdopt(const Report &report)
 {
-    m_model.adopt(report);
+    const Reports following = m_model.adopt(report);
     // What waits of that register is older.
     forget(report);
-    return send(report, false);
+    const bool taken = send(report, false);
+    if (m_reporting)
+        sendLater(following);
+    return taken;
 }
 
 bool Device::reportAll()

@@ -125,11 +125,12 @@ QVector<FlashPiece> ownRegisters()
     };
     QVector<Value> values = {
         {sendingSide, cabinetRegister, Block(4).u16(0, wallWidth / 4).u16(2, wallHeight / 4)}, // cabinets
-        {sendingSide, linkRegisters[0], QByteArray(1, 0x0F)},                         // four ports linked
-        {sendingSide, idleRegister, QByteArray("\xF0\x03", 2)},                       // the others idle
-        {sendingSide, osdRegister + osdPriorityOffset, QByteArray(1, osdInFront)},    // OSD in front
-        {sendingSide, osdPictureRegister, QByteArray(osdPictureCount, 1)},            // with all pictures
-        {sendingSide, screenPortRegister, QByteArray(2, 4)},                          // 4x4 cabinets
+        {sendingSide, linkRegisters[0], QByteArray(1, 0x0F)},                      // four ports linked
+        {sendingSide, idleRegister, QByteArray("\xF0\x03", 2)},                    // the others idle
+        {sendingSide, osdRegister + osdPriorityOffset, QByteArray(1, osdInFront)}, // OSD in front
+        {sendingSide, osdPictureRegister, QByteArray(osdPictureCount, 1)},         // with all pictures
+        // The quick form as a panel shows it, which is never told: one row, one column, one cabinet a port.
+        {sendingSide, screenPortRegister, Block(4).u8(0, 1).u8(1, 1).u16(2, 1)},
         {receivingCard, cardBrightnessRegister, QByteArray(1, char(60 * 255 / 100))}, // brightness
         {receivingCard, cardGammaRegister, QByteArray(1, 28)},                        // gamma
     };

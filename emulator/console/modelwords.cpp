@@ -81,11 +81,12 @@ QStringList describeCables(const Emulator &emulator)
     const auto line = [&values](const char *what, const char *name) {
         return QString("  %1: %2").arg(what).arg(values.value(name).toInt());
     };
+    const bool usbFirst = values.value(hostlink::linkPriority).toInt() == 0;
     return {"cables",
             line("USB cable", hostlink::linkUsb),
             line("Ethernet cable", hostlink::linkEthernet),
             line("loop cable", hostlink::linkLoop),
-            line("priority of the PC", hostlink::linkPriority),
+            QString("  communication: %1 preferred").arg(usbFirst ? "USB" : "LAN"),
             "  heartbeat: " + onOff(emulator.device.hasHeartbeat())};
 }
 

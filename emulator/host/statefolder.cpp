@@ -5,6 +5,7 @@
 #include "emulator/host/defaultstate.h"
 #include "emulator/host/diskimage.h"
 #include "fpd_hostlink.h"
+#include "fpd_hostvalues.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -38,6 +39,15 @@ QString writeIfMissing(const QString &file, const QByteArray &content)
         (output.open(QIODevice::WriteOnly) && output.write(content) == content.size() && output.commit()))
         return QString();
     return "cannot write " + file + ": " + output.errorString();
+}
+
+/// As at delivery and after a reset: a PC is heard over the network before USB.
+QString deliverLinks(const QString &file)
+{
+    if (hostlink::readValues(file).contains(hostlink::linkPriority) ||
+        hostlink::changeValue(file, hostlink::linkPriority, "1"))
+        return QString();
+    return "cannot write " + file;
 }
 
 QString reserveLcd(const QString &file)
@@ -90,7 +100,7 @@ QString StateFolder::take()
 
 QString StateFolder::install()
 {
-    QStringList faults{reserveLcd(file(hostlink::lcdFile))};
+    QStringList faults{reserveLcd(file(hostlink::lcdFile)), deliverLinks(file(hostlink::linkFile))};
     for (const char *folder : boardFolders)
         if (!QDir().mkpath(file(folder)))
             faults += "cannot make the folder " + file(folder);

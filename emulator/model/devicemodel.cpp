@@ -31,15 +31,26 @@ const QVector<Subject> &allSubjects()
     return subjects;
 }
 
-Reports DeviceModel::obey(const Write &write)
+namespace
+{
+/// The row of the registers that a write begins in; null if nobody knows them.
+const RegisterRow *rowOf(const Write &write)
 {
     for (const Subject &subject : allSubjects()) {
         for (const RegisterRow &row : subject.rows) {
-            const int member = row.memberOf(write);
-            if (member >= 0 && !write.bytes.isEmpty())
-                return row.obey(m_registers, row, member, write);
+            if (row.memberOf(write) >= 0)
+                return &row;
         }
     }
+    return nullptr;
+}
+} // namespace
+
+Reports DeviceModel::obey(const Write &write)
+{
+    const RegisterRow *row = rowOf(write);
+    if (row && !write.bytes.isEmpty())
+        return row->obey(m_registers, *row, row->memberOf(write), write);
     m_registers.write(write.deviceType, write.address, write.bytes);
     return {};
 }
@@ -52,18 +63,20 @@ Reports DeviceModel::reports() const
     return list;
 }
 
-void DeviceModel::adopt(const Report &report)
+Reports DeviceModel::adopt(const Report &report)
 {
     quint32 address = report.address;
     for (const Elsewhere &row : elsewhere) {
         if (report.deviceType != sendingSide || address < row.first || address - row.first >= row.count)
             continue;
         if (row.isEvent)
-            return;
+            return {};
         address = quint32(address + row.shift);
         break;
     }
     m_registers.write(report.deviceType, address, report.bytes);
+    const RegisterRow *row = rowOf({report.deviceType, address, report.bytes});
+    return row && row->follow ? row->follow(m_registers) : Reports();
 }
 
 QStringList DeviceModel::describe() const

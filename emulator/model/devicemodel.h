@@ -15,8 +15,8 @@ public:
     Reports obey(const Write &write);
     /// All that the device reports when it has started.
     Reports reports() const;
-    /// Takes over what a report tells, so that the device holds it, too.
-    void adopt(const Report &report);
+    /// Takes over what a report tells, so that the device holds it, too; what it reports because of it.
+    Reports adopt(const Report &report);
     /// The whole state in plain text: a heading a subject, "  what: value" a line.
     QStringList describe() const;
 

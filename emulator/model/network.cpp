@@ -55,15 +55,21 @@ QByteArray addressFromServer()
     return block;
 }
 
-Reports obeyAutomatic(Registers &registers, const RegisterRow &row, int member, const Write &write)
+/// A device that is to have its address from a server asks for it, whoever has switched that on.
+Reports askServer(Registers &registers)
 {
-    Reports reports = obey::storeAndReport(registers, row, member, write);
     if (!read(registers).automatic)
-        return reports;
+        return {};
     registers.write(networkRegister, addressFromServer());
     Report address = addressReport(registers);
     address.afterMs = serverMs;
-    return reports + Reports{address};
+    return {address};
+}
+
+Reports obeyAutomatic(Registers &registers, const RegisterRow &row, int member, const Write &write)
+{
+    const Reports reports = obey::storeAndReport(registers, row, member, write);
+    return reports + askServer(registers);
 }
 
 Reports allReports(const Registers &registers)
@@ -81,9 +87,9 @@ QStringList describe(const Registers &registers)
 
 Subject networkSubject()
 {
-    return {
-        "network",
-        {{networkRegister, networkLength, 1, 0, obeyAddress}, {automaticRegister, 1, 1, 0, obeyAutomatic}},
-        allReports,
-        describe};
+    return {"network",
+            {{networkRegister, networkLength, 1, 0, obeyAddress},
+             {automaticRegister, 1, 1, 0, obeyAutomatic, sendingSide, askServer}},
+            allReports,
+            describe};
 }

@@ -15,7 +15,6 @@ constexpr quint32 cabinetLoadedRegister = 0x0FF00000;
 constexpr quint32 calibrationRegister = 0x0200009C;
 constexpr quint32 lowLatencyRegister = 0x02000074;
 constexpr int lowLatencyOn = 120;
-constexpr quint32 communicationRegister = 0x022000C0; ///< 0: USB goes before LAN
 
 // How long the device takes.
 constexpr int serviceStartMs = 300;
@@ -37,12 +36,9 @@ Reports allReports(const Registers &registers)
 
 QStringList describe(const Registers &registers)
 {
-    const bool usbFirst = registers.u8(communicationRegister) == 0;
-    return {"name: " + devicename::nameOf(registers.flash()),
-            "work mode: " + workmode::text(registers),
+    return {"name: " + devicename::nameOf(registers.flash()), "work mode: " + workmode::text(registers),
             "low latency: " + onOff(registers.u8(lowLatencyRegister) == lowLatencyOn),
             "soft calibration: " + onOff(registers.u8(calibrationRegister) == deviceOn),
-            QString("communication: %1 preferred").arg(usbFirst ? "USB" : "LAN"),
             "self test: " + selftest::describe(registers)};
 }
 } // namespace

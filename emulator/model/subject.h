@@ -35,6 +35,8 @@ struct RegisterRow {
     /// Changes the registers; what the device reports of it.
     Reports (*obey)(Registers &registers, const RegisterRow &row, int member, const Write &write);
     quint8 deviceType = sendingSide;
+    /// What follows by itself when the device, not the panel, has changed the registers; null: nothing.
+    Reports (*follow)(Registers &registers) = nullptr;
 
     quint32 addressOf(int member) const { return first + stride * quint32(member); }
     /// The member that a write begins in, -1 if in none.

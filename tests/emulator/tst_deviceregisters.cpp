@@ -121,10 +121,9 @@ void TestDeviceRegisters::whatIsWrittenIsShown_data()
     row(0x02000002, "010203", "colours: red 1, green 2, blue 3", receivingCard);
     row(0x01000088, "05", "mapping: on", receivingCard);
     row(0x02810018, "1000", "quick configuration: 16 cabinets on the first port, flow way 0");
-    row(0x02810011, "03", "quick configuration: 0 cabinets on the first port, flow way 3");
+    row(0x02810011, "03", "quick configuration: 1 cabinets on the first port, flow way 3");
     row(0x02810000, "a8", "advanced configuration: on");
     row(0x02810096, "02030600f401c800", "place of port 2: 500,200, flow way 0");
-    row(0x022000C0, "01", "communication: LAN preferred");
 }
 
 void TestDeviceRegisters::whatIsWrittenIsShown()

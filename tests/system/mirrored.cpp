@@ -16,6 +16,8 @@ struct Row {
     int item;
     QString line; ///< one capture: the value, in the device's words
     Words values; ///< for each word the value in the store; without any it is the same
+    const char *field = "Value";
+    bool isListed = false; ///< the device tells the text of the row that the store holds the number of
 };
 
 const Words switches{{"off", "0"}, {"on", "1"}};
@@ -92,6 +94,39 @@ QVector<Row> inputRows()
     return rows;
 }
 
+/// What is configured of the wall and its output. The forms are never told: the panel knows what it has
+/// written, and what a device is delivered with.
+QVector<Row> wallRows()
+{
+    const Words outputs{{"device", "0"}, {"software configuration", "1"}};
+    return {
+        {MENU_MainLayerTransition, "transition: (\\w+), .*", {{"fade", "0"}, {"cut", "1"}}},
+        {MENU_TransitionDuration, "transition: \\w+, (.*) s", {}},
+        {MENU_FTBDuration, "time to black: (.*) s", {}},
+        {MENU_Test_Brightness, "test picture: brightness (\\d+), .*", {}},
+        {MENU_Test_Spacing, "test picture: .*, spacing (\\d+), .*", {}},
+        {MENU_Test_Speed, "test picture: .*, speed (\\d+)", {}},
+        {MENU_OutputMode, "output mode: (.*)", outputs},
+        {MENU_Output_Mode, "output mode: (.*)", outputs},
+        {MENU_OutputFrameRate, "size of the device: .*@(.*)", {}, "Value", true},
+        {MENU_Output_Resolution, "size of the software configuration: (.*)@.*", {}, "Value", true},
+        {MENU_Output_FrameRate, "size of the software configuration: .*@(.*)", {}, "Value", true},
+        {MENU_Quick_CabinetRow, "quick form: (\\d+) rows, .*", {}},
+        {MENU_Quick_CabinetCol, "quick form: .*, (\\d+) columns", {}},
+        {MENU_Quick_PortOneCab, "quick configuration: (\\d+) cabinets on the first port, .*", {}},
+        {MENU_Quick_FlowWay, "quick configuration: .*, flow way (\\d+)", {}},
+        {MENU_Advanced_Status, "advanced configuration: (on|off)", switches},
+        {MENU_Color_R, "colours: red (\\d+), .*", {}},
+        {MENU_Color_R + 1, "colours: .*, green (\\d+), .*", {}},
+        {MENU_Color_R + 2, "colours: .*, blue (\\d+)", {}},
+        {MENU_Mapping, "mapping: (on|off)", switches},
+        {MENU_InputBackup_Status, "input backup: (on|off)", switches},
+        {MENU_DeviceBackup, "role of the device: (.*)", {{"primary", "0"}, {"backup", "1"}}},
+        {MENU_OPT2Mode, "OPT 2 mode: (.*)", {{"backup", "0"}, {"copy", "1"}}},
+        {MENU_CommunicationMode, "communication: (\\w+) preferred", {{"LAN", "0"}, {"USB", "1"}}},
+    };
+}
+
 QVector<Row> settingRows()
 {
     const auto osd = [](const char *picture, const char *x, const char *y) {
@@ -129,6 +164,14 @@ QVector<Row> settingRows()
         {MENU_LowLatency, "low latency: (on|off)", switches},
         {MENU_ImageMosaic_Status, "splicing: (on|off)", switches},
     };
+    const QStringList displays{"normal", "freeze", "black", "test pattern"};
+    for (int n = 0; n < 3; ++n) {
+        Words words;
+        for (const QString &display : displays)
+            words.insert(display, display == displays[n] ? "1" : "0");
+        rows += {MENU_Normal + n, "display: (.*)", words, "Choice"};
+    }
+    rows += wallRows();
     constexpr int presets = 10;
     for (int preset = 0; preset < presets; ++preset)
         rows += {MENU_Preset1 + preset,
@@ -156,6 +199,20 @@ QString toldBy(const QStringList &lines, const Row &row, QString &line)
     line = "no line " + row.line;
     return "?";
 }
+QString keptOf(const QMap<QString, QString> &stored, const Row &row)
+{
+    const QString item = QString::number(row.item);
+    const QString value = stored.value(row.field == QByteArray("Value") ? item : item + '/' + row.field);
+    return row.isListed ? QString(stored.value(item + "/Params/" + value)).replace('*', 'x') : value;
+}
+
+/// As text or as numbers: "1.0" is 1.
+bool areSame(const QString &kept, const QString &told)
+{
+    bool isNumber = false, isToldNumber = false;
+    const double number = kept.toDouble(&isNumber), toldNumber = told.toDouble(&isToldNumber);
+    return kept == told || (isNumber && isToldNumber && number == toldNumber);
+}
 } // namespace
 
 QStringList mirrored::differences(Panel &panel)
@@ -166,8 +223,8 @@ QStringList mirrored::differences(Panel &panel)
     for (const Row &row : rows()) {
         QString line;
         const QString told = toldBy(lines, row, line);
-        const QString kept = stored.value(QString::number(row.item));
-        if (kept != told)
+        const QString kept = keptOf(stored, row);
+        if (!areSame(kept, told))
             list += QString("%1: %2 in the store, %3 at the device (%4)").arg(row.item).arg(kept, told, line);
     }
     return list;

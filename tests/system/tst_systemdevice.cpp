@@ -1,6 +1,7 @@
 // The device by the words of its console, with the panel on its bus: what happens at the device is in its
 // state, the panel takes it over, and a session can be played again.
 #include "menu/itemindex.h"
+#include "tests/system/mirrored.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -23,6 +24,12 @@ private slots:
         QVERIFY2(m_panel.writes().size() < 20, qPrintable(m_panel.writes().join('\n')));
     }
 
+    void panelAndDeviceAgreeFromDelivery()
+    {
+        m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
+        QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
+    }
+
     void wordsChangeTheDevice_data()
     {
         QTest::addColumn<QString>("words");
@@ -38,6 +45,7 @@ private slots:
         row("port 6 backup on", "  port 6: link on, backup on, engaged off");
         row("port 6 engaged on", "  port 6: link on, backup on, engaged on");
         row("rename Stage", "  name: Stage");
+        row("link priority 0", "  communication: USB preferred");
         row("calibrate on", "  soft calibration: on");
         row("calibrate off", "  soft calibration: off");
         row("push 1300009E 0214", "  volume: 20");
@@ -71,6 +79,14 @@ private slots:
         const Answer answer = m_panel.ask(words.split(' '));
         QVERIFY(!answer.ok && !answer.error.isEmpty());
         QCOMPARE(shown(), before);
+    }
+
+    void aPushedServerSwitchBringsAnAddress()
+    {
+        QVERIFY(m_panel.ask({"push", "1300001A", "A8"}).ok);
+        QVERIFY(m_panel.waitFor("192.168.0.137"));
+        QVERIFY(shown().contains("  address: 192.168.0.137"));
+        QVERIFY(waitUntilStored(MENU_Net_IPAddress, "192.168.0.137"));
     }
 
     void panelAndDeviceAgreeAfterAReplay()
