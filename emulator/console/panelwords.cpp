@@ -21,8 +21,11 @@ void log(Session &session, const QStringList &list)
     const bool follow = list == QStringList{"--follow"};
     if (!follow && !list.isEmpty())
         return failUsage(session, "log");
-    for (const QString &line : session.emulator.panel.log())
-        session.print(line);
+    const PanelLog &log = session.emulator.panel.log();
+    if (log.dropped() > 0)
+        session.print(QString("(%1 older lines are no longer kept)").arg(log.dropped()));
+    for (const LogLine &line : log.lines())
+        session.print(QString::fromUtf8(line.text));
     if (!follow)
         return session.ok();
     QObject::connect(&session.emulator.panel, &PanelProcess::line, session.request(),
@@ -77,8 +80,8 @@ void waitReady(Session &session)
 
 void waitLog(Session &session, const QString &text)
 {
-    for (const QString &line : session.emulator.panel.log()) {
-        if (line.contains(text))
+    for (const LogLine &line : session.emulator.panel.log().lines()) {
+        if (QString::fromUtf8(line.text).contains(text))
             return session.ok();
     }
     QObject::connect(&session.emulator.panel, &PanelProcess::line, session.request(),

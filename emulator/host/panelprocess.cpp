@@ -10,7 +10,7 @@
 namespace
 {
 constexpr int gentleEndMs = 3000;
-constexpr int keptLines = 200000;
+constexpr int longestLine = 1024 * 1024; ///< bytes; a longer one is taken in pieces
 
 /// Of unread log, so that a panel with much to say need not wait for a busy emulator.
 constexpr int pipeBytes = 1024 * 1024;
@@ -48,9 +48,8 @@ QProcessEnvironment panelEnvironment(const QString &stateFolder)
 } // namespace
 
 PanelProcess::PanelProcess(const QString &stateFolder, QObject *parent)
-    : QObject(parent), m_stateFolder(stateFolder), m_file(stateFolder + "/panel.log")
+    : QObject(parent), m_stateFolder(stateFolder), m_log(stateFolder + "/panel.log")
 {
-    m_file.open(QIODevice::WriteOnly);
 }
 
 PanelProcess::~PanelProcess()
@@ -115,16 +114,15 @@ void PanelProcess::readLines()
         from = end + 1;
     }
     m_rest.remove(0, from);
-    m_file.flush();
+    for (; m_rest.size() > longestLine; m_rest.remove(0, longestLine))
+        addLine(m_rest.left(longestLine));
+    m_log.flush();
 }
 
 void PanelProcess::addLine(const QByteArray &text)
 {
-    m_file.write(text + '\n');
-    if (m_log.size() >= keptLines)
-        m_log.erase(m_log.begin(), m_log.begin() + keptLines / 2);
-    m_log.append(QString::fromUtf8(text));
-    emit line(m_log.last());
+    m_log.add(text);
+    emit line(QString::fromUtf8(text));
 }
 
 void PanelProcess::finish(int code, QProcess::ExitStatus status)
@@ -132,7 +130,7 @@ void PanelProcess::finish(int code, QProcess::ExitStatus status)
     readLines();
     if (!m_rest.isEmpty())
         addLine(m_rest);
-    m_file.flush();
+    m_log.flush();
     m_rest.clear();
     if (!m_told)
         m_failure = status == QProcess::CrashExit ? QString("crashed with signal %1").arg(code)

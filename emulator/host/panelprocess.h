@@ -1,10 +1,10 @@
-// The panel's process and its debug stream. The stream is kept in memory for the console and in the file
-// panel.log of the state folder. Main thread.
+// The panel's process and its debug stream, which goes into the file panel.log of the state folder. Main
+// thread.
 #pragma once
 
-#include <QFile>
+#include "emulator/host/panellog.h"
+
 #include <QProcess>
-#include <QStringList>
 
 class PanelProcess : public QObject
 {
@@ -19,8 +19,8 @@ public:
     void kill();
     bool isRunning() const { return m_process && m_process->state() != QProcess::NotRunning; }
 
-    /// The debug stream since the emulator's start, oldest first.
-    const QStringList &log() const { return m_log; }
+    /// The debug stream since the emulator's start.
+    const PanelLog &log() const { return m_log; }
     /// How the last process ended, empty if it is running or was told to end.
     QString failure() const { return m_failure; }
 
@@ -37,8 +37,7 @@ private:
     QString m_stateFolder;
     QProcess *m_process = nullptr;
     QByteArray m_rest;
-    QStringList m_log;
-    QFile m_file;
+    PanelLog m_log;
     QString m_failure;
     bool m_told = false;
 };

@@ -87,5 +87,7 @@ QStringList DeviceModel::describe() const
         for (const QString &line : subject.describe(m_registers))
             lines.append("  " + line);
     }
+    if (m_registers.lost() > 0)
+        lines += {"memory", QString("  bytes without room: %1").arg(m_registers.lost())};
     return lines;
 }

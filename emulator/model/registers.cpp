@@ -4,11 +4,33 @@
 
 namespace
 {
-quint64 keyOf(quint8 deviceType, quint32 address)
+constexpr quint32 blockLength = 256;
+constexpr int mostBlocks = 32 * 1024; ///< 8 MB, far more than a device has registers
+
+quint64 blockOf(quint8 deviceType, quint32 address)
 {
-    return quint64(deviceType) << 32 | address;
+    return quint64(deviceType) << 32 | address / blockLength;
 }
 } // namespace
+
+char Registers::volatileByte(quint8 deviceType, quint32 address) const
+{
+    const auto block = m_volatile.constFind(blockOf(deviceType, address));
+    return block == m_volatile.constEnd() ? '\0' : block->at(int(address % blockLength));
+}
+
+void Registers::setVolatileByte(quint8 deviceType, quint32 address, char byte)
+{
+    auto block = m_volatile.find(blockOf(deviceType, address));
+    if (block == m_volatile.end()) {
+        if (m_volatile.size() >= mostBlocks) {
+            ++m_lost;
+            return;
+        }
+        block = m_volatile.insert(blockOf(deviceType, address), QByteArray(int(blockLength), '\0'));
+    }
+    (*block)[int(address % blockLength)] = byte;
+}
 
 QByteArray Registers::read(quint8 deviceType, quint32 address, int length) const
 {
@@ -16,7 +38,7 @@ QByteArray Registers::read(quint8 deviceType, quint32 address, int length) const
     for (int i = 0; i < length; ++i) {
         const quint32 at = address + quint32(i);
         const qint64 mirror = FlashImage::mirrorAddress(deviceType, at);
-        bytes[i] = mirror >= 0 ? m_flash.byte(quint32(mirror)) : m_volatile.value(keyOf(deviceType, at));
+        bytes[i] = mirror >= 0 ? m_flash.byte(quint32(mirror)) : volatileByte(deviceType, at);
     }
     return bytes;
 }
@@ -29,7 +51,7 @@ void Registers::write(quint8 deviceType, quint32 address, const QByteArray &byte
         if (mirror >= 0)
             m_flash.write(quint32(mirror), bytes.mid(i, 1));
         else
-            m_volatile[keyOf(deviceType, at)] = bytes[i];
+            setVolatileByte(deviceType, at, bytes[i]);
     }
 }
 

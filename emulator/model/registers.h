@@ -4,7 +4,7 @@
 
 #include "emulator/bus/flashimage.h"
 
-#include <QMap>
+#include <QHash>
 
 /// Where a register lives.
 enum DeviceType : quint8 {
@@ -32,8 +32,14 @@ public:
 
     /// Forgets what the flash does not hold.
     void powerOff() { m_volatile.clear(); }
+    /// Bytes that were written where the device has no memory left; they read as 0.
+    qint64 lost() const { return m_lost; }
 
 private:
+    char volatileByte(quint8 deviceType, quint32 address) const;
+    void setVolatileByte(quint8 deviceType, quint32 address, char byte);
+
     FlashImage &m_flash;
-    QMap<quint64, char> m_volatile; ///< by device type and address
+    QHash<quint64, QByteArray> m_volatile; ///< blocks of the same length, by device type and address
+    qint64 m_lost = 0;
 };

@@ -18,6 +18,7 @@ private slots:
     void rightEyeStartsDoNotMix();
     void aSendingCardMovesItsWindow();
     void aReportFromOutsideIsHeld();
+    void memoryEndsAndSaysSo();
 };
 
 namespace
@@ -231,6 +232,20 @@ void TestDeviceRegisters::aReportFromOutsideIsHeld()
     const QByteArray before = rig.model.registers().read(0x020001F0, 8);
     rig.model.adopt({0x020001F0, QByteArray(8, 1)});
     QCOMPARE(rig.model.registers().read(0x020001F0, 8), before);
+}
+
+void TestDeviceRegisters::memoryEndsAndSaysSo()
+{
+    constexpr quint32 nobodys = 0x40000000, apart = 4096;
+    constexpr int writes = 40000;
+    ModelRig rig;
+    int kept = 0;
+    for (quint32 n = 0; n < writes; ++n) {
+        rig.write(nobodys + apart * n, "a5");
+        kept += rig.model.registers().u8(nobodys + apart * n) == 0xa5;
+    }
+    QVERIFY(kept > 10000 && kept < writes);
+    QCOMPARE(rig.shown("bytes without room"), QString("bytes without room: %1").arg(writes - kept));
 }
 
 FPD_TEST_GUILESS(TestDeviceRegisters)

@@ -1,6 +1,7 @@
 // The state folder on a disk that is full, and one that is not what it should be.
 #include "emulator/bus/flashimage.h"
 #include "emulator/device/lcd.h"
+#include "emulator/host/panellog.h"
 #include "emulator/host/statefolder.h"
 #include "fpd_hostlink.h"
 #include "fulldisk.h"
@@ -26,6 +27,7 @@ private slots:
     void theDefaultIsTheUsersOwn_data();
     void theDefaultIsTheUsersOwn();
     void imagesTakeUpTheirRoom();
+    void theLogIsBoundedAndCountsWhatWent();
 
 private:
     QString path() const { return m_folder->path(); }
@@ -143,6 +145,32 @@ void TestStateFolder::imagesTakeUpTheirRoom()
         constexpr int blockBytes = 512;
         QVERIFY2(status.st_blocks * blockBytes >= status.st_size, name);
     }
+}
+
+void TestStateFolder::theLogIsBoundedAndCountsWhatWent()
+{
+    constexpr int lines = 1000, length = 100, file = 20000;
+    const QString name = m_folder->filePath("panel.log");
+    PanelLog log(name, {10000, file});
+    const auto line = [](int number) { return QByteArray::number(number).rightJustified(length, '-'); };
+    for (int number = 0; number < lines; ++number)
+        log.add(line(number));
+    log.flush();
+    QVERIFY(log.lines().size() > 50 && log.lines().size() < 100);
+    QCOMPARE(log.dropped() + int(log.lines().size()), lines);
+    QCOMPARE(log.lines().back().text, line(lines - 1));
+    // What is told as gone, what stands in the file before and what stands in this one are all there was.
+    QFile current(name), before(name + ".1");
+    QVERIFY(current.open(QIODevice::ReadOnly) && before.open(QIODevice::ReadOnly));
+    QVERIFY(current.size() <= file && before.size() <= file);
+    const QList<QByteArray> head = current.readLine().split(' ');
+    const int linesBefore = head.value(1).toInt(), dropped = head.value(8).toInt();
+    QCOMPARE(before.readAll().count('\n') - 1, linesBefore);
+    QCOMPARE(dropped + linesBefore + current.readAll().count('\n'), lines);
+    const QByteArray huge(50000, 'x');
+    log.add(huge);
+    QCOMPARE(log.lines().back().text, huge); // the last one is there however long
+    QCOMPARE(int(log.lines().size()), 1);
 }
 
 FPD_TEST_GUILESS(TestStateFolder)
