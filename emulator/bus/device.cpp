@@ -120,11 +120,18 @@ bool Device::pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray 
     return taken;
 }
 
+QString Device::refusal() const
+{
+    return m_server.isFull() ? "the panel does not read what the device tells: its queue is full"
+                             : "no panel is on the bus";
+}
+
 bool Device::report(const Reports &reports)
 {
+    bool taken = isJoined();
     for (const Report &report : reports)
-        send(report, false);
-    return isJoined();
+        taken &= send(report, false);
+    return taken;
 }
 
 bool Device::reportAndAdopt(const Report &report)
@@ -141,13 +148,14 @@ bool Device::reportAndAdopt(const Report &report)
 bool Device::reportAll()
 {
     const int settledMs = Report().afterMs;
+    bool taken = isJoined();
     for (const Report &report : m_model.reports()) {
         if (report.afterMs == settledMs)
-            send(report, false);
+            taken &= send(report, false);
         else // not to be replaced by the next of the same register
             QTimer::singleShot(report.afterMs, this, [this, report] { send(report, false); });
     }
-    return isJoined();
+    return taken;
 }
 
 void Device::setHeartbeat(bool on)

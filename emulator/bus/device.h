@@ -34,17 +34,21 @@ public:
     bool setBusUp(bool up);
     /// The panel is on the bus.
     bool isJoined() const { return m_clients > 0; }
+    /// Why a panel has not taken what was sent.
+    QString refusal() const;
+    /// Packets that were lost since the panel did not read.
+    qint64 refused() const { return m_server.refused(); }
 
     const QVector<RegisterWrite> &writes() const { return m_writes; }
     void clearWrites();
 
-    /// All four: false if no panel is on the bus.
+    /// All four: false if no panel is on the bus, or if it does not read.
     bool pushRead(quint32 address, const QByteArray &bytes, quint8 deviceType, quint8 ack);
     bool pushWrite(quint32 address, const QByteArray &bytes, quint8 deviceType);
     bool pushRaw(const QByteArray &payload);
     bool pushMessage(qint16 largeLabel, qint16 smallLabel, const QByteArray &payload);
 
-    /// Reports of something that happened at the device, at once. False if no panel is on the bus.
+    /// Reports of something that happened at the device, at once. False if a panel has not taken all of them.
     bool report(const Reports &reports);
     /// A report out of the blue: the device holds what it tells from then on.
     bool reportAndAdopt(const Report &report);
@@ -52,7 +56,7 @@ public:
     /// Whether the device reports by itself what it is and what a write has done; it does unless told
     /// otherwise.
     void setReporting(bool on) { m_reporting = on; }
-    /// The reports of the start, now. False if no panel is on the bus.
+    /// The reports of the start, now. False if a panel has not taken all of them.
     bool reportAll();
 
     /// The packets of a PC's session, once a second.

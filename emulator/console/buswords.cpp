@@ -4,14 +4,12 @@
 
 namespace
 {
-constexpr const char *nobodyOnBus = "no panel is on the bus";
-
 void answer(Session &session, bool taken)
 {
     if (taken)
         session.ok();
     else
-        session.fail(nobodyOnBus);
+        session.fail(session.emulator.device.refusal());
 }
 
 QString hex(quint32 value, int digits)
@@ -96,7 +94,10 @@ void heartbeat(Session &session, const QStringList &list)
 {
     if (list != QStringList{"on"} && list != QStringList{"off"})
         return failUsage(session, "heartbeat");
-    session.emulator.device.setHeartbeat(list[0] == "on");
+    Device &device = session.emulator.device;
+    if (list[0] == "on" && !device.isJoined())
+        return session.fail(device.refusal());
+    device.setHeartbeat(list[0] == "on");
     session.ok();
 }
 } // namespace

@@ -52,6 +52,9 @@ QVector<Word> faultWords()
 {
     return {
         {"fault", "bus-send N | flash N | bus down|up | keypad down|up | tool NAME [TEXT]",
-         "failing sends or flash reads, a missing bus or keypad, what a shell tool answers", fault},
+         "failing sends or flash reads, a missing bus or keypad (a panel started without it looks for it at "
+         "its "
+         "next start), what a shell tool answers",
+         fault},
     };
 }

@@ -9,7 +9,6 @@ namespace
 {
 constexpr int tapMs = 20;
 constexpr int holdMs = 3200;
-constexpr const char *nobodyReads = "nobody reads the keypad";
 
 /// The code of one key by its name or its number.
 std::optional<int> keyCode(const QString &text)
@@ -40,7 +39,7 @@ void answer(Session &session, bool taken)
     if (taken)
         session.ok();
     else
-        session.fail(nobodyReads);
+        session.fail(session.emulator.keypad.refusal());
 }
 
 /// Pressed, held for that long, let go: also when whoever asked for it has gone by then.
@@ -48,7 +47,7 @@ void pressFor(Session &session, const QVector<int> &keys, int milliseconds)
 {
     Keypad &keypad = session.emulator.keypad;
     if (!keypad.press(keys))
-        return session.fail(nobodyReads);
+        return session.fail(keypad.refusal());
     const QPointer<QObject> request = session.request();
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &keypad, [&session, &keypad, keys, request] {
         const bool taken = keypad.release(keys);

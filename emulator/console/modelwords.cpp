@@ -15,11 +15,21 @@
 
 namespace
 {
-/// The device has changed in any case; without a panel there is nobody to tell.
+/// The device has changed in any case; a panel that joins the bus later is told.
 void tell(Session &session, const Reports &reports)
 {
     session.emulator.device.report(reports);
     session.ok();
+}
+
+/// What a panel that does not hear of it now never learns.
+void tellNow(Session &session, const Reports &reports)
+{
+    Device &device = session.emulator.device;
+    if (device.report(reports))
+        session.ok();
+    else
+        session.fail(device.refusal());
 }
 
 std::optional<bool> switchValue(const QString &text)
@@ -87,7 +97,8 @@ QStringList describeCables(const Emulator &emulator)
             line("Ethernet cable", hostlink::linkEthernet),
             line("loop cable", hostlink::linkLoop),
             QString("  communication: %1 preferred").arg(usbFirst ? "USB" : "LAN"),
-            "  heartbeat: " + onOff(emulator.device.hasHeartbeat())};
+            "  heartbeat: " + onOff(emulator.device.hasHeartbeat()),
+            QString("  packets that the panel did not read: %1").arg(emulator.device.refused())};
 }
 
 void device(Session &session, const QStringList &list)
@@ -103,7 +114,12 @@ void rename(Session &session, const QStringList &list)
 {
     if (list.size() != 1)
         return failUsage(session, "rename");
-    tell(session, devicename::rename(session.emulator.device.registers(), list[0]));
+    Registers &registers = session.emulator.device.registers();
+    const Reports reports = devicename::rename(registers, list[0]);
+    const QString kept = devicename::nameOf(registers.flash());
+    if (kept != list[0])
+        session.print("the name is cut to " + kept);
+    tellNow(session, reports);
 }
 
 void calibrate(Session &session, const QStringList &list)
@@ -111,7 +127,7 @@ void calibrate(Session &session, const QStringList &list)
     const auto on = switchValue(list.value(0));
     if (list.size() != 1 || !on)
         return failUsage(session, "calibrate");
-    tell(session, service::calibrate(session.emulator.device.registers(), *on));
+    tellNow(session, service::calibrate(session.emulator.device.registers(), *on));
 }
 
 /// What the next self test finds. The panel asks its own board by itself: that is the word fault tool.
@@ -148,7 +164,7 @@ void update(Session &session, const QStringList &list)
         qToLittleEndian(quint16(isError ? *number : *number * hundredths), count.data());
     }
     if (!device.pushMessage(progressLarge, isEnd ? endSmall : progressSmall, count))
-        return session.fail("no panel is on the bus");
+        return session.fail(device.refusal());
     session.ok();
 }
 } // namespace

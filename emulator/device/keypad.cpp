@@ -32,17 +32,26 @@ Keypad::Keypad(const QString &stateFolder, QObject *parent)
 
 bool Keypad::setPresent(bool present)
 {
-    if (present)
-        return m_server.open();
-    m_server.close();
-    return true;
+    m_present = present && m_server.open();
+    if (!present)
+        m_server.stopListening();
+    return m_present == present;
+}
+
+QString Keypad::refusal() const
+{
+    return !m_present          ? "the keypad is unplugged"
+           : m_server.isFull() ? "the panel does not read its keys: their queue is full"
+                               : "nobody reads the keypad";
 }
 
 bool Keypad::sendWords(const QVector<quint16> &words)
 {
     const QSet<int> readers = m_readers;
     m_sentNs = std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1);
-    bool taken = !readers.isEmpty();
+    if (!hasReader())
+        return false;
+    bool taken = true;
     for (quint16 word : words) {
         const quint16 bytes = qToLittleEndian(word);
         for (int reader : readers)
@@ -96,7 +105,7 @@ void Keypad::handlePacket(int client, const QByteArray &packet)
     }
     if (packet == "w")
         return;
-    const qint32 result = qToLittleEndian<qint32>(command(packet) ? 0 : -1);
+    const qint32 result = qToLittleEndian<qint32>(m_present && command(packet) ? 0 : -1);
     m_server.send(client, QByteArray(reinterpret_cast<const char *>(&result), sizeof result));
 }
 

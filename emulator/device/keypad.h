@@ -12,10 +12,13 @@ class Keypad : public QObject
 public:
     explicit Keypad(const QString &stateFolder, QObject *parent = nullptr);
 
-    /// Plugs the keypad in or out.
+    /// Plugs the keypad in or out. Out, it cannot be opened; whoever has opened it before gets no words until
+    /// it is in again.
     bool setPresent(bool present);
 
-    bool hasReader() const { return !m_readers.isEmpty(); }
+    bool hasReader() const { return m_present && !m_readers.isEmpty(); }
+    /// Why nobody has taken a word.
+    QString refusal() const;
     /// Key words as the driver gives them. False if nobody reads the keypad.
     bool sendWords(const QVector<quint16> &words);
     bool press(const QVector<int> &keys);
@@ -42,6 +45,7 @@ private:
     bool command(const QByteArray &packet);
 
     PacketServer m_server;
+    bool m_present = false;
     QSet<int> m_readers;
     quint16 m_leds = 0;
     qint64 m_sentNs = 0;

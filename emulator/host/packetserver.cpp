@@ -5,11 +5,13 @@
 
 #include <QFile>
 #include <QSocketNotifier>
+#include <algorithm>
 #include <cerrno>
 
 namespace
 {
-constexpr int maximalWaiting = 100000; ///< packets to one client
+constexpr qint64 mostWaiting = 8 * 1024 * 1024; ///< bytes to one client
+constexpr qint64 packetCost = 64;               ///< bytes that a packet takes beside its own
 
 enum class Sent { Yes, Full, Never };
 
@@ -33,7 +35,7 @@ PacketServer::~PacketServer()
 
 bool PacketServer::open()
 {
-    if (isOpen())
+    if (m_listener >= 0)
         return true;
     m_listener = hostlink::listenSocket(QFile::encodeName(m_file).toStdString(), SOCK_SEQPACKET);
     if (m_listener < 0)
@@ -45,10 +47,15 @@ bool PacketServer::open()
 
 void PacketServer::close()
 {
-    if (!isOpen())
-        return;
+    stopListening();
     for (int client : m_clients.keys())
         drop(client);
+}
+
+void PacketServer::stopListening()
+{
+    if (m_listener < 0)
+        return;
     delete m_notifier;
     m_notifier = nullptr;
     ::close(m_listener);
@@ -66,9 +73,12 @@ bool PacketServer::send(int client, const QByteArray &packet)
         if (sent != Sent::Full)
             return sent == Sent::Yes;
     }
-    if (found->waiting.size() >= maximalWaiting)
+    if (found->waitingBytes >= mostWaiting) {
+        ++m_refused;
         return false;
+    }
     found->waiting.enqueue(packet);
+    found->waitingBytes += packet.size() + packetCost;
     found->writable->setEnabled(true);
     return true;
 }
@@ -81,7 +91,7 @@ void PacketServer::sendWaiting(int client)
     while (!found->waiting.isEmpty()) {
         if (sendNow(client, found->waiting.head()) == Sent::Full)
             return;
-        found->waiting.dequeue();
+        found->waitingBytes -= found->waiting.dequeue().size() + packetCost;
     }
     found->writable->setEnabled(false);
 }
@@ -94,6 +104,12 @@ int PacketServer::sendToAll(const QByteArray &packet)
     return taken;
 }
 
+bool PacketServer::isFull() const
+{
+    return std::any_of(m_clients.begin(), m_clients.end(),
+                       [](const Client &client) { return client.waitingBytes >= mostWaiting; });
+}
+
 void PacketServer::accept()
 {
     const int client = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
@@ -104,7 +120,7 @@ void PacketServer::accept()
     auto *writable = new QSocketNotifier(client, QSocketNotifier::Write, this);
     writable->setEnabled(false);
     connect(writable, &QSocketNotifier::activated, this, [this, client] { sendWaiting(client); });
-    m_clients.insert(client, {readable, writable, {}});
+    m_clients.insert(client, {readable, writable, {}, 0});
     emit connected(client);
 }
 

@@ -17,14 +17,20 @@ public:
     ~PacketServer() override;
 
     bool open();
+    /// Nobody can connect any more; whoever has, stays.
+    void stopListening();
+    /// Nobody can connect, and whoever has is cut off.
     void close();
-    bool isOpen() const { return m_listener >= 0; }
 
-    /// One packet to one client, in order: while its socket is full, packets wait here. False for a client
-    /// that has gone, or with too many packets waiting.
+    /// One packet to one client, in order: while its socket is full, packets wait here, but not endlessly.
+    /// False for a client that has gone, or that does not read.
     bool send(int client, const QByteArray &packet);
     /// One packet to every client; how many took it.
     int sendToAll(const QByteArray &packet);
+    /// Some client has not read for so long that it is sent nothing more.
+    bool isFull() const;
+    /// Packets that were not taken since a client did not read.
+    qint64 refused() const { return m_refused; }
 
 signals:
     void connected(int client);
@@ -36,6 +42,7 @@ private:
         QSocketNotifier *readable;
         QSocketNotifier *writable; ///< enabled while packets wait
         QQueue<QByteArray> waiting;
+        qint64 waitingBytes = 0; ///< with what each packet costs
     };
 
     void accept();
@@ -47,4 +54,5 @@ private:
     int m_listener = -1;
     QSocketNotifier *m_notifier = nullptr;
     QHash<int, Client> m_clients;
+    qint64 m_refused = 0;
 };

@@ -38,7 +38,10 @@ QString nameOf(const FlashImage &flash)
 QByteArray record(const QString &name)
 {
     QByteArray bytes(flashmap::nameLength, 0);
-    for (int i = 0; i < qMin(name.size(), units); ++i)
+    int length = qMin(name.size(), units);
+    if (length > 0 && length < name.size() && name[length - 1].isHighSurrogate())
+        --length; // no half of a character
+    for (int i = 0; i < length; ++i)
         qToLittleEndian(quint16(name[i].unicode()), bytes.data() + 2 * i);
     return bytes;
 }

@@ -18,6 +18,10 @@ private slots:
     void anEndlessLineEndsItsClient();
     void aFollowerMustRead();
     void manyRequestsAtOnceAreAllAnswered();
+    void whatGetsLostIsSaid_data();
+    void whatGetsLostIsSaid();
+    void aSleepingPanelIsNotAMissingOne();
+    void keysComeBackWithTheKeypad();
     void bytesAreTaken_data();
     void bytesAreTaken();
     void requestsAreRefused_data();
@@ -127,6 +131,49 @@ void TestConsole::manyRequestsAtOnceAreAllAnswered()
             return answers >= requests;
         },
         60000));
+}
+
+void TestConsole::whatGetsLostIsSaid_data()
+{
+    QTest::addColumn<QByteArray>("request");
+    for (const char *request : {"calibrate on", "calibrate off", "rename Stage", "heartbeat on", "update 5",
+                                "push 0200001f 01", "reports now"})
+        QTest::newRow(request) << QByteArray(request);
+}
+
+void TestConsole::whatGetsLostIsSaid()
+{
+    QFETCH(QByteArray, request);
+    QCOMPARE(m_rig->ask("fault bus down"), QByteArray("ok"));
+    QCOMPARE(m_rig->ask(request), QByteArray("error no panel is on the bus"));
+    QVERIFY(!m_rig->emulator->device.hasHeartbeat());
+    QCOMPARE(m_rig->ask("signal sdi on"), QByteArray("ok")); // told when the panel joins the bus again
+}
+
+void TestConsole::aSleepingPanelIsNotAMissingOne()
+{
+    constexpr int most = 1000;
+    int taken = 0;
+    for (; taken < most && m_rig->emulator->device.pushRead(0x13800000, QByteArray(60000, 'x'), 0, 0);
+         ++taken)
+        ;
+    QVERIFY(taken > 100 && taken < most);
+    QCOMPARE(m_rig->ask("push 13800000 5a"),
+             QByteArray("error the panel does not read what the device tells: its queue is full"));
+    QCOMPARE(m_rig->emulator->device.refused(), 2);
+    for (taken = 0; taken < most && m_rig->emulator->keypad.turn(keyKnobLeft, 1000, 1); ++taken)
+        ;
+    QVERIFY(taken > 100 && taken < most);
+    QCOMPARE(m_rig->ask("key ok"), QByteArray("error the panel does not read its keys: their queue is full"));
+}
+
+void TestConsole::keysComeBackWithTheKeypad()
+{
+    QCOMPARE(m_rig->ask("fault keypad down"), QByteArray("ok"));
+    QCOMPARE(m_rig->ask("key ok"), QByteArray("error the keypad is unplugged"));
+    QCOMPARE(m_rig->ask("fault keypad up"), QByteArray("ok"));
+    QCOMPARE(m_rig->ask("key ok"), QByteArray("ok"));
+    QCOMPARE(keys(2), (QList<QByteArray>{okPressed, okReleased}));
 }
 
 void TestConsole::bytesAreTaken_data()

@@ -155,7 +155,7 @@ void TestDeviceBus::readsAnswerWhatWasWritten()
     const auto reply = wire::decodeFrame(receive());
     QVERIFY(reply);
     QCOMPARE(reply->serial, quint8(77));
-    QCOMPARE(reply->data, QByteArray::fromHex("00040400"));
+    QCOMPARE(reply->data, QByteArray::fromHex("00040401"));
 }
 
 void TestDeviceBus::mirroredRegistersReachTheFlash_data()

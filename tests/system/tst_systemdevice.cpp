@@ -61,6 +61,14 @@ private slots:
         QVERIFY2(shown().contains(line), qPrintable(shown().join('\n')));
     }
 
+    void aNameThatIsCutIsTold()
+    {
+        const QString name(31, 'x'), two = QString::fromUtf8("😀");
+        QCOMPARE(m_panel.ask({"rename", name + 'y'}).lines, QStringList());
+        QCOMPARE(m_panel.ask({"rename", name + two + 'z'}).lines, QStringList{"the name is cut to " + name});
+        QVERIFY(shown().contains("  name: " + name));
+    }
+
     void wordsAreRefused_data()
     {
         QTest::addColumn<QString>("words");
