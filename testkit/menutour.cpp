@@ -2,6 +2,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
+#include "testkit/productionline.h"
 
 #include <QDir>
 
@@ -155,6 +156,8 @@ void Tour::visitRow(const st_MenuItemInfo &row, const QString &page)
             lookAtPreset(row.menuIndex, name);
         else if (asksFirst(row.menuIndex))
             lookAtQuestion(name);
+        if (row.menuIndex == MENU_SelfTest && !m_lost)
+            lookAtSelfCheck(name);
     }
 }
 
@@ -199,6 +202,44 @@ void Tour::lookAtQuestion(const QString &name)
     picture(name + "-question");
     if (!m_walk.press(keys::Esc) || m_panel.logLines("no Accept").isEmpty())
         fault(name, "ESC does not leave the question");
+}
+
+void Tour::lookAtSelfCheck(const QString &name)
+{
+    constexpr int rows = 30;
+    if (!m_walk.press(keys::Ok) || !m_walk.asked() || !m_walk.answer(true))
+        return fault(name, "the question cannot be answered");
+    picture(name + "-wait");
+    if (!m_panel.waitFor("F_VERSION"))
+        return fault(name, "the list does not open");
+    picture(name + "-list");
+    m_panel.turn(Right, rows);
+    if (!m_panel.waitFor("MCU_STATUS"))
+        return fault(name, "the list does not scroll to its end");
+    picture(name + "-list-end");
+    if (!m_panel.press(keys::Esc) || !m_walk.showsTitle())
+        fault(name, "ESC does not leave the list");
+}
+
+void Tour::productionTest()
+{
+    ProductionLine line(m_panel);
+    const auto stop = [&](bool done, const char *name) {
+        m_panel.settle();
+        if (!done && !m_lost)
+            fault(QString("production-test-") + name, "is not reached");
+        if (!m_lost)
+            picture(QString("production-test-") + name);
+    };
+    // Without its report the first step would be gone too soon for a picture.
+    const bool quiet = m_panel.ask({"reports", "off"}).ok;
+    stop(quiet && line.begin() && line.waitFor(ProductionLine::SelfTest), "1");
+    const bool told = m_panel.ask({"push", "13800000", QByteArray("HEAD;").toHex()}).ok;
+    stop(told && line.waitFor(ProductionLine::Keys) && m_panel.ask({"reports", "on"}).ok, "2");
+    stop(line.pressKeys(), "2-pressed");
+    stop(line.ok() && line.keyRounds(1), "3");
+    stop(line.passInOut(), "3-message");
+    stop(m_panel.waitForLog("slot_CloseDialog:"), "3-passed");
 }
 
 void Tour::lookAtPreset(ENUM_MenuIndex item, const QString &name)

@@ -1,6 +1,6 @@
-// The tour: every page of the three menus, every drop-down, every number under edit and every question,
-// reached with keys alone and left with ESC step by step; a picture of each stop if a folder is given. GUI
-// thread of its program.
+// The tour: every page of the three menus, every drop-down, every number under edit, every question, the self
+// check and the production test, reached with keys alone and left with ESC step by step; a picture of each
+// stop if a folder is given. GUI thread of its program.
 #pragma once
 
 #include "menu/itemindex.h"
@@ -19,6 +19,8 @@ public:
     /// Walks everything below a menu's root, back to the home screen.
     bool walk(VASK::ENUM_ConfigIndex root);
     void homeScreen() { picture("home"); }
+    /// The production test from the home screen. The last stop: only its power ends it.
+    void productionTest();
 
     /// What was not as it should be, one line each.
     const QStringList &faults() const { return m_faults; }
@@ -34,6 +36,7 @@ private:
     void openPage(const VASK::st_MenuItemInfo &row, const QString &name);
     void lookAtEdit(VASK::ENUM_MenuIndex item, const QString &name);
     void lookAtQuestion(const QString &name);
+    void lookAtSelfCheck(const QString &name);
     /// The dialog of a preset and, from one that is stored, the targets of a copy.
     void lookAtPreset(VASK::ENUM_MenuIndex item, const QString &name);
     void picture(const QString &name);

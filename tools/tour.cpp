@@ -1,5 +1,5 @@
-// Pictures of the whole menu for the manual: starts a device and a panel of its own and walks through all
-// pages, lists and questions, in both languages.
+// Pictures of the whole panel for the manual: starts a device and a panel of its own and walks through all
+// pages, lists and questions, the self check and the production test, in both languages.
 //   fpd-tour DIR      saves DIR/en/*.png and DIR/zh/*.png and a contact sheet of each, DIR/en-1.png and so
 //   on;
 //                     prints what was not as it should be
@@ -36,6 +36,7 @@ QStringList walkThrough(bool english, const QString &folder)
     tour.homeScreen();
     for (ENUM_ConfigIndex root : {CONFIG_MainMenu, CONFIG_UserHiddenMenu, CONFIG_ProductHiddenMenu})
         tour.walk(root);
+    tour.productionTest();
     return tour.faults();
 }
 

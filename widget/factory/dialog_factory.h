@@ -83,9 +83,9 @@ private:
     QMutex m_mutex; ///< held while a cell is drawn
     int m_keyRounds = 0;
 
-    QTimer m_inOutPoll;
-    QTimer m_inputPoll; ///< runs as long as an input is under test
-    QTimer m_countdown;
+    QTimer m_inOutPoll{this};
+    QTimer m_inputPoll{this}; ///< runs as long as an input is under test
+    QTimer m_countdown{this};
     bool m_countdownBegun = false;
     bool m_lostInCountdown = false; ///< the input under test has lost its signal again
     int m_stableTicks = 0;
