@@ -152,8 +152,9 @@ Outcome outcomeOf(QNetworkReply &reply, const QString &saveTo)
 
 void boundAnswer(QNetworkReply *reply)
 {
-    QObject::connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received, qint64) {
-        if (received > largestAnswer && reply->isRunning())
+    reply->setReadBufferSize(largestAnswer + 1);
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
+        if (reply->bytesAvailable() > largestAnswer)
             reply->abort();
     });
 }
