@@ -25,6 +25,7 @@ public:
             handle(request, response);
         };
         m_server.Get(".*", handler).Put(".*", handler).Post(".*", handler).Delete(".*", handler);
+        m_server.set_tcp_nodelay(true); // head and body of an answer are two packets
         m_server.set_keep_alive_timeout(1); // the end need not wait longer for a connection that is kept
         m_port = static_cast<unsigned short>(m_server.bind_to_any_port("127.0.0.1"));
         m_thread = std::thread([this] { m_server.listen_after_bind(); });
@@ -62,6 +63,8 @@ public:
         };
         return QTest::qWaitFor(arrived) ? take() : take();
     }
+    /// A path that is answered with status 500; set while nothing is under way.
+    std::string failPath;
     QString header(const char *name)
     {
         QMutexLocker lock(&m_mutex);
@@ -78,7 +81,7 @@ private:
         const Answer answer = m_answer;
         lock.unlock();
         std::this_thread::sleep_for(std::chrono::milliseconds(answer.delayMs));
-        response.status = answer.status;
+        response.status = request.path == failPath ? 500 : answer.status;
         response.set_content(answer.body, "application/json");
     }
 
