@@ -77,8 +77,8 @@ QNetworkRequest createRequest(const QString &address, const QString &url, const 
         request.setHeader(QNetworkRequest::ContentTypeHeader, contentType);
     if (!request.hasRawHeader("User-Agent"))
         request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
-    // Head and body leave in two pieces, and on a connection that is kept the second waits until the service has
-    // acknowledged the first: 40 ms for each step of a knob that turns.
+    // Head and body leave in two pieces, and on a connection that is kept the second waits until the service
+    // has acknowledged the first: 40 ms for each step of a knob that turns.
     if (!request.hasRawHeader("Connection"))
         request.setRawHeader("Connection", "close");
     return request;

@@ -1,6 +1,8 @@
 #include "framework/communication/http/tunnelmanager.h"
 
 #include "framework/communication/http/httptunnel.h"
+#include "framework/communication/http/udptunnel.h"
+#include "framework/communication/http/websockettunnel.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -10,6 +12,10 @@ namespace VASK
 std::shared_ptr<Communicator_New::Tunnel> TunnelFactory(Type type)
 {
     switch (type) {
+    case TUNNEL_Udp:
+        return std::make_shared<Communicator_New::UDPTunnel>();
+    case TUNNEL_Websocket:
+        return std::make_shared<Communicator_New::WebsocketTunnel>();
     case TUNNEL_Http:
         return std::make_shared<HTTPTunnel>();
     case TUNNEL_Unsupported:

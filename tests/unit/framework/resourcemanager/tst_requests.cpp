@@ -69,6 +69,7 @@ private slots:
     void init()
     {
         m_server->answer(RestServer::Answer());
+        m_server->failPath.clear();
         m_server->take();
         m_notes.clear();
         NotingAction::notes.clear();
