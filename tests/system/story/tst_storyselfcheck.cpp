@@ -157,7 +157,7 @@ private:
                 name = lcdtext::find(screen, names[row], fontOf(pixels), listed);
             if (name.isEmpty())
                 return false;
-            const QRect value(158, name.center().y() - rowHeight / 2, 150, rowHeight);
+            const QRect value(150, name.center().y() - rowHeight / 2, 160, rowHeight);
             if (text.isEmpty())
                 return !hasInk(screen.copy(value), good) && !hasInk(screen.copy(value), bad);
             return !lcdtext::find(screen, text, fontOf(m_language.pixels), value).isEmpty() &&
