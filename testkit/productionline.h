@@ -29,5 +29,8 @@ public:
     bool waitForTable(Step step, const QString &wanted);
 
 private:
+    /// The message at the end came up since the last mark.
+    bool saved();
+
     Panel &m_panel;
 };

@@ -128,7 +128,7 @@ private:
     struct PageKey;
     static const QVector<PageKey> &pageKeys();
     void keyEvent(KeypadEvent *event);
-    void escPressed(KeypadEvent *event);
+    void escHeld(KeypadEvent *event);
     void escKey(KeypadEvent *event);
     void lockPanel(KeypadEvent *event);
     void rotate(KeypadEvent *event, bool left);

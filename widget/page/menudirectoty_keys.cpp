@@ -36,7 +36,7 @@ const QVector<MenuDirectory::PageKey> &MenuDirectory::pageKeys()
         {KEY_KNOB_LEFT, anyType, true, &MenuDirectory::keypadRotateLeftEvent},
         {KEY_KNOB_RIGHT, anyType, true, &MenuDirectory::keypadRotateRightEvent},
         {KEY_OK, KEY_RELEASED, true, &MenuDirectory::keypadOkEvent},
-        {KEY_ESC, KEY_PRESSED, true, &MenuDirectory::escPressed},
+        {KEY_ESC, KEY_LONG_PRESS, true, &MenuDirectory::escHeld},
         {KEY_ESC, KEY_RELEASED, true, &MenuDirectory::escKey},
     };
     return keys;
@@ -73,8 +73,8 @@ void MenuDirectory::keyEvent(KeypadEvent *event)
         keypadNumEvent(event);
 }
 
-/// A new ESC, whatever became of the one that closed another window.
-void MenuDirectory::escPressed(KeypadEvent *)
+/// Its release will not come: if it was this ESC that closed another window, the next one is the page's.
+void MenuDirectory::escHeld(KeypadEvent *)
 {
     m_skipNextEsc = false;
 }
