@@ -5,6 +5,7 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keyevent.h"
 #include "framework/input/keypadevent.h"
+#include "framework/object/transport.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
@@ -84,6 +85,10 @@ Factory::Factory(QWidget *parent)
 
 void Factory::connectSources()
 {
+    if (!poolObject<transport>(ENUM_TRANSPORT)) {
+        qDebug() << "transport init fail!";
+        return;
+    }
     if (auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS)) {
         connect(engine, SIGNAL(signal_update_menuitem(en_inout_test_index, en_item_state)), this,
                 SLOT(slot_UpdateMenuItem(en_inout_test_index, en_item_state)), Qt::QueuedConnection);
