@@ -105,8 +105,7 @@ void ParaProcess::UpdataDevRename()
         SnapshotBlock block(SNAPSHOT_Name, LENGTH_Name);
         if (!block.read())
             return;
-        for (int unit = 0; unit < int(LENGTH_Name) && block.u16(unit) != 0; unit += 2)
-            name += QChar(ushort(block.u16(unit)));
+        name = utf16Text(block.bytes(0, int(LENGTH_Name)));
     }
     qDebug() << "name ==" << name;
     if (!neededHome())

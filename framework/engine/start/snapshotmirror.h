@@ -1,6 +1,7 @@
 // The device's state as last read from the flash snapshot, block by block. Filled and read on the GUI thread.
 #pragma once
 
+#include "framework/protocol/packet/bytes.h"
 #include "framework/protocol/snapshot/snapshotmap.h"
 
 #include <QByteArray>
@@ -19,10 +20,10 @@ public:
     /// Reads the block from the flash; a block that cannot be read keeps what it held. False if nothing of it
     /// was ever read.
     bool read();
-    int u8(int offset) const;
-    int u16(int offset) const;
-    int u24(int offset) const;
-    int i32(int offset) const;
+    int u8(int offset) const { return ByteView(m_bytes).u8(offset); }
+    int u16(int offset) const { return ByteView(m_bytes).u16(offset); }
+    int u24(int offset) const { return ByteView(m_bytes).u24(offset); }
+    int i32(int offset) const { return ByteView(m_bytes).i32(offset); }
     QByteArray bytes(int offset, int length) const { return m_bytes.mid(offset, length); }
 
 private:

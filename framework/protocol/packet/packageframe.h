@@ -1,5 +1,7 @@
-// Where each field of a frame lies, and reading of little-endian numbers from bytes that may be too few.
+// Where each field of a frame lies.
 #pragma once
+
+#include "framework/protocol/packet/bytes.h"
 
 #include <QByteArray>
 
@@ -30,20 +32,4 @@ constexpr int frameOverhead = FRAME_Data + frameChecksumSize;
 /// The first two bytes of what this side sends, and of what the device answers.
 inline const QByteArray requestHeader = QByteArrayLiteral("\x55\xAA");
 inline const QByteArray replyHeader = QByteArrayLiteral("\xAA\x55");
-
-/// Little-endian number of width bytes at the offset; bytes past the end count as 0.
-inline unsigned int littleEndianAt(const QByteArray &bytes, int offset, int width)
-{
-    unsigned int number = 0;
-    for (int i = 0; i < width && offset + i < bytes.size(); ++i)
-        number |= static_cast<unsigned int>(static_cast<unsigned char>(bytes[offset + i])) << (8 * i);
-    return number;
-}
-
-/// Puts a number of width bytes at the offset, where there must be room for it.
-inline void putLittleEndian(QByteArray &bytes, int offset, int width, unsigned int number)
-{
-    for (int i = 0; i < width; ++i)
-        bytes[offset + i] = static_cast<char>(number >> (8 * i));
-}
 } // namespace VASK

@@ -2,6 +2,7 @@
 // Made on the report thread, read there, gone when the handler returns.
 #pragma once
 
+#include "framework/protocol/packet/bytes.h"
 #include "framework/protocol/packet/packagebase.h"
 
 #include <QByteArray>
@@ -29,17 +30,11 @@ struct Report {
     Proto3rdReceiveParse &parse;
     int member; ///< number of the layer, input or port group, as the row counts them
 
-    int u8(int offset) const
-    {
-        return offset < message.data.size() ? static_cast<unsigned char>(message.data.at(offset)) : 0;
-    }
-    int u16(int offset) const { return u8(offset) | u8(offset + 1) << 8; }
-    int u24(int offset) const { return u16(offset) | u8(offset + 2) << 16; }
-    int i32(int offset) const
-    {
-        return static_cast<int>(static_cast<unsigned int>(u16(offset)) |
-                                static_cast<unsigned int>(u16(offset + 2)) << 16);
-    }
+    int u8(int offset) const { return bytes().u8(offset); }
+    int u16(int offset) const { return bytes().u16(offset); }
+    int u24(int offset) const { return bytes().u24(offset); }
+    int i32(int offset) const { return bytes().i32(offset); }
+    ByteView bytes() const { return ByteView(message.data); }
 };
 
 /// A register, or a family of registers at equal distances, and what is done with its reports.

@@ -2,14 +2,6 @@
 
 namespace VASK
 {
-QByteArray littleEndian(qint64 value, int size)
-{
-    QByteArray bytes(size, '\0');
-    for (int i = 0; i < size; ++i)
-        bytes[i] = char(value >> (8 * i) & 0xFF);
-    return bytes;
-}
-
 bool ValueForm::encode(const QString &value, QByteArray &data) const
 {
     for (const Choice &choice : choices) {

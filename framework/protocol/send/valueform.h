@@ -2,14 +2,13 @@
 // own, then a rule for every other text. Without state; any thread.
 #pragma once
 
+#include "framework/protocol/packet/bytes.h"
+
 #include <QByteArray>
 #include <QString>
 
 namespace VASK
 {
-/// The value as a little-endian number of 1 to 4 bytes.
-QByteArray littleEndian(qint64 value, int size);
-
 struct ValueForm {
     /// What becomes of a text that no choice names.
     enum Rest {
