@@ -3,6 +3,7 @@
 #include "widget/page/menudirectoty.h"
 
 #include "boardio.h"
+#include "framework/protocol/link/cabinetnames.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
@@ -15,22 +16,6 @@ namespace VASK
 namespace
 {
 const QString cabinetFolder = QStringLiteral("/usr/vask/etc/fpd/cabCfg");
-const QString indexFile = QStringLiteral("/AllCabCfgFileName");
-/// The index holds one field a file: UTF-16 text that ends with a zero word.
-constexpr int nameFieldBytes = 64;
-
-QString nameInField(const QByteArray &index, int number)
-{
-    const QByteArray field = index.mid(number * nameFieldBytes, nameFieldBytes);
-    QString name;
-    for (int i = 0; i + 1 < field.size(); i += 2) {
-        const auto unit = ushort(uchar(field[i]) | uchar(field[i + 1]) << 8);
-        if (!unit)
-            break;
-        name.append(QChar(unit));
-    }
-    return name;
-}
 
 void storeFile(MenuAnalysis &store, int number, const QString &name, bool present)
 {
@@ -54,14 +39,11 @@ bool MenuDirectory::GetCabCfgFileName(QStringList &names)
         return false;
     // The index itself is one of the files.
     const int count = folder.entryList(QDir::Files | QDir::Hidden).size() - 1;
-    QFile file(board::filePath(cabinetFolder + indexFile));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qDebug() << "cannot read the index of the cabinet files" << file.fileName() << file.errorString();
+    QByteArray index;
+    if (!readCabinetIndex(index))
         return false;
-    }
-    const QByteArray index = file.readAll();
-    for (int i = 0; i < count && i * nameFieldBytes < index.size(); ++i)
-        names.append(nameInField(index, i));
+    for (int i = 0; i < qMin(count, cabinetRecords(index)); ++i)
+        names.append(cabinetNameAt(index, i));
     return !names.isEmpty();
 }
 

@@ -1,10 +1,11 @@
 #include "framework/protocol/link/cabinetnames.h"
 
 #include "boardio.h"
-#include "framework/protocol/packet/packageframe.h"
+#include "framework/protocol/packet/bytes.h"
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 namespace VASK
@@ -12,27 +13,38 @@ namespace VASK
 namespace
 {
 const QString indexFile = QStringLiteral("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName");
-constexpr int recordSize = 64; // bytes
-
-/// A record is UTF-16, ended by a zero.
-QString recordText(const QByteArray &record)
-{
-    QString text;
-    for (int i = 0; i + 1 < record.size(); i += 2) {
-        const auto unit = static_cast<ushort>(littleEndianAt(record, i, 2));
-        if (unit == 0)
-            break;
-        text += QChar(unit);
-    }
-    return text;
-}
+constexpr int recordSize = 64; // bytes; a name in UTF-16, ended by a zero
+constexpr int mostRecords = 1024;
 } // namespace
+
+bool readCabinetIndex(QByteArray &index)
+{
+    const QString name = board::filePath(indexFile);
+    QFile file(name);
+    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) {
+        qDebug() << "cannot read the index of the cabinet files" << name << file.errorString();
+        return false;
+    }
+    index = file.read(mostRecords * recordSize);
+    return true;
+}
+
+QString cabinetNameAt(const QByteArray &index, int record)
+{
+    return utf16Text(index.mid(record * recordSize, recordSize));
+}
+
+int cabinetRecords(const QByteArray &index)
+{
+    return (index.size() + recordSize - 1) / recordSize;
+}
 
 QString cabinetNames(const QByteArray &index)
 {
     QStringList names;
-    for (int end = recordSize; end < index.size(); end += recordSize) {
-        const QString name = recordText(index.mid(end - recordSize, recordSize));
+    // What ends with the file is no record any more.
+    for (int record = 0; (record + 1) * recordSize < index.size(); ++record) {
+        const QString name = cabinetNameAt(index, record);
         if (name.isEmpty())
             break;
         names += name;
@@ -42,10 +54,9 @@ QString cabinetNames(const QByteArray &index)
 
 QString readFileGetNames()
 {
-    QFile file(board::filePath(indexFile));
-    if (!file.open(QIODevice::ReadOnly))
-        qDebug() << "cannot open" << indexFile << file.errorString();
-    QString names = cabinetNames(file.isOpen() ? file.readAll() : QByteArray());
+    QByteArray index;
+    readCabinetIndex(index);
+    QString names = cabinetNames(index);
     qDebug() << "readFileGetNames:" << names;
     return names;
 }

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QtTest>
+#include <sys/stat.h>
 
 using namespace VASK;
 
@@ -93,6 +94,13 @@ void TestSnapshotAccess::cabinetFiles()
         write(file, list.first);
         QCOMPARE(readFileGetNames(), list.second);
     }
+    // A damaged index may be of any size, and no file at all.
+    constexpr int many = 100000, most = 1024;
+    write(file, record("P2.5").repeated(many));
+    QVERIFY(readFileGetNames().count('+') < most);
+    QFile::remove(file);
+    QCOMPARE(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    QCOMPARE(readFileGetNames(), QString());
     QFile::remove(file);
 }
 
