@@ -31,12 +31,14 @@ struct CustomEdid {
     ENUM_MenuIndex of(ENUM_MenuIndex first) const { return ENUM_MenuIndex(first + distance); }
     int width() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDWidth)).toInt()); }
     int height() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDHeight)).toInt()); }
+    /// 0 for an option that is no rate.
     int rateCentiHz() const
     {
         constexpr float centi = 100.f;
         ST_ItemInfo item;
         engine.GetInfoFromIndex(of(MENU_HDMI1_EDIDCustomRate), item);
-        return int(item.params.value(item.value).toFloat() * centi);
+        const float rate = item.params.value(item.value).toFloat() * centi;
+        return rate > 0 && rate <= UINT16_MAX ? int(rate) : 0;
     }
 
     const ParaProcess &engine;
@@ -105,7 +107,7 @@ QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex inde
     store->changeItem(index, [lowest, highest](ST_ItemInfo &item) {
         for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
             const float rate = option.value().toFloat();
-            item.params1[option.key()] = rate < lowest || rate > highest ? optionDisable : optionEnable;
+            item.params1[option.key()] = rate >= lowest && rate <= highest ? optionEnable : optionDisable;
         }
     });
     const int input = (index - MENU_HDMI1_EDIDCustomRate) / STRIDE_InputPicture;

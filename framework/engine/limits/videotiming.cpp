@@ -18,6 +18,8 @@ constexpr int horizontalBlank = 160;      ///< pixels
 constexpr int horizontalFrontPorch = 48;  ///< pixels
 constexpr int horizontalSync = 32;        ///< pixels
 constexpr int verticalBlankEstimate = 62; ///< lines; where the searches start from
+constexpr int largestSize =
+    1 << 20; ///< pixels or lines, beyond all that fits 16 bits; where the searches end
 
 /// Aspect ratios that have a width of vertical sync of their own, in lines.
 struct Ratio {
@@ -37,8 +39,8 @@ int verticalSync(float width, float lines)
 
 int startSize(uint32_t clock, int other, float rateHz)
 {
-    const int size = int(float(clock) / float(other + horizontalBlank) / rateHz) - verticalBlankEstimate;
-    return size > 0 ? size : 0;
+    const float size = float(clock) / float(other + horizontalBlank) / rateHz;
+    return std::max(0, int(std::clamp(size, 0.f, float(largestSize))) - verticalBlankEstimate);
 }
 
 /// Walks the sizes on one axis. The demand of a mode rises with its size, but for the few sizes that make a
@@ -55,7 +57,7 @@ public:
     }
 
     bool exceeds(int size) const { return m_exceeds(size); }
-    /// The first size above the start that exceeds.
+    /// The first size above the start that exceeds; beyond the largest one if none does.
     int firstAbove(int start) const;
     /// The last size below the start that does not exceed, -1 if all do.
     int lastBelow(int start) const;
@@ -92,12 +94,7 @@ int SizeWalk::firstAbove(int start) const
             return odd;
         low = odd + 1;
     }
-    int step = 1;
-    while (!m_exceeds(low + step)) {
-        low += step;
-        step *= 2;
-    }
-    return firstIn(low, low + step);
+    return low > largestSize ? low : firstIn(low, largestSize + 1);
 }
 
 int SizeWalk::lastBelow(int start) const
@@ -197,7 +194,7 @@ uint32_t clockDemand(int width, int height, float rateHz)
     vert_refresh(width, height, rateHz, &mode);
     const float demand = float(mode.totalPixels) * float(mode.totalLines) * rateHz;
     constexpr float outOfRange = 4294967296.f;
-    return demand < outOfRange ? uint32_t(demand) : UINT32_MAX;
+    return demand >= outOfRange ? UINT32_MAX : demand > 0 ? uint32_t(demand) : 0;
 }
 
 namespace

@@ -29,6 +29,7 @@ private slots:
     void portOneWarnsOfOverload();
     void outputRateRows();
     void edidRateRows();
+    void edidRatesThatAreNone();
     void outputFollowsSource();
 
 private:
@@ -338,6 +339,21 @@ void TestLimits::edidRateRows()
         QVERIFY2(list.params1.value(option.key()) ==
                      (rate >= 41 && rate <= 120 ? optionEnable : optionDisable),
                  qPrintable(option.value()));
+    }
+}
+
+void TestLimits::edidRatesThatAreNone()
+{
+    put({{MENU_HDMI1_EDIDWidth, 1920}, {MENU_HDMI1_EDIDHeight, 1080}});
+    for (const char *rate : {"-60", "-0.01", "0", "0.001", "0.02", "nan", "inf", "1e30", "fast"}) {
+        ST_ItemInfo rates = m_rig->info(MENU_HDMI1_EDIDCustomRate);
+        rates.params["0"] = rate;
+        rates.value = "0";
+        m_rig->store->updataMenuItem(MENU_HDMI1_EDIDCustomRate, rates);
+        QVERIFY2(permitted(MENU_HDMI1_EDIDWidth, 1920) >= 800, rate);
+        QVERIFY2(permitted(MENU_HDMI1_EDIDHeight, 1080) >= 600, rate);
+        m_rig->engine->CalParaLimit("0", MENU_HDMI1_EDIDCustomRate);
+        QVERIFY2(!m_rig->rowEnabled(MENU_HDMI1_EDIDCustomRate, 0), rate);
     }
 }
 

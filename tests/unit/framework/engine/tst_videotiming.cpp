@@ -74,6 +74,7 @@ private slots:
     void computesAMode_data();
     void computesAMode();
     void searchesAsThePlainWalk();
+    void searchesEnd();
     void rateIsTheLastThatFits();
     void outputBandwidth();
     void snapsRates();
@@ -146,6 +147,20 @@ void TestVideoTiming::searchesAsThePlainWalk()
                 if (clock < farClock)
                     compareSearches(clock, other, rate);
         }
+}
+
+/// A damaged store may ask for any rate.
+void TestVideoTiming::searchesEnd()
+{
+    for (int rate : {-100000, -50, 0, 1, 3, 1000000})
+        for (uint32_t clock : {highClock, lowClock})
+            for (int other : {0, 600, 65535}) {
+                for (const auto search : {_CVT_GetWidthMaxValue, _CVT_GetWidthMinValue,
+                                          _CVT_GetHeightMaxValue, _CVT_GetHeightMinValue})
+                    QVERIFY(search(clock, other, rate) >= 0);
+                for (const auto search : {_CVT_GetframeRateMaxValue, _CVT_GetframeRateMinValue})
+                    QVERIFY(search(clock, other, 65535) >= 0);
+            }
 }
 
 void TestVideoTiming::rateIsTheLastThatFits()
