@@ -16,13 +16,13 @@
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/language.h"
 #include "widget/page/directoryengineer.h"
+#include "widget/textfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
-#include <QTranslator>
 #include <new>
 
 using namespace VASK;
@@ -216,8 +216,8 @@ bool StartUp::initializeStore()
 /// Without a translation the texts of the tables are shown.
 bool StartUp::loadTranslation()
 {
-    auto *translator = new QTranslator(QCoreApplication::instance());
-    if (translator->load(board::filePath(languageFile(false)))) {
+    auto *translator = new TextFile(QCoreApplication::instance());
+    if (translator->loadFile(board::filePath(languageFile(false)))) {
         if (!QCoreApplication::installTranslator(translator))
             qDebug() << "install qm failed!";
         qDebug() << "######Install qm ok!";

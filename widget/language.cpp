@@ -4,10 +4,10 @@
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
+#include "widget/textfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QTranslator>
 
 namespace VASK
 {
@@ -31,10 +31,10 @@ QString languageFile(bool english)
 
 bool installLanguage(QObject *owner, bool english)
 {
-    const auto former = owner->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly);
-    auto *translator = new QTranslator(owner);
+    const auto former = owner->findChildren<TextFile *>(QString(), Qt::FindDirectChildrenOnly);
+    auto *translator = new TextFile(owner);
     const QString file = board::filePath(languageFile(english));
-    if (!translator->load(file) || !QCoreApplication::installTranslator(translator)) {
+    if (!translator->loadFile(file) || !QCoreApplication::installTranslator(translator)) {
         qWarning() << "load qm failed!" << file;
         delete translator;
         return false;

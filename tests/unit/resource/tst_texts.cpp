@@ -1,14 +1,18 @@
-// All texts of the screen: none is missing in a language and none is left over.
+// All texts of the screen: none is missing in a language and none is left over, and no damage to their files
+// hurts.
 
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menuconfig_k2860.h"
 #include "tests/testprogram.h"
+#include "widget/textfile.h"
 
 #include <QDirIterator>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
 #include <QtTest>
+#include <sys/stat.h>
 
 using namespace VASK;
 
@@ -201,6 +205,57 @@ private slots:
             if (!chinese.match(texts.value(message.text)).hasMatch())
                 mixed << message.text;
         QVERIFY2(mixed.isEmpty(), qPrintable(mixed.join(", ")));
+    }
+
+    /// Every byte of the tables and of some texts is changed, and the file is cut everywhere: what is taken
+    /// must stand every look-up.
+    void aDamagedFileDoesNoHarm()
+    {
+        QFile whole(translationFile(languages[1], ".qm"));
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        const QByteArray content = whole.readAll();
+        QVERIFY(isSoundTextFile(content));
+        const QStringList keys = readTexts(languages[1]).keys();
+        int taken = 0;
+        const auto lookUp = [&](const QByteArray &damaged) {
+            if (!isSoundTextFile(damaged))
+                return;
+            ++taken;
+            QTranslator translator;
+            if (!translator.load(reinterpret_cast<const uchar *>(damaged.constData()), damaged.size()))
+                return;
+            for (const QString &key : keys)
+                translator.translate("MainWindow", key.toUtf8().constData());
+        };
+        constexpr int closely = 3000, step = 13;
+        for (int at = 0; at < content.size(); at += at < closely ? 1 : step) {
+            for (const char change : {'\x01', '\x80', '\xff'}) {
+                QByteArray damaged = content;
+                damaged[at] = char(damaged[at] ^ change);
+                lookUp(damaged);
+            }
+            lookUp(content.left(at));
+        }
+        QVERIFY(taken > 0); // a letter changed inside a text is no harm
+    }
+
+    void whatIsNoFileOfTextsIsRefused()
+    {
+        QTemporaryDir folder;
+        const QString name = folder.filePath("fpd_ZH.qm");
+        TextFile texts;
+        QVERIFY(!texts.loadFile(name));
+        QVERIFY(QDir(folder.path()).mkdir("fpd_ZH.qm"));
+        QVERIFY(!texts.loadFile(name));
+        QVERIFY(QDir(folder.path()).rmdir("fpd_ZH.qm"));
+        QCOMPARE(mkfifo(QFile::encodeName(name).constData(), 0600), 0); // whoever opens it waits for ever
+        QVERIFY(!texts.loadFile(name));
+        QVERIFY(QFile::remove(name));
+        QFile huge(name);
+        QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(1) << 33));
+        QVERIFY(!texts.loadFile(name));
+        QVERIFY(huge.resize(0));
+        QVERIFY(!texts.loadFile(name));
     }
 
 private:
