@@ -3,7 +3,9 @@
 namespace
 {
 constexpr int lookMs = 20;
+constexpr int restLooks = 3; ///< a panel that waits for its next tick is not at rest yet
 constexpr const char *startedText = "init OK!";
+constexpr const char *heardText = "StartComplate: 2";
 } // namespace
 
 Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
@@ -15,7 +17,7 @@ Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
     connect(&m_look, &QTimer::timeout, this, &Emulator::lookIfReady);
     connect(&panel, &PanelProcess::line, this, [this](const QString &line) {
         m_started |= line.contains(QLatin1String(startedText));
-        lookIfReady();
+        m_heard |= line.contains(QLatin1String(heardText));
     });
     connect(&panel, &PanelProcess::ended, this, [this] {
         m_look.stop();
@@ -40,7 +42,8 @@ void Emulator::startPanel()
 {
     if (panel.isRunning())
         return;
-    m_started = m_ready = false;
+    m_started = m_heard = m_ready = false;
+    m_restingLooks = 0;
     folder.clearForStart();
     keypad.setLedsOff();
     panel.start();
@@ -49,7 +52,12 @@ void Emulator::startPanel()
 
 void Emulator::lookIfReady()
 {
-    if (m_ready || !m_started || lcd.changes() == 0)
+    const quint64 changes = lcd.changes();
+    const bool rests = changes == m_lcdChanges && !panel.isBusy();
+    m_lcdChanges = changes;
+    const bool informed = m_heard || !device.hasTold();
+    m_restingLooks = m_started && informed && rests ? m_restingLooks + 1 : 0;
+    if (m_restingLooks < restLooks)
         return;
     m_ready = true;
     m_look.stop();

@@ -21,7 +21,8 @@ public:
     QString open();
     /// As power-on: clears the flags and the LCD and starts the panel.
     void startPanel();
-    /// The panel's start-up has ended and the LCD holds its first picture.
+    /// The panel's start-up has ended, and the LCD shows what the device told at the panel's joining. A fiber
+    /// converter shows nothing and is ready, too.
     bool isReady() const { return m_ready; }
 
     StateFolder &folder;
@@ -40,6 +41,9 @@ private:
     void lookIfReady();
 
     bool m_started = false; ///< the log said that the start-up has ended
+    bool m_heard = false;   ///< and that the panel has read the last of what the device tells at the start
+    int m_restingLooks = 0; ///< how often in a row nothing was going on
+    quint64 m_lcdChanges = 0;
     bool m_ready = false;
     QTimer m_look;
 };

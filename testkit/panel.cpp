@@ -150,7 +150,7 @@ bool Panel::isBusy()
 {
     if (procfs::read(QString("/proc/%1/comm").arg(m_process)) != "fpd\n")
         m_process = procfs::panelOf(m_state);
-    return m_process != 0 && (procfs::isBusy(m_process, "keypad") || procfs::isBusy(m_process, "fpd"));
+    return m_process != 0 && (threads::isBusy(m_process, "keypad") || threads::isBusy(m_process, "fpd"));
 }
 
 bool Panel::settle()
@@ -269,7 +269,12 @@ QMap<QString, QString> Panel::storedFields() const
 bool Panel::setStored(int item, const QString &value, const QString &field)
 {
     QDomDocument document = store();
-    QDomElement element = itemElement(document, item).firstChildElement(field);
+    QDomElement element = itemElement(document, item).firstChildElement(field.section('/', 0, 0));
+    if (field.contains('/')) {
+        element = element.firstChildElement("param");
+        while (!element.isNull() && element.attribute("paramName") != field.section('/', 1))
+            element = element.nextSiblingElement("param");
+    }
     QFile file(m_state + storeFile);
     if (element.isNull() || !file.open(QIODevice::WriteOnly))
         return false;

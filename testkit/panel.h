@@ -38,7 +38,7 @@ public:
     bool powerDevice(const QStringList &wrapper = {});
     /// Starts the panel and waits until its start-up has ended.
     bool start();
-    /// The device, the panel, and the first picture.
+    /// The device and the panel, up to the picture of what the device has told.
     bool startReady();
     void stop();
 
@@ -76,7 +76,7 @@ public:
     /// All of config.xml: values by "ITEM", other fields by "ITEM/Enable" and "ITEM/Params1/KEY".
     QMap<QString, QString> storedFields() const;
 
-    /// Changes a field in config.xml, while the panel is off.
+    /// Changes a field in config.xml, such as "Value" or "Params/KEY", while the panel is off.
     bool setStored(int item, const QString &value, const QString &field = "Value");
 
     QString statePath() const { return m_state; }

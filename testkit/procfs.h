@@ -1,19 +1,16 @@
 // What the kernel tells of a process: CPU time, memory, and the CPU time of each of its threads.
 #pragma once
 
+#include "emulator/host/threads.h"
+
 #include <QDir>
-#include <QFile>
 #include <QMap>
 #include <numeric>
 #include <unistd.h>
 
 namespace procfs
 {
-inline QByteArray read(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+using threads::read;
 
 /// The panel of that state folder.
 inline int panelOf(const QString &stateFolder)
@@ -57,19 +54,6 @@ inline QMap<QString, double> wakes(int process)
         threads[key] = status.mid(at + 24, 20).trimmed().split('\n').first().toDouble();
     }
     return threads;
-}
-
-/// True while a thread of that name runs, or waits for a processor or a disk; the main thread is "fpd".
-inline bool isBusy(int process, const QByteArray &thread)
-{
-    const QString folder = QString("/proc/%1/task/").arg(process);
-    for (const QString &id : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        const QByteArray stat = read(folder + id + "/stat");
-        const int name = stat.indexOf('('), end = stat.lastIndexOf(')');
-        if (stat.mid(name + 1, end - name - 1) == thread)
-            return stat.mid(end + 2, 1) != "S";
-    }
-    return false;
 }
 
 inline double memoryMb(int process)

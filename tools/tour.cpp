@@ -30,7 +30,6 @@ QStringList walkThrough(bool english, const QString &folder)
         !setLanguage(panel, english) || !panel.start() || !panel.ask({"wait", "ready"}).ok)
         return {"the panel does not start"};
     Tour tour(panel, english ? "fpd_EN" : "fpd_ZH", folder);
-    panel.waitForLog("StartComplate: 2");
     panel.press("in1"); // the input with a signal
     panel.settle();
     tour.homeScreen();

@@ -11,7 +11,6 @@ constexpr quint32 deviceTask = 1u << 24 | 0x00070300;
 constexpr qint16 packetLabel = 28;
 constexpr quint32 heartbeatAddress = 0x13001004;
 constexpr int heartbeatMs = 1000;
-constexpr int servicesUpMs = 500; ///< after the panel's joining
 constexpr quint8 deviceSource = 0;
 constexpr quint8 panelDestination = 254;
 constexpr int keptWrites = 100000;
@@ -33,15 +32,11 @@ Device::Device(const QString &stateFolder, QObject *parent)
     connect(&m_server, &PacketServer::received, this, &Device::handlePacket);
     connect(&m_server, &PacketServer::connected, this, [this] {
         ++m_clients;
-        m_startReports.start();
-    });
-    connect(&m_server, &PacketServer::disconnected, this, [this] { --m_clients; });
-    m_startReports.setSingleShot(true);
-    m_startReports.setInterval(servicesUpMs);
-    connect(&m_startReports, &QTimer::timeout, this, [this] {
+        m_told = m_reporting;
         if (m_reporting)
             reportAll();
     });
+    connect(&m_server, &PacketServer::disconnected, this, [this] { --m_clients; });
     m_heartbeat.setInterval(heartbeatMs);
     connect(&m_heartbeat, &QTimer::timeout, this, &Device::beat);
     m_wait.setSingleShot(true);

@@ -38,6 +38,9 @@ public:
     QString refusal() const;
     /// Packets that were lost since the panel did not read.
     qint64 refused() const { return m_server.refused(); }
+    /// The panel on the bus has been told at its joining what the device is; the last of that comes with the
+    /// second service.
+    bool hasTold() const { return isJoined() && m_told; }
 
     const QVector<RegisterWrite> &writes() const { return m_writes; }
     void clearWrites();
@@ -94,10 +97,10 @@ private:
     FlashImage m_flash;
     DeviceModel m_model;
     int m_clients = 0;
+    bool m_told = false;
     QVector<RegisterWrite> m_writes;
     int m_writtenBytes = 0; ///< of all of them
     QTimer m_heartbeat;
-    QTimer m_startReports; ///< runs from the panel's joining to the reports
     bool m_reporting = true;
     QVector<WaitingReport> m_waiting; ///< one a register
     QTimer m_wait;

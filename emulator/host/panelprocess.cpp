@@ -1,5 +1,7 @@
 #include "emulator/host/panelprocess.h"
 
+#include "emulator/host/threads.h"
+
 #include <QCoreApplication>
 #include <QTimer>
 #include <csignal>
@@ -86,6 +88,16 @@ void PanelProcess::start()
     });
     m_process->start(QCoreApplication::applicationDirPath() + "/fpd", QStringList());
     m_process->closeWriteChannel();
+}
+
+bool PanelProcess::isBusy() const
+{
+    if (!isRunning())
+        return false;
+    for (const char *thread : {"fpd", "reports"})
+        if (threads::isBusy(m_process->processId(), thread))
+            return true;
+    return false;
 }
 
 void PanelProcess::stop()

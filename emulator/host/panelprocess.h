@@ -18,6 +18,8 @@ public:
     void stop();
     void kill();
     bool isRunning() const { return m_process && m_process->state() != QProcess::NotRunning; }
+    /// It has something to draw, or to read of what the device told.
+    bool isBusy() const;
 
     /// The debug stream since the emulator's start.
     const PanelLog &log() const { return m_log; }

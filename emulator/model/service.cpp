@@ -17,7 +17,7 @@ constexpr quint32 lowLatencyRegister = 0x02000074;
 constexpr int lowLatencyOn = 120;
 
 // How long the device takes.
-constexpr int serviceStartMs = 300;
+constexpr int nextServiceMs = 300;
 constexpr int loadCabinetMs = 500;
 
 Reports obeyLoadCabinet(Registers &registers, const RegisterRow &row, int member, const Write &write)
@@ -30,8 +30,8 @@ Reports obeyLoadCabinet(Registers &registers, const RegisterRow &row, int member
 Reports allReports(const Registers &registers)
 {
     return {{lowLatencyRegister, registers.read(lowLatencyRegister, 1)},
-            {upRegister, QByteArray(1, 1), serviceStartMs},
-            {upRegister, QByteArray(1, 2), 2 * serviceStartMs}};
+            {upRegister, QByteArray(1, 1), 0},
+            {upRegister, QByteArray(1, 2), nextServiceMs}};
 }
 
 QStringList describe(const Registers &registers)

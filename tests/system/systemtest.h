@@ -20,7 +20,7 @@ protected:
     /// The panel under test, where a case has one of its own.
     virtual Panel &panel() { return m_panel; }
 
-    /// The panel goes down and comes up again, up to the first picture.
+    /// The panel goes down and comes up again, until it is ready.
     bool restart() { return m_panel.ask({"panel", "stop"}).ok && startAgain(); }
     bool startAgain() { return m_panel.start() && m_panel.ask({"wait", "ready"}).ok; }
     bool clearWrites() { return m_panel.ask({"writes", "--clear"}).ok; }

@@ -1,9 +1,13 @@
 // How the panel starts, with everything in place and with parts of the board missing.
+#include "menu/itemindex.h"
+#include "testkit/homescreen.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
 #include <QDir>
 #include <unistd.h>
+
+using namespace VASK;
 
 namespace
 {
@@ -70,6 +74,64 @@ private slots:
         QCOMPARE(m_fresh->logLines("main:load qm failed!").size(), 1);
         QVERIFY(m_fresh->press(keys::Ok));
         QVERIFY(m_fresh->waitForLog("TIMER_CancelTimer ==  34"));
+    }
+
+    /// The texts of the tables are shown then.
+    void startsWithDamagedTexts_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::newRow("cut") << 9000 << -1;
+        QTest::newRow("offsets") << 40 << 2300;
+        QTest::newRow("messages") << 5000 << 9000;
+    }
+    void startsWithDamagedTexts()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFile texts(m_fresh->file(configFolder + "/fpd_ZH.qm"));
+        QVERIFY(texts.open(QIODevice::ReadWrite));
+        if (to < 0)
+            QVERIFY(texts.resize(from));
+        else
+            QVERIFY(texts.seek(from) && texts.write(QByteArray(to - from, '\x5a')) > 0);
+        texts.close();
+        QVERIFY(m_fresh->start() && m_fresh->ask({"wait", "ready"}).ok);
+        QCOMPARE(m_fresh->logLines("main:load qm failed!").size(), 1);
+        QVERIFY(m_fresh->press(keys::Ok));
+        QVERIFY(m_fresh->waitFor("LayerSettings"));
+    }
+
+    /// One look at the LCD when the emulator says so, and no patience.
+    void readyIsWhatTheLcdShows()
+    {
+        QVERIFY(m_fresh->start() && m_fresh->ask({"wait", "ready"}).ok);
+        for (const char *sight : {"mainname:HDMI1", "main:1920x1080@60", "screen:1920x1080@60", "bright:60%",
+                                  "port1:green", "port4:green", "port5:dark"})
+            QVERIFY2(homescreen::sees(*m_fresh, sight), sight);
+    }
+
+    /// The device is silent: what its flash holds is what there is.
+    void theFirstPictureIsTheSnapshots()
+    {
+        QVERIFY(m_fresh->ask({"reports", "off"}).ok);
+        constexpr const char *pip1Source = "e842";
+        QVERIFY(m_fresh->ask({"flash", "write", pip1Source, "01"}).ok);
+        QVERIFY(m_fresh->start() && m_fresh->ask({"wait", "ready"}).ok);
+        for (const char *sight : {"mainname:HDMI1", "screen:1920x1080@60", "port1:dark"})
+            QVERIFY2(homescreen::sees(*m_fresh, sight), sight);
+        QVERIFY(m_fresh->waitUntil([this] { return m_fresh->stored(MENU_PIP1_InputSource) == "1"; }));
+    }
+
+    void aFiberConverterIsReady()
+    {
+        QVERIFY(m_fresh->start());
+        QVERIFY(m_fresh->waitUntil([this] { return !m_fresh->stored(MENU_WorkMode).isEmpty(); }));
+        for (const char *reports : {"on", "off"}) {
+            QVERIFY(m_fresh->ask({"panel", "stop"}).ok && m_fresh->setStored(MENU_WorkMode, "1"));
+            QVERIFY(m_fresh->ask({"reports", reports}).ok);
+            QVERIFY(m_fresh->start() && m_fresh->ask({"wait", "ready"}).ok);
+        }
     }
 
     void startsWithReadOnlyConfigFolder()

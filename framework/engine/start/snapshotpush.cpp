@@ -1,6 +1,7 @@
 // What the flash snapshot says of the device goes into the menu: as reported values, in a fixed order.
 
 #include "framework/engine/device.h"
+#include "framework/engine/parachange.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/engine/start/snapshotmirror.h"
 #include "framework/protocol/snapshot/driverutil.h"
@@ -25,6 +26,7 @@ public:
     void testPattern();
     void network();
     void pictures();
+    void layers();
     void crops();
     void audioAndOutputSize();
     void splicing();
@@ -40,6 +42,7 @@ private:
     }
     void report(ENUM_MenuIndex item, int value) { report(item, QString::number(value)); }
     void reportRate(ENUM_MenuIndex list, int rateCentiHz);
+    void choose(ENUM_MenuIndex list, int row);
     ParaProcess &m_engine;
     const SnapshotMirror &m_mirror;
 };
@@ -120,6 +123,32 @@ void SnapshotPush::pictures()
         report(raised(MENU_HDMI1_LimitedtoFull, input * STRIDE_Input), fullRange);
     }
     picture(inputCount, MENU_SDI_Brightness);
+}
+
+/// Stores and shows a row of a list, if the list has it.
+void SnapshotPush::choose(ENUM_MenuIndex list, int row)
+{
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    ST_ItemInfo item;
+    m_engine.GetInfoFromIndex(list, item);
+    const QString value = QString::number(row);
+    if (store && item.params.contains(value))
+        ParaChange(m_engine, *store, value, list, SET_XML_STORE).show(list, value);
+}
+
+/// What the home screen shows of the layers, until the device reports them with all that depends on them.
+void SnapshotPush::layers()
+{
+    const bool oneWindow = DeviceView(m_engine).workMode() == WORK_SENDER;
+    for (int layer = 0; layer < (oneWindow ? 1 : layerCount); ++layer) {
+        const int window = LIVE_Windows + WINDOW_First + layer * WINDOW_Stride;
+        // An erased snapshot holds no window.
+        if (m_mirror.live.i32(window + WINDOW_Width) <= 0 || m_mirror.live.i32(window + WINDOW_Height) <= 0)
+            continue;
+        choose(layerItem(MENU_MainLayer_Status, layer), m_mirror.live.u8(window + WINDOW_Status));
+        choose(layerItem(MENU_MainLayer_InputSource, layer), m_mirror.live.u8(window + WINDOW_Input));
+        choose(layerItem(MENU_MainLayer_Priority, layer), m_mirror.live.u8(window + WINDOW_Priority));
+    }
 }
 
 void SnapshotPush::crops()
@@ -284,6 +313,7 @@ void ParaProcess::InitParaFrom20M()
     push.testPattern();
     push.network();
     push.pictures();
+    push.layers();
     push.crops();
     push.audioAndOutputSize();
     push.splicing();

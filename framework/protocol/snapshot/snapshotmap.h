@@ -90,9 +90,11 @@ enum LiveOffset : int {
 enum WindowOffset : int {
     WINDOW_First = 0x10,
     WINDOW_Stride = 48,
-    WINDOW_Input = 2,   ///< u8
-    WINDOW_Width = 13,  ///< i32
-    WINDOW_Height = 17, ///< i32
+    WINDOW_Status = 0,   ///< u8
+    WINDOW_Input = 2,    ///< u8
+    WINDOW_Priority = 3, ///< u8
+    WINDOW_Width = 13,   ///< i32
+    WINDOW_Height = 17,  ///< i32
 };
 
 /// Offsets in the picture table of the live record; one record an input.

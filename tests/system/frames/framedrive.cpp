@@ -39,7 +39,6 @@ bool FrameDrive::startPanel()
     m_place = AtHome;
     m_walk.assume({});
     return m_panel.start() && m_panel.ask({"wait", "ready"}).ok &&
-           m_panel.waitForLog("DeviceStartComplateHandle") && m_panel.settle() &&
            (sent(0), m_panel.ask({"writes", "--clear"}).ok);
 }
 

@@ -83,9 +83,8 @@ int rowOf(const ST_MenuConfig &page, ENUM_ConfigIndex child)
 
 QString KeyCheck::start()
 {
-    const bool started = m_panel.startReady() && m_panel.waitForLog("StartComplate: 2") &&
-                         m_leds.start(m_panel.statePath()) && m_walk.speak("fpd_ZH") &&
-                         m_panel.ask({"signal", "sdi", "on"}).ok;
+    const bool started = m_panel.startReady() && m_leds.start(m_panel.statePath()) &&
+                         m_walk.speak("fpd_ZH") && m_panel.ask({"signal", "sdi", "on"}).ok;
     return started ? QString() : "the panel does not start";
 }
 

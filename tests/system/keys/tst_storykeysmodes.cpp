@@ -140,7 +140,7 @@ private:
     bool startAsConverter()
     {
         return m_panel.ask({"panel", "stop"}).ok && m_panel.setStored(MENU_WorkMode, "1") &&
-               m_panel.start() && m_panel.waitForLog("StartComplate: 2");
+               m_panel.start() && m_panel.ask({"wait", "ready"}).ok;
     }
 
     KeyCheck m_check{m_panel, m_walk};

@@ -33,8 +33,7 @@ QString littleEndian(int value, int bytes)
 
 bool Pushes::begin()
 {
-    return m_panel.waitForLog("StartComplate: 2") && m_panel.ask({"reports", "off"}).ok && push({}) &&
-           flush();
+    return m_panel.ask({"wait", "ready"}).ok && m_panel.ask({"reports", "off"}).ok && push({}) && flush();
 }
 
 bool Pushes::push(const QStringList &reports)
