@@ -1,5 +1,6 @@
 #include "framework/input/keyevent.h"
 #include "initialize.h"
+#include "widget/plaintext.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -8,6 +9,7 @@ int main(int argc, char *argv[])
 {
     runTime1 = QTime::currentTime();
     QApplication application(argc, argv);
+    QApplication::setStyle(new VASK::PlainTextStyle);
     // A fiber converter has no window but a message now and then: its end is not the panel's.
     QApplication::setQuitOnLastWindowClosed(false);
     VASK::KeyEvent *keys = VASK::KeyEvent::getInstance();

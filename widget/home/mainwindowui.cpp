@@ -1,5 +1,6 @@
 #include "widget/home/mainwindowui.h"
 
+#include "widget/elidinglabel.h"
 #include "widget/language.h"
 
 #include <QStyle>
@@ -74,7 +75,7 @@ void Ui_MainWindow::setupUi(QWidget *window)
     centralWidget->setObjectName("centralWidget");
     centralWidget->setGeometry(0, 0, width, height);
     for (const Place &place : places) {
-        auto *label = new QLabel(QString::fromUtf8(place.text), centralWidget);
+        auto *label = new ElidingLabel(QString::fromUtf8(place.text), centralWidget);
         label->setObjectName(place.name);
         label->setGeometry(place.at);
         label->setAlignment(place.alignment);
