@@ -2,6 +2,7 @@
 
 #include "framework/input/keypadevent.h"
 #include "menu/keycodes.h"
+#include "widget/look.h"
 
 #include <QDebug>
 #include <QLabel>
@@ -18,10 +19,10 @@ constexpr QRect englishPlace(QPoint(171, 142), QPoint(280, 171));
 
 const QString windowStyle = QStringLiteral("background-color: rgb(0, 0, 0);");
 const QString textStyle = QStringLiteral("color: rgb(153, 153, 153); font-size:18px;");
-const QString buttonStyle = QStringLiteral(
-    "QPushButton:enabled{background-color:rgba(0, 0, 0, 0); font-size:18px; border:1px solid #3939ad; "
-    "border-radius:4px;color:#b8b4cc; outline: none;}"
-    "QPushButton:focus{background-color:#3939ad; border:none; outline: none;}");
+const QString buttonStyle = look::sheet(
+    "QPushButton:enabled{background-color:rgba(0, 0, 0, 0); font-size:18px; border:1px solid $focus; "
+    "border-radius:4px;color:$text; outline: none;}"
+    "QPushButton:focus{background-color:$focus; border:none; outline: none;}");
 } // namespace
 
 dialog_languageSelect::dialog_languageSelect(QWidget *parent) : KeyDialog(parent)

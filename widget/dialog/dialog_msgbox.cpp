@@ -5,6 +5,7 @@
 #include "menu/menutypes.h"
 #include "widget/dialog/ui_dialog_msgbox.h"
 #include "widget/language.h"
+#include "widget/look.h"
 
 #include <QDebug>
 #include <QLabel>
@@ -64,12 +65,7 @@ dialog_msgBox::dialog_msgBox(QWidget *parent, const QString &message, ENUM_MsgBo
     ui->setupUi(this);
     ui->lab_Info->setGeometry(takesAnswers() ? textAboveButtons : textAlone);
     ui->horizontalLayoutWidget->setVisible(takesAnswers());
-    setWindowOpacity(0.0);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    setWindowModality(Qt::WindowModal);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setGeometry(boxOnScreen);
+    placeBox(boxOnScreen);
     ui->centerWidget->setGeometry(rect());
     setDialogStyleSheet();
     initBtns();
@@ -80,13 +76,12 @@ dialog_msgBox::~dialog_msgBox() = default;
 void dialog_msgBox::setDialogStyleSheet()
 {
     const QString family = englishChosen() ? QStringLiteral("arial") : fontFamily();
-    setStyleSheet(
-        QStringLiteral("*{font-family:\"%1\";font-size:18px;color:#b8b4cc;background-color:#031442;}"
-                       "QPushButton{background-color:rgba(0,0,0,0);color:#b8b4cc;"
-                       "border:1px solid #3939ad;border-radius:2px;outline:none}"
-                       "QPushButton:focus{background-color:#3939ad;color:#b8b4cc;border:none;"
-                       "border-radius:2px;outline:none}")
-            .arg(family));
+    setStyleSheet(look::sheet("*{font-family:\"%1\";font-size:18px;color:$text;background-color:#031442;}"
+                              "QPushButton{background-color:rgba(0,0,0,0);color:$text;"
+                              "border:1px solid $focus;border-radius:2px;outline:none}"
+                              "QPushButton:focus{background-color:$focus;color:$text;border:none;"
+                              "border-radius:2px;outline:none}")
+                      .arg(family));
 }
 
 void dialog_msgBox::showTexts()

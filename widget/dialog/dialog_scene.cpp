@@ -5,6 +5,7 @@
 #include "widget/dialog/ui_dialog_scene.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/picturelabel.h"
 
 #include <QDebug>
@@ -28,12 +29,7 @@ Dialog_scene::Dialog_scene(QWidget *parent, const QString &title, const QString 
       m_shieldList(disabled.split('.', Qt::SkipEmptyParts))
 {
     ui->setupUi(this);
-    setWindowOpacity(0.0);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    setWindowModality(Qt::WindowModal);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setGeometry(dialogOnScreen);
+    placeBox(dialogOnScreen);
     showTexts();
     const QString icons[] = {icon1, icon2, icon3, icon4};
     for (size_t i = 0; i < ui->tiles.size(); ++i)
@@ -48,10 +44,10 @@ Dialog_scene::~Dialog_scene() = default;
 
 void Dialog_scene::setDialogStyleSheet()
 {
-    setStyleSheet(QStringLiteral("*{font-family:\"%1\";font-size:20px;color:#b8b4cc;"
-                                 "background-color:rgba(0,0,0,0);}#labBg{background-color:#031442; }"
-                                 "QLabel:focus{background-color:#332280;}"
-                                 "QLabel[useEnable=false]{color:#54535c}")
+    setStyleSheet(look::sheet("*{font-family:\"%1\";font-size:20px;color:$text;"
+                              "background-color:rgba(0,0,0,0);}#labBg{background-color:#031442; }"
+                              "QLabel:focus{background-color:#332280;}"
+                              "QLabel[useEnable=false]{color:$disabled}")
                       .arg(fontFamily()));
 }
 

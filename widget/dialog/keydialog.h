@@ -16,6 +16,8 @@ public:
     using QDialog::QDialog;
 
 protected:
+    /// Makes it a box without a frame over its parent, at that place of the LCD.
+    void placeBox(const QRect &onScreen);
     bool event(QEvent *event) override;
     virtual void handleKey(const VASK::KeypadEvent &event) = 0;
 };

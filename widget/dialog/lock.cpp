@@ -4,6 +4,7 @@
 #include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
 #include "widget/language.h"
+#include "widget/look.h"
 
 #include <QDebug>
 #include <QLabel>
@@ -45,8 +46,8 @@ void Lock::setTextStyle()
         return;
     }
     // On the labels alone: on the window itself the transparent background would replace its picture.
-    const QString style = QStringLiteral("*{font-family: \"%1\";font-size: 16px;color: #b8b4cc;"
-                                         "background-color:rgba(0,0,0,0);}")
+    const QString style = look::sheet("*{font-family: \"%1\";font-size: 16px;color: $text;"
+                                      "background-color:rgba(0,0,0,0);}")
                               .arg(fontFamily());
     labPic->setStyleSheet(style);
     labTip->setStyleSheet(style);

@@ -8,6 +8,7 @@
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/menulook.h"
 
 #include <QHeaderView>
@@ -23,8 +24,8 @@ namespace
 constexpr int firstTitlePixels = 16;
 
 const QString commonEnglishStyle =
-    QStringLiteral("*{font-family: \"Arial\";font-size: 20px;color: #b8b4cc;background-color:rgba(0,0,0,0);}"
-                   "QTableWidget::item:selected{background:rgba(39,25,99);}");
+    look::sheet("*{font-family: \"Arial\";font-size: 20px;color: $text;background-color:rgba(0,0,0,0);}"
+                "QTableWidget::item:selected{background:rgba(39,25,99);}");
 } // namespace
 
 ENUM_ObjectIndex MenuDirectory::m_currentObj = ENUM_MAIN_MENU;

@@ -5,6 +5,7 @@
 #include "menu/menutypes.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/picturelabel.h"
 
 #include <QHBoxLayout>
@@ -78,7 +79,7 @@ void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
         layout->addWidget(valuePart);
     layout->addSpacing(spaceBeforeRight);
     layout->addWidget(m_rightButton);
-    setStyleSheet(QStringLiteral("*:disabled{color: #54535c;}"));
+    setStyleSheet(look::sheet("*:disabled{color: $disabled;}"));
     redraw();
 }
 

@@ -4,6 +4,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "widget/look.h"
 #include "widget/row/focusdelegate.h"
 
 #include <QDebug>
@@ -48,10 +49,10 @@ void icocomboxtable::CreatEntry()
     m_table->setFocusPolicy(Qt::NoFocus);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setStyleSheet(QStringLiteral("QTableWidget{font-family: \"宋体\";font-size:16px;color:#b8b4cc;"
-                                          "background-color: rgb(35,17,82);}"
-                                          "QTableWidget::item:selected{background:rgba(62,62,189);}"
-                                          "QTableWidget{border:1px solid rgba(51,34,128,66%);}"));
+    m_table->setStyleSheet(look::sheet("QTableWidget{font-family: \"宋体\";font-size:16px;color:$text;"
+                                       "background-color: rgb(35,17,82);}"
+                                       "QTableWidget::item:selected{background:rgba(62,62,189);}"
+                                       "QTableWidget{border:1px solid rgba(51,34,128,66%);}"));
     for (int iLoop = 0; iLoop < m_mapParams.size(); ++iLoop) {
         qDebug() << "QString::number(iLoop) = " << QString::number(iLoop);
         m_table->setItem(iLoop / m_columns, iLoop % m_columns, new QTableWidgetItem);

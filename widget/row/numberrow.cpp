@@ -2,6 +2,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "widget/look.h"
 
 #include <QLabel>
 
@@ -32,8 +33,8 @@ QString NumberRow::inRange(const QString &value) const
 void NumberRow::EnterEntry(ENUM_MenuIndex index, unsigned char edit, unsigned char entered)
 {
     if (edit == 0) {
-        valueLabel()->setStyleSheet(QStringLiteral(
-            "QLabel{color:#ebc613;border-width: 1px;border-style: solid;border-color: #3939ad;}"));
+        valueLabel()->setStyleSheet(
+            look::sheet("QLabel{color:$edited;border-width: 1px;border-style: solid;border-color: $focus;}"));
         return;
     }
     endLook(endStyle());
@@ -43,14 +44,14 @@ void NumberRow::EnterEntry(ENUM_MenuIndex index, unsigned char edit, unsigned ch
 
 void NumberRow::EscEntry(ENUM_MenuIndex index, unsigned char entered)
 {
-    endLook(QStringLiteral("QLabel{border: 0px solid #54535c;}"));
+    endLook(look::sheet("QLabel{border: 0px solid $disabled;}"));
     if (entered != 0)
         commit(index);
 }
 
 QString NumberRow::endStyle() const
 {
-    return QStringLiteral("QLabel{border: 0px solid #54535c;}");
+    return look::sheet("QLabel{border: 0px solid $disabled;}");
 }
 
 void NumberRow::endLook(const QString &style)

@@ -5,6 +5,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/row/focusdelegate.h"
 
 #include <QHeaderView>
@@ -49,14 +50,14 @@ constexpr ENUM_MenuIndex reversedLists[] = {
 
 QString viewStyle()
 {
-    return QStringLiteral("QTableView{font-family: \"%1\";font-size: 22px;color:#b8b4cc;"
-                          "background-color: rgb(35,17,82);}"
-                          "QTableView::item:disabled{color: #54535c;}"
-                          "QTableView::item{border: 0px;padding-left: 15px;}"
-                          "QTableView{border:1px solid rgba(1,25,63);border-bottom:0px;border-right:0px;"
-                          "border-top:none;margin:0px;padding:0px;}"
-                          "QTableView::item:selected{color:#b8b4cc;background:rgba(62,62,189);}"
-                          "QScrollBar:horizontal{height:0px}QScrollBar:vertical{width:0px}")
+    return look::sheet("QTableView{font-family: \"%1\";font-size: 22px;color:$text;"
+                       "background-color: rgb(35,17,82);}"
+                       "QTableView::item:disabled{color: $disabled;}"
+                       "QTableView::item{border: 0px;padding-left: 15px;}"
+                       "QTableView{border:1px solid rgba(1,25,63);border-bottom:0px;border-right:0px;"
+                       "border-top:none;margin:0px;padding:0px;}"
+                       "QTableView::item:selected{color:$text;background:rgba(62,62,189);}"
+                       "QScrollBar:horizontal{height:0px}QScrollBar:vertical{width:0px}")
         .arg(fontFamily());
 }
 } // namespace

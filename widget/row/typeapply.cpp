@@ -4,6 +4,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/look.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -17,10 +18,10 @@ const QString transparent = QStringLiteral("background-color:rgba(0,0,0,0)");
 
 QString buttonStyle(bool enabled, const QString &background)
 {
-    const QString colour = enabled ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c");
-    return QStringLiteral("QPushButton{border-style: inset;border-radius:4px;color: %1; "
-                          "border: 1px solid #3939ad;%2}"
-                          "QPushButton:focus{background:#3939ad; color: %1;outline: none;}")
+    const QString colour = look::ofText(enabled);
+    return look::sheet("QPushButton{border-style: inset;border-radius:4px;color: %1; "
+                       "border: 1px solid $focus;%2}"
+                       "QPushButton:focus{background:$focus; color: %1;outline: none;}")
         .arg(colour, background);
 }
 } // namespace

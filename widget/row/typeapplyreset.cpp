@@ -4,6 +4,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/look.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -51,13 +52,13 @@ ST_ItemInfo typeapplyreset::secondItem() const
 
 void typeapplyreset::setTypeStyleSheet()
 {
-    const QString colour = m_item.enable ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c");
-    setStyleSheet(QStringLiteral("QPushButton:enabled{border:1px solid #3939ad;border-radius:4px;color:%1;"
-                                 "background-color:rgba(0,0,0,0); outline: none;}"
-                                 "QPushButton:disabled{border:1px solid #3939ad;border-radius:4px;color:%1;"
-                                 "background-color:rgba(0,0,0,0); outline: none;}"
-                                 "QPushButton:focus{background-color:#3939ad; color: %1; border:none; "
-                                 "outline: none;}")
+    const QString colour = look::ofText(m_item.enable);
+    setStyleSheet(look::sheet("QPushButton:enabled{border:1px solid $focus;border-radius:4px;color:%1;"
+                              "background-color:rgba(0,0,0,0); outline: none;}"
+                              "QPushButton:disabled{border:1px solid $focus;border-radius:4px;color:%1;"
+                              "background-color:rgba(0,0,0,0); outline: none;}"
+                              "QPushButton:focus{background-color:$focus; color: %1; border:none; "
+                              "outline: none;}")
                       .arg(colour));
 }
 

@@ -3,6 +3,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "widget/look.h"
 #include "widget/picturelabel.h"
 
 #include <QDebug>
@@ -17,7 +18,7 @@ typefourpic::typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
     constexpr QSize partSize(74, 46); // pixels, as all below
     constexpr int pictureLeft = 17;
     setStyleSheet(
-        QStringLiteral("QWidget:focus{background-color:#3939ad; }QWidget{background-color:rgba(0,0,0,0); }"));
+        look::sheet("QWidget:focus{background-color:$focus; }QWidget{background-color:rgba(0,0,0,0); }"));
     auto *layout = new QHBoxLayout(this);
     layout->setSpacing(1);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -5,6 +5,7 @@
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/picturelabel.h"
 #include "widget/row/framedrow.h"
 
@@ -45,7 +46,7 @@ void typeinformation::CreatEntry()
     if (!m_item.iconRight.isEmpty())
         layout->addSpacing(spaceBeforeRight);
     layout->addWidget(m_rightButton);
-    setStyleSheet(QStringLiteral("*:disabled{color: #54535c;}"));
+    setStyleSheet(look::sheet("*:disabled{color: $disabled;}"));
 }
 
 void typeinformation::redraw()

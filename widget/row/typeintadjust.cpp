@@ -4,6 +4,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "widget/look.h"
 
 #include <cstdlib>
 
@@ -34,7 +35,7 @@ QString typeintadjust::stepped(int steps) const
 
 QString typeintadjust::endStyle() const
 {
-    return QStringLiteral("QLabel{border: 0px solid ,color:#54535c;}");
+    return look::sheet("QLabel{border: 0px solid ,color:$disabled;}");
 }
 
 void typeintadjust::NumberEntry(ENUM_MenuIndex index, unsigned char digit)

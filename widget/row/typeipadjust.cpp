@@ -6,6 +6,7 @@
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/row/framedrow.h"
 
 #include <QDebug>
@@ -98,15 +99,15 @@ void typeipadjust::addNumbers(QBoxLayout *layout)
 
 void typeipadjust::setTypeStyleSheet()
 {
-    static const QString form = QStringLiteral(
-        "*{color:%1;}#ipLineEditDot{border-radius:1px; background-color:%1;border:1px solid %1;}"
-        "#ipLineEdit[edit=false]:disabled,#ipLineEdit[edit=true]:disabled{border: 0px solid %1;}"
-        "#ipLineEdit[edit=false]:enabled{border:1px solid #3939ad;}"
-        "#ipLineEdit[edit=true]:enabled{border:1px solid #3939ad;color:#ebc613;}"
-        // Three digits have to fit their box, and the dot its gap.
-        "#ipLineEdit{font-size:16px;}#ipDot{font-size:11px;}");
+    static const QString form =
+        look::sheet("*{color:%1;}#ipLineEditDot{border-radius:1px; background-color:%1;border:1px solid %1;}"
+                    "#ipLineEdit[edit=false]:disabled,#ipLineEdit[edit=true]:disabled{border: 0px solid %1;}"
+                    "#ipLineEdit[edit=false]:enabled{border:1px solid $focus;}"
+                    "#ipLineEdit[edit=true]:enabled{border:1px solid $focus;color:$edited;}"
+                    // Three digits have to fit their box, and the dot its gap.
+                    "#ipLineEdit{font-size:16px;}#ipDot{font-size:11px;}");
     m_styledEnabled = m_item.enable;
-    setStyleSheet(form.arg(m_item.enable ? QStringLiteral("#b8b4cc") : QStringLiteral("#54535c")));
+    setStyleSheet(form.arg(look::ofText(m_item.enable)));
 }
 
 void typeipadjust::setItemEdit(int number)

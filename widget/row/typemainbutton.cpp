@@ -1,6 +1,7 @@
 #include "widget/row/typemainbutton.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
+#include "widget/look.h"
 
 namespace VASK
 {
@@ -8,6 +9,6 @@ typemainbutton::typemainbutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex object
     : FramedRow(menuIndex, objectIndex)
 {
     CreatEntry(nullptr);
-    setStyleSheet(QStringLiteral("*:disabled{color:#54535c;}"));
+    setStyleSheet(look::sheet("*:disabled{color:$disabled;}"));
 }
 } // namespace VASK

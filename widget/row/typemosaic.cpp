@@ -6,6 +6,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/look.h"
 
 #include <QDebug>
 #include <QHBoxLayout>
@@ -19,16 +20,16 @@ const QString stackedLayout = QStringLiteral("0");
 
 QString rowStyle()
 {
-    return QStringLiteral(
-        "QLabel[sizeLable=true]{color:#54535c;}"
-        "QLabel[source=true]:enabled{color:#b8b4cc; background-color:#3939ad; border:none;}"
-        "QLabel[source=true]{font-family: \"Arial\";font-size:16px;color:#b8b4cc; "
-        "background-color:#0b0b47; border:1px dashed #ebc613;}"
-        "QTableView::item:disabled{color: #54535c;}"
+    return look::sheet(
+        "QLabel[sizeLable=true]{color:$disabled;}"
+        "QLabel[source=true]:enabled{color:$text; background-color:$focus; border:none;}"
+        "QLabel[source=true]{font-family: \"Arial\";font-size:16px;color:$text; "
+        "background-color:#0b0b47; border:1px dashed $edited;}"
+        "QTableView::item:disabled{color: $disabled;}"
         "QTableView::item{border:0px;padding-left:10px;}"
         "QTableView::item:selected{background:rgba(14,76,170,66%);}"
         "QTableView{border:1px solid rgba(1,25,63);border-bottom:0px;border-right:0px;border-top:none; "
-        "margin:0px; padding:0px;color:#b8b4cc;background-color:rgb(11,35,72);}");
+        "margin:0px; padding:0px;color:$text;background-color:rgb(11,35,72);}");
 }
 } // namespace
 

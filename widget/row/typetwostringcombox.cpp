@@ -5,6 +5,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/language.h"
+#include "widget/look.h"
 
 #include <QDebug>
 #include <QHBoxLayout>
@@ -84,14 +85,13 @@ void typetwostringcombox::SetRightTextEnable(bool enabled)
 {
     runOnGui(this, [=] {
         m_rightText->setStyleSheet(enabled ? QStringLiteral("color: #FCFCFC;")
-                                           : QStringLiteral("color: #54535c;"));
+                                           : look::sheet("color: $disabled;"));
     });
 }
 
 void typetwostringcombox::redraw()
 {
-    const QString colour =
-        m_item.enable ? QStringLiteral("color: #b8b4cc;") : QStringLiteral("color: #54535c;");
+    const QString colour = QStringLiteral("color: %1;").arg(look::ofText(m_item.enable));
     m_leftText->setText(translated(m_item.tag));
     m_leftIcon->setPixmap(QPixmap(m_item.icon));
     m_rightText->setText(translated(m_item.params.value(m_item.value)));
