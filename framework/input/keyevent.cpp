@@ -21,17 +21,24 @@ constexpr int selectTimeoutMs = 10000;
 constexpr int readBytes = 512;
 constexpr unsigned char releaseBit = 0x80;
 
+/// Standard output is a pipe to the log, where a line would wait for a whole block of others.
+void tell(const char *failure)
+{
+    puts(failure);
+    fflush(stdout);
+}
+
 /// The device is opened for each command: the reading thread's descriptor cannot write.
 int sendToDevice(void *block)
 {
     const int descriptor = keypad_open(keypadDevice, O_RDWR);
     if (descriptor < 0) {
-        puts("fail to open");
+        tell("fail to open");
         return 1;
     }
     const int result = keypad_ioctl(descriptor, ledRequest, block);
     if (result < 0)
-        puts("fail to ioctl a led light");
+        tell("fail to ioctl a led light");
     keypad_close(descriptor);
     return result < 0 ? 1 : 0;
 }

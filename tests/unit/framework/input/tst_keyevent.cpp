@@ -15,6 +15,7 @@
 #include <QWidget>
 #include <QtEndian>
 #include <QtTest>
+#include <fcntl.h>
 #include <poll.h>
 
 using namespace VASK;
@@ -91,6 +92,34 @@ public:
 private:
     int m_listener;
     int m_reader = -1;
+};
+
+/// What the program writes to its standard output goes to a file for a while.
+class StandardOutput
+{
+public:
+    explicit StandardOutput(const QString &file) : m_file(file), m_former(dup(STDOUT_FILENO))
+    {
+        fflush(stdout);
+        const int descriptor = open(file.toLocal8Bit(), O_CREAT | O_WRONLY | O_TRUNC, 0600);
+        dup2(descriptor, STDOUT_FILENO);
+        close(descriptor);
+    }
+    ~StandardOutput()
+    {
+        fflush(stdout);
+        dup2(m_former, STDOUT_FILENO);
+        close(m_former);
+    }
+    QByteArray text() const
+    {
+        QFile written(m_file);
+        return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+    }
+
+private:
+    QString m_file;
+    int m_former;
 };
 
 constexpr int slow = 1 << 8;
@@ -192,6 +221,21 @@ private slots:
             QVERIFY(caller->wait(5000));
             QCOMPARE(returned, result == 0 ? 0 : 1);
         }
+    }
+
+    /// At once, though standard output is a file or a pipe.
+    void aFailureIsTold()
+    {
+        const StandardOutput output(m_state.path() + "/out");
+        std::unique_ptr<QThread> caller(QThread::create([] { KeyEvent::SendLedCommandOnce(7, LED_OFF); }));
+        caller->start();
+        m_driver->takeCommand(-1);
+        QVERIFY(caller->wait(5000));
+        QCOMPARE(output.text(), QByteArray("fail to ioctl a led light\n"));
+        QVERIFY(QFile::rename(m_state.path() + hostlink::keypadSocket, m_state.path() + "/away"));
+        QCOMPARE(KeyEvent::SendLedCommandOnce(7, LED_OFF), 1);
+        QCOMPARE(output.text(), QByteArray("fail to ioctl a led light\nfail to open\n"));
+        QVERIFY(QFile::rename(m_state.path() + "/away", m_state.path() + hostlink::keypadSocket));
     }
 
 private:
