@@ -152,7 +152,7 @@ Item check(ENUM_MenuIndex index, const QString &tag, const QString &choice, cons
 
 Item fourPictures(ENUM_MenuIndex index, const QString &value, const QString &marks)
 {
-    Item item = Item(index, {}, value).high(pictureRow, true);
+    Item item = Item(index, {}, value).high(pictureRow, false);
     item.pixValue = marks;
     return item;
 }

@@ -31,6 +31,12 @@ st_MenuItemInfo subPage(ENUM_ObjectIndex widget, ENUM_ObjectIndex page, ENUM_Men
     return {widget, page, TYPE_SUBPAGE, item, config};
 }
 
+/// A row that acts at once and yet names a page object, its own number: no page is built for it.
+st_MenuItemInfo ownPage(ENUM_ObjectIndex widget, ENUM_MenuIndex item)
+{
+    return {widget, widget, TYPE_BUTTON, item, CONFIG_END};
+}
+
 Rows numbered(std::initializer_list<st_MenuItemInfo> list)
 {
     Rows rows;
@@ -101,7 +107,7 @@ void addMainPages(Pages &pages)
             subPage(ENUM_ROW_QuickConfiguration, ENUM_PAGE_QuickConfiguration, MENU_QuickConfiguration,
                     CONFIG_QuickConfiguration),
             subPage(ENUM_ROW_LoadCabFiles, ENUM_PAGE_LoadCabFiles, MENU_LoadCabFiles, CONFIG_LoadCabFiles),
-            row(ENUM_ROW_SavetoRVCard, TYPE_BUTTON, MENU_SavetoRVCard),
+            ownPage(ENUM_ROW_SavetoRVCard, MENU_SavetoRVCard),
             subPage(ENUM_ROW_MoreSettings, ENUM_PAGE_MoreSettings, MENU_MoreSettings, CONFIG_MoreSettings),
         }));
     pages[CONFIG_LayerSettings] =

@@ -47,7 +47,10 @@ private slots:
                 QVERIFY2(g_MenuXmlConfig.contains(row.menuIndex), qPrintable(QString::number(row.menuIndex)));
                 const bool opens = row.controlType == TYPE_SUBPAGE;
                 QCOMPARE(row.subPage != CONFIG_END, opens);
-                QCOMPARE(row.pageObject != ENUM_OBJECT_END, opens);
+                if (row.menuIndex == MENU_SavetoRVCard)
+                    QCOMPARE(row.pageObject, row.itemObject);
+                else
+                    QCOMPARE(row.pageObject != ENUM_OBJECT_END, opens);
                 if (opens)
                     QCOMPARE(g_config[row.subPage].object, row.pageObject);
             }
@@ -140,10 +143,10 @@ private slots:
                 }
                 if (row.controlType == TYPE_CHECKITEM)
                     QVERIFY2(item.choice == SELECTED || item.choice == UNSELECTED, name);
-                if (row.controlType != TYPE_TIP)
-                    QVERIFY2(item.focusable, name);
-                else
-                    QVERIFY2(!item.focusable && item.rowHeight == 72, name);
+                QVERIFY2(item.focusable != (row.controlType == TYPE_TIP || row.controlType == TYPE_FOURPIC),
+                         name);
+                if (row.controlType == TYPE_TIP)
+                    QVERIFY2(item.rowHeight == 72, name);
             }
     }
 
