@@ -61,22 +61,7 @@ void Lock::SetLockState(bool locked)
         qDebug() << "lock Image set faild!";
     else
         labPic->setPixmap(picture);
-    m_locked = locked;
-    showText();
-}
-
-void Lock::showText()
-{
-    labTip->setText(translated(m_locked ? QStringLiteral("Locked") : QStringLiteral("Unlocked")));
-}
-
-void Lock::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        setTextStyle();
-        showText();
-    }
-    QDialog::changeEvent(event);
+    labTip->setText(translated(locked ? QStringLiteral("Locked") : QStringLiteral("Unlocked")));
 }
 
 void Lock::SetBackGroundImg(QString path, QWidget *w)

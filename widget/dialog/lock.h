@@ -12,20 +12,15 @@ class Lock : public QDialog
 public:
     explicit Lock(QWidget *parent);
 
-    /// Picture and text of the state.
+    /// Picture and text of the state, in the present language. The style stays that of the language in which
+    /// the window was made.
     void SetLockState(bool locked);
     /// A picture of the resources as the background of a widget.
     void SetBackGroundImg(QString path, QWidget *w);
 
-protected:
-    /// The language has changed: text and style again.
-    void changeEvent(QEvent *event) override;
-
 private:
     void setTextStyle();
-    void showText();
 
     QLabel *labPic = nullptr;
     QLabel *labTip = nullptr;
-    bool m_locked = false;
 };

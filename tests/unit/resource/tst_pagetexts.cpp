@@ -153,15 +153,17 @@ private slots:
         m_rig->answering = false;
         const ST_ItemInfo list = g_MenuXmlConfig[MENU_Color_ColorTemp];
         Lock lock(m_rig->home);
-        lock.SetLockState(true);
+        const QString lockStyle = lock.findChild<QLabel *>("labTip")->styleSheet();
         dialog_msgBox box(nullptr, "IFResetAll", MSGBOX_YES_NO, 0, " 7");
         box.show();
         stringcomboxtable options(list.index, ENUM_OBJECT_END, list);
         const Language &language = switchLanguage();
         QCoreApplication::processEvents();
 
+        // The lock window keeps the style in which it was made.
+        lock.SetLockState(true);
         QCOMPARE(lock.findChild<QLabel *>("labTip")->text(), translated("Locked"));
-        QVERIFY(lock.findChild<QLabel *>("labTip")->styleSheet().contains(language.font));
+        QCOMPARE(lock.findChild<QLabel *>("labTip")->styleSheet(), lockStyle);
         QCOMPARE(box.findChild<QLabel *>("lab_Info")->text(),
                  translated("IFResetAll").replace("\\r\\n", "\r\n") + " 7");
         QCOMPARE(box.findChild<QPushButton *>("btnYes")->text(), translated("Yes"));
