@@ -65,11 +65,9 @@ bool MainWindow::Init()
     const QString background = imgPath + "mainWindow/K2860-bg.png";
     if (!m_background.load(background))
         qDebug() << "Set MainWindowBackGround image fail:" << background;
-    // What is missing is told by the result; all the rest of the screen lives without it.
-    bool complete = true;
     if (!setPicture(ui->labLock, imgPath + "mainWindow/lock.png", "image load faild! imagePath:")) {
         qDebug() << "setLockState image fail";
-        complete = false;
+        return false;
     }
     SetIp(firstAddress);
     SetDeviceRename(QString());
@@ -79,7 +77,7 @@ bool MainWindow::Init()
     tran = poolObject<transport>(ENUM_TRANSPORT);
     if (!tran) {
         qDebug() << "tran get fail";
-        complete = false;
+        return false;
     }
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     const bool signOff = engine && engine->GetParaFromIndex(MENU_MakerSign) == QLatin1String("0");
@@ -89,13 +87,14 @@ bool MainWindow::Init()
     SetConnectState(CONNECT_NONE);
     SetTestMode(TESTMODE_TEST);
     qDebug() << "MainWindow get transport start";
-    complete = findMenus() && complete;
+    if (!findMenus())
+        return false;
     ui->setStyles();
     m_pTwinkledisplayTimer = new QTimer(this);
     m_pTwinkledisplayTimer->setObjectName("home blink");
     connect(m_pTwinkledisplayTimer, &QTimer::timeout, this, &MainWindow::slot_Twinkledisplay);
     m_pTwinkledisplayTimer->start(m_TwinkledisplayTimer);
-    return complete;
+    return true;
 }
 
 bool MainWindow::findMenus()
@@ -110,14 +109,14 @@ bool MainWindow::findMenus()
         {m_pUserHideMenu, ENUM_USER_HIDE_MENU, "User Hide Menu Directory init fail!"},
         {m_pProductHideMenu, ENUM_PRODUCT_HIDE_MENU, "Product Hide Menu Directory init fail!"},
     };
-    bool all = true;
     for (const Root &root : roots) {
         root.page = poolObject<MenuDirectory>(root.object);
-        if (!root.page)
+        if (!root.page) {
             qDebug() << root.failure;
-        all = all && root.page;
+            return false;
+        }
     }
-    return all;
+    return true;
 }
 
 void MainWindow::InitLayer()
