@@ -161,6 +161,7 @@ private:
     /// Shows a message that stays until its owner or the user closes it.
     QDialog *openMessage(VASK::ENUM_MenuIndex index, const QString &text = {});
     void leaveForHome();
+    void endDialogs();
     void endBrightnessEdit();
 
     std::unique_ptr<Ui_MainWindow> ui;

@@ -174,7 +174,7 @@ void MainWindow::slot_ReturnToMainSoft(bool mode)
         else if (lock_mode)
             SetLockState(PANEL_UNLOCK, true);
     } else if (!mode) {
-        if (QApplication::activeWindow() != this)
+        if (!isVisible() || QApplication::activeModalWidget())
             leaveForHome();
         SetLockState(PANEL_LOCK, true);
         lock_mode = true;
@@ -185,17 +185,28 @@ void MainWindow::slot_ReturnToMainSoft(bool mode)
 void MainWindow::leaveForHome()
 {
     qDebug() << "slot_ReturnToMain start!!!!!!";
-    if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeWindow())) {
-        qDebug() << "now in pDialog";
-        dialog->done(replaced);
-    }
+    endDialogs();
+    QTimer::singleShot(0, this, &MainWindow::endDialogs); // also one that the ESC brings up
     KeypadEvent esc(KEY_RELEASED, KEY_ESC, 1, false);
-    if (auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow()))
+    if (MenuDirectory *page = MenuDirectory::shownPage())
         page->keypadEScEvent(&esc);
     MenuDirectory::setNoPage();
     MenuDirectory::hideAllPages();
     qDebug() << "slot_ReturnToMain end!!!!!!";
     show();
+}
+
+/// What a dialog has interrupted goes on when it is gone, and may have more to ask or to tell: until the last
+/// of them has come back from its event loop.
+void MainWindow::endDialogs()
+{
+    constexpr int programsOwnLoop = 1;
+    while (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+        qDebug() << "now in pDialog";
+        dialog->done(replaced);
+    }
+    if (QThread::currentThread()->loopLevel() > programsOwnLoop)
+        QTimer::singleShot(0, this, &MainWindow::endDialogs);
 }
 
 void MainWindow::endBrightnessEdit()

@@ -93,6 +93,8 @@ public:
     static void setNoPage();
     /// Gives back the preset row that a copy had disabled.
     static void enableCopiedPreset();
+    /// The page that is visible; null if there is none.
+    static MenuDirectory *shownPage();
     static void hideAllPages();
     /// Brings up a new self-check window in the place of another window; test: on behalf of the production
     /// test, for good.

@@ -89,6 +89,15 @@ void MenuDirectory::enableCopiedPreset()
     }
 }
 
+MenuDirectory *MenuDirectory::shownPage()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (auto *page = dynamic_cast<MenuDirectory *>(window); page && page->isVisible())
+            return page;
+    return nullptr;
+}
+
 void MenuDirectory::hideAllPages()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();

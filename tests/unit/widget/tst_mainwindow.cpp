@@ -15,6 +15,17 @@
 
 using namespace VASK;
 
+/// The macros stand outside all namespaces.
+static void unloadPictures()
+{
+    QPixmapCache::clear();
+    Q_CLEANUP_RESOURCE(fpd_pictures);
+}
+static void loadPictures()
+{
+    Q_INIT_RESOURCE(fpd_pictures);
+}
+
 class TestMainWindow : public QObject
 {
     Q_OBJECT
@@ -55,6 +66,34 @@ private slots:
         QVERIFY(!home.SetNetState(NET_PORT1, NET_STATE_NONE));
         QVERIFY(!home.SetLockState(ENUM_MainWindowLockState(2), true));
         QCOMPARE(home.grab().toImage(), before);
+    }
+
+    void itsStartEndsWhereSomethingIsMissing_data()
+    {
+        QTest::addColumn<int>("missing");
+        QTest::addColumn<QString>("address"); ///< shown by then
+        QTest::newRow("the lock's picture") << -1 << "";
+        QTest::newRow("the transport") << int(ENUM_TRANSPORT) << "192.168.0.10";
+        QTest::newRow("a hidden menu") << int(ENUM_PRODUCT_HIDE_MENU) << "192.168.0.10";
+    }
+    void itsStartEndsWhereSomethingIsMissing()
+    {
+        QFETCH(int, missing);
+        const auto object = ENUM_ObjectIndex(missing);
+        VaskObject *known = missing < 0 ? nullptr : ObjectPool::getInstance()->GetObject(object);
+        if (known)
+            ObjectPool::getInstance()->InsertData(object, m_rig->engine); // one of another kind
+        else
+            unloadPictures();
+        MainWindow home(ENUM_MAIN_WINDOW);
+        const bool started = home.Init();
+        if (known)
+            ObjectPool::getInstance()->InsertData(object, known);
+        else
+            loadPictures();
+        QVERIFY(!started);
+        QTEST(home.findChild<QLabel *>("labIp")->text(), "address");
+        QCOMPARE(home.findChildren<QTimer *>().size(), 0); // nothing blinks
     }
 
     void settersFromTheReportThread()
@@ -122,6 +161,48 @@ private slots:
         m_rig->home->slot_ReturnToMainSoft(true);
         QVERIFY(!MainWindow::m_bLockFlag);
         QVERIFY(!MainWindow::lock_mode);
+    }
+
+    /// What is open goes, all of it, whatever a message from the device has put over it.
+    void aTakeOverEndsAllThatIsOpen_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QStringList>("calls"); ///< of the row after the take-over
+        const auto row = [](const char *name, ENUM_ObjectIndex page, int row, const QStringList &calls) {
+            QTest::newRow(name) << int(page) << row << calls;
+        };
+        row("an open list", ENUM_PAGE_PIP1, 0, {QString("EscList %1").arg(MENU_PIP1_Status)});
+        row("an edited number", ENUM_PAGE_PIP1, 3, {QString("Esc %1 1").arg(MENU_PIP1_HorWidth)});
+        row("the brightness", ENUM_MAIN_MENU, 0, {QString("Esc %1 1").arg(MENU_ScreenBrightness)});
+        row("a question", ENUM_PAGE_FactoryReset, 0, {});
+        row("the choice of the language", ENUM_MAIN_WINDOW, 0, {});
+    }
+    void aTakeOverEndsAllThatIsOpen()
+    {
+        QFETCH(int, page);
+        QFETCH(int, row);
+        const bool atHome = page == ENUM_MAIN_WINDOW;
+        m_rig->answering = false;
+        // What stays open is answered in the end, to be seen in what it does.
+        QTimer::singleShot(1000, m_rig->home, [this] { m_rig->answering = true; });
+        QTimer::singleShot(0, m_rig->home, [this] {
+            notes().clear();
+            m_rig->home->slot_update(0, 0);
+            m_rig->home->slot_ReturnToMainSoft(false);
+        });
+        MenuDirectory *open = nullptr;
+        if (!atHome) {
+            open = PageRig::open(ENUM_ObjectIndex(page), m_rig->home);
+            open->setCurrentRow(row);
+        }
+        atHome ? m_rig->hold(KEY_OK) : m_rig->press(KEY_OK);
+        QTRY_VERIFY(MainWindow::m_bLockFlag);
+        QCOMPARE(m_rig->messages, QStringList());
+        QVERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(m_rig->shown(), m_rig->home);
+        QVERIFY(!open || !open->isEditing());
+        QTEST(notes(), "calls");
     }
 
     void aLockOfTheUsersOwnSurvivesATakeOversEnd()
