@@ -4,89 +4,105 @@
 
 #include <QApplication>
 #include <QDebug>
-#include <QWindow>
 
 namespace VASK
 {
 namespace
 {
-/// A window that a key brought up becomes the active one in the event loop's next pass; that of the timer's
-/// first look may have looked at the timer before.
+/// The window system tells which window is the active one a pass of the event loop after it has changed; the
+/// first pass that is counted may have begun before.
 constexpr int passesOfAWindow = 2;
 
-QVector<QWindow *> visibleWindows()
+KeyDispatcher *current = nullptr;
+
+void drop(unsigned char key)
 {
-    QVector<QWindow *> visible;
-    for (QWindow *window : QGuiApplication::topLevelWindows())
-        if (window->isVisible())
-            visible.append(window);
-    return visible;
+    qDebug() << "null == activeWid" << key;
 }
 } // namespace
 
-KeyDispatcher::KeyDispatcher()
+KeyDispatcher::KeyDispatcher() : m_passesLeft(passesOfAWindow)
 {
-    m_passes.setInterval(1);
-    connect(&m_passes, &QTimer::timeout, this, &KeyDispatcher::pass);
+    current = this;
+    m_nextPass.setSingleShot(true);
+    connect(&m_nextPass, &QTimer::timeout, this, &KeyDispatcher::handOut);
     postToGui(this, [this] { m_loopRuns = true; });
+}
+
+KeyDispatcher::~KeyDispatcher()
+{
+    current = nullptr;
 }
 
 void KeyDispatcher::post(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress)
 {
+    const Key given{type, key, speed, longPress};
     if (!m_loopRuns) {
         drop(key);
         return;
     }
-    postToGui(this, [this, given = Key{type, key, speed, longPress}] { take(given); });
+    postToGui(this, [this, given] {
+        m_waiting.append(given);
+        if (!m_nextPass.isActive())
+            handOut();
+    });
 }
 
-/// A key that opens another window must have done so before the next key looks for the active one: keys that
-/// were typed while the panel was busy come in a row.
-void KeyDispatcher::take(const Key &key)
+void KeyDispatcher::forgetTyped()
 {
-    if (m_passes.isActive())
-        m_waiting.append(key);
-    else
-        deliver(key);
-}
-
-void KeyDispatcher::pass()
-{
-    if (--m_passesLeft > 0)
+    if (!current || !current->m_loopRuns)
         return;
-    m_passes.stop();
-    while (!m_passes.isActive() && !m_waiting.isEmpty())
-        deliver(m_waiting.takeFirst());
+    current->m_nextPass.start(); // what is under way only joins the keys that wait
+    QCoreApplication::sendPostedEvents(current, QEvent::MetaCall);
+    while (!current->m_waiting.isEmpty())
+        current->deliver(current->m_waiting.takeFirst(), nullptr);
+    current->m_nextPass.stop();
 }
 
-void KeyDispatcher::deliver(const Key &key)
+/// A key may run an event loop, that of a dialog, which goes on with the keys.
+void KeyDispatcher::handOut()
 {
-    // Before the key does its work: a dialog runs an event loop of its own, which goes on with the keys.
-    const unsigned int number = ++m_delivered;
-    waitForWindow();
-    const QVector<QWindow *> before = visibleWindows();
+    while (!m_waiting.isEmpty()) {
+        QWidget *window = visibleWindow();
+        if (!window && --m_passesLeft >= 0) {
+            m_nextPass.start();
+            return;
+        }
+        m_passesLeft = passesOfAWindow;
+        deliver(m_waiting.takeFirst(), window);
+    }
+}
+
+/// A dialog is in front from the moment at which it is shown, long before it is active. And a window that
+/// has gone stays the active one for a moment: who comes after it is not known yet.
+QWidget *KeyDispatcher::visibleWindow()
+{
+    if (QWidget *dialog = QApplication::activeModalWidget())
+        return dialog;
     QWidget *window = QApplication::activeWindow();
-    if (!window) {
+    return window && window->isVisible() ? window : nullptr;
+}
+
+void KeyDispatcher::deliver(const Key &key, QWidget *window)
+{
+    const bool changed = changedHands(key, window);
+    if (!window || changed) {
         drop(key.key);
         return;
     }
     KeypadEvent event(key.type, key.key, key.speed, key.longPress);
     QCoreApplication::sendEvent(window, &event);
-    const bool loopRan = number != m_delivered || m_passesLeft < passesOfAWindow;
-    if (loopRan)
-        waitForWindow(); // what the key brought up has gone again
-    else if (visibleWindows() == before)
-        m_passes.stop(); // nothing came up: the next key need not wait
 }
 
-void KeyDispatcher::waitForWindow()
+bool KeyDispatcher::changedHands(const Key &key, const QWidget *window)
 {
-    m_passesLeft = passesOfAWindow;
-    m_passes.start();
-}
-
-void KeyDispatcher::drop(unsigned char key)
-{
-    qDebug() << "null == activeWid" << key;
+    if (key.type == KEY_PRESSED) {
+        m_pressedAt[key.key] = window;
+        return false;
+    }
+    const bool changed = m_pressedAt.value(key.key, window) != window;
+    if (key.type == KEY_RELEASED)
+        m_pressedAt.remove(key.key);
+    return changed;
 }
 } // namespace VASK

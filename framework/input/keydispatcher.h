@@ -1,14 +1,18 @@
-// Brings key events to the active window, one by one. The pointer to the active window is the GUI thread's,
-// so the keypad and the timer thread only hand a key over; this object, which lives on the GUI thread, looks
-// the window up there and gives it the key.
+// Brings key events to the window that is visible, one by one: to the dialog in front, else to the active
+// window. Both are the GUI thread's, so the keypad and the timer thread only hand a key over; this object,
+// which lives on the GUI thread, looks the window up there and gives it the key. A key that was pressed in
+// front of one window is not released in front of another.
 #pragma once
 
 #include "framework/input/keypadevent.h"
 
+#include <QHash>
 #include <QObject>
 #include <QTimer>
 #include <QVector>
 #include <atomic>
+
+class QWidget;
 
 namespace VASK
 {
@@ -16,11 +20,17 @@ class KeyDispatcher : public QObject
 {
     Q_OBJECT
 public:
-    /// On the GUI thread. Keys that come before its event loop runs meet no window and are dropped.
+    /// On the GUI thread, one a process. Keys that come before its event loop runs meet no window and are
+    /// dropped.
     KeyDispatcher();
+    ~KeyDispatcher() override;
 
     /// From any thread; never waits.
     void post(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress);
+
+    /// Drops the keys that have been typed and have reached nobody yet: a window that takes no keys goes, and
+    /// they were typed in front of it. GUI thread.
+    static void forgetTyped();
 
 private:
     struct Key {
@@ -29,17 +39,16 @@ private:
         unsigned char speed;
         bool longPress;
     };
-    void take(const Key &key);
-    void deliver(const Key &key);
-    void pass();
-    void waitForWindow();
-    static void drop(unsigned char key);
+    void handOut();
+    static QWidget *visibleWindow();
+    void deliver(const Key &key, QWidget *window);
+    bool changedHands(const Key &key, const QWidget *window);
 
     std::atomic<bool> m_loopRuns{false};
     // GUI thread only:
     QVector<Key> m_waiting;
-    QTimer m_passes; ///< runs while the last key may still bring up a window
-    int m_passesLeft = 0;
-    unsigned int m_delivered = 0;
+    QHash<unsigned char, const QWidget *> m_pressedAt; ///< of the keys that are down
+    QTimer m_nextPass;                                 ///< runs while the keys wait for a window
+    int m_passesLeft;
 };
 } // namespace VASK

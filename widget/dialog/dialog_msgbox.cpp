@@ -1,5 +1,6 @@
 #include "widget/dialog/dialog_msgbox.h"
 
+#include "framework/input/keydispatcher.h"
 #include "framework/input/keypadevent.h"
 #include "menu/keycodes.h"
 #include "menu/menutypes.h"
@@ -168,6 +169,13 @@ void dialog_msgBox::handleKey(const KeypadEvent &event)
     default:
         qDebug() << "dialog no this handle!";
     }
+}
+
+void dialog_msgBox::hideEvent(QHideEvent *event)
+{
+    if (!takesAnswers())
+        KeyDispatcher::forgetTyped();
+    KeyDialog::hideEvent(event);
 }
 
 void dialog_msgBox::paintEvent(QPaintEvent *)

@@ -31,6 +31,8 @@ protected:
     /// The language has changed: texts and style again.
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    /// The box goes, and with it the keys that were typed in front of one that takes none.
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void setDialogStyleSheet();

@@ -1,5 +1,7 @@
 #include "widget/dialog/dialog_wait.h"
 
+#include "framework/input/keydispatcher.h"
+
 #include <QLabel>
 #include <QTimer>
 
@@ -32,6 +34,7 @@ int Dialog_Wait::exec()
 void Dialog_Wait::slot_CloseDialog()
 {
     done(timeOver);
+    VASK::KeyDispatcher::forgetTyped(); // meant for nobody, as the text says
 }
 
 Dialog_Wait_Chinese::Dialog_Wait_Chinese(QWidget *parent)

@@ -82,6 +82,59 @@ QString faultOf(QDialog &box, const ST_DialogInfo &row, const QString &extra)
     }
     return {};
 }
+/// A page whose work, the answer to a key, shows a message twice; at one moment of it the user types on.
+class Worker : public QWidget
+{
+public:
+    enum Moment { Before, FirstPass, LastPass, Between };
+    Worker(ParaProcess &engine, ENUM_MenuIndex message, Moment moment, KeyDispatcher &keypad)
+        : m_engine(engine), m_message(message), m_moment(moment), m_keypad(keypad)
+    {
+    }
+
+    int keys = 0;
+    bool done = false;
+    int result = stillOpen; ///< of the first message
+
+private:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == KeypadEvent::eventType && ++keys == 1) {
+            at(Before);
+            result = showMessage();
+            at(Between);
+            showMessage();
+            done = true;
+        }
+        return QWidget::event(event);
+    }
+    int showMessage()
+    {
+        constexpr int shownMs = 50;
+        const std::unique_ptr<QDialog> box(m_engine.CreateDialog(m_message, QString()));
+        QTimer::singleShot(0, box.get(), [this] { at(FirstPass); });
+        QTimer::singleShot(shownMs, box.get(), [this, &box] {
+            at(LastPass);
+            box->done(stillOpen);
+        });
+        const int answer = box->exec();
+        QApplication::setActiveWindow(this); // as the window system of the LCD does
+        return answer;
+    }
+    void at(Moment moment)
+    {
+        if (moment != m_moment)
+            return;
+        m_moment = Moment(-1);
+        for (KEY_TYPE type : {KEY_PRESSED, KEY_RELEASED})
+            m_keypad.post(type, ok, 1, false);
+    }
+
+    ParaProcess &m_engine;
+    ENUM_MenuIndex m_message;
+    Moment m_moment;
+    KeyDispatcher &m_keypad;
+};
 } // namespace
 
 class TestMessages : public QObject
@@ -132,32 +185,31 @@ private slots:
         QCOMPARE(seen, 1);
     }
 
-    /// Keys that were typed before the box came up are its own, not those of the page below.
-    void keysTypedAheadReachTheBox()
+    void keysTypedAheadAreTheMessages_data()
     {
-        PageRig::open(ENUM_MAIN_MENU, m_rig->home);
-        const std::unique_ptr<QDialog> box(m_rig->engine->CreateDialog(MSG_UpdateError, QString()));
-        class Opener : public QWidget
-        {
-        public:
-            explicit Opener(QDialog &dialog) : m_dialog(dialog) {}
-            int result = stillOpen;
-
-        private:
-            bool event(QEvent *event) override
-            {
-                if (event->type() == KeypadEvent::eventType)
-                    result = m_dialog.exec();
-                return QWidget::event(event);
-            }
-            QDialog &m_dialog;
-        } page(*box);
+        QTest::addColumn<int>("message");
+        QTest::addColumn<int>("moment");
+        QTest::addColumn<int>("result");
+        QTest::newRow("before one that is answered") << int(MSG_UpdateError) << int(Worker::Before) << 1;
+        const int waiting = MSG_Waiting;
+        QTest::newRow("before one that is not") << waiting << int(Worker::Before) << stillOpen;
+        QTest::newRow("while it comes up") << waiting << int(Worker::FirstPass) << stillOpen;
+        QTest::newRow("as it goes") << waiting << int(Worker::LastPass) << stillOpen;
+        QTest::newRow("before the next one") << waiting << int(Worker::Between) << stillOpen;
+    }
+    void keysTypedAheadAreTheMessages()
+    {
+        QFETCH(int, message);
+        QFETCH(int, moment);
+        m_rig->home->hide();
+        Worker page(*m_rig->engine, ENUM_MenuIndex(message), Worker::Moment(moment), m_keypad);
         page.show();
         QVERIFY(QTest::qWaitForWindowActive(&page));
-        QTimer::singleShot(3000, box.get(), [&box] { box->done(stillOpen); });
-        for (KEY_TYPE type : {KEY_RELEASED, KEY_PRESSED, KEY_RELEASED})
-            m_keypad.post(type, ok, 1, false);
-        QTRY_COMPARE(page.result, 1);
+        m_keypad.post(KEY_RELEASED, ok, 1, false);
+        QTRY_VERIFY(page.done);
+        QTest::qWait(20); // what is still under way
+        QCOMPARE(page.keys, 1);
+        QTEST(page.result, "result");
     }
 
     /// All of them at once, one over the other, so that it takes no longer than the longest.

@@ -1,0 +1,137 @@
+// Messages have the screen: what is typed while they are up reaches no page behind, however fast it comes and
+// however many follow each other; and a PC that takes over ends all that is open.
+#include "menu/itemindex.h"
+#include "testkit/lcdtext.h"
+#include "tests/system/systemtest.h"
+#include "tests/testprogram.h"
+
+#include <QRegularExpression>
+
+using namespace VASK;
+
+namespace
+{
+using Way = QList<ENUM_MenuIndex>;
+
+// What the panel logs when a message comes up and when its time is over, and a page for each key.
+const QString shown = "str: ", closed = "slot_CloseDialog:", pageKey = "MenuDirectory: key:";
+const QString languageQuestion = "选择语言/Select Language";
+constexpr int messagesInARow = 2; ///< a request to wait and what has become of it
+
+/// Keys that a page has got while a message was up, or of which it has got the release alone.
+QStringList strayKeys(const QStringList &log)
+{
+    QStringList stray, pressed;
+    int up = 0, gone = 0;
+    for (const QString &line : log) {
+        up += line.startsWith(shown);
+        gone += line.startsWith(closed);
+        if (!line.startsWith(pageKey) || up == 0)
+            continue;
+        const QString key = line.section(' ', 2, 2);
+        const bool press = line.endsWith("type: 0");
+        if (gone < messagesInARow || (!press && !pressed.contains(key)))
+            stray << line;
+        if (press)
+            pressed << key;
+    }
+    return stray;
+}
+} // namespace
+
+class TestStoryMessages : public SystemTest
+{
+    Q_OBJECT
+private slots:
+    void keysReachNoPageBehind_data()
+    {
+        QTest::addColumn<Way>("way");
+        QTest::addColumn<QStringList>("keys");
+        QTest::newRow("a file that loads")
+            << Way{MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles, MENU_CabinetFile1}
+            << QStringList{keys::Ok, keys::Esc, "right"};
+        QTest::newRow("a preset that is saved")
+            << Way{MENU_PresetSettings, MENU_Preset3} << QStringList{"right", "left", keys::Main, keys::Fn};
+    }
+    void keysReachNoPageBehind()
+    {
+        QFETCH(Way, way);
+        QFETCH(QStringList, keys);
+        QVERIFY(openMessages(way));
+        for (int i = 0; m_panel.logLines(closed).size() < messagesInARow; ++i) {
+            const QString &key = keys[i % keys.size()];
+            QVERIFY(key == "left" || key == "right" ? m_panel.ask({"knob", key}).ok : m_panel.press(key));
+        }
+        QVERIFY(m_panel.settle());
+        QCOMPARE(strayKeys(m_panel.logLines(QString())), QStringList());
+        // Only the last key can have come behind the messages, and can have brought up others.
+        QVERIFY(m_panel.waitUntil([this] {
+            return m_panel.logLines(shown).filter(QRegularExpression('^' + shown)).size() ==
+                   m_panel.logLines(closed).size();
+        }));
+        QVERIFY(m_walk.home());
+    }
+
+    void aTakeOverEndsAllThatIsOpen_data()
+    {
+        QTest::addColumn<Way>("way");
+        QTest::addColumn<bool>("calibration"); ///< a message of the device stands in front
+        QTest::newRow("a question") << Way{MENU_FactoryReset, MENU_SaveIP} << true;
+        QTest::newRow("the language") << Way{} << true;
+        QTest::newRow("a preset on its way") << Way{MENU_PresetSettings, MENU_Preset3} << false;
+    }
+    void aTakeOverEndsAllThatIsOpen()
+    {
+        QFETCH(Way, way);
+        QFETCH(bool, calibration);
+        QVERIFY(m_panel.ask({"link", "eth", "1"}).ok && m_panel.settle());
+        if (way.isEmpty())
+            QVERIFY(asksForTheLanguage());
+        else if (calibration)
+            QVERIFY(m_walk.go(way.mid(0, way.size() - 1)) && m_walk.moveTo(way.last()) &&
+                    m_panel.press(keys::Ok) && m_panel.settle());
+        else
+            QVERIFY(openMessages(way));
+        if (calibration)
+            QVERIFY(m_panel.ask({"calibrate", "on"}).ok && m_panel.settle());
+        m_panel.mark();
+        QVERIFY(m_panel.ask({"heartbeat", "on"}).ok);
+        QVERIFY(m_panel.waitForLog("slot_ReturnToMain end!!!!!!"));
+        QVERIFY(waitUntilStored(MENU_ScreenLock, "1"));
+        QVERIFY(m_panel.ask({"heartbeat", "off"}).ok && m_panel.ask({"link", "eth", "0"}).ok);
+        QVERIFY(waitUntilStored(MENU_ScreenLock, "0"));
+        // No message has lived to the end of its time, and home takes the keys: none is in front of it.
+        QCOMPARE(m_panel.logLines(closed), QStringList());
+        m_walk.assume({});
+        QVERIFY(m_panel.settle() && m_walk.isHome());
+        QVERIFY(asksForTheLanguage());
+        QVERIFY(m_panel.turn(Left) && m_panel.press(keys::Ok) && m_panel.waitUntilGone(languageQuestion));
+        if (way.isEmpty())
+            return;
+        // The page comes back with its cursor free.
+        QVERIFY(m_walk.go(way.mid(0, way.size() - 1)));
+        QVERIFY(m_walk.moveTo(way.first() == MENU_PresetSettings ? MENU_Preset4 : way.last()));
+        QVERIFY(m_walk.home());
+    }
+
+private:
+    bool asksForTheLanguage()
+    {
+        return m_panel.settle() && m_panel.hold(keys::Ok) &&
+               m_panel.waitFor(languageQuestion, QRect(0, 65, 320, 30));
+    }
+    /// OK on a file; OK on a preset, and OK on the first of what can be done with it.
+    bool openMessages(const Way &way)
+    {
+        if (!m_walk.go(way.mid(0, way.size() - 1)) || !m_walk.moveTo(way.last()))
+            return false;
+        if (way.first() == MENU_PresetSettings && !(m_panel.press(keys::Ok) && m_panel.settle()))
+            return false;
+        m_panel.mark();
+        return m_panel.press(keys::Ok) && m_panel.waitForLog(shown);
+    }
+};
+
+FPD_TEST(TestStoryMessages)
+
+#include "tst_storymessages.moc"
