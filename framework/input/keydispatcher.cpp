@@ -59,10 +59,22 @@ void KeyDispatcher::forgetTyped()
     current->m_nextPass.stop();
 }
 
+KeyHold::KeyHold() : m_dispatcher(current)
+{
+    if (m_dispatcher)
+        ++m_dispatcher->m_holds;
+}
+
+KeyHold::~KeyHold()
+{
+    if (m_dispatcher && --m_dispatcher->m_holds == 0)
+        m_dispatcher->m_nextPass.start();
+}
+
 /// A key may run an event loop, that of a dialog, which goes on with the keys.
 void KeyDispatcher::handOut()
 {
-    while (!m_waiting.isEmpty()) {
+    while (!m_waiting.isEmpty() && m_holds == 0) {
         QWidget *window = visibleWindow();
         if (!window && --m_passesLeft >= 0) {
             m_nextPass.start();

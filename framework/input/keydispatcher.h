@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <QVector>
 #include <atomic>
@@ -33,6 +34,7 @@ public:
     static void forgetTyped();
 
 private:
+    friend class KeyHold;
     struct Key {
         KEY_TYPE type;
         unsigned char key;
@@ -50,5 +52,20 @@ private:
     QHash<unsigned char, const QWidget *> m_pressedAt; ///< of the keys that are down
     QTimer m_nextPass;                                 ///< runs while the keys wait for a window
     int m_passesLeft;
+    int m_holds = 0;
+};
+
+/// While one of these stands, keys wait: for an event loop that is run for an answer, where a key must not
+/// reach a window behind the caller's back. GUI thread.
+class KeyHold
+{
+public:
+    KeyHold();
+    ~KeyHold();
+    KeyHold(const KeyHold &) = delete;
+    KeyHold &operator=(const KeyHold &) = delete;
+
+private:
+    const QPointer<KeyDispatcher> m_dispatcher;
 };
 } // namespace VASK
