@@ -13,6 +13,7 @@ namespace
 struct Options {
     bool headless = false;
     bool withPanel = true;
+    bool rest = false;
     QString state;
 };
 
@@ -34,10 +35,12 @@ Options readOptions(bool window)
     parser.addHelpOption();
     parser.addOption({"headless", "No window."});
     parser.addOption({"no-panel", "Do not start the panel yet (fpdctl panel start does)."});
+    parser.addOption({"rest", "The panel that speaks to the REST service."});
     parser.addOption(
         {"state", "State folder, instead of the user's own.", "DIR", StateFolder::defaultPath()});
     parser.process(*QCoreApplication::instance());
-    return {!window || parser.isSet("headless"), !parser.isSet("no-panel"), parser.value("state")};
+    return {!window || parser.isSet("headless"), !parser.isSet("no-panel"), parser.isSet("rest"),
+            parser.value("state")};
 }
 
 int failed(const QString &reason)
@@ -73,6 +76,8 @@ int main(int argc, char *argv[])
     if (!notInstalled.isEmpty())
         return failed(notInstalled);
     Emulator emulator(folder);
+    if (options.rest)
+        emulator.panel.useRest();
     ConsoleServer console(emulator);
     const QString fault = emulator.open();
     if (!fault.isEmpty() || !console.open())

@@ -86,7 +86,7 @@ void PanelProcess::start()
             emit ended();
         }
     });
-    m_process->start(QCoreApplication::applicationDirPath() + "/fpd", QStringList());
+    m_process->start(QCoreApplication::applicationDirPath() + m_program, QStringList());
     m_process->closeWriteChannel();
 }
 

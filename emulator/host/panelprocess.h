@@ -14,6 +14,8 @@ public:
     ~PanelProcess() override;
 
     void start();
+    /// The panel that speaks to the REST service, from the next start on.
+    void useRest() { m_program = "/fpd-rest"; }
     /// Asks the process to end; after a while it is made to.
     void stop();
     void kill();
@@ -37,6 +39,7 @@ private:
     void finish(int code, QProcess::ExitStatus status);
 
     QString m_stateFolder;
+    QString m_program = "/fpd";
     QProcess *m_process = nullptr;
     QByteArray m_rest;
     PanelLog m_log;
