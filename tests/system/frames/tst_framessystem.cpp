@@ -45,7 +45,7 @@ QVector<NamedFrames> TestFramesSystem::table() const
         {"save", path(MENU_AdvancedSetting, MENU_ScreenSetting, MENU_SavetoRVCard), "yes closed2",
          "01000011 01 00"},
         {"self test, refused", path(MENU_SystemSetting, MENU_SelfTest), "no", ""},
-        {"self test", path(MENU_SystemSetting, MENU_SelfTest), "yes closed", "13800000 00 00"},
+        {"self test", path(MENU_SystemSetting, MENU_SelfTest), "yes closed esc", "13800000 00 00"},
     };
     // A register for each row.
     for (int file = 0; file < fileRows; ++file)
