@@ -57,6 +57,7 @@ void KeyDispatcher::forgetTyped()
     while (!current->m_waiting.isEmpty())
         current->deliver(current->m_waiting.takeFirst(), nullptr);
     current->m_nextPass.stop();
+    current->m_spent = current->m_down;
 }
 
 KeyHold::KeyHold() : m_dispatcher(current)
@@ -97,8 +98,8 @@ QWidget *KeyDispatcher::visibleWindow()
 
 void KeyDispatcher::deliver(const Key &key, QWidget *window)
 {
-    const bool changed = changedHands(key, window);
-    if (!window || changed) {
+    const bool spent = isSpent(key);
+    if (!window || spent) {
         drop(key.key);
         return;
     }
@@ -106,15 +107,17 @@ void KeyDispatcher::deliver(const Key &key, QWidget *window)
     QCoreApplication::sendEvent(window, &event);
 }
 
-bool KeyDispatcher::changedHands(const Key &key, const QWidget *window)
+/// Notes what is down; true for a release or a long press whose press was typed in front of a window that
+/// takes no keys.
+bool KeyDispatcher::isSpent(const Key &key)
 {
     if (key.type == KEY_PRESSED) {
-        m_pressedAt[key.key] = window;
-        return false;
+        m_down.insert(key.key);
+        m_spent.remove(key.key);
+    } else if (key.type == KEY_RELEASED) {
+        m_down.remove(key.key);
+        return m_spent.remove(key.key);
     }
-    const bool changed = m_pressedAt.value(key.key, window) != window;
-    if (key.type == KEY_RELEASED)
-        m_pressedAt.remove(key.key);
-    return changed;
+    return m_spent.contains(key.key);
 }
 } // namespace VASK

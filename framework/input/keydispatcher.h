@@ -1,14 +1,13 @@
 // Brings key events to the window that is visible, one by one: to the dialog in front, else to the active
 // window. Both are the GUI thread's, so the keypad and the timer thread only hand a key over; this object,
-// which lives on the GUI thread, looks the window up there and gives it the key. A key that was pressed in
-// front of one window is not released in front of another.
+// which lives on the GUI thread, looks the window up there and gives it the key.
 #pragma once
 
 #include "framework/input/keypadevent.h"
 
-#include <QHash>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QTimer>
 #include <QVector>
 #include <atomic>
@@ -29,8 +28,8 @@ public:
     /// From any thread; never waits.
     void post(KEY_TYPE type, unsigned char key, unsigned char speed, bool longPress);
 
-    /// Drops the keys that have been typed and have reached nobody yet: a window that takes no keys goes, and
-    /// they were typed in front of it. GUI thread.
+    /// A window that takes no keys goes: what was typed in front of it and has reached nobody yet is dropped,
+    /// and so are the releases of the keys that are down. GUI thread.
     static void forgetTyped();
 
 private:
@@ -44,13 +43,14 @@ private:
     void handOut();
     static QWidget *visibleWindow();
     void deliver(const Key &key, QWidget *window);
-    bool changedHands(const Key &key, const QWidget *window);
+    bool isSpent(const Key &key);
 
     std::atomic<bool> m_loopRuns{false};
     // GUI thread only:
     QVector<Key> m_waiting;
-    QHash<unsigned char, const QWidget *> m_pressedAt; ///< of the keys that are down
-    QTimer m_nextPass;                                 ///< runs while the keys wait for a window
+    QSet<unsigned char> m_down;
+    QSet<unsigned char> m_spent; ///< of those that are down
+    QTimer m_nextPass;           ///< runs while the keys wait for a window
     int m_passesLeft;
     int m_holds = 0;
 };
