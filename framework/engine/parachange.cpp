@@ -107,9 +107,9 @@ void ParaChange::refresh(ENUM_MenuIndex item)
 
 void ParaChange::show(ENUM_MenuIndex item, const QString &newValue)
 {
-    // The store first: a widget that is on its way to the GUI thread, or not built, must not hold the value
-    // back.
-    if (!newValue.isEmpty())
+    // Like send: an item without a row changes neither here nor in the device. The store comes first, since a
+    // widget may still be on its way to the GUI thread.
+    if (!newValue.isEmpty() && widgetOf(item))
         set(item, newValue);
     forWidgets(item, [&](VaskUiObject *widget) { widget->SetParaEntry(item, newValue, SET_XML_STORE); });
 }

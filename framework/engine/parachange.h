@@ -42,7 +42,7 @@ struct ParaChange {
     /// The text of the option that a list has chosen.
     QString chosenOption(ENUM_MenuIndex list) const;
 
-    // Verbs
+    // Verbs. Those of a widget pass by an item that has none: no page of this model is built with it.
     void set(ENUM_MenuIndex item, const QString &newValue);
     void choice(ENUM_MenuIndex item, bool chosen);
     void enable(ENUM_MenuIndex item, bool on);

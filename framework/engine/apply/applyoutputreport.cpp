@@ -25,6 +25,7 @@ void offerLayouts(ParaChange &change, int width)
     change.store.changeItem(MENU_Layout, [width](ST_ItemInfo &layout) {
         layout.params1["0"] = width >= threeColumns ? optionEnable : optionDisable;
         layout.params1["1"] = width >= fourColumns ? optionEnable : optionDisable;
+        layout.value = customLayout;
     });
     change.show(MENU_Layout, customLayout);
 }

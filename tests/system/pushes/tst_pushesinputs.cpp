@@ -69,7 +69,7 @@ private slots:
                 .shows({"main:1920x1080@60"}),
             PushRow("HDMI 2", "13010021 62" + sampled + "02").stores("2309=YCbCr 4:4:4"),
             PushRow("DVI", "13010041 69" + sampled + "01").stores("2314=YCbCr 4:2:2"),
-            PushRow("DVI 2", "13010061 6a" + sampled + "02").stores("2319=YCbCr 4:4:4"),
+            PushRow("DVI 2, which has no page", "13010061 6a" + sampled + "02"),
             PushRow("OPT 1", "13010081 e9"),
             PushRow("OPT 2", "130100a1 ea"),
             PushRow("mosaic", "130100c1 e0"),
@@ -113,7 +113,7 @@ private slots:
                 .stores("2128/Enable=true 2314=YCbCr 4:2:2")
                 .shows({"pip2:1024x768@59.94"}),
             inputRow("SDI", 3, {0, 3, 1280, 720, 40000, 2}).stores("2322=YCbCr 4:4:4"),
-            inputRow("DVI 2", 4, {0, 3, 800, 600, 16667, 2}).stores("2319=YCbCr 4:4:4"),
+            inputRow("DVI 2", 4, {0, 3, 800, 600, 16667, 2}),
             inputRow("OPT 1", 5, {0, 3, 801, 601, 16667, 1}),
             inputRow("OPT 2", 6, {0, 0, 802, 602, 16667, 2}),
             inputRow("mosaic", 7, {0, 3, 3840, 1080, 16667, 0}),

@@ -14,14 +14,15 @@ private slots:
             PushRow("on", "02000039 a8")
                 .stores("2359=1 1019=1 1019/Enable=false 1020/Enable=false")
                 .shows({"screen:1920x1080@120"}),
+            // The row of the right eye's start stands on no page: what it would show stays as it is.
             PushRow("frame by frame", "02000042 18")
                 .stores("2360=2 3077/Enable=false")
                 .shows({"screen:1920x1080@60"}),
             PushRow("top and bottom", "02000042 08")
-                .stores("2360=1 3077=540 3077/Enable=true")
+                .stores("2360=1 3077/Enable=true")
                 .shows({"screen:1920x1080@120"}),
             PushRow("start for top and bottom", "0200008b e803").stores("3077=1000 3214=1000"),
-            PushRow("side by side", "02000042 28").stores("2360=0 3077=960"),
+            PushRow("side by side", "02000042 28").stores("2360=0"),
             PushRow("start for side by side", "02000089 4c04").stores("3077=1100 3213=1100"),
             PushRow("right eye first", "02000041 32").stores("2361=1"),
             PushRow("no eye", "02000041 33"),

@@ -1,6 +1,6 @@
 // The engine with all that it talks to: a store with the factory items, the home screen, a row for every row
-// of the menu that notes what it is told, and a protocol object that notes what it is handed. Messages are
-// noted by their key and answered at once.
+// of the pages that the model builds, which notes what it is told, and a protocol object that notes what it
+// is handed. Messages are noted by their key and answered at once.
 #pragma once
 
 #include "boardio.h"
@@ -9,6 +9,7 @@
 #include "framework/object/transport.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/store/menushown.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
@@ -101,13 +102,18 @@ public:
         enter(ENUM_MAIN_WINDOW, home = new MainWindow(ENUM_MAIN_WINDOW));
         DirectoryEngineer(ENUM_DIRECTORY_ENGINEER).CreateAllMenu();
         home->Init();
-        for (const ST_MenuConfig &page : qAsConst(g_config))
-            for (const st_MenuItemInfo &row : page.rowsMap)
-                enter(row.itemObject, new RecordingRow(row.itemObject, reported, reloaded, redrawn));
+        addRows(builtPages());
         connect(&m_closer, &QTimer::timeout, this, [this] { answerMessages(); });
         m_closer.start(0);
     }
 
+    /// The rows of pages that are built only when they open, or on another model.
+    void addRows(const QList<ENUM_ConfigIndex> &pages)
+    {
+        for (ENUM_ConfigIndex page : pages)
+            for (const st_MenuItemInfo &row : qAsConst(g_config[page].rowsMap))
+                enter(row.itemObject, new RecordingRow(row.itemObject, reported, reloaded, redrawn));
+    }
     /// Everything as on the first start; the home screen is reached at once.
     void reset()
     {

@@ -10,6 +10,13 @@ namespace VASK
 class LayerRig : public EngineRig
 {
 public:
+    /// On a model with splicing and with a row for the fixed layouts, which no page of this one has.
+    LayerRig()
+    {
+        g_config[CONFIG_ImageMosaic].rowsMap.insert(
+            layoutRow, {ENUM_ROW_Layout, ENUM_OBJECT_END, TYPE_STRINGCOMBOX, MENU_Layout, CONFIG_END});
+        addRows({CONFIG_ImageMosaic});
+    }
     static constexpr const char *mosaicRow = "7";
 
     void start()
@@ -123,6 +130,8 @@ public:
     }
 
 private:
+    static constexpr int layoutRow = 99;
+
     QString four(ENUM_MenuIndex first) const
     {
         QStringList values;

@@ -17,6 +17,8 @@ private slots:
 
     void valueIsApplied_data();
     void valueIsApplied();
+    void otherModel_data();
+    void otherModel();
     void refusedAddressComesBackFromTheDevice_data();
     void refusedAddressComesBackFromTheDevice();
     void brandIsShown();
@@ -58,13 +60,15 @@ const CaseLines syncLines{
 const QString video = "2352=1 2353=1 2354=7 2102=0 2112=2 2122=2 2103=800";
 const QString videoShown =
     "leaves 3209=1 width=1280 height=720 rate=5994 2103=1280 2104=720 1056-; screen 1280x720@59.94";
+const QString withStereo = "2352=1 2353=0 2354=7 2359=1 2102=0 2112=1 2122=2 1040=1 2112/0- 2122/0-";
+const QString videoScales = "leaves 2103=1024 2104=768 2113=800 2112/0+ 2122/0+ ";
 const CaseLines outputLines{
     {"video", video, "user 2355=", "asks Waiting; sends 2104=720 2352=1 2355=1280x720x59.94; " + videoShown},
     {"video", video,
      "device 2355=", "asks Waiting; sends 2104=720 2352=1; tells 2355=1280x720x59.94; " + videoShown},
-    {"video ends 3D", "2352=1 2353=0 2354=7 2359=1 2102=0 2112=1 2122=2 1040=1 2112/0- 2122/0-", "user 2355=",
-     "asks Waiting; sends 2359=0 2104=768 2352=1 2355=1024x768x59.94; "
-     "leaves 2359=0 2103=1024 2104=768 2113=800 2112/0+ 2122/0+"},
+    // Without a row 3D is neither ended in the device nor here.
+    {"video leaves 3D", withStereo,
+     "user 2355=", "asks Waiting; sends 2104=768 2352=1 2355=1024x768x59.94; " + videoScales + "2359=1"},
     {"monitor", "3209=1 2353=1 2354=7",
      "device 2355=", "asks Waiting; sends 2352=0; tells 2355=1280x720x59.94; leaves 3209=0 width=1920 1056+"},
     {"monitor", "3209=1 2353=0 2354=8",
@@ -73,6 +77,8 @@ const CaseLines outputLines{
 
 const QString tip = "asks Open3DOnlyMainLayerEffectTip; ";
 const CaseLines stereoLines{
+    {"video ends 3D", withStereo, "user 2355=",
+     "asks Waiting; sends 2359=0 2104=768 2352=1 2355=1024x768x59.94; " + videoScales + "2359=0"},
     {"3D off", "2359=1 1019=1", "device 2359=0", "tells 2359=0; leaves 1019+ 1020+; screen 1920x1080@60"},
     {"3D off", "2359=1 1019- 1020- 2110=0 2120=0", "user 2359=0", "sends 2359=0; leaves 1019+ 1020+"},
     {"3D off beside PIP 2", "2359=1 1019- 1020- 2120=1", "user 2359=0", "sends 2359=0; leaves 1019- 1020-"},
@@ -102,6 +108,8 @@ const CaseLines stereoLines{
     {"signal delay", "", "device 3078=900", "sends 3078=900; leaves 3078=900"},
     {"emitter", "", "user 3079=1", "sends 3079=1"},
     {"emitter", "", "device 3079=1", "sends 3079=1"},
+    {"picture reset, DVI 2", "3061=9 3062=9 3063=9 3064=9", "user 3065=0",
+     "sends 3065=0; leaves 3061=50 3062=50 3063=50 3064=0"},
 };
 
 const QString done = "asks Waiting NetParameSetSucceed; ";
@@ -162,8 +170,6 @@ const CaseLines otherLines{
     {"colour reset", "2390=3", "user 2394=0", standard},
     {"colour reset", "2390=3", "device 2394=0", standard},
     {"picture reset", "3038=9 3040=9", "device 3041=0", "tells 3041=0; leaves 3038=50 3040=0"},
-    {"picture reset, DVI 2", "3061=9 3062=9 3063=9 3064=9", "user 3065=0",
-     "sends 3065=0; leaves 3061=50 3062=50 3063=50 3064=0"},
     {"save", "link=1", "device 1002=1", "sends 1002=1; " + saved},
     {"save, no link", "", "user 1002=", "asks CheckReceiveCard"},
     {"save, port 10", "3319=1", "user 1002=", saved + "sends 1002="},
@@ -180,7 +186,7 @@ const CaseLines otherLines{
 
 const CaseLines &allLines()
 {
-    static const CaseLines lines = syncLines + outputLines + stereoLines + networkLines + otherLines;
+    static const CaseLines lines = syncLines + outputLines + networkLines + otherLines;
     return lines;
 }
 } // namespace
@@ -209,6 +215,19 @@ void TestApplyCases::valueIsApplied()
 {
     QFETCH(int, row);
     runCaseLine(*m_rig, allLines().at(row));
+}
+
+void TestApplyCases::otherModel_data()
+{
+    addCaseLines(stereoLines);
+}
+
+/// One with the pages of 3D and of a second DVI input.
+void TestApplyCases::otherModel()
+{
+    QFETCH(int, row);
+    m_rig->addRows({CONFIG_Mode3D, CONFIG_Mode3DMore, CONFIG_DVI2_InputColor});
+    runCaseLine(*m_rig, stereoLines.at(row));
 }
 
 void TestApplyCases::refusedAddressComesBackFromTheDevice_data()

@@ -64,6 +64,7 @@ private:
 void TestApplyDisplay::initTestCase()
 {
     m_rig = new EngineRig;
+    m_rig->addRows({CONFIG_TestType});
     m_leds = new LedPanel(m_rig->statePath("").toStdString());
     KeyEvent::getInstance()->InitKeyDriver(qApp);
 }

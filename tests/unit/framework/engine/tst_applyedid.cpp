@@ -13,7 +13,12 @@ class TestApplyEdid : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { m_rig = new EngineRig; }
+    /// On a model with a second DVI input.
+    void initTestCase()
+    {
+        m_rig = new EngineRig;
+        m_rig->addRows({CONFIG_DVI2_EDID});
+    }
     void cleanupTestCase() { delete m_rig; }
     void init() { m_rig->reset(); }
 

@@ -63,9 +63,11 @@ private:
     LedPanel *m_leds = nullptr;
 };
 
+/// On a model with a page for DVI 2.
 void TestApplyInputs::initTestCase()
 {
     m_rig = new EngineRig;
+    m_rig->addRows({CONFIG_DVI2_Attributes});
     m_leds = new LedPanel(m_rig->statePath("").toStdString());
     KeyEvent::getInstance()->InitKeyDriver(qApp);
 }

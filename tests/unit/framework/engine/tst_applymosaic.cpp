@@ -12,7 +12,12 @@ class TestApplyMosaic : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { m_rig = new EngineRig; }
+    /// On a model with both pages of the mosaic.
+    void initTestCase()
+    {
+        m_rig = new EngineRig;
+        m_rig->addRows({CONFIG_MosaicSplit, CONFIG_MosaicSplitTwin});
+    }
     void cleanupTestCase() { delete m_rig; }
     void init() { m_rig->reset(); }
 

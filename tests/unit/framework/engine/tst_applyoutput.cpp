@@ -12,7 +12,12 @@ class TestApplyOutput : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { m_rig = new EngineRig; }
+    /// On a model with a second DVI input, the page of the standard modes of HDMI 2 being open.
+    void initTestCase()
+    {
+        m_rig = new EngineRig;
+        m_rig->addRows({CONFIG_DVI2_EDID, CONFIG_HDMI2_EDIDStandard});
+    }
     void cleanupTestCase() { delete m_rig; }
     void init();
 

@@ -35,7 +35,11 @@ class TestApplyPresets : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { m_rig = new EngineRig; }
+    void initTestCase()
+    {
+        m_rig = new EngineRig;
+        m_rig->addRows({CONFIG_PresetCopyTo});
+    }
     void cleanupTestCase() { delete m_rig; }
     void init();
 

@@ -138,9 +138,11 @@ private:
     LedPanel *m_leds = nullptr;
 };
 
+/// On a model with the pages of the work mode and of 3D.
 void TestApplyWorkMode::initTestCase()
 {
     m_rig = new EngineRig;
+    m_rig->addRows({CONFIG_WorkingMode, CONFIG_Mode3D});
     m_leds = new LedPanel(m_rig->statePath("").toStdString());
     KeyEvent::getInstance()->InitKeyDriver(qApp);
 }

@@ -14,7 +14,12 @@ class TestLimits : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase() { m_rig = new EngineRig; }
+    void initTestCase()
+    {
+        m_rig = new EngineRig;
+        m_rig->addRows({CONFIG_HDMI1_EDIDCustom, CONFIG_HDMI2_EDIDCustom, CONFIG_DVI_EDIDCustom,
+                        CONFIG_DVI2_EDIDCustom});
+    }
     void cleanupTestCase() { delete m_rig; }
     void init() { m_rig->reset(); }
 
