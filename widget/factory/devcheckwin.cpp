@@ -140,6 +140,7 @@ void DevCheckWin::moveCursor(int step)
 void DevCheckWin::leave()
 {
     qDebug() << "KEYSCANCODE_10-退出";
-    hide();
+    // The page comes up first, so that there is a window to hear the next key at any time.
     emit signal_devchk_end();
+    hide();
 }

@@ -130,7 +130,7 @@ private:
     struct PageKey;
     static const QVector<PageKey> &pageKeys();
     void keyEvent(KeypadEvent *event);
-    void escHeld(KeypadEvent *event);
+    void escPressed(KeypadEvent *event);
     void escKey(KeypadEvent *event);
     void lockPanel(KeypadEvent *event);
     void rotate(KeypadEvent *event, bool left);

@@ -36,7 +36,7 @@ const QVector<MenuDirectory::PageKey> &MenuDirectory::pageKeys()
         {KEY_KNOB_LEFT, anyType, true, &MenuDirectory::keypadRotateLeftEvent},
         {KEY_KNOB_RIGHT, anyType, true, &MenuDirectory::keypadRotateRightEvent},
         {KEY_OK, KEY_RELEASED, true, &MenuDirectory::keypadOkEvent},
-        {KEY_ESC, KEY_LONG_PRESS, true, &MenuDirectory::escHeld},
+        {KEY_ESC, KEY_PRESSED, true, &MenuDirectory::escPressed},
         {KEY_ESC, KEY_RELEASED, true, &MenuDirectory::escKey},
     };
     return keys;
@@ -73,8 +73,8 @@ void MenuDirectory::keyEvent(KeypadEvent *event)
         keypadNumEvent(event);
 }
 
-/// Its release will not come: if it was this ESC that closed another window, the next one is the page's.
-void MenuDirectory::escHeld(KeypadEvent *)
+/// A new ESC is the page's, whether or not the release of the one that closed another window has come.
+void MenuDirectory::escPressed(KeypadEvent *)
 {
     m_skipNextEsc = false;
 }
