@@ -1,11 +1,8 @@
 // The LEDs behind the keys, as the driver was told.
-#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
 #include <QTime>
-
-using namespace VASK;
 
 namespace
 {
@@ -25,11 +22,10 @@ private slots:
         // Two layers on two inputs that have no signal.
         QVERIFY(m_panel.powerDevice());
         QVERIFY(m_panel.ask({"reports", "off"}).ok);
-        QVERIFY(m_panel.start());
-        QVERIFY(m_panel.ask({"panel", "stop"}).ok);
-        QVERIFY(m_panel.setStored(MENU_MainLayer_InputSource, "2"));
-        QVERIFY(m_panel.setStored(MENU_PIP1_Status, "1"));
-        QVERIFY(m_panel.setStored(MENU_PIP1_InputSource, "1"));
+        constexpr const char *mainInput = "e812", *pip1Shown = "e840", *pip1Input = "e842";
+        QVERIFY(m_panel.ask({"flash", "write", mainInput, "02"}).ok);
+        QVERIFY(m_panel.ask({"flash", "write", pip1Shown, "01"}).ok);
+        QVERIFY(m_panel.ask({"flash", "write", pip1Input, "01"}).ok);
         QVERIFY(startAgain());
         QVERIFY(m_panel.waitUntil(
             [this] { return m_panel.leds()[ledOfHdmi2] == '1' && m_panel.leds()[ledOfDvi] == '1'; }));
