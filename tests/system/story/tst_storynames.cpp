@@ -63,11 +63,11 @@ protected:
     void begin() override
     {
         QVERIFY(m_panel.startReady());
+        QVERIFY(m_panel.ask({"rename", "<i>Wall</i>"}).ok);
         QVERIFY(m_panel.ask({"panel", "stop"}).ok);
         for (const StoredText &stored : storedTexts)
             QVERIFY2(m_panel.setStored(stored.item, stored.text, stored.field), stored.text);
         QVERIFY(m_panel.ask({"env", "set", "ver_rootfs", "<s>V1</s>"}).ok);
-        QVERIFY(m_panel.ask({"rename", "<i>Wall</i>"}).ok);
         constexpr quint32 firstPresetName = 0x3200;
         QVERIFY(m_panel
                     .ask({"flash", "write", QString::number(firstPresetName, 16),
