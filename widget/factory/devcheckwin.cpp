@@ -7,6 +7,7 @@
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
 #include "widget/language.h"
+#include "widget/look.h"
 #include "widget/menulook.h"
 
 #include <QDebug>
@@ -23,13 +24,13 @@ constexpr QSize gapSize(20, 30);
 constexpr QSize valueSize(150, 32);
 constexpr int endSpacing = 8;
 
-const QString goodStyle = QStringLiteral("*{color:#17BC1E;}");
-const QString faultStyle = QStringLiteral("*{color:#C40F0F;}");
+const QString goodStyle = look::sheet("*{color:$pass;}");
+const QString faultStyle = look::sheet("*{color:$fail;}");
 
 QString listStyle(bool english)
 {
-    return QString("*{font-family: \"%1\";font-size: %2;color: #b8b4cc;background-color:rgba(0,0,0,0);}"
-                   "QListWidget::item:selected{background:rgba(39,25,99);}")
+    return look::sheet("*{font-family: \"%1\";font-size: %2;color: $text;background-color:rgba(0,0,0,0);}"
+                       "QListWidget::item:selected{background:rgba(39,25,99);}")
         .arg(english ? "Arial" : "宋体", english ? "16px" : "20px");
 }
 

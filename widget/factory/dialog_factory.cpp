@@ -10,6 +10,7 @@
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "widget/factory/devcheckwin.h"
+#include "widget/look.h"
 #include "widget/menulook.h"
 #include "widget/page/menudirectoty.h"
 
@@ -30,12 +31,12 @@ constexpr int cellMargin = 8;
 
 const QString tableStyle =
     QStringLiteral("background-color:rgba(0,0,0,0);font-family: \"宋体\";font-size: 18px;");
-const QString waitStyle = QStringLiteral("font-family: \"宋体\";font-size: 18px;color: #b8b4cc;");
+const QString waitStyle = look::sheet("font-family: \"宋体\";font-size: 18px;color: $text;");
 /// A cell without a result, and a key that was heard.
 const QString keyStyle =
-    QStringLiteral("#ItemState[state=false]{color:#F2F2F2;}#ItemState[state=true]{color:#17BC1E;}");
-const QString passedStyle = QStringLiteral("*{color:#17BC1E;}");
-const QString failedStyle = QStringLiteral("*{color:#C40F0F;}");
+    look::sheet("#ItemState[state=false]{color:#F2F2F2;}#ItemState[state=true]{color:$pass;}");
+const QString passedStyle = look::sheet("*{color:$pass;}");
+const QString failedStyle = look::sheet("*{color:$fail;}");
 
 constexpr int inputPollMs = 200;
 constexpr int inOutPollMs = 1000;
