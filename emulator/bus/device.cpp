@@ -203,8 +203,10 @@ void Device::keep(const wire::Frame &request)
 bool Device::send(const Report &report, bool isAnswer)
 {
     const bool taken = pushRead(report.address, report.bytes, report.deviceType, 0);
-    if (taken)
+    if (taken) {
+        m_model.noteTold(report);
         emit reported(report, isAnswer);
+    }
     return taken;
 }
 

@@ -22,19 +22,10 @@ constexpr int inputsOf(int layer)
     return layer == 0 ? croppedInputs : pipInputs;
 }
 
-/// A receiver takes any crop of a layer for the one that counts, so only that of the layer's input is told.
-template <int layer>
-Reports obeyCrop(Registers &registers, const RegisterRow &row, int input, const Write &write)
+/// What the panel has written it knows.
+RegisterRow rowOf(int layer)
 {
-    Reports reports = obey::storeAndReport(registers, row, input, write);
-    for (Report &report : reports)
-        report.bytes.truncate(recordLength);
-    return layers::read(registers, layer).input == input ? reports : Reports();
-}
-
-template <int layer> RegisterRow rowOf()
-{
-    return {recordAddress(layer, 0), int(inputStride), inputsOf(layer), inputStride, obeyCrop<layer>};
+    return {recordAddress(layer, 0), int(inputStride), inputsOf(layer), inputStride, obey::store};
 }
 
 QString textOf(const Crop &crop)
@@ -90,7 +81,7 @@ Reports reportShown(const Registers &registers)
 Subject cropsSubject()
 {
     return {"crops",
-            {crops::rowOf<0>(), crops::rowOf<1>(), crops::rowOf<2>()},
+            {crops::rowOf(0), crops::rowOf(1), crops::rowOf(2)},
             [](const Registers &) {
                 return Reports(); // the flash tells them at the start
             },

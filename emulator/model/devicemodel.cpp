@@ -1,5 +1,7 @@
 #include "emulator/model/devicemodel.h"
 
+#include "emulator/model/layers.h"
+
 namespace
 {
 /// Reports that do not stand where the device keeps their value, by their address and number of addresses.
@@ -77,6 +79,11 @@ Reports DeviceModel::adopt(const Report &report)
     m_registers.write(report.deviceType, address, report.bytes);
     const RegisterRow *row = rowOf({report.deviceType, address, report.bytes});
     return row && row->follow ? row->follow(m_registers) : Reports();
+}
+
+void DeviceModel::noteTold(const Report &report)
+{
+    layers::noteTold(m_registers, report);
 }
 
 QStringList DeviceModel::describe() const

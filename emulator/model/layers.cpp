@@ -8,6 +8,8 @@ namespace layers
 namespace
 {
 constexpr quint32 firstRecord = 0x13020010;
+/// The windows as the panel knows them, record by record: the device's own notes, which no panel asks for.
+constexpr quint32 firstKnownRecord = 0xF0020010;
 constexpr quint32 sendingCardStart = 0x020001F0; ///< x and y of the one window of a sending card
 constexpr int startLength = 8;
 
@@ -16,39 +18,36 @@ constexpr int offsetShown = 0, offsetInput = 2, offsetPriority = 3, offsetCode =
               offsetWidth = 13, offsetHeight = 17, offsetOpacity = 47;
 constexpr int sourceLength = 3;
 
-Reports reportChange(const Registers &registers, int layer, const QByteArray &before)
+quint32 knownAddress(int layer)
 {
-    const QByteArray after = registers.read(recordAddress(layer), recordLength);
-    return before == after ? Reports() : Reports{{recordAddress(layer), after}};
+    return firstKnownRecord + recordLength * quint32(layer);
+}
+
+/// The panel knows what it has written. Told of it, it would take the window for one that somebody else has
+/// moved, and end what it had scaled by a rule.
+Reports nothingToTell(Registers &registers, int layer)
+{
+    registers.write(knownAddress(layer), registers.read(recordAddress(layer), recordLength));
+    return {};
 }
 
 /// A source comes as number and code with an empty byte between them, where the record keeps the priority.
 Reports obeyLayer(Registers &registers, const RegisterRow &row, int layer, const Write &write)
 {
     const quint32 address = recordAddress(layer);
-    const QByteArray before = registers.read(address, recordLength);
     if (write.address == address + offsetInput && write.bytes.size() == sourceLength) {
         registers.setU8(address + offsetInput, write.bytes[0]);
         registers.setU8(address + offsetCode, write.bytes[sourceLength - 1]);
     } else {
         obey::store(registers, row, layer, write);
     }
-    return reportChange(registers, layer, before);
+    return nothingToTell(registers, layer);
 }
 
 Reports obeySendingCardStart(Registers &registers, const RegisterRow &, int, const Write &write)
 {
-    const QByteArray before = registers.read(recordAddress(0), recordLength);
     registers.write(recordAddress(0) + offsetX, write.bytes.left(startLength));
-    return reportChange(registers, 0, before);
-}
-
-Reports allReports(const Registers &registers)
-{
-    Reports list;
-    for (int layer = 0; layer < count; ++layer)
-        list.append({recordAddress(layer), registers.read(recordAddress(layer), recordLength)});
-    return list;
+    return nothingToTell(registers, 0);
 }
 
 QStringList describe(const Registers &registers)
@@ -99,6 +98,24 @@ QByteArray record(const Layer &layer)
         .u8(offsetOpacity, layer.opacity);
 }
 
+Reports reportUnknown(const Registers &registers)
+{
+    Reports list;
+    for (int layer = 0; layer < count; ++layer) {
+        const QByteArray window = registers.read(recordAddress(layer), recordLength);
+        if (window != registers.read(knownAddress(layer), recordLength))
+            list.append({recordAddress(layer), window});
+    }
+    return list;
+}
+
+void noteTold(Registers &registers, const Report &report)
+{
+    for (int layer = 0; layer < count; ++layer)
+        if (report.deviceType == sendingSide && report.address == recordAddress(layer))
+            registers.write(knownAddress(layer), report.bytes.leftJustified(recordLength, '\0', true));
+}
+
 quint32 recordAddress(int layer)
 {
     return firstRecord + recordLength * quint32(layer);
@@ -117,6 +134,6 @@ Subject layersSubject()
             {{layers::recordAddress(0), layers::recordLength, layers::count, layers::recordLength,
               layers::obeyLayer},
              {layers::sendingCardStart, layers::startLength, 1, 0, layers::obeySendingCardStart}},
-            layers::allReports,
+            layers::reportUnknown,
             layers::describe};
 }

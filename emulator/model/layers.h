@@ -21,4 +21,8 @@ QByteArray record(const Layer &layer);
 constexpr int recordLength = 48;
 quint32 recordAddress(int layer);
 const char *nameOf(int layer);
+/// The windows that stand otherwise than the panel knows them, from its writes and from what it was told.
+Reports reportUnknown(const Registers &registers);
+/// The panel has been told of a window.
+void noteTold(Registers &registers, const Report &report);
 } // namespace layers

@@ -66,8 +66,7 @@ Reports load(Registers &registers, const RegisterRow &, int, const Write &write)
     flash.write(flashmap::live + contentOffset,
                 flash.read(recordAddress(preset) + contentOffset, recordLength - contentOffset));
     flash.write(flashmap::presetInUse, QByteArray(1, char(preset)));
-    return layersSubject().reports(registers) + crops::reportShown(registers) +
-           pictures::reportAll(registers);
+    return layers::reportUnknown(registers) + crops::reportShown(registers) + pictures::reportAll(registers);
 }
 
 Reports clear(Registers &registers, const RegisterRow &, int, const Write &write)

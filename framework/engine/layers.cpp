@@ -55,7 +55,7 @@ void offerPixelToPixel(ParaChange &change, const LayerItems &layer)
 {
     if (layer.isMain())
         return;
-    if (!pictureSize(change, layer).fitsPip())
+    if (change.isOn(layer.cropStatus) && !pictureSize(change, layer).fitsPip())
         change.enableRow(layer.scaling, pixelToPixelRow, false);
     else if (!change.isOn(MENU_ImageMosaic_Status))
         change.enableRow(layer.scaling, pixelToPixelRow, true);

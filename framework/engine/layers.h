@@ -99,7 +99,7 @@ bool stereoIsOff(const ParaChange &change);
 /// Does the mosaic stand to choice for the main layer?
 void offerMosaic(ParaChange &change, bool on);
 
-/// A PIP layer can be scaled pixel for pixel as long as it has the pixels for its picture.
+/// A PIP layer can be scaled pixel for pixel as long as it has the pixels for its crop.
 void offerPixelToPixel(ParaChange &change, const LayerItems &layer);
 
 /// Enable and reload.

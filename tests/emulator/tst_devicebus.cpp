@@ -207,8 +207,8 @@ void TestDeviceBus::deviceReportsOnItsOwn()
 
 void TestDeviceBus::aReportTakesTheOlderOnesPlace()
 {
-    constexpr quint32 displayMode = 0x13000004, nextWritten = 0x13020010;
-    const QByteArray freeze("\4"), black("\5"), hidden("\0", 1);
+    constexpr quint32 displayMode = 0x13000004, nextWritten = 0x02000074;
+    const QByteArray freeze("\4"), black("\5"), lowLatency("\x78");
     QStringList answers;
     const auto connection =
         connect(m_device.get(), &Device::reported, [&](const Report &report, bool isAnswer) {
@@ -218,7 +218,7 @@ void TestDeviceBus::aReportTakesTheOlderOnesPlace()
     m_device->setReporting(true);
     QVERIFY(write(displayMode, freeze));
     QVERIFY(m_device->reportAndAdopt({displayMode, black}));
-    QVERIFY(write(nextWritten, hidden));
+    QVERIFY(write(nextWritten, lowLatency));
     QVERIFY(QTest::qWaitFor([&] { return !answers.isEmpty(); }));
     QCOMPARE(answers, QStringList{QString::number(nextWritten, 16)});
     disconnect(connection);

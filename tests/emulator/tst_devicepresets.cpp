@@ -39,7 +39,6 @@ void TestDevicePresets::presetsBringTheWallBack()
     QCOMPARE(ModelRig::hexOf(reports, 0x13020040).left(10), QByteArray("0100020100"));
     QCOMPARE(ModelRig::hexOf(reports, 0x13024014 + 132 + 32), QByteArray("0002010500060000040003"));
     QCOMPARE(ModelRig::hexOf(reports, 0x13050000).left(4), QByteArray("114b"));
-    QVERIFY(ModelRig::find(reports, 0x13020010) && ModelRig::find(reports, 0x13020070));
     QCOMPARE(rig.shown("preset 7"), QString("preset 7: used"));
 }
 

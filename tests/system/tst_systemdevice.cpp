@@ -1,6 +1,7 @@
 // The device by the words of its console, with the panel on its bus: what happens at the device is in its
 // state, the panel takes it over, and a session can be played again.
 #include "menu/itemindex.h"
+#include "testkit/homescreen.h"
 #include "tests/system/mirrored.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -27,6 +28,18 @@ private slots:
     void panelAndDeviceAgreeFromDelivery()
     {
         m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
+        QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
+    }
+
+    /// Neither the device's answer to the window nor its start is taken for a hand on it.
+    void aLayerStaysFullScreen()
+    {
+        QVERIFY(m_panel.press("scale"));
+        QVERIFY(waitUntilStored(MENU_MainLayer_ScalingMode, "0"));
+        QVERIFY(restart());
+        QVERIFY(m_panel.settle());
+        QVERIFY(homescreen::waitToSee(m_panel, "led3:on"));
+        QCOMPARE(m_panel.stored(MENU_MainLayer_ScalingMode), QString("0"));
         QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
     }
 

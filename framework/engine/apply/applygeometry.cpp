@@ -67,9 +67,6 @@ void leaveScalingRule(ParaChange &change, const LayerItems &layer)
         return;
     change.show(layer.scaling, customScaling);
     freeGeometry(change, layer);
-    // What the device only repeated before this number belongs to the custom window, too.
-    for (ENUM_MenuIndex item : layer.geometry())
-        change.set(layer.customOf(item), change.item(item));
 }
 
 /// What depends on the main layer alone: the spliced picture, and the register of a sending card.
@@ -91,14 +88,11 @@ void followMainGeometry(ParaChange &change)
 void applyGeometry(ParaChange &change)
 {
     const LayerItems &layer = layerOf(change.index);
-    // The device answers a window with the whole window: what stands already has not been moved.
-    const bool moved = change.fromUser() || change.changed();
-    if (moved && change.fromDevice())
+    if (change.fromDevice())
         leaveScalingRule(change, layer);
     if (change.item(layer.scaling) == customScaling)
         change.set(layer.customOf(change.index), change.value);
-    if (moved)
-        leaveFixedLayout(change);
+    leaveFixedLayout(change);
     if (layer.isMain())
         followMainGeometry(change);
     change.tail();

@@ -7,12 +7,10 @@ namespace VASK
 {
 namespace
 {
-/// What every change of a layer's status ends with. A report of what stands already leaves the layout: the
-/// device tells a layer as a whole, also after the layout itself was sent.
+/// What every change of a layer's status ends with.
 void showStatus(ParaChange &change, const LayerItems &layer)
 {
-    if (change.fromUser() || change.changed())
-        leaveFixedLayout(change);
+    leaveFixedLayout(change);
     change.windowState(layer.number, change.value != QLatin1String("0"));
     change.lowLayerUpdate();
     change.tail();

@@ -105,8 +105,12 @@ template <class... Rows> NamedFrames::Path path(Rows... rows)
     return {rows...};
 }
 /// A number goes out with the step of the knob and once more at its end.
+inline QStringList twice(const QStringList &all)
+{
+    return all + all;
+}
 inline QStringList twice(const QString &frame)
 {
-    return {frame, frame};
+    return twice(QStringList{frame});
 }
 } // namespace frames

@@ -5,6 +5,7 @@
 
 using namespace VASK;
 using frames::path;
+using frames::twice;
 
 class TestFramesOutput : public FramesTest
 {
@@ -95,16 +96,13 @@ void TestFramesOutput::aSendingCardHasAStartOfItsOwn()
     const QString x7 = "07000000", ym9 = "f7ffffff", zero = "00000000", size = "8007000038040000";
     const auto window = [&size](const QString &start) { return "13020015 00 " + start + size; };
     const auto card = [](const QString &start) { return "020001f0 00 " + start; };
-    // Each of the two numbers that the device tells again goes to that register, too.
     QCOMPARE(m_drive.drive({{MENU_LayerSettings, MENU_MainLayer, MENU_MainLayer_InitialX},
                             "R7 still ok",
-                            {card(x7 + zero), window(x7 + zero), card(x7 + zero), card(x7 + zero),
-                             card(x7 + zero), window(x7 + zero)}}),
+                            twice({card(x7 + zero), window(x7 + zero)})}),
              QString());
     QCOMPARE(m_drive.drive({{MENU_LayerSettings, MENU_MainLayer, MENU_MainLayer_InitialY},
                             "L9 still ok",
-                            {card(x7 + ym9), window(x7 + ym9), card(x7 + ym9), card(x7 + ym9), card(x7 + ym9),
-                             window(x7 + ym9)}}),
+                            twice({card(x7 + ym9), window(x7 + ym9)})}),
              QString());
 }
 

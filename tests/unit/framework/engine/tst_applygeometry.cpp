@@ -74,13 +74,11 @@ const CaseLines windowLines{
     {"y, pixel for pixel", "2102=1 3142=111" + locked, "device 2106=640",
      "tells 2106=640; leaves 2102=1 3142=111" + locked},
     {"y, custom", "2106-", "device 2106=640", "tells 2106=640; leaves 2102=2 3142=640 2106-"},
-    // The device answers what it is sent with the whole window.
-    {"echo", "2102=0 2103=1920 1007=1" + locked, "device 2103=1920",
-     "tells 2103=1920; leaves 2102=0 1007=1" + locked},
-    // A window of which the device changes one number leaves full screen whole: the others were only
-    // repeated.
-    {"one number of a window", memory + "2102=0 2103=1920 2104=1080 2105=0 2106=0", "device 2104=540",
-     "tells 2104=540; leaves 2102=2 3139=1920 3140=540 3141=0 3142=0"},
+    // What the device tells is the user's own window from then on, number by number, moved or not.
+    {"size as it stands", memory + "2102=0 2103=1920 1007=1" + locked, "device 2103=1920",
+     "tells 2103=1920; leaves 2102=2 3139=1920 3140=500 3141=-30 3142=40 1007=2" + free},
+    {"start as it stands", memory + "2112=0 2115=0 1007=0 2113-", "device 2115=0",
+     "tells 2115=0; leaves 2112=2 3145=0 1007=2 2113+"},
 
     {"spliced", "1040=1", "user 2103=3200", "sends 2103=3200; leaves 1041=3200"},
     {"spliced", "1040=1", "device 2104=2100", "tells 2104=2100; leaves 1042=2100"},
@@ -104,8 +102,8 @@ const CaseLines cropLines{
      "sends 3008=1624; leaves 2112/1-"},
     {"on, fits", "3013=2000 3014=1624 2122/1-", "user 3012=1", "sends 3012=1; leaves 2122/1+"},
     {"on, too large", "3013=2000 3014=1625 2122/1+", "user 3012=1", "sends 3012=1; leaves 2122/1-"},
-    {"off, the whole input is too large", "2121=3 3012=1 2122/1+", "user 3012=0",
-     "sends 3012=0; leaves 2122/1-"},
+    {"off, however large the input", "2121=3 3012=1 2122/1-", "user 3012=0", "sends 3012=0; leaves 2122/1+"},
+    {"off, but spliced", "1040=1 3012=1 2122/1-", "user 3012=0", "sends 3012=0; leaves 2122/1-"},
 };
 
 const CaseLines &allLines()
