@@ -1,4 +1,5 @@
 // A row whose number the knob changes: OK starts the edit, each step is applied at once, OK or ESC ends it.
+// A reported number outside the limits is corrected, here and in the device, as if the user had set it.
 // What stays open is how a step is computed and how the number reads. GUI thread.
 #pragma once
 

@@ -99,6 +99,8 @@ private slots:
                     "2111=0 2115=0 3145=0 2116=0 3146=0 2113=480 3143=480 2114=270 3144=270 2117=1 2119=100 "
                     "2118/Enable=true 2121=0 2125=480 3149=480 2126=0 3150=0 2123=480 3147=480 2124=270 "
                     "3148=270 2127=2 2129=100 2128/Enable=true"),
+            PushRow("opaque beyond its limit", record(0, {1, 0, 0, 0, 0, 1920, 1080, 200}))
+                .answers({"1302003f 00 64"}),
             PushRow("main off, without its last byte", record(0, {0, 0, 0, 0, 0, 1920, 1080, 100}).chopped(2))
                 .stores("2100=0 2109=0")
                 .shows({"mainoff:" + m_walk.text("Inactive")}),
