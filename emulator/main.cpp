@@ -65,6 +65,7 @@ void reportPanel(Emulator &emulator)
 int main(int argc, char *argv[])
 {
     const bool window = wantsWindow(argc, argv);
+    EmulatorWindow::prepareApplication();
     const std::unique_ptr<QCoreApplication> application(window ? new QApplication(argc, argv)
                                                                : new QCoreApplication(argc, argv));
     const Options options = readOptions(window);

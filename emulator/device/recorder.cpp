@@ -51,8 +51,10 @@ QString Recorder::start(const QString &file)
     m_clock.start();
     const QByteArray now = QDateTime::currentDateTime().toString(Qt::ISODate).toUtf8();
     if (m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) &&
-        write("# recorded " + now + ", times in ms\n"))
+        write("# recorded " + now + ", times in ms\n")) {
+        emit changed();
         return QString();
+    }
     const QString fault = "cannot write " + file + ": " + m_file.errorString();
     m_file.close();
     return fault;
@@ -61,6 +63,7 @@ QString Recorder::start(const QString &file)
 std::pair<int, QString> Recorder::stop()
 {
     m_file.close();
+    emit changed();
     return {m_events, m_fault};
 }
 

@@ -18,6 +18,10 @@ public:
     QString start(const QString &file);
     /// The number of events in the file. Empty second, or why the later ones are not.
     std::pair<int, QString> stop();
+    QString fileName() const { return m_file.fileName(); }
+
+signals:
+    void changed(); ///< it has begun or ended
 
 private:
     /// At once and whole, or not at all.

@@ -43,7 +43,8 @@ QProcessEnvironment panelEnvironment(const QString &stateFolder)
     environment.insert("LC_ALL", "C.UTF-8");
     // The desktop's settings must not change what the LCD shows.
     for (const char *name : {"QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_FONT_DPI",
-                             "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
+                             "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+                             "QT_ENABLE_HIGHDPI_SCALING", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN"})
         environment.remove(name);
     return environment;
 }
@@ -86,7 +87,7 @@ void PanelProcess::start()
             emit ended();
         }
     });
-    m_process->start(QCoreApplication::applicationDirPath() + m_program, QStringList());
+    m_process->start(QCoreApplication::applicationDirPath() + "/../bin" + m_program, QStringList());
     m_process->closeWriteChannel();
 }
 

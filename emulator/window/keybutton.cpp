@@ -1,6 +1,5 @@
 #include "emulator/window/keybutton.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace
@@ -8,13 +7,21 @@ namespace
 constexpr int keyWidth = 82;
 constexpr int keyHeight = 66;
 constexpr int ledHeight = 20;
+constexpr const char *latchedColour = "#ebc613";
 } // namespace
 
-KeyButton::KeyButton(const KeyName &key, QWidget *parent) : QWidget(parent), m_key(key)
+KeyButton::KeyButton(const KeyName &key, QWidget *parent) : Pushable(parent), m_key(key)
 {
-    setFixedSize(keyWidth, keyHeight);
+    setScale(m_scale);
     if (key.shortcut)
-        setToolTip(QString("Key %1").arg(QLatin1Char(key.shortcut)));
+        setToolTip(QString("Key %1. With Shift a click keeps it down.").arg(QLatin1Char(key.shortcut)));
+}
+
+void KeyButton::setScale(double scale)
+{
+    m_scale = scale;
+    setFixedSize((QSizeF(keyWidth, keyHeight) * scale).toSize());
+    update();
 }
 
 void KeyButton::setLit(bool lit)
@@ -23,23 +30,19 @@ void KeyButton::setLit(bool lit)
     update();
 }
 
-void KeyButton::setDown(bool down)
-{
-    m_down = down;
-    update();
-}
-
 void KeyButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(m_scale, m_scale);
     if (m_key.led >= 0)
         paintLed(painter);
-    const QRectF cap = QRectF(rect()).adjusted(4, ledHeight + 2, -4, -3).translated(0, m_down ? 1 : 0);
+    const QRectF cap =
+        QRectF(0, 0, keyWidth, keyHeight).adjusted(4, ledHeight + 2, -4, -3).translated(0, isDown() ? 1 : 0);
     QLinearGradient face(cap.topLeft(), cap.bottomLeft());
-    face.setColorAt(0, m_down ? QColor("#30323c") : QColor("#4d505d"));
-    face.setColorAt(1, m_down ? QColor("#3a3c47") : QColor("#343640"));
-    painter.setPen(QPen(QColor("#16171c"), 1.5));
+    face.setColorAt(0, isDown() ? QColor("#30323c") : QColor("#4d505d"));
+    face.setColorAt(1, isDown() ? QColor("#3a3c47") : QColor("#343640"));
+    painter.setPen(isLatched() ? QPen(QColor(latchedColour), 3) : QPen(QColor("#16171c"), 1.5));
     painter.setBrush(face);
     painter.drawRoundedRect(cap, 6, 6);
     QFont font("Liberation Sans");
@@ -50,9 +53,9 @@ void KeyButton::paintEvent(QPaintEvent *)
     painter.drawText(cap, Qt::AlignCenter, QLatin1String(m_key.label));
 }
 
-void KeyButton::paintLed(QPainter &painter)
+void KeyButton::paintLed(QPainter &painter) const
 {
-    const QPointF centre(width() / 2.0, ledHeight / 2.0);
+    const QPointF centre(keyWidth / 2.0, ledHeight / 2.0);
     if (m_lit) {
         QRadialGradient glow(centre, 11);
         glow.setColorAt(0, QColor(90, 200, 255, 200));
@@ -69,20 +72,4 @@ void KeyButton::paintLed(QPainter &painter)
     painter.setFont(font);
     painter.setPen(QColor("#777b89"));
     painter.drawText(QRectF(centre.x() + 14, 0, 24, ledHeight), Qt::AlignVCenter, QString::number(m_key.led));
-}
-
-void KeyButton::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    setDown(true);
-    emit pressed();
-}
-
-void KeyButton::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    setDown(false);
-    emit released();
 }

@@ -1,11 +1,10 @@
-// A key of the panel with its LED above. It presses and releases with the mouse button. Main thread.
+// A key of the panel with its LED above. Main thread.
 #pragma once
 
 #include "emulator/device/keynames.h"
+#include "emulator/window/pushable.h"
 
-#include <QWidget>
-
-class KeyButton : public QWidget
+class KeyButton : public Pushable
 {
     Q_OBJECT
 public:
@@ -13,22 +12,15 @@ public:
 
     const KeyName &key() const { return m_key; }
     void setLit(bool lit);
-    /// How it looks; nothing is sent.
-    void setDown(bool down);
-
-signals:
-    void pressed();
-    void released();
+    void setScale(double scale) override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    void paintLed(QPainter &painter);
+    void paintLed(QPainter &painter) const;
 
     KeyName m_key;
     bool m_lit = false;
-    bool m_down = false;
+    double m_scale = 1;
 };

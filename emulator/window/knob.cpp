@@ -1,7 +1,7 @@
 #include "emulator/window/knob.h"
 
-#include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 namespace
 {
@@ -16,10 +16,17 @@ int speedFor(qint64 milliseconds)
 }
 } // namespace
 
-Knob::Knob(QWidget *parent) : QWidget(parent)
+Knob::Knob(QWidget *parent) : Pushable(parent)
 {
-    setFixedSize(knobSize, knobSize);
-    setToolTip("Wheel or arrow keys: turn. Click or Enter: OK.");
+    setScale(m_scale);
+    setToolTip("Wheel or arrow keys: turn. Click or Enter: OK. With Shift a click keeps it down.");
+}
+
+void Knob::setScale(double scale)
+{
+    m_scale = scale;
+    setFixedSize((QSizeF(knobSize, knobSize) * scale).toSize());
+    update();
 }
 
 void Knob::turn(int steps)
@@ -31,19 +38,14 @@ void Knob::turn(int steps)
     emit turned(steps, speed);
 }
 
-void Knob::setDown(bool down)
-{
-    m_down = down;
-    update();
-}
-
 void Knob::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(m_scale, m_scale);
     painter.translate(knobSize / 2.0, knobSize / 2.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor("#15161b"));
+    painter.setBrush(QColor(isLatched() ? "#ebc613" : "#15161b"));
     painter.drawEllipse(QPointF(), knobSize / 2.0 - 2, knobSize / 2.0 - 2);
     QConicalGradient rim(QPointF(), -m_angle);
     for (int i = 0; i <= 72; ++i)
@@ -51,7 +53,7 @@ void Knob::paintEvent(QPaintEvent *)
     painter.setBrush(rim);
     painter.drawEllipse(QPointF(), knobSize / 2.0 - 8, knobSize / 2.0 - 8);
     QRadialGradient face(QPointF(-20, -30), knobSize * 0.7);
-    face.setColorAt(0, m_down ? QColor("#4a4c58") : QColor("#6a6d7b"));
+    face.setColorAt(0, isDown() ? QColor("#4a4c58") : QColor("#6a6d7b"));
     face.setColorAt(1, QColor("#26272e"));
     painter.setBrush(face);
     painter.drawEllipse(QPointF(), knobSize / 2.0 - 20, knobSize / 2.0 - 20);
@@ -62,26 +64,11 @@ void Knob::paintEvent(QPaintEvent *)
 
 void Knob::wheelEvent(QWheelEvent *event)
 {
+    event->accept(); // a wheel event goes on to the window else
     m_wheelRest += event->angleDelta().y();
     const int steps = m_wheelRest / wheelStep;
     m_wheelRest -= steps * wheelStep;
     // Rolled towards the user is onwards, as on the device.
     if (steps != 0)
         turn(-steps);
-}
-
-void Knob::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    setDown(true);
-    emit pressed();
-}
-
-void Knob::mouseReleaseEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        return;
-    setDown(false);
-    emit released();
 }

@@ -1,10 +1,11 @@
-// The knob: turned with the mouse wheel, pressed with the mouse button. Main thread.
+// The knob: turned with the mouse wheel, pushed with the mouse button. Main thread.
 #pragma once
 
-#include <QElapsedTimer>
-#include <QWidget>
+#include "emulator/window/pushable.h"
 
-class Knob : public QWidget
+#include <QElapsedTimer>
+
+class Knob : public Pushable
 {
     Q_OBJECT
 public:
@@ -12,22 +13,18 @@ public:
 
     /// A turn from the wheel or the keyboard; works out the speed.
     void turn(int steps);
-    void setDown(bool down);
+    void setScale(double scale) override;
 
 signals:
     void turned(int steps, int speed); ///< steps below 0: left
-    void pressed();
-    void released();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     int m_angle = 0;
     int m_wheelRest = 0;
-    bool m_down = false;
+    double m_scale = 1;
     QElapsedTimer m_sinceTurn;
 };

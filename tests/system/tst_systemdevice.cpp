@@ -43,6 +43,15 @@ private slots:
         QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
     }
 
+    void theyAgreeOnWhatIsChosen()
+    {
+        QVERIFY(m_walk.go({MENU_CommunicationSettings, MENU_CommunicationMode}));
+        QVERIFY(m_walk.turn(Right, 1) && m_walk.press(keys::Ok));
+        QVERIFY(waitUntilStored(MENU_CommunicationMode, "1"));
+        QVERIFY(shown().contains("  communication: USB preferred"));
+        QVERIFY(m_walk.home());
+    }
+
     void wordsChangeTheDevice_data()
     {
         QTest::addColumn<QString>("words");
@@ -58,7 +67,7 @@ private slots:
         row("port 6 backup on", "  port 6: link on, backup on, engaged off");
         row("port 6 engaged on", "  port 6: link on, backup on, engaged on");
         row("rename Stage", "  name: Stage");
-        row("link priority 0", "  communication: USB preferred");
+        row("link priority 1", "  communication: LAN preferred");
         row("calibrate on", "  soft calibration: on");
         row("calibrate off", "  soft calibration: off");
         row("push 1300009E 0214", "  volume: 20");
