@@ -23,7 +23,7 @@ constexpr int osdPictureCount = 8;
 constexpr quint32 cabinetRegister = 0x02100006; ///< width, then height
 constexpr int cabinetLength = 4;
 constexpr quint32 screenPortRegister =
-    0x02810016;                                   ///< a record a port: rows, columns; the first is the quick form
+    0x02810016; ///< a record a port: rows, columns; the first is the quick form
 constexpr quint32 cardGammaRegister = 0x02000000; ///< of the receiving cards
 constexpr quint32 cardBrightnessRegister = 0x02000001;
 constexpr quint32 cardColoursRegister = 0x02000002; ///< red, green, blue

@@ -73,8 +73,8 @@ void Proto3rd::showConnection(ENUM_MainWindowConnectState state)
         home->SetConnectState(state);
 }
 
-/// The production test looks at the sockets while it stands at its last step. A cable that is in before counts
-/// as well as one that comes: a worker has plugged all of them.
+/// The production test looks at the sockets while it stands at its last step. A cable that is in before
+/// counts as well as one that comes: a worker has plugged all of them.
 void Proto3rd::passInOutTest(en_inout_test_index index, int state)
 {
     if (ProductionTest::m_cur_step == FACTORY_STEP_IN_OUT && state != 0)

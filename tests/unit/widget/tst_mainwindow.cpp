@@ -1,13 +1,13 @@
 // The home screen: what its setters and slots show, the lock and its time, what comes up by itself, what
 // blinks, and a take-over by a PC.
 
+#include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/lock.h"
-#include "framework/productiontest/productiontest.h"
 
 #include <QElapsedTimer>
 #include <QLabel>

@@ -25,7 +25,7 @@ public:
             handle(request, response);
         };
         m_server.Get(".*", handler).Put(".*", handler).Post(".*", handler).Delete(".*", handler);
-        m_server.set_tcp_nodelay(true); // head and body of an answer are two packets
+        m_server.set_tcp_nodelay(true);     // head and body of an answer are two packets
         m_server.set_keep_alive_timeout(1); // the end need not wait longer for a connection that is kept
         m_port = static_cast<unsigned short>(m_server.bind_to_any_port("127.0.0.1"));
         m_thread = std::thread([this] { m_server.listen_after_bind(); });
