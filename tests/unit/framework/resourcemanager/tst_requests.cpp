@@ -3,6 +3,7 @@
 
 #include "framework/communication/http/action.h"
 #include "framework/communication/http/actionbase.h"
+#include "framework/communication/http/httpadapter.h"
 #include "framework/communication/http/httpservice.h"
 #include "framework/communication/http/requestbody.h"
 #include "framework/communication/http/tunnelmanager.h"
@@ -20,6 +21,14 @@ using ResourceManager::PTicket;
 namespace
 {
 const std::string lcd = "test";
+
+/// Without sanitizers, whose memory is another.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int failures = 0;
+#else
+const int failures =
+    qEnvironmentVariableIntValue("FPD_FAILURES") ? qEnvironmentVariableIntValue("FPD_FAILURES") : 2000;
+#endif
 
 Parameters body(std::initializer_list<std::pair<const char *, int>> values)
 {
@@ -319,6 +328,29 @@ private slots:
         const QString line(R"(PUT /api/v1/device/screens/1/solid {"v":%1})");
         for (int i = 0; i < 1000; ++i)
             QCOMPARE(lines.at(i), line.arg(i));
+    }
+
+    void failuresCostNoMemory()
+    {
+        httpadapter adapter;
+        adapter.SetAddress("127.0.0.1", 1, "nobody");
+        const auto fail = [&](int count) {
+            const int before = m_notes.size();
+            for (int i = 0; i < count; ++i)
+                adapter.put<Parameters>("ScreenSolid", 1, body({{"v", i}}), withId(), failure());
+            return QTest::qWaitFor([&] { return m_notes.size() == before + count; }, 60000);
+        };
+        const auto kilobytes = [] {
+            QFile file("/proc/self/statm");
+            return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').at(1).toInt() * 4 : 0;
+        };
+        QVERIFY(fail(failures / 4));
+        const int before = kilobytes();
+        for (int i = 0; i < 4; ++i)
+            QVERIFY(fail(failures / 4));
+        const int grown = kilobytes() - before;
+        QVERIFY2(grown < 4096, qPrintable(QString("%1 kB").arg(grown)));
+        QCOMPARE(m_notes.count("failed"), m_notes.size());
     }
 
     void actionsFollow()
