@@ -15,9 +15,9 @@ Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
 {
     m_look.setInterval(lookMs);
     connect(&m_look, &QTimer::timeout, this, &Emulator::lookIfReady);
-    connect(&panel, &PanelProcess::line, this, [this](const QString &line) {
-        m_started |= line.contains(QLatin1String(startedText));
-        m_heard |= line.contains(QLatin1String(heardText));
+    connect(&panel, &PanelProcess::line, this, [this](const LogLine &line) {
+        m_started |= line.text.contains(startedText);
+        m_heard |= line.text.contains(heardText);
     });
     connect(&panel, &PanelProcess::ended, this, [this] {
         m_look.stop();

@@ -88,7 +88,7 @@ bool Panel::powerDevice(const QStringList &wrapper)
     m_logConsole = std::make_unique<ConsoleClient>();
     if (!m_logConsole->connectTo(m_state))
         return false;
-    m_logConsole->begin({"log", "--follow"});
+    m_logConsole->begin({"log", "--follow", "--plain"});
     return true;
 }
 

@@ -68,9 +68,10 @@ public:
     /// What is logged from now on is left to another reader: too much of it would come.
     void stopFollowingLog();
 
-    QString leds() { return ask({"leds"}).lines.value(0); }
-    /// Register writes as the console prints them.
-    QStringList writes() { return ask({"writes"}).lines; }
+    /// As they are lit at this moment, LED 0 first.
+    QString leds() { return ask({"leds", "--now"}).lines.value(0); }
+    /// Register writes: ADDRESS DEVTYPE BYTES.
+    QStringList writes() { return ask({"writes", "--plain"}).lines; }
     /// A field of an item in config.xml, as "Value".
     QString stored(int item, const QString &field = "Value") const;
     /// All of config.xml: values by "ITEM", other fields by "ITEM/Enable" and "ITEM/Params1/KEY".

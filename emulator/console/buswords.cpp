@@ -1,6 +1,7 @@
-#include "emulator/console/arguments.h"
+#include "emulator/console/timetext.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
+#include "fpd_hostlink.h"
 
 namespace
 {
@@ -17,101 +18,95 @@ QString hex(quint32 value, int digits)
     return QString("%1").arg(value, digits, 16, QChar('0'));
 }
 
-void printWrite(Session &session, const RegisterWrite &write, bool whole)
+struct WriteForm {
+    bool whole, plain;
+};
+
+void printWrite(Session &session, const RegisterWrite &write, WriteForm form)
 {
-    QStringList words = {hex(write.address, 8), hex(write.deviceType, 2)};
-    if (whole)
+    QStringList words;
+    if (!form.plain)
+        words << timeText(write.timeMs);
+    words << hex(write.address, 8) << hex(write.deviceType, 2);
+    if (form.whole)
         words << hex(write.port, 2) << hex(write.board, 4);
     session.print((words << QString::fromLatin1(write.bytes.toHex())).join(' '));
 }
 
-void writes(Session &session, const QStringList &arguments)
+} // namespace
+
+void words::writes(Session &session, Arguments &arguments)
 {
-    QStringList list = arguments;
     Device &device = session.emulator.device;
-    const bool clear = arguments::takeFlag(list, "--clear");
-    const bool follow = arguments::takeFlag(list, "--follow");
-    const bool whole = arguments::takeFlag(list, "--whole");
-    if (!list.isEmpty())
-        return failUsage(session, "writes");
-    for (const RegisterWrite &write : device.writes())
-        printWrite(session, write, whole);
+    const bool clear = arguments.flag("--clear");
+    const bool follow = arguments.flag("--follow");
+    const WriteForm form = {arguments.flag("--whole"), arguments.flag("--plain")};
+    const qint64 since = arguments.timeOption("--since").value_or(0);
+    if (!session.accepts(arguments))
+        return;
+    for (const RegisterWrite &write : device.writes()) {
+        if (write.timeMs >= since)
+            printWrite(session, write, form);
+    }
     if (clear)
         device.clearWrites();
     if (!follow)
         return session.ok();
     QObject::connect(&device, &Device::written, session.request(),
-                     [&session, whole](const RegisterWrite &write) { printWrite(session, write, whole); });
+                     [&session, form](const RegisterWrite &write) { printWrite(session, write, form); });
 }
 
-void push(Session &session, const QStringList &arguments)
+void words::push(Session &session, Arguments &arguments)
 {
-    QStringList list = arguments;
+    constexpr int mostBytes = 0xffff; // of a frame
     Device &device = session.emulator.device;
-    const bool isWrite = arguments::takeFlag(list, "--write");
-    const bool isRaw = arguments::takeFlag(list, "--raw");
-    const auto deviceType =
-        arguments::number(arguments::takeOption(list, "--device", "0").value_or(""), 0, 255);
-    const auto ack = arguments::number(arguments::takeOption(list, "--ack", "0").value_or(""), 0, 255);
-    if (list.isEmpty() || !deviceType || !ack)
-        return failUsage(session, "push");
-    const auto address = isRaw ? std::optional<quint32>(0) : arguments::address(list.takeFirst());
-    const auto bytes = arguments::hexBytes(list.join(QString()));
-    if (!address || !bytes || bytes->size() > 0xffff)
-        return failUsage(session, "push");
+    const bool isWrite = arguments.flag("--write");
+    const bool isRaw = arguments.flag("--raw");
+    const auto deviceType = quint8(arguments.numberOption("--device", 0, 255).value_or(0));
+    const auto ack = quint8(arguments.numberOption("--ack", 0, 255).value_or(0));
+    const quint32 address = isRaw ? 0 : arguments.hexNumber("ADDRESS");
+    const QByteArray bytes = arguments.bytes(isRaw ? "HEX" : "BYTES", 1, mostBytes);
+    if (!session.accepts(arguments))
+        return;
     if (isRaw)
-        answer(session, device.pushRaw(*bytes));
+        answer(session, device.pushRaw(bytes));
     else if (isWrite)
-        answer(session, device.pushWrite(*address, *bytes, quint8(*deviceType)));
-    else if (*ack != 0)
-        answer(session, device.pushRead(*address, *bytes, quint8(*deviceType), quint8(*ack)));
+        answer(session, device.pushWrite(address, bytes, deviceType));
+    else if (ack != 0)
+        answer(session, device.pushRead(address, bytes, deviceType, ack));
     else
-        answer(session, device.reportAndAdopt({*address, *bytes, 0, quint8(*deviceType)}));
+        answer(session, device.reportAndAdopt({address, bytes, 0, deviceType}));
 }
 
-void ipc(Session &session, const QStringList &list)
+void words::ipc(Session &session, Arguments &arguments)
 {
-    const auto large = arguments::number(list.value(0), -32768, 32767);
-    const auto small = arguments::number(list.value(1), -32768, 32767);
-    const auto bytes = arguments::hexBytes(list.mid(2).join(QString()));
-    if (list.size() < 2 || !large || !small || !bytes)
-        return failUsage(session, "ipc");
-    answer(session, session.emulator.device.pushMessage(qint16(*large), qint16(*small), *bytes));
+    const auto large = qint16(arguments.number("LARGE", -32768, 32767));
+    const auto small = qint16(arguments.number("SMALL", -32768, 32767));
+    const QByteArray bytes = arguments.bytes("HEX", 0, hostlink::longestBusMessage);
+    if (session.accepts(arguments))
+        answer(session, session.emulator.device.pushMessage(large, small, bytes));
 }
 
-void reports(Session &session, const QStringList &list)
+void words::reports(Session &session, Arguments &arguments)
 {
     Device &device = session.emulator.device;
-    if (list == QStringList{"now"})
+    const QString what = arguments.choice({"on", "off", "now"});
+    if (!session.accepts(arguments))
+        return;
+    if (what == "now")
         return answer(session, device.reportAll());
-    if (list != QStringList{"on"} && list != QStringList{"off"})
-        return failUsage(session, "reports");
-    device.setReporting(list[0] == "on");
+    device.setReporting(what == "on");
     session.ok();
 }
 
-void heartbeat(Session &session, const QStringList &list)
+void words::heartbeat(Session &session, Arguments &arguments)
 {
-    if (list != QStringList{"on"} && list != QStringList{"off"})
-        return failUsage(session, "heartbeat");
+    const bool on = arguments.onOff();
+    if (!session.accepts(arguments))
+        return;
     Device &device = session.emulator.device;
-    if (list[0] == "on" && !device.isJoined())
+    if (on && !device.isJoined())
         return session.fail(device.refusal());
-    device.setHeartbeat(list[0] == "on");
+    device.setHeartbeat(on);
     session.ok();
-}
-} // namespace
-
-QVector<Word> busWords()
-{
-    return {
-        {"writes", "[--clear] [--follow] [--whole]",
-         "register writes, oldest first: ADDRESS DEVTYPE BYTES in hex; --whole: PORT BOARD before the bytes",
-         writes},
-        {"push", "ADDRESS BYTES [--device N] [--ack N]",
-         "a report of the device; --write: a write; --raw HEX: any", push},
-        {"ipc", "LARGE SMALL HEX", "a message with those labels", ipc},
-        {"reports", "on|off|now", "what the device tells by itself, at the start and after writes", reports},
-        {"heartbeat", "on|off", "the packets of a PC's session, once a second", heartbeat},
-    };
 }

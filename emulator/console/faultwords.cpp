@@ -1,4 +1,3 @@
-#include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
 #include "fpd_hostlink.h"
@@ -14,47 +13,47 @@ bool setCounter(Session &session, const char *name, qint64 count)
     return file.open(QIODevice::WriteOnly) && file.write(QByteArray::number(count)) > 0 && file.commit();
 }
 
-bool isUpOrDown(const QString &text)
+bool takeCount(Session &session, Arguments &arguments, const char *file)
 {
-    return text == "up" || text == "down";
+    constexpr qint64 mostFaults = 1000000;
+    const qint64 count = arguments.number("N", 0, mostFaults);
+    return session.accepts(arguments) && setCounter(session, file, count);
 }
 
-bool faultTool(Session &session, const QStringList &list)
+/// Plugs the bus or the keypad in or out.
+template <class Setter> bool takeUpOrDown(Session &session, Arguments &arguments, Setter set)
 {
-    if (list.size() == 2)
-        return session.emulator.tools.clearAnswer(list[1]);
-    return list.size() == 3 && session.emulator.tools.setAnswer(list[1], list[2]);
+    const bool up = arguments.choice({"up", "down"}) == "up";
+    return session.accepts(arguments) && set(up);
 }
 
-void fault(Session &session, const QStringList &list)
+bool takeAnswer(Session &session, Arguments &arguments)
 {
-    const QString what = list.value(0);
-    const auto count = arguments::number(list.value(1), 0, 1000000);
-    bool done = false;
-    if (what == "bus-send" && count)
-        done = setCounter(session, hostlink::busFaultFile, *count);
-    else if (what == "flash" && count)
-        done = setCounter(session, hostlink::flashFaultFile, *count);
-    else if (what == "bus" && isUpOrDown(list.value(1)))
-        done = session.emulator.device.setBusUp(list[1] == "up");
-    else if (what == "keypad" && isUpOrDown(list.value(1)))
-        done = session.emulator.keypad.setPresent(list[1] == "up");
-    else if (what == "tool")
-        done = faultTool(session, list);
-    if (done)
-        session.ok();
-    else
-        failUsage(session, "fault");
+    const ShellTools &tools = session.emulator.tools;
+    const QString tool = arguments.choice({"fpga", "stm32"});
+    const bool healthy = arguments.isEmpty();
+    const QString text = arguments.text("TEXT", "");
+    return session.accepts(arguments) && (healthy ? tools.clearAnswer(tool) : tools.setAnswer(tool, text));
 }
 } // namespace
 
-QVector<Word> faultWords()
+void words::fault(Session &session, Arguments &arguments)
 {
-    return {
-        {"fault", "bus-send N | flash N | bus down|up | keypad down|up | tool NAME [TEXT]",
-         "failing sends or flash reads, a missing bus or keypad (a panel started without it looks for it at "
-         "its "
-         "next start), what a shell tool answers",
-         fault},
-    };
+    Emulator &emulator = session.emulator;
+    const QString what = arguments.choice({"bus-send", "flash", "bus", "keypad", "tool"});
+    bool done = false;
+    if (what == "bus-send")
+        done = takeCount(session, arguments, hostlink::busFaultFile);
+    else if (what == "flash")
+        done = takeCount(session, arguments, hostlink::flashFaultFile);
+    else if (what == "bus")
+        done = takeUpOrDown(session, arguments, [&](bool up) { return emulator.device.setBusUp(up); });
+    else if (what == "keypad")
+        done = takeUpOrDown(session, arguments, [&](bool up) { return emulator.keypad.setPresent(up); });
+    else
+        done = takeAnswer(session, arguments);
+    if (done)
+        session.ok();
+    else
+        session.fail("cannot be done in the state folder"); // nothing more, if the arguments were wrong
 }

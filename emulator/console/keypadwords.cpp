@@ -10,27 +10,45 @@ namespace
 constexpr int tapMs = 20;
 constexpr int holdMs = 3200;
 
-/// The code of one key by its name or its number.
-std::optional<int> keyCode(const QString &text)
+bool isCalled(const KeyName &key, const QString &text)
+{
+    const QString label = QString(key.label).remove(' ');
+    return text.compare(QLatin1String(key.name), Qt::CaseInsensitive) == 0 ||
+           text.compare(label, Qt::CaseInsensitive) == 0;
+}
+
+QString nameList()
+{
+    QStringList names;
+    for (const KeyName &key : keyNames()) {
+        const QString label = QString(key.label).remove(' ').toLower();
+        names << (label == key.name ? label : QString("%1 (%2)").arg(label, key.name));
+    }
+    return names.join(' ');
+}
+
+/// The code of one key by its name, by what is printed on it, or by its number.
+int keyCode(Arguments &arguments, const QString &text)
 {
     for (const KeyName &key : keyNames()) {
-        if (text.compare(QLatin1String(key.name), Qt::CaseInsensitive) == 0)
+        if (isCalled(key, text))
             return key.code;
     }
-    const auto code = arguments::number(text, 0, releasedBit - 1);
-    return code ? std::optional<int>(int(*code)) : std::nullopt;
+    bool isNumber = false;
+    const int code = text.toInt(&isNumber, text.startsWith("0x", Qt::CaseInsensitive) ? 16 : 10);
+    if (!isNumber || code < 0 || code >= releasedBit)
+        arguments.complain(QString("no such key: %1; there are %2 and the codes 0 to %3")
+                               .arg(text, nameList())
+                               .arg(releasedBit - 1));
+    return code;
 }
 
 /// The codes of several keys joined by '+'.
-std::optional<QVector<int>> keyCodes(const QString &text)
+QVector<int> keyCodes(Arguments &arguments)
 {
     QVector<int> codes;
-    for (const QString &name : text.split('+')) {
-        const auto code = keyCode(name);
-        if (!code)
-            return std::nullopt;
-        codes.append(*code);
-    }
+    for (const QString &name : arguments.text("NAME").split('+'))
+        codes.append(keyCode(arguments, name));
     return codes;
 }
 
@@ -56,89 +74,69 @@ void pressFor(Session &session, const QVector<int> &keys, int milliseconds)
     });
 }
 
-void key(Session &session, const QStringList &arguments)
-{
-    if (arguments.isEmpty() || arguments.size() > 2)
-        return failUsage(session, "key");
-    const auto keys = keyCodes(arguments[0]);
-    if (!keys)
-        return session.fail("no such key: " + arguments[0]);
-    const QString way = arguments.value(1, "tap");
-    if (way == "tap")
-        pressFor(session, *keys, tapMs);
-    else if (way == "hold")
-        pressFor(session, *keys, holdMs);
-    else if (way == "press")
-        answer(session, session.emulator.keypad.press(*keys));
-    else if (way == "release")
-        answer(session, session.emulator.keypad.release(*keys));
-    else
-        failUsage(session, "key");
-}
-
-void knob(Session &session, const QStringList &list)
-{
-    const auto steps = arguments::number(list.value(1, "1"), 1, 10000);
-    const auto speed = arguments::number(list.value(2, "1"), 0, 255);
-    const QString way = list.value(0);
-    if ((way != "left" && way != "right") || list.size() > 3 || !steps || !speed)
-        return failUsage(session, "knob");
-    const int code = way == "left" ? keyKnobLeft : keyKnobRight;
-    answer(session, session.emulator.keypad.turn(code, int(*steps), int(*speed)));
-}
-
-void word(Session &session, const QStringList &list)
-{
-    QVector<quint16> words;
-    for (const QString &text : list) {
-        const auto value = arguments::address(text);
-        if (!value || *value > 0xffff)
-            return session.fail("not a 16-bit word in hex: " + text);
-        words.append(quint16(*value));
-    }
-    if (words.isEmpty())
-        return failUsage(session, "word");
-    answer(session, session.emulator.keypad.sendWords(words));
-}
-
-void sent(Session &session, const QStringList &list)
-{
-    if (!list.isEmpty())
-        return failUsage(session, "sent");
-    session.print(QString::number(session.emulator.keypad.sentNs()));
-    session.ok();
-}
-
 void printLeds(Session &session)
 {
     session.print(QDateTime::currentDateTime().toString("HH:mm:ss.zzz ") + session.emulator.keypad.ledText());
 }
-
-void leds(Session &session, const QStringList &list)
-{
-    if (list.isEmpty()) {
-        session.print(session.emulator.keypad.ledText());
-        return session.ok();
-    }
-    constexpr int longestWatch = 7 * 24 * 3600; // seconds
-    const auto seconds = arguments::real(list.value(1), 0, longestWatch);
-    if (list[0] != "--watch" || list.size() != 2 || !seconds)
-        return failUsage(session, "leds");
-    printLeds(session);
-    QObject::connect(&session.emulator.keypad, &Keypad::ledsChanged, session.request(),
-                     [&session] { printLeds(session); });
-    QTimer::singleShot(int(*seconds * 1000), session.request(), [&session] { session.ok(); });
-}
 } // namespace
 
-QVector<Word> keypadWords()
+void words::key(Session &session, Arguments &arguments)
 {
-    return {
-        {"key", "NAME|CODE [tap|press|release|hold]",
-         "presses a key, or several joined by '+'; hold is 3.2 s", key},
-        {"knob", "left|right [STEPS] [SPEED]", "turns the knob by so many steps with that speed byte", knob},
-        {"word", "HEX...", "raw 16-bit key words", word},
-        {"sent", "", "when the last key word went out, in ns of the monotonic clock", sent},
-        {"leds", "[--watch SECONDS]", "the 16 LEDs, LED 0 first; or each change with its time", leds},
-    };
+    const QVector<int> keys = keyCodes(arguments);
+    const QString way = arguments.choice({"tap", "press", "release", "hold"}, "tap");
+    if (!session.accepts(arguments))
+        return;
+    if (way == "press")
+        answer(session, session.emulator.keypad.press(keys));
+    else if (way == "release")
+        answer(session, session.emulator.keypad.release(keys));
+    else
+        pressFor(session, keys, way == "hold" ? holdMs : tapMs);
+}
+
+void words::knob(Session &session, Arguments &arguments)
+{
+    const bool left = arguments.choice({"left", "right"}) == "left";
+    const auto steps = arguments.number("STEPS", 1, 10000, 1);
+    const auto speed = arguments.number("SPEED", 0, 255, 1);
+    if (session.accepts(arguments))
+        answer(session,
+               session.emulator.keypad.turn(left ? keyKnobLeft : keyKnobRight, int(steps), int(speed)));
+}
+
+void words::word(Session &session, Arguments &arguments)
+{
+    QVector<quint16> words;
+    do
+        words.append(quint16(arguments.hexNumber("HEX", 0xffff)));
+    while (!arguments.isEmpty());
+    if (session.accepts(arguments))
+        answer(session, session.emulator.keypad.sendWords(words));
+}
+
+void words::sent(Session &session, Arguments &arguments)
+{
+    if (!session.accepts(arguments))
+        return;
+    session.print(QString::number(session.emulator.keypad.sentNs()));
+    session.ok();
+}
+
+void words::leds(Session &session, Arguments &arguments)
+{
+    constexpr int longestWatch = 7 * 24 * 3600; // seconds
+    const bool now = arguments.flag("--now");
+    const auto seconds = arguments.realOption("--watch", 0, longestWatch);
+    if (!session.accepts(arguments))
+        return;
+    const Keypad &keypad = session.emulator.keypad;
+    if (!seconds) {
+        if (!session.emulator.panel.isRunning())
+            return session.fail(session.emulator.panel.status() + ": its LEDs are off");
+        session.print(now ? keypad.ledText() : keypad.blinkText());
+        return session.ok();
+    }
+    printLeds(session);
+    QObject::connect(&keypad, &Keypad::ledsChanged, session.request(), [&session] { printLeds(session); });
+    QTimer::singleShot(int(*seconds * 1000), session.request(), [&session] { session.ok(); });
 }

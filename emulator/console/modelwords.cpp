@@ -1,5 +1,4 @@
 // Words for what happens at the device: signals, ports, presets, name, calibration and update.
-#include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
 #include "emulator/model/devicename.h"
@@ -32,56 +31,25 @@ void tellNow(Session &session, const Reports &reports)
         session.fail(device.refusal());
 }
 
-std::optional<bool> switchValue(const QString &text)
+QStringList inputNames()
 {
-    if (text != "on" && text != "off")
-        return std::nullopt;
-    return text == "on";
+    QStringList names;
+    for (int input = 0; input < inputs::count; ++input)
+        names << inputs::nameOf(input);
+    return names;
 }
 
-void signalWord(Session &session, const QStringList &list)
+/// A mode or a sampling of a signal.
+void takeSignalPart(Arguments &arguments, inputs::Signal &signal)
 {
-    Registers &registers = session.emulator.device.registers();
-    const int input = inputs::byName(list.value(0));
-    const auto on = switchValue(list.value(1));
-    if (input < 0 || !on || (!*on && list.size() > 2) || list.size() > 4)
-        return failUsage(session, "signal");
-    inputs::Signal signal = inputs::signalOf(registers, input);
-    if (!signal.stable)
-        signal = inputs::lastSignal(registers, input);
-    signal.stable = *on;
-    for (const QString &text : list.mid(2)) {
-        const auto mode = VideoMode::parse(text);
-        const auto sampling = inputs::samplingByName(text);
-        if (!mode && !sampling)
-            return session.fail("neither a mode such as 1920x1080@60 nor a sampling: " + text);
-        signal.mode = mode.value_or(signal.mode);
-        signal.sampling = sampling.value_or(signal.sampling);
-    }
-    tell(session, inputs::setSignal(registers, input, signal));
-}
-
-void port(Session &session, const QStringList &list)
-{
-    const QMap<QString, ports::State> states = {
-        {"link", ports::State::link},
-        {"backup", ports::State::backup},
-        {"engaged", ports::State::engaged},
-    };
-    const auto number = arguments::number(list.value(0), 1, ports::count);
-    const auto on = switchValue(list.value(2));
-    if (list.size() != 3 || !number || !states.contains(list[1]) || !on)
-        return failUsage(session, "port");
-    tell(session, ports::set(session.emulator.device.registers(), int(*number - 1), states[list[1]], *on));
-}
-
-void preset(Session &session, const QStringList &list)
-{
-    if (list != QStringList{"list"})
-        return failUsage(session, "preset");
-    for (const QString &line : presets::list(session.emulator.device.flash()))
-        session.print(line);
-    session.ok();
+    const QString text = arguments.text("MODE");
+    const auto mode = VideoMode::parse(text.toLower());
+    const auto sampling = inputs::samplingByName(text.toLower());
+    if (!mode && !sampling)
+        arguments.complain("neither a mode such as 1920x1080@60 nor a sampling (rgb444 ycc422 ycc444): " +
+                           text);
+    signal.mode = mode.value_or(signal.mode);
+    signal.sampling = sampling.value_or(signal.sampling);
 }
 
 /// What the panel is told past the bus, and the PC at the other end.
@@ -101,87 +69,116 @@ QStringList describeCables(const Emulator &emulator)
             QString("  packets that the panel did not read: %1").arg(emulator.device.refused())};
 }
 
-void device(Session &session, const QStringList &list)
+} // namespace
+
+void words::signal(Session &session, Arguments &arguments)
 {
-    if (list != QStringList{"show"})
-        return failUsage(session, "device");
+    constexpr int mostParts = 2; // a mode and a sampling
+    Registers &registers = session.emulator.device.registers();
+    const int input = inputs::byName(arguments.choice(inputNames()));
+    const bool on = arguments.onOff();
+    inputs::Signal signal = inputs::signalOf(registers, input);
+    if (!signal.stable)
+        signal = inputs::lastSignal(registers, input);
+    signal.stable = on;
+    for (int part = 0; on && part < mostParts && !arguments.isEmpty(); ++part)
+        takeSignalPart(arguments, signal);
+    if (session.accepts(arguments))
+        tell(session, inputs::setSignal(registers, input, signal));
+}
+
+void words::port(Session &session, Arguments &arguments)
+{
+    const QMap<QString, ports::State> states = {
+        {"link", ports::State::link},
+        {"backup", ports::State::backup},
+        {"engaged", ports::State::engaged},
+    };
+    const auto number = int(arguments.number("N", 1, ports::count));
+    const QString state = arguments.choice(states.keys());
+    const bool on = arguments.onOff();
+    if (session.accepts(arguments))
+        tell(session, ports::set(session.emulator.device.registers(), number - 1, states[state], on));
+}
+
+void words::preset(Session &session, Arguments &arguments)
+{
+    arguments.choice({"list"});
+    if (!session.accepts(arguments))
+        return;
+    for (const QString &line : presets::list(session.emulator.device.flash()))
+        session.print(line);
+    session.ok();
+}
+
+void words::device(Session &session, Arguments &arguments)
+{
+    arguments.choice({"show"});
+    if (!session.accepts(arguments))
+        return;
     for (const QString &line : session.emulator.device.model().describe() + describeCables(session.emulator))
         session.print(line);
     session.ok();
 }
 
-void rename(Session &session, const QStringList &list)
+void words::rename(Session &session, Arguments &arguments)
 {
-    if (list.size() != 1)
-        return failUsage(session, "rename");
+    const QString name = arguments.text("NAME");
+    if (!session.accepts(arguments))
+        return;
     Registers &registers = session.emulator.device.registers();
-    const Reports reports = devicename::rename(registers, list[0]);
+    const Reports reports = devicename::rename(registers, name);
     const QString kept = devicename::nameOf(registers.flash());
-    if (kept != list[0])
+    if (kept != name)
         session.print("the name is cut to " + kept);
     tellNow(session, reports);
 }
 
-void calibrate(Session &session, const QStringList &list)
+void words::calibrate(Session &session, Arguments &arguments)
 {
-    const auto on = switchValue(list.value(0));
-    if (list.size() != 1 || !on)
-        return failUsage(session, "calibrate");
-    tellNow(session, service::calibrate(session.emulator.device.registers(), *on));
+    const bool on = arguments.onOff();
+    if (session.accepts(arguments))
+        tellNow(session, service::calibrate(session.emulator.device.registers(), on));
 }
 
 /// What the next self test finds. The panel asks its own board by itself: that is the word fault tool.
-void selfTest(Session &session, const QStringList &list)
+void words::selftest(Session &session, Arguments &arguments)
 {
     Registers &registers = session.emulator.device.registers();
-    const bool healthy = !list.isEmpty() && list.last() == "healthy";
-    const bool done =
-        healthy ? list.size() <= 2 && selftest::heal(registers, list.mid(0, list.size() - 1).join(""))
-                : list.size() == 2 && selftest::setFault(registers, list[0], list[1]);
+    const bool allHealthy = arguments.nextIs("healthy");
+    const QString name = arguments.text("NAME");
+    const bool healthy = allHealthy || arguments.nextIs("healthy");
+    const QString value = allHealthy ? QString() : arguments.text("VALUE");
+    if (!session.accepts(arguments))
+        return;
+    const bool done = healthy ? ::selftest::heal(registers, allHealthy ? QString() : name)
+                              : ::selftest::setFault(registers, name, value);
     if (done)
         session.ok();
     else
-        failUsage(session, "selftest");
+        session.fail("the device has no such value, or its records cannot carry that text");
 }
 
 /// Progress goes out in hundredths of a percent, and errors above all of them.
-void update(Session &session, const QStringList &list)
+void words::update(Session &session, Arguments &arguments)
 {
     constexpr qint16 progressLarge = 7, progressSmall = 4, endSmall = 5;
     constexpr int errorCodes[] = {25300, 25400, 25500};
     constexpr int hundredths = 100;
-    Device &device = session.emulator.device;
-    const auto number = arguments::number(list.value(0), 0, 0xffff);
-    const bool isEnd = list == QStringList{"end"};
-    if (list.size() != 1 || (!isEnd && !number))
-        return failUsage(session, "update");
+    const bool isEnd = arguments.nextIs("end");
+    const auto number = isEnd ? 0 : int(arguments.number("PERCENT", 0, 0xffff));
+    const bool isError =
+        std::find(std::begin(errorCodes), std::end(errorCodes), number) != std::end(errorCodes);
+    if (isEnd)
+        arguments.text("end");
+    else if (!isError && number > hundredths)
+        arguments.complain(QString("neither a percentage nor 25300, 25400 or 25500: %1").arg(number));
+    if (!session.accepts(arguments))
+        return;
     QByteArray count(2, 0);
-    if (number) {
-        const bool isError =
-            std::find(std::begin(errorCodes), std::end(errorCodes), *number) != std::end(errorCodes);
-        if (!isError && *number > hundredths)
-            return session.fail("neither a percentage nor 25300, 25400 or 25500: " + list[0]);
-        qToLittleEndian(quint16(isError ? *number : *number * hundredths), count.data());
-    }
+    qToLittleEndian(quint16(isError ? number : number * hundredths), count.data());
+    Device &device = session.emulator.device;
     if (!device.pushMessage(progressLarge, isEnd ? endSmall : progressSmall, count))
         return session.fail(device.refusal());
     session.ok();
-}
-} // namespace
-
-QVector<Word> modelWords()
-{
-    return {
-        {"signal", "IN on|off [WxH[i]@RATE] [rgb444|ycc422|ycc444]",
-         "a source; IN: hdmi1 hdmi2 dvi sdi dvi2 opt1 opt2 mosaic reference", signalWord},
-        {"port", "N link|backup|engaged on|off", "an Ethernet port to the wall, from 1", port},
-        {"preset", "list", "the ten presets with state and name", preset},
-        {"device", "show", "the whole state of the device", device},
-        {"rename", "NAME", "a PC gives the device a name; \"\" takes it away", rename},
-        {"selftest", "NAME VALUE|healthy, or healthy",
-         "what the device finds at its self test: a value at fault, or all that is well", selfTest},
-        {"calibrate", "on|off", "a PC calibrates the wall", calibrate},
-        {"update", "PERCENT|ERRORCODE|end", "progress of a firmware update; errors: 25300, 25400, 25500",
-         update},
-    };
 }

@@ -1,35 +1,31 @@
-#include "emulator/console/arguments.h"
+#include "emulator/console/timetext.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
 
+#include <QBuffer>
+#include <QFileInfo>
+
 namespace
 {
-void screen(Session &session, const QStringList &list)
+constexpr int usualWait = 30; ///< seconds
+constexpr int longestWait = 86400;
+
+/// To a file, or with "-" as a line in hex, which fpdctl makes bytes of.
+void saveScreen(Session &session, const QString &name)
 {
-    if (list.size() != 1)
-        return failUsage(session, "screen");
-    const QString file = session.absolutePath(list[0]);
+    const QImage picture = session.emulator.lcd.picture();
+    if (name == "-") {
+        QBuffer png;
+        picture.save(&png, "PNG");
+        session.print(QString::fromLatin1(png.data().toHex()));
+        return session.ok();
+    }
+    const QString file = session.absolutePath(name);
     if (!arguments::isPlainFile(file))
         return session.fail(file + " is no plain file");
-    if (!session.emulator.lcd.picture().save(file, "PNG"))
+    if (!picture.save(file, "PNG"))
         return session.fail("cannot write " + file);
     session.ok();
-}
-
-void log(Session &session, const QStringList &list)
-{
-    const bool follow = list == QStringList{"--follow"};
-    if (!follow && !list.isEmpty())
-        return failUsage(session, "log");
-    const PanelLog &log = session.emulator.panel.log();
-    if (log.dropped() > 0)
-        session.print(QString("(%1 older lines are no longer kept)").arg(log.dropped()));
-    for (const LogLine &line : log.lines())
-        session.print(QString::fromUtf8(line.text));
-    if (!follow)
-        return session.ok();
-    QObject::connect(&session.emulator.panel, &PanelProcess::line, session.request(),
-                     [&session](const QString &line) { session.print(line); });
 }
 
 void endPanel(Session &session, void (PanelProcess::*how)())
@@ -48,89 +44,125 @@ void startPanel(Session &session)
         return session.fail("the panel is running");
     QObject::connect(&process, &PanelProcess::started, session.request(), [&session] { session.ok(); });
     QObject::connect(&process, &PanelProcess::ended, session.request(),
-                     [&session, &process] { session.fail(process.failure()); });
+                     [&session, &process] { session.fail(process.status()); });
     session.emulator.startPanel();
-}
-
-void panel(Session &session, const QStringList &list)
-{
-    const QString what = list.value(0);
-    if (list.size() == 1 && what == "start")
-        startPanel(session);
-    else if (list.size() == 1 && what == "stop")
-        endPanel(session, &PanelProcess::stop);
-    else if (list.size() == 1 && what == "kill")
-        endPanel(session, &PanelProcess::kill);
-    else
-        failUsage(session, "panel");
-}
-
-void state(Session &session, const QStringList &)
-{
-    session.print(session.emulator.folder.path());
-    session.ok();
 }
 
 void waitReady(Session &session)
 {
     if (session.emulator.isReady())
         return session.ok();
+    if (session.emulator.panel.hasFailed())
+        return session.fail(session.emulator.panel.status());
     QObject::connect(&session.emulator, &Emulator::ready, session.request(), [&session] { session.ok(); });
 }
 
-void waitLog(Session &session, const QString &text)
+/// From that time on; a line that is still to come has it anyway.
+void waitLog(Session &session, const QString &text, qint64 sinceMs)
 {
     for (const LogLine &line : session.emulator.panel.log().lines()) {
-        if (QString::fromUtf8(line.text).contains(text))
+        if (line.timeMs >= sinceMs && QString::fromUtf8(line.text).contains(text))
             return session.ok();
     }
     QObject::connect(&session.emulator.panel, &PanelProcess::line, session.request(),
-                     [&session, text](const QString &line) {
-                         if (line.contains(text))
+                     [&session, text](const LogLine &line) {
+                         if (QString::fromUtf8(line.text).contains(text))
                              session.ok();
                      });
 }
+} // namespace
 
-void wait(Session &session, const QStringList &list)
+void words::screen(Session &session, Arguments &arguments)
 {
-    const bool forReady = list.value(0) == "ready" && list.size() <= 2;
-    const bool forLog = list.value(0) == "log" && (list.size() == 2 || list.size() == 3);
-    const auto seconds = arguments::number(list.value(forLog ? 2 : 1, "30"), 0, 86400);
-    if ((!forReady && !forLog) || !seconds)
-        return failUsage(session, "wait");
-    QTimer::singleShot(int(*seconds * 1000), session.request(),
-                       [&session] { session.fail("waited in vain"); });
+    const bool last = arguments.flag("--last");
+    const QString name = arguments.text("FILE");
+    const QString suffix = QFileInfo(name).suffix();
+    if (!suffix.isEmpty() && suffix.compare("png", Qt::CaseInsensitive) != 0)
+        arguments.complain(QString("the picture is a PNG, not a %1: %2").arg(suffix, name));
+    if (!session.accepts(arguments))
+        return;
+    const PanelProcess &panel = session.emulator.panel;
+    if (!panel.isRunning() && !last)
+        return session.fail(panel.status() + ": its LCD is dark (--last: what it has shown last)");
+    saveScreen(session, name);
+}
+
+void words::log(Session &session, Arguments &arguments)
+{
+    const bool follow = arguments.flag("--follow");
+    const bool plain = arguments.flag("--plain");
+    const qint64 since = arguments.timeOption("--since").value_or(0);
+    if (!session.accepts(arguments))
+        return;
+    const auto print = [&session, plain](const LogLine &line) {
+        const QString text = QString::fromUtf8(line.text);
+        session.print(plain ? text : timeText(line.timeMs) + ' ' + text);
+    };
+    const PanelLog &log = session.emulator.panel.log();
+    if (log.dropped() > 0)
+        session.print(QString("(%1 older lines are no longer kept)").arg(log.dropped()));
+    for (const LogLine &line : log.lines()) {
+        if (line.timeMs >= since)
+            print(line);
+    }
+    if (!follow)
+        return session.ok();
+    QObject::connect(&session.emulator.panel, &PanelProcess::line, session.request(), print);
+}
+
+void words::panel(Session &session, Arguments &arguments)
+{
+    const QString what = arguments.choice({"status", "start", "stop", "kill"});
+    if (!session.accepts(arguments))
+        return;
+    if (what == "start")
+        return startPanel(session);
+    if (what != "status")
+        return endPanel(session, what == "stop" ? &PanelProcess::stop : &PanelProcess::kill);
+    session.print(session.emulator.panel.status());
+    session.ok();
+}
+
+void words::state(Session &session, Arguments &arguments)
+{
+    if (!session.accepts(arguments))
+        return;
+    session.print(session.emulator.folder.path());
+    session.ok();
+}
+
+void words::wait(Session &session, Arguments &arguments)
+{
+    const bool any = arguments.flag("--any");
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const qint64 since = arguments.timeOption("--since").value_or(any ? 0 : now);
+    const bool forReady = arguments.choice({"ready", "log"}) == "ready";
+    const QString text = forReady ? QString() : arguments.text("TEXT");
+    const auto seconds = arguments.real("SECONDS", 0, longestWait, usualWait);
+    if (!session.accepts(arguments))
+        return;
+    QTimer::singleShot(int(seconds * 1000), session.request(), [&session, seconds] {
+        session.fail(Failure::timeout, QString("waited %1 s in vain").arg(seconds));
+    });
     QObject::connect(&session.emulator.panel, &PanelProcess::ended, session.request(),
                      [&session] { session.fail("the panel has ended"); });
     if (forReady)
         waitReady(session);
     else
-        waitLog(session, list[1]);
+        waitLog(session, text, since);
 }
 
-void flag(Session &session, const QStringList &list)
+void words::flag(Session &session, Arguments &arguments)
 {
+    constexpr int longestDelayMs = 3600 * 1000;
     BootFlag &flag = session.emulator.bootFlag;
-    const auto delay = arguments::number(list.value(1), 0, 3600 * 1000);
-    if (list.size() == 1 && (list[0] == "withhold" || list[0] == "give"))
-        flag.setWithheld(list[0] == "withhold");
-    else if (list.size() == 2 && list[0] == "delay" && delay)
-        flag.setDelay(int(*delay));
+    const QString what = arguments.choice({"withhold", "give", "delay"});
+    const auto delay = what == "delay" ? int(arguments.number("MS", 0, longestDelayMs)) : 0;
+    if (!session.accepts(arguments))
+        return;
+    if (what == "delay")
+        flag.setDelay(delay);
     else
-        return failUsage(session, "flag");
+        flag.setWithheld(what == "withhold");
     session.ok();
-}
-} // namespace
-
-QVector<Word> panelWords()
-{
-    return {
-        {"screen", "FILE.png", "the LCD as it stands", screen},
-        {"log", "[--follow]", "the panel's debug stream", log},
-        {"panel", "stop|start|kill", "ends the panel gently, starts it, or kills it", panel},
-        {"state", "", "the state folder's path", state},
-        {"wait", "ready [SECONDS] | log TEXT [SECONDS]", "until the panel is ready or has logged a text",
-         wait},
-        {"flag", "delay MS | withhold | give", "when the device answers the panel at start", flag},
-    };
 }

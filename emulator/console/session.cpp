@@ -66,9 +66,20 @@ void Session::ok()
     finish("ok");
 }
 
-void Session::fail(const QString &reason)
+void Session::fail(Failure failure, const QString &reason)
 {
-    finish("error " + reason);
+    const char *kind = failure == Failure::usage     ? "usage: "
+                       : failure == Failure::timeout ? "time-out: "
+                                                     : "";
+    finish(QString("error %1%2").arg(kind, reason).replace('\n', ' '));
+}
+
+bool Session::accepts(const Arguments &arguments)
+{
+    const QString fault = arguments.fault();
+    if (!fault.isEmpty())
+        fail(Failure::usage, m_usage + ": " + fault);
+    return fault.isEmpty();
 }
 
 QString Session::absolutePath(const QString &file) const

@@ -1,6 +1,6 @@
 // Words that record a session and play it again.
-#include "emulator/console/arguments.h"
 #include "emulator/console/words.h"
+#include "emulator/device/answercheck.h"
 #include "emulator/device/replayer.h"
 #include "emulator/emulator.h"
 
@@ -8,18 +8,21 @@ namespace
 {
 constexpr qint64 longestSession = 64 * 1024 * 1024; ///< bytes of a file that is replayed
 
-void record(Session &session, const QStringList &list)
+void startRecording(Session &session, const QString &name)
+{
+    const QString file = session.absolutePath(name);
+    if (!arguments::isPlainFile(file))
+        return session.fail(file + " is no plain file");
+    const QString fault = session.emulator.recorder.start(file);
+    if (fault.isEmpty())
+        session.ok();
+    else
+        session.fail(fault);
+}
+
+void stopRecording(Session &session)
 {
     Recorder &recorder = session.emulator.recorder;
-    if (list.size() != 1)
-        return failUsage(session, "record");
-    if (list[0] != "stop") {
-        const QString file = session.absolutePath(list[0]);
-        if (!arguments::isPlainFile(file))
-            return session.fail(file + " is no plain file");
-        const QString fault = recorder.start(file);
-        return fault.isEmpty() ? session.ok() : session.fail(fault);
-    }
     if (!recorder.isRecording())
         return session.fail("nothing is being recorded");
     const auto result = recorder.stop();
@@ -50,35 +53,54 @@ std::optional<QVector<session::Event>> readSession(Session &session, const QStri
     return events;
 }
 
-void replay(Session &session, const QStringList &list)
+/// What is to be told at the end, and whether it was as it should be.
+void report(Session &session, const Replayer &replayer, const QString &fault, const QStringList &differences)
 {
-    constexpr double slowest = 0.001, fastest = 100000;
-    const auto speed = arguments::real(list.value(1, "1"), slowest, fastest);
-    if (list.isEmpty() || list.size() > 2 || !speed)
-        return failUsage(session, "replay");
-    const auto events = readSession(session, list[0]);
-    if (!events)
-        return;
-    Emulator &emulator = session.emulator;
-    auto *replayer = new Replayer(emulator.keypad, emulator.device, *events, *speed, session.request());
-    QObject::connect(replayer, &Replayer::ended, session.request(),
-                     [&session, replayer](const QString &fault) {
-                         session.print(QString("played %1 keys and %2 reports")
-                                           .arg(replayer->keysPlayed())
-                                           .arg(replayer->reportsPlayed()));
-                         if (fault.isEmpty())
-                             session.ok();
-                         else
-                             session.fail(fault);
-                     });
-    replayer->start();
+    session.print(
+        QString("played %1 keys and %2 reports").arg(replayer.keysPlayed()).arg(replayer.reportsPlayed()));
+    for (const QString &difference : differences)
+        session.print(difference);
+    if (!fault.isEmpty())
+        session.fail(fault);
+    else if (!differences.isEmpty())
+        session.fail("the device has answered otherwise than in the recorded session");
+    else
+        session.ok();
 }
 } // namespace
 
-QVector<Word> sessionWords()
+void words::record(Session &session, Arguments &arguments)
 {
-    return {
-        {"record", "FILE | stop", "writes down keys and reports with their times", record},
-        {"replay", "FILE [SPEED]", "plays them again, SPEED times as fast; ends when all is played", replay},
-    };
+    const bool stop = arguments.nextIs("stop");
+    const QString file = arguments.text("FILE");
+    if (!session.accepts(arguments))
+        return;
+    if (stop)
+        stopRecording(session);
+    else
+        startRecording(session, file);
+}
+
+void words::replay(Session &session, Arguments &arguments)
+{
+    constexpr double slowest = 0.001, fastest = 100000;
+    const bool checks = arguments.flag("--check");
+    const QString file = arguments.text("FILE");
+    const double speed = arguments.real("SPEED", slowest, fastest, 1);
+    if (!session.accepts(arguments))
+        return;
+    const auto events = readSession(session, file);
+    if (!events)
+        return;
+    Emulator &emulator = session.emulator;
+    auto *replayer = new Replayer(emulator.keypad, emulator.device, *events, speed, session.request());
+    auto *check = checks ? new AnswerCheck(emulator.device, *events, session.request()) : nullptr;
+    QObject::connect(replayer, &Replayer::ended, session.request(), [=, &session](const QString &fault) {
+        if (!check || !fault.isEmpty())
+            return report(session, *replayer, fault, {});
+        QObject::connect(check, &AnswerCheck::ended, session.request(),
+                         [=, &session] { report(session, *replayer, QString(), check->differences()); });
+        check->end();
+    });
+    replayer->start();
 }

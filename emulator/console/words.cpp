@@ -1,66 +1,60 @@
 #include "emulator/console/words.h"
 
+#include "emulator/console/wordlist.h"
+
 #include <QFileInfo>
 
 namespace
 {
-constexpr int callWidth = 44; ///< of the first column of the help
+using Handler = void (*)(Session &, Arguments &);
 
-void help(Session &session, const QStringList &);
-void changeFolder(Session &session, const QStringList &arguments);
+constexpr Handler handlers[] = {
+#define WORD(name, usage, effect) words::name,
+#include "emulator/console/wordlist.inc"
+#undef WORD
+};
 
-QVector<Word> generalWords()
+const WordText *findByName(const QString &name)
 {
-    return {
-        {"help", "", "this list", help},
-        {"cd", "DIR", "where relative file names start from, for this connection", changeFolder},
-    };
+    return findWord(
+        [&name](const char *word) { return name.compare(QLatin1String(word), Qt::CaseInsensitive) == 0; });
 }
 
-const QVector<Word> &allWords()
+void failUnknown(Session &session, const QString &name)
 {
-    static const QVector<Word> words = keypadWords() + panelWords() + busWords() + deviceWords() +
-                                       modelWords() + sessionWords() + faultWords() + generalWords();
-    return words;
+    session.fail(Failure::usage, QString("no such word: %1 (help lists them)").arg(name));
 }
+} // namespace
 
-void help(Session &session, const QStringList &)
+void words::help(Session &session, Arguments &arguments)
 {
-    for (const Word &word : allWords()) {
-        const QString call = QString("%1 %2").arg(word.name, word.usage).trimmed();
-        if (call.size() > callWidth)
-            session.print(call + '\n' + QString(callWidth, ' ') + "  " + word.effect);
-        else
-            session.print(QString("%1  %2").arg(call, -callWidth).arg(word.effect));
-    }
+    const QString name = arguments.text("WORD", "");
+    if (!session.accepts(arguments))
+        return;
+    const WordText *word = findByName(name);
+    if (!word && !name.isEmpty())
+        return failUnknown(session, name);
+    session.print(QString::fromStdString(word ? helpText(*word) : helpText()).trimmed());
     session.ok();
 }
 
-void changeFolder(Session &session, const QStringList &arguments)
+void words::cd(Session &session, Arguments &arguments)
 {
-    if (arguments.size() != 1)
-        return failUsage(session, "cd");
-    const QString folder = session.absolutePath(arguments[0]);
+    const QString folder = session.absolutePath(arguments.text("DIR"));
+    if (!session.accepts(arguments))
+        return;
     if (!QFileInfo(folder).isDir())
         return session.fail("no such folder: " + folder);
     session.setFolder(folder);
     session.ok();
 }
-} // namespace
 
-void failUsage(Session &session, const char *name)
+void handleWord(Session &session, const QString &name, const QStringList &list)
 {
-    for (const Word &word : allWords()) {
-        if (qstrcmp(word.name, name) == 0)
-            return session.fail(QString("usage: %1 %2").arg(word.name, word.usage));
-    }
-}
-
-void handleWord(Session &session, const QString &name, const QStringList &arguments)
-{
-    for (const Word &word : allWords()) {
-        if (name == QLatin1String(word.name))
-            return word.handle(session, arguments);
-    }
-    session.fail(QString("no such word: %1 (help lists them)").arg(name));
+    const WordText *word = findByName(name);
+    if (!word)
+        return failUnknown(session, name);
+    Arguments arguments(list);
+    session.setUsage(QString("%1 %2").arg(word->name, word->usage).trimmed());
+    handlers[word - wordTexts](session, arguments);
 }

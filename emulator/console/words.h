@@ -1,28 +1,16 @@
-// The words of the console. Each subject has its table of rows; a new word is a row and a function.
+// The words of the console. A new word is a row in wordlist.inc and a function of its name in one of
+// *words.cpp, which answers the request, at once or later, with ok or fail of the session.
 #pragma once
 
+#include "emulator/console/arguments.h"
 #include "emulator/console/session.h"
 
-#include <QVector>
+namespace words
+{
+#define WORD(name, usage, effect) void name(Session &session, Arguments &arguments);
+#include "emulator/console/wordlist.inc"
+#undef WORD
+} // namespace words
 
-struct Word {
-    const char *name;
-    const char *usage;  ///< the arguments
-    const char *effect; ///< for help
-    /// Answers the request, at once or later, with ok or fail of the session.
-    void (*handle)(Session &session, const QStringList &arguments);
-};
-
-QVector<Word> keypadWords();
-QVector<Word> panelWords();
-QVector<Word> busWords();
-QVector<Word> deviceWords();
-QVector<Word> modelWords();
-QVector<Word> sessionWords();
-QVector<Word> faultWords();
-
-/// Finds the word in the tables and lets it answer.
+/// Finds the word in the table and lets it answer.
 void handleWord(Session &session, const QString &name, const QStringList &arguments);
-
-/// For words: ends the request with how the word is used.
-void failUsage(Session &session, const char *name);

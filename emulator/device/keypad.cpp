@@ -17,6 +17,10 @@ constexpr quint32 kindLed = 6;
 constexpr quint32 actionOn = 6;
 constexpr quint32 actionOff = 7;
 
+// The panel lets LEDs blink by switching them each second.
+constexpr qint64 leastBlinkMs = 700;
+constexpr qint64 mostBlinkMs = 1400;
+
 quint32 wordAt(const QByteArray &bytes, int offset)
 {
     return qFromLittleEndian<quint32>(bytes.constData() + offset);
@@ -26,6 +30,7 @@ quint32 wordAt(const QByteArray &bytes, int offset)
 Keypad::Keypad(const QString &stateFolder, QObject *parent)
     : QObject(parent), m_server(stateFolder + hostlink::keypadSocket)
 {
+    m_clock.start();
     connect(&m_server, &PacketServer::received, this, &Keypad::handlePacket);
     connect(&m_server, &PacketServer::disconnected, this, [this](int client) { m_readers.remove(client); });
 }
@@ -91,10 +96,39 @@ QString Keypad::ledText() const
     return text;
 }
 
+QString Keypad::blinkText() const
+{
+    QString text = ledText();
+    for (int led = 0; led < ledCount; ++led) {
+        if (isBlinking(led))
+            text[led] = '*';
+    }
+    return text;
+}
+
+bool Keypad::isBlinking(int led) const
+{
+    const LedChanges &changes = m_ledChanges[size_t(led)];
+    const qint64 period = changes.lastMs - changes.beforeMs;
+    return changes.beforeMs > 0 && period >= leastBlinkMs && period <= mostBlinkMs &&
+           m_clock.elapsed() - changes.lastMs <= mostBlinkMs;
+}
+
+void Keypad::setLeds(quint16 leds)
+{
+    for (int led = 0; led < ledCount; ++led) {
+        LedChanges &changes = m_ledChanges[size_t(led)];
+        if ((leds ^ m_leds) >> led & 1)
+            changes = {m_clock.elapsed(), changes.lastMs};
+    }
+    m_leds = leds;
+    emit ledsChanged();
+}
+
 void Keypad::setLedsOff()
 {
-    m_leds = 0;
-    emit ledsChanged();
+    setLeds(0);
+    m_ledChanges = {};
 }
 
 void Keypad::handlePacket(int client, const QByteArray &packet)
@@ -123,9 +157,7 @@ bool Keypad::command(const QByteArray &packet)
     if (action != actionOn && action != actionOff)
         return false;
     const auto leds = quint16(action == actionOn ? m_leds | mask : m_leds & ~mask);
-    if (leds != m_leds) {
-        m_leds = leds;
-        emit ledsChanged();
-    }
+    if (leds != m_leds)
+        setLeds(leds);
     return true;
 }

@@ -4,7 +4,9 @@
 #include "emulator/device/keynames.h"
 #include "emulator/host/packetserver.h"
 
+#include <QElapsedTimer>
 #include <QSet>
+#include <array>
 
 class Keypad : public QObject
 {
@@ -32,6 +34,8 @@ public:
     quint16 leds() const { return m_leds; }
     /// The same as 16 characters, LED 0 first.
     QString ledText() const;
+    /// The same with '*' for those that blink, as seen over the last seconds.
+    QString blinkText() const;
     void setLedsOff();
 
 signals:
@@ -44,9 +48,18 @@ private:
     /// Obeys one LED command; false if the block is not one.
     bool command(const QByteArray &packet);
 
+    /// When an LED changed, in ms of a clock that runs from the keypad's start; the last two times.
+    struct LedChanges {
+        qint64 lastMs = 0, beforeMs = 0;
+    };
+    bool isBlinking(int led) const;
+    void setLeds(quint16 leds);
+
     PacketServer m_server;
     bool m_present = false;
     QSet<int> m_readers;
     quint16 m_leds = 0;
+    std::array<LedChanges, ledCount> m_ledChanges{};
+    QElapsedTimer m_clock;
     qint64 m_sentNs = 0;
 };

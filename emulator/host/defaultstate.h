@@ -4,10 +4,13 @@
 #include <cstdlib>
 #include <string>
 
-/// "fpd" in the folder that the user keeps states of programs in. A setting that is empty or relative counts
+/// What FPD_STATE says, else "fpd" in the folder that the user keeps states of programs in. A setting that is empty or relative counts
 /// as none.
 inline std::string defaultState()
 {
+    const char *state = getenv("FPD_STATE");
+    if (state && *state)
+        return state;
     const char *base = getenv("XDG_STATE_HOME");
     if (base && *base == '/')
         return std::string(base) + "/fpd";

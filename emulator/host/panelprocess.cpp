@@ -83,7 +83,7 @@ void PanelProcess::start()
             &PanelProcess::finish);
     connect(m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) {
-            m_failure = m_process->errorString();
+            fail(m_process->errorString());
             emit ended();
         }
     });
@@ -99,6 +99,17 @@ bool PanelProcess::isBusy() const
         if (threads::isBusy(m_process->processId(), thread))
             return true;
     return false;
+}
+
+QString PanelProcess::status() const
+{
+    return isRunning() ? "running" : hasFailed() ? m_failure : "stopped";
+}
+
+void PanelProcess::fail(const QString &how)
+{
+    m_failure = how;
+    m_everFailed = true;
 }
 
 void PanelProcess::stop()
@@ -135,7 +146,7 @@ void PanelProcess::readLines()
 void PanelProcess::addLine(const QByteArray &text)
 {
     m_log.add(text);
-    emit line(QString::fromUtf8(text));
+    emit line(m_log.lines().back());
 }
 
 void PanelProcess::finish(int code, QProcess::ExitStatus status)
@@ -146,7 +157,7 @@ void PanelProcess::finish(int code, QProcess::ExitStatus status)
     m_log.flush();
     m_rest.clear();
     if (!m_told)
-        m_failure = status == QProcess::CrashExit ? QString("crashed with signal %1").arg(code)
-                                                  : QString("ended with status %1").arg(code);
+        fail(status == QProcess::CrashExit ? QString("crashed with signal %1").arg(code)
+                                           : QString("ended with status %1").arg(code));
     emit ended();
 }

@@ -27,15 +27,21 @@ public:
     const PanelLog &log() const { return m_log; }
     /// How the last process ended, empty if it is running or was told to end.
     QString failure() const { return m_failure; }
+    bool hasFailed() const { return !m_failure.isEmpty(); }
+    /// Of all that were started, one has ended by itself.
+    bool hasEverFailed() const { return m_everFailed; }
+    /// "running", "stopped", or how it failed, such as "crashed with signal 11".
+    QString status() const;
 
 signals:
     void started();
-    void line(const QString &text);
+    void line(const LogLine &line);
     void ended();
 
 private:
     void readLines();
     void addLine(const QByteArray &text);
+    void fail(const QString &how);
     void finish(int code, QProcess::ExitStatus status);
 
     QString m_stateFolder;
@@ -45,4 +51,5 @@ private:
     PanelLog m_log;
     QString m_failure;
     bool m_told = false;
+    bool m_everFailed = false;
 };

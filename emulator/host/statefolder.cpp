@@ -105,6 +105,10 @@ QString StateFolder::install()
         if (!QDir().mkpath(file(folder)))
             faults += "cannot make the folder " + file(folder);
     const QDir translations(QCoreApplication::applicationDirPath() + "/../translation");
+    for (const char *language : {"fpd_ZH.qm", "fpd_EN.qm"})
+        if (!translations.exists(language))
+            faults += "there is no " + QDir::cleanPath(translations.filePath(language)) +
+                      ": the build is not complete";
     for (const QString &name : translations.entryList({"*.qm"}, QDir::Files))
         faults += copyOver(translations.filePath(name), file(configFolder) + '/' + name);
     for (const CabinetFile &cabinet : cabinetFiles())

@@ -47,13 +47,24 @@ public:
         m_client->write(request + '\n');
         QByteArray line;
         const bool whole = QTest::qWaitFor([&] {
-            while (m_client->canReadLine() && (line.isEmpty() || line.startsWith('+')))
+            while (m_client->canReadLine() && (line.isEmpty() || line.startsWith('+'))) {
                 line = m_client->readLine().trimmed();
+                if (line.startsWith('+'))
+                    m_lines.append(line.mid(1));
+            }
             return !line.isEmpty() && !line.startsWith('+');
         });
         return whole ? line : "no whole answer: " + line;
     }
+    /// The lines of the answer to a request.
+    QList<QByteArray> lines(const QByteArray &request)
+    {
+        m_lines.clear();
+        ask(request);
+        return m_lines;
+    }
     QString file(const QString &name) const { return m_folder.filePath(name); }
+    QString statePath() const { return m_state; }
 
 private:
     QTemporaryDir m_folder;
@@ -68,4 +79,5 @@ public:
 private:
     std::unique_ptr<ConsoleServer> m_console;
     std::unique_ptr<QLocalSocket> m_client;
+    QList<QByteArray> m_lines;
 };

@@ -1,9 +1,11 @@
 // The console and the window as their users get them wrong: clients that go away, files that are none,
 // numbers out of any range.
+#include "emulator/console/wordlist.h"
 #include "emulator/window/window.h"
 #include "emulatorrig.h"
 #include "tests/testprogram.h"
 
+#include <QRegularExpression>
 #include <sys/stat.h>
 
 class TestConsole : public QObject
@@ -11,10 +13,11 @@ class TestConsole : public QObject
     Q_OBJECT
 private slots:
     void init();
-    void cleanup() { m_rig.reset(); }
+    void cleanup();
+    void cleanupTestCase() { m_rig.reset(); }
     void aKeyIsLetGoWithoutItsClient();
     void aKeyIsLetGoWithTheFocus();
-    void keysHaveNumbers();
+    void keysHaveNamesAndNumbers();
     void anEndlessLineEndsItsClient();
     void aFollowerMustRead();
     void manyRequestsAtOnceAreAllAnswered();
@@ -26,12 +29,17 @@ private slots:
     void bytesAreTaken();
     void requestsAreRefused_data();
     void requestsAreRefused();
+    void writesHaveTimes();
+    void answersOfAReplayAreCompared_data();
+    void answersOfAReplayAreCompared();
+    void everyWordIsDocumented();
 
 private:
     /// All key words up to now, once there are so many.
     QList<QByteArray> keys(int count);
 
     std::unique_ptr<EmulatorRig> m_rig;
+    bool m_spoilt = false; ///< the case leaves a device that no other can use
 };
 
 namespace
@@ -41,8 +49,24 @@ const QByteArray okPressed("\x22\1"), okReleased("\xa2\1");
 
 void TestConsole::init()
 {
+    if (m_rig) {
+        m_rig->panel->keys();
+        m_rig->panel->reports();
+        return;
+    }
     m_rig = std::make_unique<EmulatorRig>();
     QVERIFY(m_rig->open());
+    QCOMPARE(mkfifo(qPrintable(m_rig->file("fifo")), 0600), 0);
+    QFile tooLong(m_rig->file("long")), session(m_rig->file("session"));
+    QVERIFY(tooLong.open(QIODevice::WriteOnly) && tooLong.resize(65 * 1024 * 1024));
+    QVERIFY(session.open(QIODevice::WriteOnly));
+}
+
+void TestConsole::cleanup()
+{
+    if (m_spoilt || QTest::currentTestFailed())
+        m_rig.reset();
+    m_spoilt = false;
 }
 
 QList<QByteArray> TestConsole::keys(int count)
@@ -79,11 +103,11 @@ void TestConsole::aKeyIsLetGoWithTheFocus()
     QCOMPARE(keys(2), (QList<QByteArray>{okPressed, okReleased}));
 }
 
-void TestConsole::keysHaveNumbers()
+void TestConsole::keysHaveNamesAndNumbers()
 {
-    for (const char *same : {"key 010", "key 0xA", "key 10", "key in5"}) {
+    for (const char *same : {"key 06", "key 0x6", "key 6", "key in1", "key hdmi1", "KEY HDMI1 TAP"}) {
         QCOMPARE(m_rig->ask(same), QByteArray("ok"));
-        QCOMPARE(keys(2), (QList<QByteArray>{"\n\1", "\x8a\1"}));
+        QCOMPARE(keys(2), (QList<QByteArray>{"\6\1", "\x86\1"}));
     }
 }
 
@@ -143,6 +167,7 @@ void TestConsole::whatGetsLostIsSaid_data()
 
 void TestConsole::whatGetsLostIsSaid()
 {
+    m_spoilt = true;
     QFETCH(QByteArray, request);
     QCOMPARE(m_rig->ask("fault bus down"), QByteArray("ok"));
     QCOMPARE(m_rig->ask(request), QByteArray("error no panel is on the bus"));
@@ -152,6 +177,7 @@ void TestConsole::whatGetsLostIsSaid()
 
 void TestConsole::aSleepingPanelIsNotAMissingOne()
 {
+    m_spoilt = true;
     constexpr int most = 1000;
     int taken = 0;
     for (; taken < most && m_rig->emulator->device.pushRead(0x13800000, QByteArray(60000, 'x'), 0, 0);
@@ -169,6 +195,7 @@ void TestConsole::aSleepingPanelIsNotAMissingOne()
 
 void TestConsole::keysComeBackWithTheKeypad()
 {
+    m_spoilt = true;
     QCOMPARE(m_rig->ask("fault keypad down"), QByteArray("ok"));
     QCOMPARE(m_rig->ask("key ok"), QByteArray("error the keypad is unplugged"));
     QCOMPARE(m_rig->ask("fault keypad up"), QByteArray("ok"));
@@ -212,21 +239,46 @@ void TestConsole::requestsAreRefused_data()
 {
     QTest::addColumn<QByteArray>("request");
     QTest::addColumn<QByteArray>("reason");
-    const auto row = [](const char *request, const char *reason) {
-        QTest::newRow(request) << QByteArray(request) << QByteArray(reason);
+    const auto row = [](const QByteArray &request, const char *reason) {
+        QTest::newRow(request) << request << QByteArray(reason);
     };
     row("record FIFO", "no plain file");
     row("replay FIFO", "no plain file");
-    row("screen FIFO", "no plain file");
+    row("screen --last FIFO", "no plain file");
+    row("screen a.jpg", "not a jpg");
+    row("screen a.png", "stopped: its LCD is dark");
+    row("leds", "stopped: its LEDs are off");
     row("replay /dev/zero", "no plain file");
     row("replay LONG", "at most 64 MB");
-    row("replay SESSION nan", "usage");
-    row("replay SESSION inf", "usage");
-    row("leds --watch nan", "usage");
-    row("leds --watch 1e300", "usage");
-    row("leds --watch -1", "usage");
-    row("key 0b10", "no such key");
-    row("key 128", "no such key");
+    row("replay SESSION nan",
+        "usage: replay FILE [SPEED] [--check]: SPEED is \"nan\", must be 0.001 to 100000");
+    row("replay SESSION inf", "SPEED is \"inf\"");
+    for (const char *seconds : {"nan", "1e300", "-1"})
+        row(QByteArray("leds --watch ") + seconds, "must be 0 to 604800");
+    row("leds --watch", "--watch needs a value");
+    row("key 0b10", "no such key: 0b10; there are main pip1 pip2 scale");
+    row("key 128", "hdmi1 (in1) hdmi2 (in2) dvi (in3) sdi (in4) in5");
+    row("key ok twice", "\"twice\" is not tap or press or release or hold");
+    row("knob", "missing: left or right");
+    row("knob left 0", "usage: knob left|right [STEPS] [SPEED]: STEPS is \"0\", must be 1 to 10000");
+    row("knob left 1 256", "SPEED is \"256\", must be 0 to 255");
+    row("knob left 1 1 1", "\"1\" is one too many");
+    row("word 10000", "HEX is \"10000\", must be a number in hex, 0 to ffff");
+    row("push 0200001f", "BYTES is missing");
+    row("push 0200001f 00 --device 256", "--device is \"256\", must be 0 to 255");
+    row("push --folow 0200001f 00", "ADDRESS is \"--folow\"");
+    row("writes --folow", "no such option: --folow");
+    row("writes --since noon", "--since is \"noon\", must be a time such as");
+    row("log --since 90000", "a number of seconds ago, up to a day");
+    row("flash read 0 20971521", "LEN is \"20971521\", must be 0 to 20971520");
+    row("flash write 13FFFFF 0000", "HEX has 2 bytes, must have 1 to 1");
+    row("update 101", "neither a percentage nor");
+    row("fault tool nosuch", "\"nosuch\" is not fpga or stm32");
+    row("signal hdmi1 on 4k", "neither a mode such as 1920x1080@60 nor a sampling");
+    row("nosuch", "usage: no such word: nosuch");
+    row("help nosuch", "usage: no such word: nosuch");
+    row("wait log x 0.05", "time-out: waited 0.05 s in vain");
+    row("wait ready 0", "time-out");
     row("cd /nosuch", "no such folder");
     row("cd LONG", "no such folder");
     row("env set \"\" x", "cannot set");
@@ -238,15 +290,78 @@ void TestConsole::requestsAreRefused()
 {
     QFETCH(QByteArray, request);
     QFETCH(QByteArray, reason);
-    const QByteArray fifo = m_rig->file("fifo").toUtf8();
-    QCOMPARE(mkfifo(fifo, 0600), 0);
-    QFile tooLong(m_rig->file("long"));
-    QVERIFY(tooLong.open(QIODevice::WriteOnly) && tooLong.resize(65 * 1024 * 1024));
-    QFile session(m_rig->file("session"));
-    QVERIFY(session.open(QIODevice::WriteOnly));
-    request.replace("FIFO", fifo).replace("LONG", tooLong.fileName().toUtf8());
-    const QByteArray answer = m_rig->ask(request.replace("SESSION", session.fileName().toUtf8()));
+    for (const char *name : {"fifo", "long", "session"})
+        request.replace(QByteArray(name).toUpper(), m_rig->file(name).toUtf8());
+    const QByteArray answer = m_rig->ask(request);
     QVERIFY2(answer.startsWith("error ") && answer.contains(reason), answer);
+}
+
+void TestConsole::writesHaveTimes()
+{
+    QVERIFY(m_rig->panel->write(0x0200001f, "0a") && m_rig->panel->write(0x02000020, "0b"));
+    QTRY_COMPARE(m_rig->emulator->device.writes().size(), 2);
+    const QByteArray plain = "02000020 00 0b", line = m_rig->lines("writes").value(1);
+    const QByteArray time = line.left(line.size() - plain.size() - 1);
+    QVERIFY2(line.endsWith(' ' + plain) && QTime::fromString(time, "HH:mm:ss.zzz").isValid(), line);
+    const QByteArray later =
+        QTime::fromString(time, "HH:mm:ss.zzz").addMSecs(1).toString("HH:mm:ss.zzz").toUtf8();
+    const QList<QByteArray> both = {"0200001f 00 0a", plain};
+    QCOMPARE(m_rig->lines("writes --plain"), both);
+    QCOMPARE(m_rig->lines("WRITES --PLAIN --SINCE 60"), both);
+    QCOMPARE(m_rig->lines("writes --plain --since " + time).last(), plain);
+    QTRY_COMPARE(m_rig->lines("writes --plain --since " + later).size(), 0); // once that time has come
+}
+
+void TestConsole::answersOfAReplayAreCompared_data()
+{
+    QTest::addColumn<QByteArray>("recorded");
+    QTest::addColumn<QByteArray>("given");
+    QTest::addColumn<QByteArray>("difference");
+    QTest::newRow("the same") << QByteArray("04") << QByteArray("04") << QByteArray();
+    QTest::newRow("another") << QByteArray("04") << QByteArray("05") << QByteArray("recorded 04, now 05");
+    QTest::newRow("none") << QByteArray("04") << QByteArray() << QByteArray("recorded 04, now nothing");
+    QTest::newRow("one too many") << QByteArray() << QByteArray("05")
+                                  << QByteArray("recorded nothing, now 05");
+}
+
+void TestConsole::answersOfAReplayAreCompared()
+{
+    QFETCH(QByteArray, recorded);
+    QFETCH(QByteArray, given);
+    QFETCH(QByteArray, difference);
+    const QByteArray name = m_rig->file("answers").toUtf8();
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("100 key 0121\n");
+    if (!recorded.isEmpty())
+        file.write("100 answered 13000004 0 " + recorded + '\n');
+    file.close();
+    Device &device = m_rig->emulator->device;
+    QTimer::singleShot(20, &device, [&] {
+        if (!given.isEmpty())
+            emit device.reported({0x13000004, QByteArray::fromHex(given), 0, 0}, true);
+    });
+    QList<QByteArray> expected{"played 1 keys and 0 reports"};
+    if (!difference.isEmpty())
+        expected << "13000004 0: " + difference;
+    QCOMPARE(m_rig->lines("replay --check " + name), expected);
+    QCOMPARE(m_rig->lines("replay " + name),
+             QList<QByteArray>{expected.first()}); // unasked nothing is compared
+}
+
+void TestConsole::everyWordIsDocumented()
+{
+    QFile file(qEnvironmentVariable("FPD_SOURCES") + "/doc/emulator.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = file.readAll();
+    for (const WordText &word : wordTexts) {
+        QVERIFY2(text.contains(QString("\n| `%1").arg(word.name)), word.name);
+        auto options = QRegularExpression("--[a-z]+").globalMatch(word.usage);
+        while (options.hasNext()) {
+            const QString option = options.next().captured();
+            QVERIFY2(text.contains(option), qPrintable(word.name + (' ' + option)));
+        }
+    }
 }
 
 FPD_TEST(TestConsole)

@@ -126,12 +126,15 @@ void TestStateFolder::theDefaultIsTheUsersOwn_data()
 void TestStateFolder::theDefaultIsTheUsersOwn()
 {
     QFETCH(QByteArray, setting);
+    qunsetenv("FPD_STATE");
     qputenv("HOME", "/home/someone");
     if (setting.isNull())
         qunsetenv("XDG_STATE_HOME");
     else
         qputenv("XDG_STATE_HOME", setting);
     QTEST(StateFolder::defaultPath(), "folder");
+    qputenv("FPD_STATE", "/told");
+    QCOMPARE(StateFolder::defaultPath(), QString("/told"));
 }
 
 void TestStateFolder::imagesTakeUpTheirRoom()

@@ -44,6 +44,9 @@ private slots:
             const int periodMs = time(i - 1).msecsTo(time(i));
             QVERIFY2(qAbs(periodMs - 1000) < 300, qPrintable(QString("period of %1 ms").arg(periodMs)));
         }
+        QString expected = m_panel.leds();
+        expected[ledOfHdmi2] = expected[ledOfDvi] = '*';
+        QCOMPARE(m_panel.ask({"leds"}).lines, QStringList{expected});
     }
 };
 

@@ -132,7 +132,7 @@ bool FrameDrive::play(const QString &word)
 QStringList FrameDrive::written()
 {
     QStringList list;
-    for (const QString &line : m_panel.ask({"writes", "--whole"}).lines) {
+    for (const QString &line : m_panel.ask({"writes", "--whole", "--plain"}).lines) {
         const QStringList words = line.split(' ');
         QStringList shown = words.mid(0, 2);
         // A frame to a port or board of its own would be shown whole, and differ.
