@@ -11,7 +11,8 @@ constexpr const char *heardText = "StartComplate: 2";
 Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
     : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), device(stateFolder.path()),
       recorder(keypad, device), bootFlag(stateFolder.path()), panel(stateFolder.path()),
-      tools(stateFolder.path()), lcd(stateFolder.path())
+      tools(stateFolder.path()), lcd(stateFolder.path()), screenText(stateFolder.path(), lcd),
+      keyRules(keypad, screenText)
 {
     m_look.setInterval(lookMs);
     connect(&m_look, &QTimer::timeout, this, &Emulator::lookIfReady);
@@ -32,7 +33,7 @@ QString Emulator::open()
         fault = tools.install();
     if (!fault.isEmpty())
         return fault;
-    if (!keypad.setPresent(true) || !device.setBusUp(true))
+    if (!keypad.setPresent(true) || !device.setBusUp(true) || !screenText.open())
         return "cannot open the sockets in " + folder.path();
     bootFlag.start();
     return QString();

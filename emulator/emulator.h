@@ -3,8 +3,10 @@
 
 #include "emulator/bus/device.h"
 #include "emulator/device/keypad.h"
+#include "emulator/device/keyrules.h"
 #include "emulator/device/lcd.h"
 #include "emulator/device/recorder.h"
+#include "emulator/device/screentext.h"
 #include "emulator/host/bootflag.h"
 #include "emulator/host/panelprocess.h"
 #include "emulator/host/shelltools.h"
@@ -33,6 +35,8 @@ public:
     PanelProcess panel;
     ShellTools tools;
     Lcd lcd;
+    ScreenText screenText;
+    KeyRules keyRules;
 
 signals:
     void ready();

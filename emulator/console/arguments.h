@@ -41,6 +41,8 @@ public:
     QStringList rest();
     /// @}
 
+    /// The next one, which stays the next one; empty if there is none.
+    QString peek() const { return m_list.value(0); }
     bool isEmpty() const { return m_list.isEmpty(); }
     /// The next one is this, in upper or lower case.
     bool nextIs(const char *word) const;

@@ -1,4 +1,4 @@
-#include "emulator/console/arguments.h"
+#include "emulator/console/keyarguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
 
@@ -7,50 +7,7 @@
 
 namespace
 {
-constexpr int tapMs = 20;
 constexpr int holdMs = 3200;
-
-bool isCalled(const KeyName &key, const QString &text)
-{
-    const QString label = QString(key.label).remove(' ');
-    return text.compare(QLatin1String(key.name), Qt::CaseInsensitive) == 0 ||
-           text.compare(label, Qt::CaseInsensitive) == 0;
-}
-
-QString nameList()
-{
-    QStringList names;
-    for (const KeyName &key : keyNames()) {
-        const QString label = QString(key.label).remove(' ').toLower();
-        names << (label == key.name ? label : QString("%1 (%2)").arg(label, key.name));
-    }
-    return names.join(' ');
-}
-
-/// The code of one key by its name, by what is printed on it, or by its number.
-int keyCode(Arguments &arguments, const QString &text)
-{
-    for (const KeyName &key : keyNames()) {
-        if (isCalled(key, text))
-            return key.code;
-    }
-    bool isNumber = false;
-    const int code = text.toInt(&isNumber, text.startsWith("0x", Qt::CaseInsensitive) ? 16 : 10);
-    if (!isNumber || code < 0 || code >= releasedBit)
-        arguments.complain(QString("no such key: %1; there are %2 and the codes 0 to %3")
-                               .arg(text, nameList())
-                               .arg(releasedBit - 1));
-    return code;
-}
-
-/// The codes of several keys joined by '+'.
-QVector<int> keyCodes(Arguments &arguments)
-{
-    QVector<int> codes;
-    for (const QString &name : arguments.text("NAME").split('+'))
-        codes.append(keyCode(arguments, name));
-    return codes;
-}
 
 void answer(Session &session, bool taken)
 {
@@ -82,7 +39,7 @@ void printLeds(Session &session)
 
 void words::key(Session &session, Arguments &arguments)
 {
-    const QVector<int> keys = keyCodes(arguments);
+    const QVector<int> keys = takeKeys(arguments);
     const QString way = arguments.choice({"tap", "press", "release", "hold"}, "tap");
     if (!session.accepts(arguments))
         return;

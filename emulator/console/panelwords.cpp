@@ -4,12 +4,11 @@
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace
 {
-constexpr int usualWait = 30; ///< seconds
-constexpr int longestWait = 86400;
-
 /// To a file, or with "-" as a line in hex, which fpdctl makes bytes of.
 void saveScreen(Session &session, const QString &name)
 {
@@ -26,6 +25,20 @@ void saveScreen(Session &session, const QString &name)
     if (!picture.save(file, "PNG"))
         return session.fail("cannot write " + file);
     session.ok();
+}
+
+void printTexts(Session &session, bool asJson)
+{
+    session.emulator.screenText.ask(
+        session.request(), [&session, asJson](const std::optional<QJsonArray> &texts) {
+            if (!texts)
+                return session.fail("the panel does not answer");
+            if (asJson)
+                session.print(QJsonDocument(*texts).toJson(QJsonDocument::Compact));
+            for (const QJsonValue &text : asJson ? QJsonArray() : *texts)
+                session.print(ScreenText::describe(text.toObject()));
+            session.ok();
+        });
 }
 
 void endPanel(Session &session, void (PanelProcess::*how)())
@@ -47,35 +60,13 @@ void startPanel(Session &session)
                      [&session, &process] { session.fail(process.status()); });
     session.emulator.startPanel();
 }
-
-void waitReady(Session &session)
-{
-    if (session.emulator.isReady())
-        return session.ok();
-    if (session.emulator.panel.hasFailed())
-        return session.fail(session.emulator.panel.status());
-    QObject::connect(&session.emulator, &Emulator::ready, session.request(), [&session] { session.ok(); });
-}
-
-/// From that time on; a line that is still to come has it anyway.
-void waitLog(Session &session, const QString &text, qint64 sinceMs)
-{
-    for (const LogLine &line : session.emulator.panel.log().lines()) {
-        if (line.timeMs >= sinceMs && QString::fromUtf8(line.text).contains(text))
-            return session.ok();
-    }
-    QObject::connect(&session.emulator.panel, &PanelProcess::line, session.request(),
-                     [&session, text](const LogLine &line) {
-                         if (QString::fromUtf8(line.text).contains(text))
-                             session.ok();
-                     });
-}
 } // namespace
 
 void words::screen(Session &session, Arguments &arguments)
 {
-    const bool last = arguments.flag("--last");
+    const bool last = arguments.flag("--last"), asJson = arguments.flag("--json");
     const QString name = arguments.text("FILE");
+    const bool asText = name.compare("text", Qt::CaseInsensitive) == 0;
     const QString suffix = QFileInfo(name).suffix();
     if (!suffix.isEmpty() && suffix.compare("png", Qt::CaseInsensitive) != 0)
         arguments.complain(QString("the picture is a PNG, not a %1: %2").arg(suffix, name));
@@ -84,7 +75,10 @@ void words::screen(Session &session, Arguments &arguments)
     const PanelProcess &panel = session.emulator.panel;
     if (!panel.isRunning() && !last)
         return session.fail(panel.status() + ": its LCD is dark (--last: what it has shown last)");
-    saveScreen(session, name);
+    if (asText)
+        printTexts(session, asJson);
+    else
+        saveScreen(session, name);
 }
 
 void words::log(Session &session, Arguments &arguments)
@@ -129,27 +123,6 @@ void words::state(Session &session, Arguments &arguments)
         return;
     session.print(session.emulator.folder.path());
     session.ok();
-}
-
-void words::wait(Session &session, Arguments &arguments)
-{
-    const bool any = arguments.flag("--any");
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    const qint64 since = arguments.timeOption("--since").value_or(any ? 0 : now);
-    const bool forReady = arguments.choice({"ready", "log"}) == "ready";
-    const QString text = forReady ? QString() : arguments.text("TEXT");
-    const auto seconds = arguments.real("SECONDS", 0, longestWait, usualWait);
-    if (!session.accepts(arguments))
-        return;
-    QTimer::singleShot(int(seconds * 1000), session.request(), [&session, seconds] {
-        session.fail(Failure::timeout, QString("waited %1 s in vain").arg(seconds));
-    });
-    QObject::connect(&session.emulator.panel, &PanelProcess::ended, session.request(),
-                     [&session] { session.fail("the panel has ended"); });
-    if (forReady)
-        waitReady(session);
-    else
-        waitLog(session, text, since);
 }
 
 void words::flag(Session &session, Arguments &arguments)

@@ -18,5 +18,6 @@ constexpr int keyOk = 34;
 constexpr int keyEsc = 35;
 constexpr int releasedBit = 0x80;
 constexpr int ledCount = 16;
+constexpr int tapMs = 20; ///< how long a key is pressed that is not held
 
 const QVector<KeyName> &keyNames();

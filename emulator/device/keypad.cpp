@@ -2,6 +2,7 @@
 
 #include "fpd_hostlink.h"
 
+#include <QTimer>
 #include <QtEndian>
 #include <chrono>
 
@@ -81,6 +82,14 @@ bool Keypad::release(const QVector<int> &keys)
     for (int key : keys)
         words.append(quint16(key | releasedBit | 1 << 8));
     return sendWords(words);
+}
+
+bool Keypad::tap(const QVector<int> &keys)
+{
+    if (!press(keys))
+        return false;
+    QTimer::singleShot(tapMs, Qt::PreciseTimer, this, [this, keys] { release(keys); });
+    return true;
 }
 
 bool Keypad::turn(int key, int steps, int speed)

@@ -25,6 +25,8 @@ public:
     bool sendWords(const QVector<quint16> &words);
     bool press(const QVector<int> &keys);
     bool release(const QVector<int> &keys);
+    /// Pressed and let go a moment later.
+    bool tap(const QVector<int> &keys);
     bool turn(int key, int steps, int speed);
 
     /// When the last key word went out, in ns of the monotonic clock; the LCD tells its changes by the same.

@@ -4,7 +4,7 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(FPD_FONTS REQUIRED IMPORTED_TARGET fontconfig freetype2 glib-2.0)
 file(GLOB PANELLCD_SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/host/panellcd/*)
 add_library(panellcd MODULE ${PANELLCD_SOURCES})
-target_link_libraries(panellcd PRIVATE fpd_options fpd_platform Qt5::Gui Qt5::FbSupport Qt5::FontDatabaseSupport
+target_link_libraries(panellcd PRIVATE fpd_options fpd_platform Qt5::Widgets Qt5::FbSupport Qt5::FontDatabaseSupport
                                        Qt5::EventDispatcherSupport PkgConfig::FPD_FONTS)
 target_include_directories(panellcd PRIVATE ${Qt5Gui_PRIVATE_INCLUDE_DIRS} ${Qt5FbSupport_PRIVATE_INCLUDE_DIRS}
                            ${Qt5FontDatabaseSupport_PRIVATE_INCLUDE_DIRS} ${Qt5EventDispatcherSupport_PRIVATE_INCLUDE_DIRS})

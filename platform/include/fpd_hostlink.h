@@ -28,6 +28,12 @@ constexpr int lcdHeight = 240;
 constexpr int lcdBytes = lcdWidth * lcdHeight * 4;
 constexpr int lcdFileSize = lcdBytes + 16;
 
+/// What stands on the LCD as data. A request is one byte, the answer a JSON array: the texts on the LCD for
+/// 't', an empty one for any other, as a sign that the panel is at its events.
+constexpr const char *screenSocket = "/run/screen.sock";
+constexpr char screenTextRequest = 't';
+constexpr char screenPingRequest = 'p';
+
 /// The flash image and how many of the next reads shall fail, in decimal.
 constexpr const char *flashFile = "/flash.img";
 constexpr unsigned int flashSize = 20 * 1024 * 1024;

@@ -1,6 +1,7 @@
 #include "platform/host/panellcd/integration.h"
 
 #include "platform/host/panellcd/screen.h"
+#include "platform/host/panellcd/screenservice.h"
 
 #include <QtEventDispatcherSupport/private/qgenericunixeventdispatcher_p.h>
 #include <QtFbSupport/private/qfbbackingstore_p.h>
@@ -15,6 +16,7 @@ PanelLcdIntegration::PanelLcdIntegration()
 
 PanelLcdIntegration::~PanelLcdIntegration()
 {
+    m_service.reset();
     QWindowSystemInterface::handleScreenRemoved(m_screen);
 }
 
@@ -22,6 +24,7 @@ void PanelLcdIntegration::initialize()
 {
     m_screen->initialize();
     QWindowSystemInterface::handleScreenAdded(m_screen);
+    m_service.reset(new ScreenService(*m_screen));
 }
 
 bool PanelLcdIntegration::hasCapability(Capability capability) const

@@ -6,6 +6,7 @@
 #include <qpa/qplatformintegration.h>
 
 class PanelLcdScreen;
+class ScreenService;
 
 class PanelLcdIntegration : public QPlatformIntegration
 {
@@ -23,4 +24,5 @@ public:
 private:
     PanelLcdScreen *m_screen; ///< the window system interface deletes it
     QScopedPointer<QPlatformFontDatabase> m_fonts;
+    QScopedPointer<ScreenService> m_service;
 };

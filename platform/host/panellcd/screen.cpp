@@ -3,6 +3,7 @@
 #include "fpd_hostlink.h"
 #include "platform/host/statefile.h"
 
+#include <QtFbSupport/private/qfbwindow_p.h>
 #include <atomic>
 #include <ctime>
 
@@ -27,6 +28,14 @@ bool PanelLcdScreen::initialize()
     QFbScreen::initializeCompositor();
     m_memory = mapFile();
     return m_memory != nullptr;
+}
+
+QList<QWindow *> PanelLcdScreen::windows() const
+{
+    QList<QWindow *> windows;
+    for (const QFbWindow *window : mWindowStack)
+        windows.append(window->window());
+    return windows;
 }
 
 uchar *PanelLcdScreen::mapFile()

@@ -4,12 +4,16 @@
 
 #include <QFile>
 #include <QImage>
+#include <QList>
 #include <QtFbSupport/private/qfbscreen_p.h>
 
 class PanelLcdScreen : public QFbScreen
 {
 public:
     bool initialize() override;
+
+    /// All windows as they are stacked, the one in front first.
+    QList<QWindow *> windows() const;
 
 protected:
     QRegion doRedraw() override;

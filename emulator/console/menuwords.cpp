@@ -1,0 +1,126 @@
+// Words that read the panel as a user does and act on what they read: rules, the store, a walk through the
+// menu.
+#include "emulator/console/keyarguments.h"
+#include "emulator/console/words.h"
+#include "emulator/device/menuwalker.h"
+#include "emulator/emulator.h"
+#include "emulator/host/storefile.h"
+
+#include <QJsonDocument>
+
+namespace
+{
+void printJson(Session &session, const QJsonDocument &document)
+{
+    session.print(document.toJson(QJsonDocument::Compact));
+}
+
+void listRules(Session &session, bool asJson)
+{
+    QJsonArray rules;
+    for (const KeyRule &rule : session.emulator.keyRules.all()) {
+        if (asJson)
+            rules.append(QJsonObject{{"text", rule.text}, {"key", rule.name}, {"pressed", rule.pressed}});
+        else
+            session.print(QString("when text \"%1\" key %2: pressed %3 times")
+                              .arg(rule.text, rule.name)
+                              .arg(rule.pressed));
+    }
+    if (asJson)
+        printJson(session, QJsonDocument(rules));
+    session.ok();
+}
+
+void takeRule(Session &session, Arguments &arguments)
+{
+    arguments.choice({"text", "clear"});
+    const QString text = arguments.text("TEXT");
+    if (text.isEmpty())
+        arguments.complain("TEXT is empty");
+    arguments.choice({"key"});
+    const QString name = arguments.peek();
+    const QVector<int> keys = takeKeys(arguments);
+    if (!session.accepts(arguments))
+        return;
+    session.emulator.keyRules.add(text, keys, name);
+    session.ok();
+}
+
+QJsonObject toJson(const StoreItem &item)
+{
+    QJsonObject object = item.fields;
+    object.insert("Index", item.number);
+    return object;
+}
+
+void printItems(Session &session, const QVector<StoreItem> &items, bool asJson)
+{
+    QJsonArray array;
+    for (const StoreItem &item : items) {
+        if (asJson)
+            array.append(toJson(item));
+        else
+            session.print(QString("%1 %2 %3").arg(item.number).arg(item.name, item.value).trimmed());
+    }
+    if (asJson)
+        printJson(session, QJsonDocument(array));
+    session.ok();
+}
+} // namespace
+
+void words::when(Session &session, Arguments &arguments)
+{
+    const bool asJson = arguments.flag("--json");
+    if (!arguments.isEmpty() && !arguments.nextIs("clear"))
+        return takeRule(session, arguments);
+    const bool clears = !arguments.isEmpty();
+    if (clears)
+        arguments.choice({"clear"});
+    if (!session.accepts(arguments))
+        return;
+    if (!clears)
+        return listRules(session, asJson);
+    session.emulator.keyRules.clear();
+    session.ok();
+}
+
+void words::store(Session &session, Arguments &arguments)
+{
+    const bool asJson = arguments.flag("--json");
+    const bool gets = arguments.choice({"get", "list"}) == "get";
+    const QString name = gets ? arguments.text("ITEM") : arguments.text("ITEM", "");
+    if (!session.accepts(arguments))
+        return;
+    const auto items = storefile::read(session.emulator.folder.path());
+    if (!items)
+        return session.fail("the panel has no store, or writes it just now");
+    const auto found = name.isEmpty() ? *items : storefile::find(*items, name);
+    if (found.isEmpty() || (gets && found.size() != 1))
+        return session.fail(storefile::notOne(found, name));
+    if (!gets)
+        return printItems(session, found, asJson);
+    if (asJson)
+        printJson(session, QJsonDocument(toJson(found[0])));
+    else
+        session.print(found[0].value);
+    session.ok();
+}
+
+void words::go(Session &session, Arguments &arguments)
+{
+    const bool opensLast = arguments.flag("--open");
+    const QStringList path = arguments.rest();
+    if (path.isEmpty())
+        arguments.complain("PATH is missing");
+    if (!session.accepts(arguments))
+        return;
+    Emulator &emulator = session.emulator;
+    auto *walker = new MenuWalker(emulator.keypad, emulator.screenText, path, opensLast, session.request());
+    QObject::connect(walker, &MenuWalker::ended, session.request(), [&session](const QString &fault) {
+        if (fault.isEmpty())
+            session.ok();
+        else
+            session.fail(fault);
+    });
+    walker->start();
+}
