@@ -34,6 +34,14 @@ bool ConsoleClient::connectTo(const QString &stateFolder)
 Answer ConsoleClient::ask(const QStringList &words, int timeoutMs)
 {
     begin(words);
+    Answer answer = finish(timeoutMs);
+    if (!answer.ok && answer.error.isEmpty())
+        answer.error = "no answer to " + words.join(' ');
+    return answer;
+}
+
+Answer ConsoleClient::finish(int timeoutMs)
+{
     Answer answer;
     QElapsedTimer passed;
     passed.start();
@@ -48,7 +56,6 @@ Answer ConsoleClient::ask(const QStringList &words, int timeoutMs)
         }
         answer.lines.append(line.mid(1));
     }
-    answer.error = "no answer to " + words.join(' ');
     return answer;
 }
 

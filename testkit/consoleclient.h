@@ -25,6 +25,8 @@ public:
 
     /// Starts a request whose answer goes on, such as log --follow.
     void begin(const QStringList &words);
+    /// The whole answer to what was begun.
+    Answer finish(int timeoutMs);
     /// The lines of the answer that have come by now; waits at most so long for the first.
     QStringList newLines(int timeoutMs);
 

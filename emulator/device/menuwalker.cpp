@@ -100,14 +100,14 @@ void MenuWalker::enterPage()
 void MenuWalker::press(int key, Step next)
 {
     if (!m_keypad.tap({key}))
-        return fail("nobody reads the keypad");
+        return fail(m_keypad.refusal());
     awaitChange(next);
 }
 
 void MenuWalker::turn(Step next)
 {
     if (!m_keypad.turn(m_left ? keyKnobLeft : keyKnobRight, 1, 1))
-        return fail("nobody reads the keypad");
+        return fail(m_keypad.refusal());
     awaitChange(next);
 }
 

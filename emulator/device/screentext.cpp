@@ -107,6 +107,8 @@ QString ScreenText::describe(const QJsonObject &text)
     QStringList state;
     for (const QJsonValue &value : text["state"].toArray())
         state << value.toString();
+    if (text["cut"].toBool())
+        state << "cut";
     const QString role = text["role"].toString();
     return QString("%1,%2 %3x%4  %5  %6")
         .arg(text["x"].toInt())

@@ -22,7 +22,7 @@ const QColor disabledColour("#54535c");
 struct Entry {
     QString text;
     QRect place;
-    QRegion visible;
+    QRegion ink, visible;
     QColor colour;
     QWidget *widget;
     int window; ///< counted from the back
@@ -81,9 +81,10 @@ public:
             if (isNextLine && !entries.isEmpty()) {
                 entries.last().text += '\n' + drawn.text.trimmed();
                 entries.last().place |= drawn.place.toAlignedRect();
+                entries.last().ink |= drawn.ink;
                 entries.last().visible |= drawn.visible;
             } else {
-                entries.append({drawn.text.trimmed(), drawn.place.toAlignedRect(), drawn.visible,
+                entries.append({drawn.text.trimmed(), drawn.place.toAlignedRect(), drawn.ink, drawn.visible,
                                 drawn.colour, widget, m_widgets[drawn.widget].window});
             }
         }
@@ -181,6 +182,14 @@ bool isUnseen(const Entry &entry)
     return entry.text.isEmpty() || entry.visible.isEmpty();
 }
 
+bool isCut(const Entry &entry)
+{
+    const QRegion hidden = entry.ink - entry.visible;
+    return std::any_of(hidden.begin(), hidden.end(), [](const QRect &part) {
+        return part.width() > 1 && part.height() > 1; // less is a rounded edge
+    });
+}
+
 QJsonObject toJson(const Entry &entry)
 {
     const QWidget *cell = cellOf(entry.widget).widget;
@@ -200,7 +209,7 @@ QJsonObject toJson(const Entry &entry)
     };
     if (label && entry.text.endsWith(QChar(0x2026)) && label->text() != entry.text)
         object.insert("whole", label->text());
-    if (!(QRegion(entry.place.adjusted(1, 1, -1, -1)) - entry.visible).isEmpty()) // but for a rounded edge
+    if (isCut(entry))
         object.insert("cut", true);
     return object;
 }

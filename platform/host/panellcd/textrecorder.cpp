@@ -102,17 +102,18 @@ void TextRecorder::addText(const QPointF &place, const QTextItem &item, const QT
 {
     const QRectF ink = QFontMetricsF(item.font(), this).tightBoundingRect(item.text()).translated(place);
     const QRectF onLcd = transform.mapRect(ink).translated(m_origin);
-    const QRegion visible = m_clip & onLcd.toAlignedRect();
+    const QRegion inked = onLcd.toAlignedRect(), visible = m_clip & inked;
     const QPointF begin = transform.map(place) + m_origin;
     const QPointF end = transform.map(place + QPointF(item.width(), 0)) + m_origin;
     DrawnText *last = m_texts.isEmpty() ? nullptr : &m_texts.last();
     if (last && last->widget == m_widget && (last->end - begin).manhattanLength() < joined) {
         last->text += item.text();
         last->place |= onLcd;
+        last->ink |= inked;
         last->visible |= visible;
         last->end = end;
     } else {
-        m_texts.append({item.text(), onLcd, visible, colour, m_widget, end});
+        m_texts.append({item.text(), onLcd, inked, visible, colour, m_widget, end});
     }
 }
 
@@ -145,7 +146,12 @@ int TextRecorder::metric(PaintDeviceMetric metric) const
         return m_dotsPerInch;
     case PdmDepth:
         return 32;
-    default:
-        return QPaintDevice::metric(metric);
+    case PdmNumColors:
+        return 1 << 24;
+    case PdmDevicePixelRatio:
+        return 1;
+    case PdmDevicePixelRatioScaled:
+        return int(devicePixelRatioFScale());
     }
+    return 0;
 }

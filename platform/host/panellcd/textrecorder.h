@@ -14,6 +14,7 @@
 struct DrawnText {
     QString text;
     QRectF place;    ///< of its ink on the LCD
+    QRegion ink;     ///< the same, each piece for itself
     QRegion visible; ///< what of it no other drawing has covered
     QColor colour;
     int widget;  ///< the number of the widget that drew it
