@@ -71,7 +71,8 @@ Options readOptions(bool window)
         fprintf(stderr, "fpd-emulator: \"%s\" is no option; --help lists them\n", qPrintable(stray[0]));
         exit(EXIT_FAILURE);
     }
-    return {!window || parser.isSet("headless"), !parser.isSet("no-panel"), parser.isSet("rest"), parser.value("state")};
+    return {!window || parser.isSet("headless"), !parser.isSet("no-panel"), parser.isSet("rest"),
+            parser.value("state")};
 }
 
 int failed(const QString &reason)

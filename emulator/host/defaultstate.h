@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string>
 
-/// What FPD_STATE says, else "fpd" in the folder that the user keeps states of programs in. A setting that is empty or relative counts
-/// as none.
+/// What FPD_STATE says, else "fpd" in the folder that the user keeps states of programs in. A setting that is
+/// empty or relative counts as none.
 inline std::string defaultState()
 {
     const char *state = getenv("FPD_STATE");
