@@ -2,6 +2,7 @@
 
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
+#include "platform/host/diskwatch.h"
 
 #include <QByteArray>
 #include <QRegularExpression>
@@ -56,7 +57,8 @@ unsigned short localPort(unsigned short boardPort)
 
 int runCommand(const char *commandLine)
 {
-    return std::system(hostCommand(commandLine).constData());
+    return host::runDiskCommand(QString::fromUtf8(commandLine).split(' '),
+                                [commandLine] { return std::system(hostCommand(commandLine).constData()); });
 }
 
 FILE *openPipe(const char *commandLine)

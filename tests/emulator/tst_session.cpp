@@ -1,7 +1,7 @@
 // Sessions as text, recorded from a keypad and a device and played again to both.
 #include "emulator/device/recorder.h"
 #include "emulator/device/replayer.h"
-#include "fulldisk.h"
+#include "tests/fulldisk.h"
 #include "panelend.h"
 #include "tests/testprogram.h"
 

@@ -4,7 +4,7 @@
 #include "emulator/host/panellog.h"
 #include "emulator/host/statefolder.h"
 #include "fpd_hostlink.h"
-#include "fulldisk.h"
+#include "tests/fulldisk.h"
 #include "tests/testprogram.h"
 
 #include <QDir>
