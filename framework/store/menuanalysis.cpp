@@ -18,23 +18,15 @@ constexpr ENUM_MenuIndex clearableItem = MENU_Mode3D_RightEyeStart;
 
 MenuAnalysis::MenuAnalysis(ENUM_ObjectIndex index) : VaskObject(index) {}
 
-MenuAnalysis::~MenuAnalysis()
-{
-    endSync();
-}
-
 bool MenuAnalysis::initlize()
 {
-    m_path = QStringLiteral("/usr/vask/etc/fpd/config/");
-    qDebug() << "xml path:" << m_path + m_fileName;
-    if (!IsEixstFile()) {
+    m_path = StoreFiles::folder();
+    qDebug() << "xml path:" << StoreFiles::config();
+    StoreFiles::tidy();
+    if (IsEixstFile())
+        loadFiles();
+    else
         createFromTable();
-    } else if (LoadXmlFile(m_path + m_fileName)) {
-        repairFactoryFile();
-        addHiddenItems();
-    } else {
-        qDebug() << "LoadXmlFile fail!" << m_path + m_fileName;
-    }
     if (!m_updateTimer) {
         m_updateTimer = new QTimer(this);
         m_updateTimer->setObjectName("store write");

@@ -1,11 +1,13 @@
 // The item store: the current state of every menu item, in memory and in config.xml, with a backup copy and a
 // factory copy beside it. A change counts in memory at once and reaches the file a second after the last key;
-// a damaged file is repaired from the copies at start. Items may be read and changed from any thread, files
-// and document belong to whoever flushes, which is the GUI thread.
+// a damaged file is repaired from the copies at start. A flush makes a snapshot of the document under the
+// store's lock; writing it is the business of StoreFiles. Items may be read and changed from any thread.
 #pragma once
 
 #include "framework/object/vaskobject.h"
 #include "framework/store/menuxml.h"
+#include "framework/store/storefiles.h"
+#include "framework/store/storetext.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 
@@ -14,10 +16,9 @@
 #include <QList>
 #include <QMap>
 #include <QMutex>
-#include <QThread>
 #include <QTimer>
+#include <atomic>
 #include <functional>
-#include <memory>
 
 namespace VASK
 {
@@ -26,7 +27,6 @@ class MenuAnalysis : public VaskObject
     Q_OBJECT
 public:
     explicit MenuAnalysis(ENUM_ObjectIndex index);
-    ~MenuAnalysis() override;
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 
     /// Repairs the files, loads them or makes new ones from the table, and starts the write timer. True. GUI
@@ -67,13 +67,15 @@ public:
     /// Reads a file into document and memory, over what is there. False, with a log line, if it cannot be
     /// read.
     bool LoadXmlFile(const QString &name);
-    /// Writes what has changed since the last write. True in every case but a file that cannot be written.
+    /// Writes what has changed since the last write. False if it could not be written: it is tried again with
+    /// every timeout.
     bool updateActivittyItem();
     /// Waits until the last save is on the disk and not only in its file.
-    void endSync();
+    void endSync() { m_files.endSync(); }
 
 public slots:
-    /// The flush: added items, changed items, deleted items.
+    /// The flush: added items, changed items, deleted items. Without any of them, a write that has failed.
+    /// GUI thread.
     void slot_updateXml();
 
 private:
@@ -85,16 +87,24 @@ private:
     void deleteMenuItem(ENUM_MenuIndex index);
 
     bool IsEixstFile();
-    bool CheckXmlfileIsVaild(const QString &name) const;
+    static bool CheckXmlfileIsVaild(const QString &name, StoreText &store);
+    static bool checkStore(const QString &name, StoreText &store);
+    void loadFiles();
     void createFromTable();
+    void addItemsOfTable();
     void repairFactoryFile();
     void addHiddenItems();
-    void takeItemsFromDocument();
+    void addItemsOfBackup();
+    void takeFilesBack();
+
+    QMap<ENUM_MenuIndex, ST_ItemInfo> itemsOf(const QDomDocument &document) const;
+    void tidyDocument();
+    void takeItems(const QMap<ENUM_MenuIndex, ST_ItemInfo> &loaded);
     bool CreateMeunFile();
     bool createXmlFile();
     bool saveDataToFile(const QString &name);
+    void offerDocument();
     bool saveFile();
-    void startSync();
 
     void ensureDocument();
     bool updateCacheList();
@@ -103,21 +113,19 @@ private:
     void modityItemToXML(ENUM_MenuIndex index, const ST_ItemInfo &item, QHash<int, QDomElement> &elements);
     QHash<int, QDomElement> elementsByIndex() const;
 
-    const QString m_fileName = QStringLiteral("config.xml");
-    const QString m_backupName = QStringLiteral("config_backup.xml");
-    const QString m_factoryName = QStringLiteral("config_factory.xml");
+    StoreFiles m_files;
     QString m_path;
     QTimer *m_updateTimer = nullptr;
     const XmlNames m_elementNames = menuXmlNames();
 
-    /// Guards the document and the files for the length of a load or a flush. Taken before m_mutex, never
-    /// inside it.
+    /// The files were out of reach at the start, and the memory holds the table: nothing is written over
+    /// them.
+    std::atomic<bool> m_isBlind{false};
+
+    /// Guards the document for the length of a load or a snapshot, never while the disk is waited for. Taken
+    /// before m_mutex, never inside it.
     QMutex m_documentMutex;
     QDomDocument m_xmldoc;
-    /// Brings the last save to the disk, which can take longer than a user at the knob should notice.
-    std::unique_ptr<QThread> m_sync;
-    /// The file does not hold the whole table yet: nothing worth a backup.
-    bool m_creating = false;
 
     /// Guards the item map and the three lists for one access.
     mutable QMutex m_mutex;

@@ -2,6 +2,7 @@
 #include "menu/itemindex.h"
 
 #include <QDebug>
+#include <QTextStream>
 
 namespace VASK
 {
@@ -15,6 +16,7 @@ struct TextField {
 struct NumberField {
     XMLELEMENT name;
     int ST_ItemInfo::*field;
+    const char *complaint;
 };
 struct FlagField {
     XMLELEMENT name;
@@ -34,9 +36,11 @@ const TextField firstTexts[] = {
     {XML_ICONEX, &ST_ItemInfo::iconRight},
 };
 const NumberField numbers[] = {
-    {XML_ROW, &ST_ItemInfo::row},
-    {XML_COL, &ST_ItemInfo::col},
+    {XML_ROW, &ST_ItemInfo::row, "Row is invalid:"},
+    {XML_COL, &ST_ItemInfo::col, "Col is invalid:"},
 };
+/// Of a table of pictures; more have no place on the LCD.
+constexpr int tableLimit = 16;
 const TextField lastTexts[] = {
     {XML_MAX, &ST_ItemInfo::max},         {XML_MIN, &ST_ItemInfo::min},
     {XML_PERBASE, &ST_ItemInfo::perBase}, {XML_PIXVALUE, &ST_ItemInfo::pixValue},
@@ -114,6 +118,16 @@ void readFlag(const QString &text, const FlagField &flag, ST_ItemInfo &item)
         qDebug() << flag.complaint << text;
 }
 
+void readNumber(const QString &text, const NumberField &number, ST_ItemInfo &item)
+{
+    bool isNumber = false;
+    const int value = text.toInt(&isNumber);
+    if (isNumber && value >= 0 && value <= tableLimit)
+        item.*number.field = value;
+    else
+        qDebug() << number.complaint << text;
+}
+
 template <class Table, class Read>
 bool readFrom(const Table &table, const XmlNames &names, const QString &tag, Read read)
 {
@@ -131,8 +145,7 @@ void readChild(const QDomElement &child, const XmlNames &names, ST_ItemInfo &ite
     const auto readText = [&](const TextField &row) { item.*row.field = child.text(); };
     const bool known =
         readFrom(firstTexts, names, tag, readText) || readFrom(lastTexts, names, tag, readText) ||
-        readFrom(numbers, names, tag,
-                 [&](const NumberField &row) { item.*row.field = child.text().toInt(); }) ||
+        readFrom(numbers, names, tag, [&](const NumberField &row) { readNumber(child.text(), row, item); }) ||
         readFrom(flags, names, tag, [&](const FlagField &row) { readFlag(child.text(), row, item); }) ||
         readFrom(maps, names, tag, [&](const MapField &row) { readMap(child, names, item.*row.field); });
     if (!known)
@@ -157,14 +170,32 @@ XmlNames menuXmlNames()
     };
 }
 
+bool isItemNumber(const QString &text, ENUM_MenuIndex &index)
+{
+    bool isNumber = false;
+    index = ENUM_MenuIndex(text.toInt(&isNumber));
+    return isNumber && index < MENU_END;
+}
+
 QDomDocument emptyMenuDocument()
 {
     QDomDocument document;
     document.appendChild(document.createProcessingInstruction("xml", "version='1.0' encoding='UTF-8'"));
-    QDomElement root = document.createElement("MenuItemList");
+    QDomElement root = document.createElement(menuXmlRoot);
     root.setAttribute("Version", "1.0");
     document.appendChild(root);
     return document;
+}
+
+QByteArray menuDocumentText(const QDomDocument &document)
+{
+    constexpr int indent = 4;
+    QByteArray bytes;
+    QTextStream stream(&bytes);
+    stream.setCodec("UTF-8");
+    document.save(stream, indent);
+    stream.flush();
+    return bytes;
 }
 
 QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,

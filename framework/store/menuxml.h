@@ -42,8 +42,16 @@ using XmlNames = QMap<XMLELEMENT, QString>;
 /// The names as they stand in the file.
 XmlNames menuXmlNames();
 
+constexpr const char *menuXmlRoot = "MenuItemList";
+
+/// The number in an item's attribute. False if no item has such a one.
+bool isItemNumber(const QString &text, ENUM_MenuIndex &index);
+
 /// A document that holds the head and an empty root.
 QDomDocument emptyMenuDocument();
+
+/// The document as it stands in a file.
+QByteArray menuDocumentText(const QDomDocument &document);
 
 /// A new Items element with all children, in the file's order.
 QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,

@@ -1,88 +1,19 @@
 // The item store: what it remembers, what it writes and when.
 
-#include "boardio.h"
-#include "framework/store/menuanalysis.h"
-#include "menu/itemindex.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/framework/store/storerig.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QTemporaryDir>
-#include <QtTest>
 #include <thread>
 
 using namespace VASK;
-
-namespace
-{
-const QString folder = "/usr/vask/etc/fpd/config/";
-
-QString path(const QString &name)
-{
-    return board::filePath(folder + name);
-}
-
-QByteArray contents(const QString &name)
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString &name, const QByteArray &bytes)
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
-
-QString valueOf(const MenuAnalysis &store, ENUM_MenuIndex index)
-{
-    QString value;
-    store.GetItemCurValue(index, value);
-    return value;
-}
-
-/// As it stands after its start.
-class Store : public MenuAnalysis
-{
-public:
-    Store() : MenuAnalysis(ENUM_MENUANALYSIS) { initlize(); }
-    void write(ENUM_MenuIndex index, const QString &value)
-    {
-        UpdataItemCurValue(index, value);
-        slot_updateXml();
-    }
-};
-
-/// What the next start finds.
-QString valueAfterRestart(ENUM_MenuIndex index)
-{
-    return valueOf(Store(), index);
-}
-
-QByteArray withoutItem(QByteArray file, ENUM_MenuIndex index)
-{
-    const int from = file.indexOf("    <Items Index=\"" + QByteArray::number(index) + "\">");
-    const QByteArray end = "</Items>\n";
-    return file.remove(from, file.indexOf(end, from) + end.size() - from);
-}
-} // namespace
+using namespace storerig;
 
 class TestMenuAnalysis : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        // In memory where there is such a place: every save ends in a "sync".
-        m_state.reset(new QTemporaryDir(QFileInfo("/dev/shm").isWritable()
-                                            ? "/dev/shm/fpdstore-XXXXXX"
-                                            : QDir::tempPath() + "/fpdstore-XXXXXX"));
-        qputenv("FPD_STATE", m_state->path().toUtf8());
-        QVERIFY(QDir().mkpath(path("")));
-    }
+    void init() { m_state = freshState(); }
 
     void firstStartWritesTheTable()
     {
@@ -153,9 +84,9 @@ private slots:
         QVERIFY(!store.UpdataItemCurValue(MENU_END, "1"));
         QVERIFY(!store.UpdataItemCurValue(MENU_MosaicInput, "1"));
         QVERIFY(!store.UpdataItemCurValue(MENU_ScreenBrightness, ""));
-        QCOMPARE(valueOf(store, MENU_ScreenBrightness), QString("60"));
+        QCOMPARE(store.value(MENU_ScreenBrightness), QString("60"));
         QVERIFY(store.UpdataItemCurValue(MENU_Mode3D_RightEyeStart, ""));
-        QCOMPARE(valueOf(store, MENU_Mode3D_RightEyeStart), QString());
+        QCOMPARE(store.value(MENU_Mode3D_RightEyeStart), QString());
         QVERIFY(!store.UpdataItemCurChoice(MENU_Normal, ""));
         QVERIFY(!store.changeItem(MENU_END, [](ST_ItemInfo &) {}));
         QVERIFY(!store.AddMenuItem(MENU_END, item));
@@ -202,7 +133,7 @@ private slots:
         QVERIFY(store.UpdataItemCurValue(MENU_MosaicInput, "new"));
         QVERIFY(store.DeleteMenuItem(MENU_ScreenBrightness));
         store.slot_updateXml();
-        QCOMPARE(valueOf(store, MENU_MosaicInput), QString("new"));
+        QCOMPARE(store.value(MENU_MosaicInput), QString("new"));
         // The removal reaches the disk with the next write.
         store.write(MENU_MosaicInput, "newer");
         const QByteArray file = contents("config.xml");
@@ -221,10 +152,11 @@ private slots:
         file.replace("</MenuItemList>",
                      "    <Items Index=\"1039\"><Value>of old</Value><Odd>x</Odd></Items>\n</MenuItemList>");
         write("config.xml", file);
+        write("config_backup.xml", file);
         Store store;
         QVERIFY(!store.IsEixstItemFromXMLFile(MENU_LowLatency)); // its widget adds it
-        QCOMPARE(valueOf(store, MENU_ScreenLock), QString("0")); // nobody else would
-        QCOMPARE(valueOf(store, ENUM_MenuIndex(1039)), QString("of old"));
+        QCOMPARE(store.value(MENU_ScreenLock), QString("0"));    // nobody else would
+        QCOMPARE(store.value(ENUM_MenuIndex(1039)), QString("of old"));
         QVERIFY(store.AddMenuItem(MENU_LowLatency, g_MenuXmlConfig[MENU_LowLatency]));
         QVERIFY(store.AddMenuItem(MENU_ScreenBrightness, g_MenuXmlConfig[MENU_ScreenBrightness]));
         store.slot_updateXml();
@@ -243,13 +175,14 @@ private slots:
             "<param paramName=''>empty</param><param "
             "paramName='3'>three</param></Params><Enable>TRUE</Enable>"
             "<Strange/><Col>3</Col><Value>1</Value></Items><Items "
-            "Index='1'><Value>77</Value><Enable>true</Enable>"
+            "Index='1'><Value>77</Value><Enable>true</Enable><Col>4000000</Col><Row>-1</Row>"
             "</Items><Items Index='x'><Value>5</Value></Items><Items Index='9999'/></MenuItemList>");
         Store store;
         ST_ItemInfo item;
         QVERIFY(store.GetMenuItem(MENU_ScreenBrightness, item));
         QCOMPARE(item.value, QString("77"));
         QCOMPARE(item.enable, true);
+        QCOMPARE(item.col + item.row, 0);
         QVERIFY(item.params.isEmpty());
         QVERIFY(!store.IsEixstItemFromXMLFile(ENUM_MenuIndex(0)));
     }
@@ -274,31 +207,15 @@ private slots:
     void withoutAFolderTheStoreWorksInMemory()
     {
         QVERIFY(QDir(path("")).removeRecursively());
-        MenuAnalysis store(ENUM_MENUANALYSIS);
-        QVERIFY(store.initlize());
+        Store store;
         QVERIFY(store.UpdataItemCurValue(MENU_ScreenBrightness, "12"));
         store.slot_updateXml();
         QVERIFY(!store.updateActivittyItem());
-        QCOMPARE(valueOf(store, MENU_ScreenBrightness), QString("12"));
+        QCOMPARE(store.value(MENU_ScreenBrightness), QString("12"));
         // The folder comes back: the next write has all that was changed.
         QVERIFY(QDir().mkpath(path("")));
-        QVERIFY(store.updateActivittyItem());
+        store.slot_updateXml();
         QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("12"));
-    }
-
-    void aWriteThatFailsLeavesTheBackup()
-    {
-        if (!QFile::exists("/dev/full"))
-            QSKIP("no device that is always full");
-        Store store;
-        store.write(MENU_ScreenBrightness, "21");
-        QFile::remove(path("config.xml"));
-        QVERIFY(QFile::link("/dev/full", path("config.xml")));
-        store.write(MENU_ScreenBrightness, "22");
-        QVERIFY(contents("config_backup.xml").contains("<Value>21</Value>"));
-        QFile::remove(path("config.xml"));
-        QVERIFY(store.updateActivittyItem());
-        QCOMPARE(valueAfterRestart(MENU_ScreenBrightness), QString("22"));
     }
 
     void changesFromTwoThreads()
@@ -329,7 +246,7 @@ private slots:
     }
 
 private:
-    QScopedPointer<QTemporaryDir> m_state;
+    std::unique_ptr<QTemporaryDir> m_state;
 };
 
 FPD_TEST(TestMenuAnalysis)

@@ -1,54 +1,30 @@
 // The store's three files against damage and against death in the middle of a save.
 
-#include "boardio.h"
-#include "framework/store/menuanalysis.h"
-#include "menu/itemindex.h"
-#include "menu/objectindex.h"
+#include "tests/fulldisk.h"
 #include "tests/testprogram.h"
+#include "tests/unit/framework/store/storerig.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtTest>
 #include <csignal>
 #include <functional>
-#include <memory>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 using namespace VASK;
+using namespace storerig;
 
 namespace
 {
-const QStringList names{"config.xml", "config_backup.xml", "config_factory.xml"};
 enum File { CONFIG = 1, BACKUP = 2, FACTORY = 4 };
-
-QString path(const QString &name)
-{
-    return board::filePath("/usr/vask/etc/fpd/config/" + name);
-}
-
-QByteArray contents(const QString &name)
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+enum { ITEMS = 408 };
 
 bool isWhole(const QString &name)
 {
     const QByteArray bytes = contents(name);
     return bytes.startsWith("<?xml") && bytes.endsWith("</MenuItemList>\n") &&
-           bytes.count("<Items Index=") == 408 && !bytes.contains('\xFF') && !bytes.contains('\0');
-}
-
-QString valueOf(const MenuAnalysis &store)
-{
-    QString value;
-    store.GetItemCurValue(MENU_ScreenBrightness, value);
-    return value;
+           bytes.count("<Items Index=") == ITEMS && !bytes.contains('\xFF') && !bytes.contains('\0') &&
+           !bytes.contains("DOCTYPE");
 }
 
 using Damage = std::function<QByteArray(QByteArray)>;
@@ -56,6 +32,22 @@ using Damage = std::function<QByteArray(QByteArray)>;
 QByteArray bytesAt(QByteArray file, int position, const QByteArray &bytes)
 {
     return file.replace(position, bytes.size(), bytes);
+}
+
+/// Ten entities, each ten times the one before: a gigabyte of text for a parser that takes them.
+const QByteArray doctype = [] {
+    QByteArray text = "<!DOCTYPE MenuItemList [<!ENTITY a0 \"" + QByteArray(100, 'x') + "\">";
+    for (char c = '1'; c <= '7'; ++c)
+        text += QByteArray("<!ENTITY a") + c + " \"" + (QByteArray("&a") + char(c - 1) + ";").repeated(10) +
+                "\">";
+    return text + "]><MenuItemList V";
+}();
+
+/// A parser that calls itself for each element, or a tree that is freed so, ends the process.
+QByteArray nested(QByteArray file, int depth)
+{
+    return file.insert(file.lastIndexOf("</Menu"),
+                       QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth));
 }
 
 const QList<QPair<const char *, Damage>> damages{
@@ -75,26 +67,33 @@ const QList<QPair<const char *, Damage>> damages{
      [](QByteArray file) { return bytesAt(file, file.indexOf("ScreenBrightness"), QByteArray(4, '\0')); }},
     {"no utf-8", [](QByteArray file) { return bytesAt(file, file.indexOf("ScreenBrightness"), "\xFF"); }},
     {"half a character", [](QByteArray file) { return bytesAt(file, file.indexOf("锁屏"), "x"); }},
+    {"a control character",
+     [](QByteArray file) { return bytesAt(file, file.indexOf("ScreenBrightness"), "\x01"); }},
     {"a wrong tag", [](QByteArray file) { return bytesAt(file, file.lastIndexOf("<Value>"), "<Valve>"); }},
     {"a lost quote", [](QByteArray file) { return bytesAt(file, file.indexOf("\">"), "x"); }},
+    // Well-formed, and no store.
+    {"another root", [](QByteArray file) { return file.replace("MenuItemList", "MenuPageList"); }},
+    {"no items", [](QByteArray file) { return file.replace("Items", "Pages"); }},
+    {"numbers that are none", [](QByteArray file) { return file.replace(" Index=\"", " Index=\"x"); }},
+    {"a document type", [](QByteArray file) { return file.replace("<MenuItemList V", doctype); }},
+    {"elements without end", [](QByteArray file) { return nested(file, 300000); }},
 };
 
 /// Saves one value after the other without end, and says which one it is about to save.
-[[noreturn]] void saveForEver(MenuAnalysis &store, int pipe, int value)
+[[noreturn]] void saveForEver(Store &store, int pipe, int value)
 {
     for (;;) {
         ++value;
         if (write(pipe, &value, sizeof value) != sizeof value)
             _exit(1);
-        store.UpdataItemCurValue(MENU_ScreenBrightness, QString::number(value));
-        store.slot_updateXml();
+        store.write(MENU_ScreenBrightness, QString::number(value));
     }
 }
 
-/// Lets a child save until it dies, of its own preparation or, after so many microseconds, by a signal that
-/// takes all that it has started along. Gives the value that it began to save last. Without a store the child
-/// makes its own, so that its start can be hit as well.
-int dieWhileSaving(MenuAnalysis *store, int value, const std::function<void()> &prepare, int microseconds)
+/// Lets a child save until it is killed, after so many microseconds, by a signal that takes all that it has
+/// started along. Gives the value that it began to save last. Without a store the child makes its own, so
+/// that its start can be hit as well.
+int dieWhileSaving(Store *store, int value, int microseconds)
 {
     int pipes[2];
     if (pipe(pipes) != 0)
@@ -104,81 +103,24 @@ int dieWhileSaving(MenuAnalysis *store, int value, const std::function<void()> &
     const pid_t child = fork();
     if (child == 0) {
         setpgid(0, 0);
-        alarm(20); // a death that fails to come must not hold up the test
         close(pipes[0]);
-        prepare();
-        if (!store) {
-            store = new MenuAnalysis(ENUM_MENUANALYSIS);
-            store->initlize();
-        }
+        if (!store)
+            store = new Store;
         saveForEver(*store, pipes[1], value);
     }
     setpgid(child, child);
     close(pipes[1]);
     int begun = value;
-    if (microseconds >= 0) {
-        // A loaded machine may take long until the first save begins.
-        if (store && read(pipes[0], &begun, sizeof begun) != sizeof begun)
-            begun = value;
-        usleep(useconds_t(microseconds));
-        kill(-child, SIGKILL);
-    }
+    // A loaded machine may take long until the first save begins.
+    if (store && read(pipes[0], &begun, sizeof begun) != sizeof begun)
+        begun = value;
+    usleep(useconds_t(microseconds));
+    kill(-child, SIGKILL);
     waitpid(child, nullptr, 0);
     while (read(pipes[0], &begun, sizeof begun) == sizeof begun)
         ;
     close(pipes[0]);
     return begun;
-}
-
-/// Death with exactly so many bytes of config.xml written.
-void dieAfterBytes(int bytes)
-{
-    const rlimit limit{rlim_t(bytes), rlim_t(bytes)};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit noCore{0, 0};
-    setrlimit(RLIMIT_CORE, &noCore);
-    signal(SIGXFSZ, SIG_DFL); // whoever started the test may have it ignored
-}
-
-/// Puts a tool in front of the machine's own.
-void setTool(const QString &name, const QString &script)
-{
-    // A place in memory may forbid programs: the tools lie elsewhere.
-    static const QTemporaryDir tools;
-    QFile::link(tools.path(), board::filePath("/bin"));
-    QFile tool(tools.filePath(name));
-    QVERIFY(tool.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    tool.write("#!/bin/sh\n" + script.toUtf8() + "\n");
-    tool.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-void removeTools()
-{
-    QFile::remove(board::filePath("/bin/cp"));
-    QFile::remove(board::filePath("/bin/sync"));
-    QFile::remove(board::filePath("/bin"));
-}
-
-/// Where a save, or the start after it, dies.
-struct Death {
-    enum Place { IN_FILE, IN_COPY, AFTER_COPY, IN_SYNC } place;
-    int bytes;
-};
-
-/// Arms the death and returns what the child has to do for it.
-std::function<void()> arm(const Death &death)
-{
-    removeTools();
-    const QString die = "kill -9 0";
-    if (death.place == Death::IN_FILE)
-        return [death] { dieAfterBytes(death.bytes); };
-    if (death.place == Death::IN_COPY)
-        setTool("cp", QString("head -c %1 \"$1\" > \"$2\"; ").arg(death.bytes) + die);
-    if (death.place == Death::AFTER_COPY)
-        setTool("cp", "cat \"$1\" > \"$2\"; " + die);
-    if (death.place == Death::IN_SYNC)
-        setTool("sync", die);
-    return [] {};
 }
 } // namespace
 
@@ -190,37 +132,34 @@ private slots:
     void initTestCase()
     {
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        m_state = freshState();
+        Store().write(MENU_ScreenBrightness, "37");
+        for (const QString &name : names)
+            m_files << contents(name);
     }
 
     void init()
     {
-        // In memory where there is such a place: every save ends in a "sync".
-        m_state.reset(new QTemporaryDir(QFileInfo("/dev/shm").isWritable()
-                                            ? "/dev/shm/fpdrecovery-XXXXXX"
-                                            : QDir::tempPath() + "/fpdrecovery-XXXXXX"));
-        qputenv("FPD_STATE", m_state->path().toUtf8());
-        QVERIFY(QDir().mkpath(path("")));
+        m_state = freshState();
+        for (int file = 0; file < names.size(); ++file)
+            write(names[file], m_files[file]);
     }
 
     void damage_data()
     {
         QTest::addColumn<int>("damage");
         QTest::addColumn<int>("files");
+        // Every damage in each of the files, and one of them in all combinations.
         for (int damage = 0; damage < damages.size(); ++damage)
             for (int files = CONFIG; files < (CONFIG | BACKUP | FACTORY); ++files)
-                QTest::addRow("%s, files %d", damages[damage].first, files) << damage << files;
+                if (damage == 0 || files == CONFIG || files == (BACKUP | FACTORY))
+                    QTest::addRow("%s, files %d", damages[damage].first, files) << damage << files;
     }
 
     void damage()
     {
         QFETCH(int, damage);
         QFETCH(int, files);
-        {
-            MenuAnalysis store(ENUM_MENUANALYSIS);
-            store.initlize();
-            store.UpdataItemCurValue(MENU_ScreenBrightness, "37");
-            store.slot_updateXml();
-        }
         for (int file = 0; file < names.size(); ++file) {
             if (!(files & 1 << file))
                 continue;
@@ -237,9 +176,8 @@ private slots:
         }
         // Only the factory copy is left when both others are gone.
         const QString expected = (files & (CONFIG | BACKUP)) == (CONFIG | BACKUP) ? "60" : "37";
-        MenuAnalysis store(ENUM_MENUANALYSIS);
-        QVERIFY(store.initlize());
-        QCOMPARE(valueOf(store), expected);
+        Store store;
+        QCOMPARE(store.value(), expected);
         for (const QString &name : names)
             QVERIFY2(isWhole(name), qPrintable(name));
         QCOMPARE(contents("config_backup.xml"), contents("config.xml"));
@@ -248,90 +186,102 @@ private slots:
 
     void allThreeGone()
     {
-        MenuAnalysis(ENUM_MENUANALYSIS).initlize();
-        for (const QString &name : names) {
-            QFile file(path(name));
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write("<MenuItemList>");
-        }
-        MenuAnalysis store(ENUM_MENUANALYSIS);
-        store.initlize();
-        QCOMPARE(valueOf(store), QString("60"));
+        for (const QString &name : names)
+            write(name, "<MenuItemList>");
+        Store store;
+        QCOMPARE(store.value(), QString("60"));
         for (const QString &name : names)
             QVERIFY2(isWhole(name), qPrintable(name));
     }
 
+    /// A file that lacks what the other has, or has it twice, is nothing that a save has written.
+    void aStoreThatIsNotAsItWasSaved_data()
+    {
+        QTest::addColumn<QByteArray>("how");
+        QTest::addColumn<QString>("found");
+        QTest::newRow("an item is gone") << QByteArray("gone") << "37";
+        QTest::newRow("an item stands there twice") << QByteArray("twice") << "38";
+        QTest::newRow("an item stands in another") << QByteArray("inside") << "38";
+    }
+    void aStoreThatIsNotAsItWasSaved()
+    {
+        QFETCH(QByteArray, how);
+        const QByteArray &whole = m_files.first();
+        QByteArray file = whole;
+        const QByteArray second = "<Items Index=\"1\"><Value>38</Value></Items>";
+        if (how == "gone")
+            file = withoutItem(whole, MENU_ScreenBrightness);
+        else if (how == "twice")
+            file.insert(file.lastIndexOf("</Menu"), second);
+        else
+            file = withoutItem(whole, MENU_ScreenBrightness).replace("<Odd/>", second);
+        if (how == "inside")
+            file.insert(file.indexOf("</Items>"), second);
+        write("config.xml", file);
+        QFETCH(QString, found);
+        Store store;
+        QCOMPARE(store.value(), found);
+        QCOMPARE(contents("config_backup.xml"), whole);
+        // The first save makes it one store again, and a change goes to the one that is loaded.
+        store.slot_updateXml();
+        QVERIFY(isWhole("config.xml"));
+        QCOMPARE(valueAfterRestart(), found);
+        store.write(MENU_ScreenBrightness, "39");
+        QVERIFY(isWhole("config.xml"));
+        QCOMPARE(valueAfterRestart(), QString("39"));
+    }
+
+    /// Nothing can be written at the start or in a save, and what is whole stays so; then there is room
+    /// again.
+    void aFullDisk_data()
+    {
+        QTest::addColumn<int>("damaged");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("config.xml") << int(CONFIG) << "37";
+        QTest::newRow("the backup") << int(BACKUP) << "37";
+        QTest::newRow("config.xml and the backup") << (CONFIG | BACKUP) << "60";
+        QTest::newRow("no file") << 0 << "37";
+    }
+    void aFullDisk()
+    {
+        QFETCH(int, damaged);
+        QFETCH(QString, expected);
+        for (int file = 0; file < names.size(); ++file)
+            if (damaged & 1 << file)
+                write(names[file], contents(names[file]).left(5000));
+        auto full = std::make_unique<FullDisk>(4096);
+        Store store;
+        QCOMPARE(store.value(), expected);
+        if (damaged)
+            QCOMPARE(valueAfterRestart(), expected);
+        store.write(MENU_ScreenBrightness, "38");
+        QVERIFY(valueAfterRestart() == expected);
+        for (int file = 0; file < names.size(); ++file)
+            QVERIFY2(damaged & 1 << file || isWhole(names[file]), qPrintable(names[file]));
+        full.reset();
+        store.slot_updateXml(); // nobody has changed anything: the save is repeated
+        store.endSync();
+        for (const QString &name : names)
+            QVERIFY2(isWhole(name), qPrintable(name));
+        QCOMPARE(contents("config_backup.xml"), contents("config.xml"));
+        QCOMPARE(valueAfterRestart(), QString("38"));
+    }
+
     void aBackupThatIsOneSaveBehindIsCaughtUp()
     {
-        {
-            MenuAnalysis store(ENUM_MENUANALYSIS);
-            store.initlize();
-            store.UpdataItemCurValue(MENU_ScreenBrightness, "37");
-            store.slot_updateXml();
-            QVERIFY(QFile::remove(path("config_backup.xml")));
-            QVERIFY(QFile::copy(path("config_factory.xml"), path("config_backup.xml")));
-        }
-        MenuAnalysis store(ENUM_MENUANALYSIS);
-        store.initlize();
-        QCOMPARE(valueOf(store), QString("37"));
+        write("config_backup.xml", contents("config_factory.xml"));
+        Store store;
+        QCOMPARE(store.value(), QString("37"));
         QCOMPARE(contents("config_backup.xml"), contents("config.xml"));
     }
 
-    void aLostBackupIsMadeBeforeTheFileIsTouched()
+    void aLostBackupIsMadeByTheNextSave()
     {
-        MenuAnalysis store(ENUM_MENUANALYSIS);
-        store.initlize();
+        Store store;
         QVERIFY(QFile::remove(path("config_backup.xml")));
-        store.UpdataItemCurValue(MENU_ScreenBrightness, "38");
-        store.slot_updateXml();
+        store.write(MENU_ScreenBrightness, "38");
         QVERIFY(isWhole("config_backup.xml"));
         QCOMPARE(contents("config_backup.xml"), contents("config.xml"));
-    }
-
-    void deathAtEveryStageOfASave()
-    {
-        auto store = startedStore("1000");
-        const int size = contents("config.xml").size();
-        QList<Death> deaths;
-        for (int i = 0; i <= 24; ++i)
-            deaths << Death{Death::IN_FILE, size * i / 25} << Death{Death::IN_COPY, size * i / 25};
-        deaths << Death{Death::IN_FILE, size - 2} << Death{Death::IN_COPY, size - 2}
-               << Death{Death::AFTER_COPY, 0} << Death{Death::IN_SYNC, 0};
-        int value = 1000;
-        for (const Death &death : qAsConst(deaths)) {
-            const int begun = dieWhileSaving(store.get(), value, arm(death), -1);
-            removeTools();
-            // The next save may have begun, but it does not touch the file while the disk is waited for.
-            const int latest = value + (death.place == Death::IN_SYNC ? 2 : 1);
-            QVERIFY2(
-                begun > value && begun <= latest,
-                qPrintable(QString("place %1, byte %2 of %3").arg(death.place).arg(death.bytes).arg(size)));
-            QCOMPARE(isWhole("config.xml"), death.place != Death::IN_FILE);
-            QCOMPARE(isWhole("config_backup.xml"), death.place != Death::IN_COPY);
-            store = std::make_unique<MenuAnalysis>(ENUM_MENUANALYSIS);
-            QVERIFY(store->initlize());
-            QCOMPARE(valueOf(*store).toInt(), death.place == Death::IN_FILE ? value : value + 1);
-            value = valueOf(*store).toInt();
-        }
-    }
-
-    void deathInTheRepairAfterADeath()
-    {
-        auto store = startedStore("1000");
-        const int size = contents("config.xml").size();
-        int value = 1000;
-        for (Death::Place first : {Death::IN_FILE, Death::IN_COPY, Death::AFTER_COPY})
-            for (int i = 0; i < 4; ++i) {
-                const int begun = dieWhileSaving(store.get(), value, arm({first, size / 2}), -1);
-                for (Death::Place second : {Death::IN_COPY, Death::AFTER_COPY, Death::IN_SYNC})
-                    dieWhileSaving(nullptr, value, arm({second, size * i / 4}), 200000);
-                removeTools();
-                store = std::make_unique<MenuAnalysis>(ENUM_MENUANALYSIS);
-                store->initlize();
-                const int found = valueOf(*store).toInt();
-                QVERIFY2(found >= value && found <= begun + 3, qPrintable(QString::number(found)));
-                value = found;
-            }
     }
 
     void killedAtAnyMoment()
@@ -341,18 +291,17 @@ private slots:
         int value = 1000;
         QElapsedTimer clock;
         clock.start();
-        auto store = startedStore(QString::number(value));
+        auto store = std::make_unique<Store>();
+        store->write(MENU_ScreenBrightness, QString::number(value));
         const int startTime = int(clock.nsecsElapsed() / 1000);
         int span = startTime; // of the kills after a save has begun; grows until some saves come to their end
         QRandomGenerator random(20200229);
         for (int round = 0; round < rounds; ++round) {
             const bool hitStart = round % startEvery == 0;
-            const int begun = dieWhileSaving(
-                hitStart ? nullptr : store.get(), value, [] {},
-                random.bounded(hitStart ? startTime * 2 : span));
-            store = std::make_unique<MenuAnalysis>(ENUM_MENUANALYSIS);
-            QVERIFY(store->initlize());
-            const int found = valueOf(*store).toInt();
+            const int begun = dieWhileSaving(hitStart ? nullptr : store.get(), value,
+                                             random.bounded(hitStart ? startTime * 2 : span));
+            store = std::make_unique<Store>();
+            const int found = store->value().toInt();
             QVERIFY2(found == begun || (begun > value && found == begun - 1),
                      qPrintable(QString("at %1, saving %2, found %3").arg(value).arg(begun).arg(found)));
             if (!hitStart)
@@ -363,16 +312,8 @@ private slots:
     }
 
 private:
-    static std::unique_ptr<MenuAnalysis> startedStore(const QString &value)
-    {
-        auto store = std::make_unique<MenuAnalysis>(ENUM_MENUANALYSIS);
-        store->initlize();
-        store->UpdataItemCurValue(MENU_ScreenBrightness, value);
-        store->slot_updateXml();
-        return store;
-    }
-
-    QScopedPointer<QTemporaryDir> m_state;
+    std::unique_ptr<QTemporaryDir> m_state;
+    QList<QByteArray> m_files; ///< as each case finds them
 };
 
 FPD_TEST(TestMenuRecovery)
