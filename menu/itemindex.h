@@ -564,7 +564,7 @@ enum ENUM_MenuIndex : int {
     PARA_PresetInUse = 3394,
     PARA_OPT1Link = 3395,
     PARA_OPT2Link = 3396,
-    PARA_END = 3397,
+    PARA_END = PARA_OPT2Link + 1,
     PARA_TextEnd = 3421, ///< numbers from PARA_END up to here have no text
 
     // Reports and commands without an item of their own

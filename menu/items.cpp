@@ -603,7 +603,7 @@ Items rateItems()
 }
 } // namespace
 
-QMap<ENUM_MenuIndex, ST_ItemInfo> menuItems()
+QVector<ST_ItemInfo> menuItemRows()
 {
     constexpr int portCount = 10;
     std::vector<Items> groups{
@@ -637,10 +637,18 @@ QMap<ENUM_MenuIndex, ST_ItemInfo> menuItems()
     for (int port = 0; port < portCount; ++port)
         groups.push_back(advancedPortItems(port));
 
-    QMap<ENUM_MenuIndex, ST_ItemInfo> items;
+    QVector<ST_ItemInfo> rows;
     for (const Items &group : groups)
         for (const Item &item : group)
-            items.insert(item.index, item);
+            rows.push_back(item);
+    return rows;
+}
+
+QMap<ENUM_MenuIndex, ST_ItemInfo> menuItems()
+{
+    QMap<ENUM_MenuIndex, ST_ItemInfo> items;
+    for (const ST_ItemInfo &item : menuItemRows())
+        items.insert(item.index, item);
     return items;
 }
 } // namespace VASK

@@ -34,9 +34,9 @@ Dialog timed(ENUM_MenuIndex index, const QString &text, int timeMs)
 }
 } // namespace
 
-QMap<ENUM_MenuIndex, ST_DialogInfo> menuDialogs()
+QVector<QPair<ENUM_MenuIndex, ST_DialogInfo>> menuDialogRows()
 {
-    const QList<Dialog> rows{
+    return {
         question(MENU_QuickConfiguration, "OPENQuickConfigurationWaring", false),
         question(MENU_SavetoRVCard, "IFSavetoRVCardTip"),
         question(MENU_SelfTest, "DeviceTestSelfCaseOutPutFailTip"),
@@ -108,8 +108,12 @@ QMap<ENUM_MenuIndex, ST_DialogInfo> menuDialogs()
         notice(MSG_UpdateErrorNotComplete, "UpdateErrNotComplete"),
         notice(MSG_UpdateErrorNotSupported, "UpdateErrNotSupport"),
     };
+}
+
+QMap<ENUM_MenuIndex, ST_DialogInfo> menuDialogs()
+{
     QMap<ENUM_MenuIndex, ST_DialogInfo> dialogs;
-    for (const Dialog &row : rows)
+    for (const Dialog &row : menuDialogRows())
         dialogs.insert(row.first, row.second);
     return dialogs;
 }

@@ -200,7 +200,7 @@ void ParaChange::tail()
 const QVector<ApplyFamily> &applyFamilies()
 {
     static const QVector<ApplyFamily> families{
-        plainFamily(),    commandFamily(),       displayFamily(),      testPatternFamily(), outputFamily(),
+        keptFamily(),     commandFamily(),       displayFamily(),      testPatternFamily(), outputFamily(),
         stereoFamily(),   networkFamily(),       colourFamily(),       resetFamily(),       systemFamily(),
         workModeFamily(), inputFamily(),         outputReportFamily(), portFamily(),        layersFamily(),
         sourceFamily(),   geometryFamily(),      layoutFamily(),       cropFamily(),        splicingFamily(),

@@ -86,7 +86,7 @@ struct ApplyCase {
     void (*apply)(ParaChange &change);
 };
 
-/// The case of an item, null if it has none.
+/// The case of an item, null for a plain one, which has nothing but a tail.
 const ApplyCase *findApplyCase(ENUM_MenuIndex index);
 
 struct ApplyFamily {
@@ -97,7 +97,7 @@ struct ApplyFamily {
 const QVector<ApplyFamily> &applyFamilies();
 
 // The families, each a table in a file of its own.
-ApplyFamily plainFamily();
+ApplyFamily keptFamily();
 ApplyFamily commandFamily();
 ApplyFamily displayFamily();
 ApplyFamily testPatternFamily();

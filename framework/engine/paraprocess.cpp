@@ -28,7 +28,6 @@ int ParaProcess::m_CopySceneNum = -1;
 
 namespace
 {
-constexpr int lastInfoIndex = 3234; ///< behind it stand process data and messages, which are no items
 constexpr unsigned char noLayer = 255;
 
 /// The picture of the home screen by the display mode of the process data.
@@ -55,7 +54,8 @@ QString ParaProcess::GetParaFromIndex(ENUM_MenuIndex index) const
 
 bool ParaProcess::GetInfoFromIndex(ENUM_MenuIndex index, ST_ItemInfo &item) const
 {
-    if (index <= lastInfoIndex)
+    // Behind them stand process data and messages, which are no items.
+    if (index < PARA_CabinetWidth)
         if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
             store->GetMenuItem(index, item);
     return true;
@@ -120,6 +120,8 @@ void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SE
         return;
     if (const ApplyCase *found = findApplyCase(index))
         found->apply(change);
+    else
+        change.tail();
 }
 
 MenuAnalysis *ParaProcess::neededStore()

@@ -53,8 +53,7 @@ void Proto3rdSend::deleteInstance()
 
 Proto3rdSend::Proto3rdSend() : VaskObject(ENUM_PROTO3RD_SEND)
 {
-    for (const SendFamily &family : {screenRows(), displayRows(), outputRows(), systemRows(), presetRows(),
-                                     layerRows(), inputRows(), gammaRows()})
+    for (const SendFamily &family : sendFamilies())
         addRows(family);
     CreateObjectToPool(ENUM_PROTO3RD_SEND, this);
     lookForPeers();

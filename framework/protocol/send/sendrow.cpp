@@ -37,6 +37,13 @@ int SendChange::sendBytes(const QByteArray &data) const
     return send(package(data));
 }
 
+const QVector<SendFamily> &sendFamilies()
+{
+    static const QVector<SendFamily> families{screenRows(), displayRows(), outputRows(), systemRows(),
+                                              presetRows(), layerRows(),   inputRows(),  gammaRows()};
+    return families;
+}
+
 int sendPlain(const SendChange &change)
 {
     QByteArray data;

@@ -107,6 +107,9 @@ struct SendFamily {
     const SendRow *rows;
     int count;
 };
+/// All of them; no item stands in two.
+const QVector<SendFamily> &sendFamilies();
+
 SendFamily screenRows();
 SendFamily displayRows();
 SendFamily outputRows();

@@ -17,14 +17,13 @@ using namespace storerig;
 namespace
 {
 enum File { CONFIG = 1, BACKUP = 2, FACTORY = 4 };
-enum { ITEMS = 408 };
 
 bool isWhole(const QString &name)
 {
     const QByteArray bytes = contents(name);
     return bytes.startsWith("<?xml") && bytes.endsWith("</MenuItemList>\n") &&
-           bytes.count("<Items Index=") == ITEMS && !bytes.contains('\xFF') && !bytes.contains('\0') &&
-           !bytes.contains("DOCTYPE");
+           bytes.count("<Items Index=") == g_MenuXmlConfig.size() && !bytes.contains('\xFF') &&
+           !bytes.contains('\0') && !bytes.contains("DOCTYPE");
 }
 
 using Damage = std::function<QByteArray(QByteArray)>;

@@ -1,0 +1,127 @@
+// A number stands for one thing: among the names of a number space, and among the rows of a table. Read from
+// the headers, so that what fails is told by its names.
+
+#include "menu/itemindex.h"
+#include "menu/tables.h"
+#include "tests/testprogram.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QtTest>
+
+using namespace VASK;
+
+namespace
+{
+/// A file of the sources without its comments.
+QString source(const QString &name)
+{
+    QFile file(qEnvironmentVariable("FPD_SOURCES") + '/' + name);
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(file.readAll()).remove(QRegularExpression("//[^\n]*"));
+}
+
+/// The entries "NAME = VALUE" of an enumeration.
+QStringList entriesOf(const QString &header, const QString &enumeration)
+{
+    const QString body =
+        QRegularExpression("enum " + enumeration + "[^{]*\\{([^}]*)\\}").match(source(header)).captured(1);
+    QStringList entries = body.split(',', Qt::SkipEmptyParts);
+    for (QString &entry : entries)
+        entry = entry.simplified();
+    entries.removeAll(QString());
+    return entries;
+}
+
+QString nameOf(int item)
+{
+    for (const QString &entry : entriesOf("menu/itemindex.h", "ENUM_MenuIndex"))
+        if (entry.endsWith(" = " + QString::number(item)))
+            return entry;
+    return QString::number(item);
+}
+
+/// The names that share a place with one before them.
+template <class Key> class Places
+{
+public:
+    void take(const Key &place, const QString &name)
+    {
+        if (m_names.contains(place))
+            m_doubled << m_names.value(place) + " and " + name;
+        m_names[place] = name;
+    }
+    QString doubled() const { return m_doubled.join('\n'); }
+    bool isEmpty() const { return m_names.isEmpty(); }
+
+private:
+    QMap<Key, QString> m_names;
+    QStringList m_doubled;
+};
+} // namespace
+
+class TestMenuNumbers : public QObject
+{
+    Q_OBJECT
+private slots:
+    void namesHaveNumbersOfTheirOwn_data()
+    {
+        QTest::addColumn<QString>("header");
+        QTest::newRow("ENUM_MenuIndex") << "menu/itemindex.h";
+        QTest::newRow("ENUM_ObjectIndex") << "menu/objectindex.h";
+        QTest::newRow("ENUM_ConfigIndex") << "menu/pageindex.h";
+        QTest::newRow("ENUM_KeyCode") << "menu/keycodes.h";
+        QTest::newRow("ENUM_LedIndex") << "menu/ledindex.h";
+        QTest::newRow("RegisterAddress") << "framework/protocol/packet/registeraddress.h";
+    }
+    void namesHaveNumbersOfTheirOwn()
+    {
+        QFETCH(QString, header);
+        static const QRegularExpression otherName("^\\w+ = [A-Z]\\w*( \\+ 1)?$"); // meant to be the same
+        Places<int> places;
+        for (const QString &entry : entriesOf(header, QTest::currentDataTag())) {
+            if (otherName.match(entry).hasMatch())
+                continue;
+            bool isNumber = false;
+            const int number = entry.section(" = ", 1).toInt(&isNumber, 0);
+            QVERIFY2(isNumber, qPrintable("no number: " + entry));
+            places.take(number, entry);
+        }
+        QVERIFY(!places.isEmpty());
+        QCOMPARE(places.doubled(), QString());
+    }
+
+    /// Registers may begin at one address; those that also end together are one.
+    void registersStandOnce()
+    {
+        static const QRegularExpression row("FPD_(WRITE|READ)\\w*\\((\\w+), ([^)]*)\\)");
+        Places<QString> places;
+        auto found = row.globalMatch(source("framework/protocol/packet/registercatalogue.def"));
+        while (found.hasNext()) {
+            const QRegularExpressionMatch match = found.next();
+            if (match.captured(3) != "address" && match.captured(3).startsWith("0x"))
+                places.take(match.captured(1) + ' ' + match.captured(3), match.captured(2));
+        }
+        QVERIFY(!places.isEmpty());
+        QCOMPARE(places.doubled(), QString());
+    }
+
+    void rowsStandOnce()
+    {
+        Places<int> items, messages;
+        for (const ST_ItemInfo &item : menuItemRows()) {
+            items.take(item.index, nameOf(item.index) + " \"" + item.tag + '"');
+            QVERIFY2(item.index < PARA_CabinetWidth,
+                     qPrintable(nameOf(item.index) + " lies among the values that are no items"));
+        }
+        for (const auto &message : menuDialogRows())
+            messages.take(message.first, nameOf(message.first) + " \"" + message.second.text + '"');
+        QCOMPARE(items.doubled(), QString());
+        QCOMPARE(messages.doubled(), QString());
+    }
+};
+
+FPD_TEST_GUILESS(TestMenuNumbers)
+
+#include "tst_menunumbers.moc"
