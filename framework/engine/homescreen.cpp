@@ -114,9 +114,6 @@ void ParaProcess::UpdataDevRename()
     if (mark != renamedMark)
         return;
     // The text of the address gives way to the name in turn: it is shown again as it is.
-    MainWindow::m_mutex.lock();
-    const QString ip = MainWindow::m_strIp;
-    MainWindow::m_mutex.unlock();
-    m_pMainWindow->SetIp(ip);
+    m_pMainWindow->SetIp(m_pMainWindow->ip());
 }
 } // namespace VASK

@@ -7,6 +7,7 @@
 #include "framework/store/menuanalysis.h"
 #include "framework/thread/handover.h"
 #include "menu/itemindex.h"
+#include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
 
@@ -20,8 +21,8 @@ void leaveFiberMode(ParaChange &change)
     MainWindow *home = change.home();
     runOnGui(home, [home] {
         GlobalTimer::getInstance()->ChangeMainWindow(home);
-        if (MainWindow::m_pMainMenu)
-            MainWindow::m_pMainMenu->m_pparerentdirectory = home;
+        if (auto *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU))
+            menu->m_pparerentdirectory = home;
         // A panel that has started as a fiber converter shows nothing; with no page in front the home screen
         // is the only way back.
         const QWidget *active = QApplication::activeWindow();

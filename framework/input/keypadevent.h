@@ -2,6 +2,8 @@
 // function. Made on the keypad or the timer thread, delivered on the GUI thread to the active window.
 #pragma once
 
+#include "menu/keycodes.h"
+
 #include <QEvent>
 
 namespace VASK
@@ -35,4 +37,10 @@ private:
     unsigned char m_speed;
     bool m_longPress;
 };
+
+/// The made-up key of what leaves a page in the user's place.
+inline KeypadEvent madeUpEsc()
+{
+    return {KEY_RELEASED, KEY_ESC, 1, false};
+}
 } // namespace VASK

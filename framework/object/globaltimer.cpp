@@ -1,10 +1,10 @@
 #include "framework/object/globaltimer.h"
 
+#include "framework/engine/brightnessedit.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keypadevent.h"
 #include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
-#include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
@@ -78,7 +78,7 @@ void GlobalTimer::slot_ReturnToMain()
         return;
     }
     leavePage(active);
-    endBrightnessEdit();
+    BrightnessEdit::end();
     qDebug() << "m_pmainwindow:" << m_pmainwindow << "GlobalTimer::slot_ReturnToMain" << m_returnMainWindow
              << m_returnTimeMs;
     if (m_pmainwindow)
@@ -97,7 +97,7 @@ void GlobalTimer::leavePage(QWidget *activeWindow)
     auto *page = qobject_cast<MenuDirectory *>(activeWindow);
     if (!page)
         return;
-    KeypadEvent escape(KEY_RELEASED, KEY_ESC, 1, false);
+    KeypadEvent escape = madeUpEsc();
     page->keypadEScEvent(&escape);
     MenuDirectory::setNoPage();
     QWidget *now = QApplication::activeWindow();
@@ -107,13 +107,4 @@ void GlobalTimer::leavePage(QWidget *activeWindow)
     MenuDirectory::hideAllPages();
 }
 
-/// A brightness that was being edited is saved like one whose edit was ended.
-void GlobalTimer::endBrightnessEdit()
-{
-    if (!MenuDirectory::bSetScreenBrightness)
-        return;
-    if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_SavetoRVCard))
-        row->CallProtocol("", MENU_SavetoRVCard);
-    MenuDirectory::bSetScreenBrightness = false;
-}
 } // namespace VASK

@@ -36,7 +36,6 @@ private:
 
     int readReturnTime() const;
     void leavePage(QWidget *activeWindow);
-    void endBrightnessEdit();
 
     int m_returnTimeMs = 60;
     QTimer *m_returnMainWindow = nullptr;

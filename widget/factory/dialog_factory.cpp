@@ -12,7 +12,7 @@
 #include "widget/factory/devcheckwin.h"
 #include "widget/look.h"
 #include "widget/menulook.h"
-#include "widget/page/menudirectoty.h"
+#include "widget/page/testwindows.h"
 
 #include <QDebug>
 #include <QHeaderView>
@@ -229,5 +229,5 @@ void Factory::SelfTestDone(KeypadEvent *event)
     if (event->type() != KEY_PRESSED)
         InitDisp(FACTORY_STEP_KEYS);
     else
-        MenuDirectory::showSelfCheck(this, true);
+        TestWindows::showSelfCheckOfTest(*this);
 }

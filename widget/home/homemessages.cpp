@@ -1,13 +1,8 @@
-// Messages that come up by themselves, and the way back to the home screen from outside.
-
-#include "widget/home/mainwindow_k2860.h"
+#include "widget/home/homemessages.h"
 
 #include "framework/engine/paraprocess.h"
 #include "framework/productiontest/productiontest.h"
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
 #include "menu/objectindex.h"
-#include "widget/page/menudirectoty.h"
 
 #include <memory>
 
@@ -15,9 +10,6 @@ using namespace VASK;
 
 namespace
 {
-/// How a message is closed that another one replaces.
-constexpr int replaced = 2;
-
 /// Error codes in the place of a progress, in hundredths of a per cent.
 struct UpdateError {
     quint16 code;
@@ -35,58 +27,40 @@ constexpr quint8 updateEnds = 1;
 
 constexpr int backupSteps = 4;
 constexpr qint8 stableSignal = 3;
-} // namespace
 
-int MainWindow::runMessage(ENUM_MenuIndex index)
-{
-    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    const std::unique_ptr<QDialog> message(engine ? engine->CreateDialog(index, QString()) : nullptr);
-    if (!message) {
-        qDebug() << "qDialog create faild! index:" << int(index);
-        return -1;
-    }
-    return message->exec();
-}
-
-QDialog *MainWindow::openMessage(ENUM_MenuIndex index, const QString &text)
+QDialog *create(ENUM_MenuIndex index, const QString &text)
 {
     auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     QDialog *message = engine ? engine->CreateDialog(index, text) : nullptr;
-    if (!message) {
+    if (!message)
         qDebug() << "qDialog create faild! index:" << int(index);
+    return message;
+}
+} // namespace
+
+void HomeMessages::run(ENUM_MenuIndex index)
+{
+    const std::unique_ptr<QDialog> message(create(index, QString()));
+    if (message)
+        message->exec();
+}
+
+/// A message that stays until its owner or the user closes it.
+QDialog *HomeMessages::open(ENUM_MenuIndex index, const QString &text)
+{
+    QDialog *message = create(index, text);
+    if (!message)
         return nullptr;
-    }
     message->setAttribute(Qt::WA_DeleteOnClose);
     message->show();
     return message;
 }
 
-void MainWindow::slot_SetWinodwState(qint32 window, qint32 state)
-{
-    SetWindowState(ENUM_MainWindowWindowIndex(window), ENUM_CommonState(state));
-}
-
-void MainWindow::slot_SetLayerState(qint32 layer, qint32 state)
-{
-    SetLayerState(ENUM_MainWindowLayerIndex(layer), ENUM_MainWindowLayerState(state));
-}
-
-void MainWindow::slot_SetResState(qint32 layer, QString resolution)
-{
-    qDebug() << "SetLayerRes enum_MainWindowLayerIndex:" << layer << "layerResStr:" << resolution;
-    SetLayerRes(ENUM_MainWindowLayerIndex(layer), resolution);
-}
-
-void MainWindow::slot_SetSynModeState(qint32 state)
-{
-    SetSynModeState(ENUM_MainWindowSynState(state));
-}
-
-void MainWindow::slot_SetSynModeState(qint8 signalState, QString text)
+void HomeMessages::syncState(qint8 signalState, const QString &text)
 {
     const bool problem = text == QLatin1String("4");
     if (problem && !m_syncProblem && !m_syncDialog)
-        m_syncDialog = openMessage(signalState == stableSignal ? MSG_SyncMismatchTip : MSG_SyncNoSignalTip);
+        m_syncDialog = open(signalState == stableSignal ? MSG_SyncMismatchTip : MSG_SyncNoSignalTip);
     if (!problem && m_syncDialog) {
         m_syncDialog->done(replaced);
         m_syncDialog.clear(); // it dies later only
@@ -94,53 +68,42 @@ void MainWindow::slot_SetSynModeState(qint8 signalState, QString text)
     m_syncProblem = problem;
 }
 
-void MainWindow::slot_popup_window(quint32 index)
+void HomeMessages::factoryReset()
 {
-    runMessage(ENUM_MenuIndex(index));
+    run(MSG_IsResetting);
+    run(MSG_ResetSucceed);
 }
 
-void MainWindow::slot_CreateDialog()
-{
-    runMessage(MSG_Waiting);
-}
-
-void MainWindow::slot_FactoryRest()
-{
-    runMessage(MSG_IsResetting);
-    runMessage(MSG_ResetSucceed);
-}
-
-void MainWindow::slot_softDeviceBackup(quint8 step)
+void HomeMessages::deviceBackup(quint8 step)
 {
     qDebug() << "qDialog->exex()";
     if (step < backupSteps)
-        runMessage(ENUM_MenuIndex(MSG_DeviceBackupFirst + step));
+        run(ENUM_MenuIndex(MSG_DeviceBackupFirst + step));
 }
 
-void MainWindow::slot_softDeviceRestore(quint8 step)
+void HomeMessages::deviceRestore(quint8 step)
 {
     qDebug() << "qDialog->exex()";
     if (step < backupSteps)
-        runMessage(ENUM_MenuIndex(MSG_DeviceRestoreFirst + step));
+        run(ENUM_MenuIndex(MSG_DeviceRestoreFirst + step));
 }
 
-void MainWindow::slot_soft_calibrate(quint8 state)
+void HomeMessages::calibration(quint8 state)
 {
     qDebug() << "========calibrateing========";
     if (state == 1) {
-        if (!CalibratingDialog)
-            CalibratingDialog = openMessage(MSG_SoftCalibrating);
-    } else if (state == 0 && CalibratingDialog) {
-        delete CalibratingDialog;
-        runMessage(MSG_SoftCalibrateExit);
+        if (!m_calibrating)
+            m_calibrating = open(MSG_SoftCalibrating);
+    } else if (state == 0 && m_calibrating) {
+        delete m_calibrating;
+        run(MSG_SoftCalibrateExit);
     }
 }
 
-void MainWindow::slot_update(quint8 mode, quint16 count)
+void HomeMessages::update(quint8 mode, quint16 count)
 {
-    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || ProductionTest::runs())
+    if (!ObjectPool::getInstance()->IsExist(ENUM_MAIN_MENU) || ProductionTest::runs())
         return;
-    m_updateRunning = true;
     qDebug() << "slot_update == " << mode << count;
     if (mode != updateRuns && mode != updateEnds)
         return;
@@ -158,62 +121,7 @@ void MainWindow::slot_update(quint8 mode, quint16 count)
     }
     // The next message comes up before the last one goes: no flash of what lies below.
     const QPointer<QDialog> last = m_updateDialog;
-    m_updateDialog = openMessage(message, progress);
+    m_updateDialog = open(message, progress);
     if (last)
         last->done(replaced);
-}
-
-void MainWindow::slot_ReturnToMainSoft(bool mode)
-{
-    qDebug() << "slot_ReturnToMain!!!!!!";
-    if (ProductionTest::runs())
-        return;
-    if (m_bLockFlag) {
-        if (!mode)
-            lock_mode = true;
-        else if (lock_mode)
-            SetLockState(PANEL_UNLOCK, true);
-    } else if (!mode) {
-        if (!isVisible() || QApplication::activeModalWidget())
-            leaveForHome();
-        SetLockState(PANEL_LOCK, true);
-        lock_mode = true;
-    }
-    endBrightnessEdit();
-}
-
-void MainWindow::leaveForHome()
-{
-    qDebug() << "slot_ReturnToMain start!!!!!!";
-    endDialogs();
-    QTimer::singleShot(0, this, &MainWindow::endDialogs); // also one that the ESC brings up
-    KeypadEvent esc(KEY_RELEASED, KEY_ESC, 1, false);
-    if (MenuDirectory *page = MenuDirectory::shownPage())
-        page->keypadEScEvent(&esc);
-    MenuDirectory::setNoPage();
-    MenuDirectory::hideAllPages();
-    qDebug() << "slot_ReturnToMain end!!!!!!";
-    show();
-}
-
-/// What a dialog has interrupted goes on when it is gone, and may have more to ask or to tell: until the last
-/// of them has come back from its event loop.
-void MainWindow::endDialogs()
-{
-    constexpr int programsOwnLoop = 1;
-    while (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-        qDebug() << "now in pDialog";
-        dialog->done(replaced);
-    }
-    if (QThread::currentThread()->loopLevel() > programsOwnLoop)
-        QTimer::singleShot(0, this, &MainWindow::endDialogs);
-}
-
-void MainWindow::endBrightnessEdit()
-{
-    if (!MenuDirectory::bSetScreenBrightness)
-        return;
-    if (auto *save = poolObject<VaskUiObject>(ENUM_ROW_SavetoRVCard))
-        save->CallProtocol(QString(), MENU_SavetoRVCard);
-    MenuDirectory::bSetScreenBrightness = false;
 }

@@ -1,18 +1,31 @@
-// What the home screen shows: a setter checks its arguments on the caller's thread and draws on the GUI
-// thread.
+#include "widget/home/homeview.h"
 
-#include "widget/home/mainwindow_k2860.h"
-
+#include "framework/object/objectpool.h"
 #include "framework/thread/handover.h"
-#include "menuconfig_k2860.h"
-#include "widget/home/mainwindowui.h"
-#include "widget/page/menudirectoty.h"
+#include "menu/objectindex.h"
+#include "widget/home/homepicture.h"
+#include "widget/page/keyleds.h"
+#include "widget/page/openpage.h"
+
+#include <QFile>
+#include <QPainter>
 
 using namespace VASK;
 
 namespace
 {
-const QString pictures = imgPath + "mainWindow/";
+/// What the layers show before the device has told anything.
+struct FirstLayer {
+    const char *source;
+    const char *resolution;
+    ENUM_MainWindowLayerState signal;
+    ENUM_CommonState window;
+};
+constexpr FirstLayer firstLayers[] = {
+    {"HDMI1", "1920x1080@29.99", LAYER_ON, COMMON_ON},
+    {"SDI", "1920x1080@29.9", LAYER_ON, COMMON_OFF},
+    {"MOSAIC", "1920x1080@29", LAYER_NO_SIGNAL, COMMON_ON},
+};
 
 bool isLayer(int index)
 {
@@ -30,45 +43,91 @@ template <size_t count> const char *fileOf(const char *const (&files)[count], in
     qDebug() << failure << state;
     return nullptr;
 }
+
+/// The labels stand before all else: setters may come as soon as the home screen is in the pool.
+Ui_MainWindow setUp(QWidget &window)
+{
+    Ui_MainWindow ui;
+    ui.setupUi(&window);
+    ui.labLock->hide();
+    return ui;
+}
 } // namespace
 
-bool MainWindow::setPicture(QLabel *label, const QString &path, const char *failure)
+HomeView::HomeView(QWidget &window)
+    : m_window(window), m_ui(setUp(window)), m_address(window, *m_ui.labIp), m_ports(m_ui.labNet)
 {
-    const QPixmap picture(path);
-    if (picture.isNull()) {
-        qDebug() << failure << path;
-        return false;
-    }
-    label->setPixmap(picture);
-    return true;
 }
 
-bool MainWindow::SetWindowName(ENUM_MainWindowWindowIndex window, QString name)
+bool HomeView::loadPictures()
+{
+    const QString background = homePicturePath("K2860-bg.png");
+    if (!m_background.load(background))
+        qDebug() << "Set MainWindowBackGround image fail:" << background;
+    if (showHomePicture(m_ui.labLock, "lock.png", "image load faild! imagePath:"))
+        return true;
+    qDebug() << "setLockState image fail";
+    return false;
+}
+
+void HomeView::showFirstValues()
+{
+    m_address.setAddress("192.168.0.10");
+    m_address.setName(QString());
+    for (int layer = 0; layer < LAYER_COUNT; ++layer) {
+        setLayerName(layer, firstLayers[layer].source);
+        setLayerRes(layer, firstLayers[layer].resolution);
+        setLayerState(layer, firstLayers[layer].signal);
+    }
+    for (int layer = 0; layer < LAYER_COUNT; ++layer) {
+        Ui_MainWindow::showKey(m_ui.labWindowOffDisplay[layer], "Inactive");
+        setWindowState(layer, firstLayers[layer].window);
+    }
+    setScreenRes("1920x1080@29.99");
+}
+
+void HomeView::paint(QWidget &window) const
+{
+    QPainter(&window).drawPixmap(0, 0, m_background);
+}
+
+void HomeView::tick()
+{
+    m_address.tick();
+    m_ports.tick();
+}
+
+void HomeView::setText(QLabel *label, const QString &text)
+{
+    runOnGui(&m_window, [label, text] { label->setText(text); });
+}
+
+bool HomeView::setWindowName(int window, const QString &name)
 {
     if (!isLayer(window))
         return false;
-    runOnGui(this, [this, window, name] { ui->labWindow[window]->setText(name); });
+    setText(m_ui.labWindow[window], name);
     return true;
 }
 
-bool MainWindow::SetLayerName(ENUM_MainWindowLayerIndex layer, QString name)
+bool HomeView::setLayerName(int layer, const QString &name)
 {
     if (!isLayer(layer))
         return false;
-    runOnGui(this, [this, layer, name] { Ui_MainWindow::showKey(ui->labLayerSrc_Name[layer], name); });
+    runOnGui(&m_window, [this, layer, name] { Ui_MainWindow::showKey(m_ui.labLayerSrc_Name[layer], name); });
     return true;
 }
 
-bool MainWindow::SetLayerRes(ENUM_MainWindowLayerIndex layer, QString resolution)
+bool HomeView::setLayerRes(int layer, const QString &resolution)
 {
     if (!isLayer(layer))
         return false;
-    runOnGui(this,
-             [this, layer, resolution] { Ui_MainWindow::showText(ui->labLayerSrc_Res[layer], resolution); });
+    runOnGui(&m_window,
+             [this, layer, resolution] { Ui_MainWindow::showText(m_ui.labLayerSrc_Res[layer], resolution); });
     return true;
 }
 
-bool MainWindow::SetWindowState(ENUM_MainWindowWindowIndex window, ENUM_CommonState state)
+bool HomeView::setWindowState(int window, ENUM_CommonState state)
 {
     if (!isLayer(window))
         return false;
@@ -76,22 +135,22 @@ bool MainWindow::SetWindowState(ENUM_MainWindowWindowIndex window, ENUM_CommonSt
         qDebug() << "State is invalid:" << state;
         return false;
     }
-    runOnGui(this, [this, window, state] { showWindowState(window, state == COMMON_ON); });
+    runOnGui(&m_window, [this, window, state] { showWindowState(window, state == COMMON_ON); });
     return true;
 }
 
-void MainWindow::showWindowState(int window, bool on)
+void HomeView::showWindowState(int window, bool on)
 {
-    Ui_MainWindow::setSwitch(ui->labWindow[window], on);
-    ui->labLayerSrc_Name[window]->setVisible(on);
-    ui->labLayerSrc_Res[window]->setVisible(on);
-    ui->labWindowOffDisplay[window]->setVisible(!on);
-    if (m_pMainMenu)
-        MenuDirectory::UpdateLayerLedStatus(MenuDirectory::m_currentLayer);
-    UpdateSourceLedStatus();
+    Ui_MainWindow::setSwitch(m_ui.labWindow[window], on);
+    m_ui.labLayerSrc_Name[window]->setVisible(on);
+    m_ui.labLayerSrc_Res[window]->setVisible(on);
+    m_ui.labWindowOffDisplay[window]->setVisible(!on);
+    if (ObjectPool::getInstance()->IsExist(ENUM_MAIN_MENU))
+        showLayerLeds(OpenPage::layer());
+    showSourceLeds();
 }
 
-bool MainWindow::SetLayerState(ENUM_MainWindowLayerIndex layer, ENUM_MainWindowLayerState state)
+bool HomeView::setLayerState(int layer, ENUM_MainWindowLayerState state)
 {
     if (!isLayer(layer))
         return false;
@@ -99,186 +158,105 @@ bool MainWindow::SetLayerState(ENUM_MainWindowLayerIndex layer, ENUM_MainWindowL
         qDebug() << "layer state is invalid:" << state;
         return false;
     }
-    runOnGui(this, [this, layer, state] { showLayerState(layer, state == LAYER_ON); });
+    runOnGui(&m_window, [this, layer, state] { showLayerState(layer, state == LAYER_ON); });
     return true;
 }
 
-void MainWindow::showLayerState(int layer, bool on)
+void HomeView::showLayerState(int layer, bool on)
 {
-    const QString path = pictures + (on ? "layer_on.png" : "layer_off.png");
+    const QString path = homePicturePath(on ? "layer_on.png" : "layer_off.png");
     if (QFile::exists(path)) {
         const QString style = Ui_MainWindow::sourceNameStyle(path);
-        if (ui->labLayerSrc_Name[layer]->styleSheet() != style)
-            ui->labLayerSrc_Name[layer]->setStyleSheet(style);
+        if (m_ui.labLayerSrc_Name[layer]->styleSheet() != style)
+            m_ui.labLayerSrc_Name[layer]->setStyleSheet(style);
     } else {
         qDebug() << "load ICON fail, path:" << path;
     }
     if (!on)
-        Ui_MainWindow::showKey(ui->labLayerSrc_Res[layer], "No Signal");
-    UpdateSourceLedStatus();
+        Ui_MainWindow::showKey(m_ui.labLayerSrc_Res[layer], "No Signal");
+    showSourceLeds();
 }
 
-bool MainWindow::SetSynMode(QString source)
+bool HomeView::setSynMode(const QString &source)
 {
-    runOnGui(this, [this, source] { ui->labSynName->setText(source); });
+    setText(m_ui.labSynName, source);
     return true;
 }
 
-bool MainWindow::SetSynModeState(ENUM_MainWindowSynState state)
+bool HomeView::setSynModeState(ENUM_MainWindowSynState state)
 {
     qDebug() << "SetSynModeState start!!! == " << state;
     if (state < SYN_ON || state > SYN_FAILED) {
         qDebug() << "SynState is invalid:" << state;
         return false;
     }
-    runOnGui(this, [this, state] { showSynState(state); });
+    runOnGui(&m_window, [this, state] { showSynState(state); });
     qDebug() << "SetSynModeState end!!!";
     return true;
 }
 
-void MainWindow::showSynState(ENUM_MainWindowSynState state)
+void HomeView::showSynState(ENUM_MainWindowSynState state)
 {
     static const char *const files[] = {"syn_on.png", "syn_off.png", "syn_wait.png", "syn_fail.png"};
-    setPicture(ui->labSyn, pictures + files[state], "Set QLabel Icon fail, path:");
-    Ui_MainWindow::setSwitch(ui->labSyn, state != SYN_OFF);
-    Ui_MainWindow::setSwitch(ui->labSynName, state != SYN_OFF);
+    showHomePicture(m_ui.labSyn, files[state], "Set QLabel Icon fail, path:");
+    Ui_MainWindow::setSwitch(m_ui.labSyn, state != SYN_OFF);
+    Ui_MainWindow::setSwitch(m_ui.labSynName, state != SYN_OFF);
 }
 
-bool MainWindow::SetConnectState(ENUM_MainWindowConnectState state)
+bool HomeView::setConnectState(ENUM_MainWindowConnectState state)
 {
     static const char *const files[] = {"2960-Net_connected.png", "2960-USBLoop.png",
                                         "2960-Net_unconnected.png", "2960-USB.png"};
     const char *file = fileOf(files, state, "connect state is invalid:");
     if (!file)
         return false;
-    runOnGui(this,
-             [this, file] { setPicture(ui->labConnectState, pictures + file, "load ICON fail, path:"); });
+    runOnGui(&m_window,
+             [this, file] { showHomePicture(m_ui.labConnectState, file, "load ICON fail, path:"); });
     return true;
 }
 
-bool MainWindow::SetTestMode(ENUM_MainWindowTESTMode mode)
+bool HomeView::setTestMode(ENUM_MainWindowTESTMode mode)
 {
     static const char *const files[] = {"2960-Test_Normal.png", "2960-Test_Test.png", "2960-Test_FRZ.png",
                                         "2960-Test_Black.png"};
     const char *file = fileOf(files, mode, "No this test mode:");
     if (!file)
         return false;
-    runOnGui(this, [this, file] { setPicture(ui->labTestMode, pictures + file, "load ICON fail, path:"); });
+    runOnGui(&m_window, [this, file] { showHomePicture(m_ui.labTestMode, file, "load ICON fail, path:"); });
     return true;
 }
 
-bool MainWindow::SetNetState(ENUM_MainWindowNetIndex port, ENUM_MainWindowNetState state)
+bool HomeView::setNetState(ENUM_MainWindowNetIndex port, ENUM_MainWindowNetState state)
 {
     if (port < NET_PORT1 || port >= NET_PORT_COUNT || state < NET_DISABLED || state >= NET_STATE_NONE) {
         qDebug() << "net state is invalid:" << port << state;
         return false;
     }
-    runOnGui(this, [this, port, state] { showNetState(port, state); });
+    runOnGui(&m_window, [this, port, state] { m_ports.show(port, state); });
     return true;
 }
 
-void MainWindow::showNetState(int port, ENUM_MainWindowNetState state)
-{
-    if (m_netStates[port] == state)
-        return;
-    static const char *const files[] = {"port%1_disable.png", "port%1_enable.png",
-                                        "hotbackupport%1_enable.png", "hotbackupport%1_enable.png"};
-    // A picture that is missing leaves the state, so that the next call tries again.
-    if (showNetPicture(port, files[state]))
-        m_netStates[port] = state;
-}
-
-bool MainWindow::showNetPicture(int port, const QString &name)
-{
-    return setPicture(m_netLabels[port], pictures + QString(name).replace("%1", QString::number(port + 1)),
-                      "set net State faild,path:");
-}
-
-bool MainWindow::SetOPTWorkMode(ENUM_MainWindowOPTWorkMode mode)
+/// The screen of this model has no label for it.
+bool HomeView::setOptWorkMode(ENUM_MainWindowOPTWorkMode mode) const
 {
     static const char *const files[] = {"opt_copy.png", "opt_backup.png"};
-    const char *file = fileOf(files, mode, "opt work mode is invalid:");
-    if (!file)
-        return false;
-    // The screen of this model has no label for it.
-    runOnGui(this, [this, file] { m_optPicture = pictures + file; });
+    return fileOf(files, mode, "opt work mode is invalid:");
+}
+
+bool HomeView::setDevNameState(ENUM_CommonState state)
+{
+    runOnGui(&m_window, [this, state] { m_ui.labDeviceName->setVisible(state != COMMON_OFF); });
     return true;
 }
 
-bool MainWindow::SetIp(QString ip)
+bool HomeView::setScreenRes(const QString &resolution)
 {
-    {
-        QMutexLocker lock(&m_mutex);
-        m_strIp = ip;
-    }
-    runOnGui(this, [this, ip] { Ui_MainWindow::showKey(ui->labIp, ip); });
+    setText(m_ui.labScreenRes, resolution);
     return true;
 }
 
-bool MainWindow::SetDeviceRename(QString name)
+bool HomeView::setBrightness(const QString &brightness)
 {
-    QString ip;
-    {
-        QMutexLocker lock(&m_mutex);
-        m_strDeviceRename = name;
-        ip = m_strIp;
-    }
-    // Without a name the address must not stay hidden behind the last one.
-    if (name.isEmpty())
-        runOnGui(this, [this, ip] { Ui_MainWindow::showKey(ui->labIp, ip); });
+    setText(m_ui.labBright, brightness);
     return true;
-}
-
-bool MainWindow::SetDevNameState(ENUM_CommonState state)
-{
-    runOnGui(this, [this, state] { ui->labDeviceName->setVisible(state != COMMON_OFF); });
-    return true;
-}
-
-bool MainWindow::SetScreenRes(QString resolution)
-{
-    runOnGui(this, [this, resolution] { ui->labScreenRes->setText(resolution); });
-    return true;
-}
-
-bool MainWindow::SetBrightNess(QString brightness)
-{
-    runOnGui(this, [this, brightness] { ui->labBright->setText(brightness); });
-    return true;
-}
-
-bool MainWindow::SetdeviceStartComplate()
-{
-    m_deviceStartComplate = true;
-    return true;
-}
-
-/// Once a second: the address in turn with the device's name, and the ports that run on their backup.
-void MainWindow::slot_Twinkledisplay()
-{
-    static unsigned ticks = 0;
-    if (++ticks % 2 == 0) {
-        QMutexLocker lock(&m_mutex);
-        if (!m_strDeviceRename.isEmpty()) {
-            if (m_namePhase)
-                Ui_MainWindow::showText(ui->labIp, m_strDeviceRename);
-            else
-                Ui_MainWindow::showKey(ui->labIp, m_strIp);
-            m_namePhase = !m_namePhase;
-        }
-    }
-    bool blinking = false;
-    for (int port = 0; port < m_netStates.size(); ++port) {
-        if (m_netStates[port] != NET_BACKUP_BLINKING)
-            continue;
-        blinking = true;
-        showNetPicture(port, m_blinkPhase ? "hotbackupport%1_enable.png" : "port%1_enable.png");
-    }
-    if (blinking)
-        m_blinkPhase = !m_blinkPhase;
-}
-
-void MainWindow::UpdateSourceLedStatus()
-{
-    MenuDirectory::UpdateSourceLedStatus();
 }

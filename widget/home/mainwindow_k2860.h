@@ -1,7 +1,9 @@
-// The home screen: the live state of layers, screen, ports, synchronisation, address and connection. It shows
-// state and never edits it; its keys open the menus, switch sources and layers, or lock the panel. It lives
-// on the GUI thread. The setters may be called from the report thread too: a setter checks its arguments at
-// once and hands the drawing over. The slots are reached by queued signals.
+// The home screen, as the rest of the panel knows it: the live state of layers, screen, ports,
+// synchronisation, address and connection. It shows state and never edits it; its keys open the menus, switch
+// sources and layers, or lock the panel. What it does stands in the classes behind it: HomeView what it
+// shows, HomeKeys what the keys do, PanelLock the lock, HomeMessages what comes up by itself, TakeOver what a
+// PC does to it. It lives on the GUI thread. The setters may be called from the report thread too: a setter
+// checks its arguments at once and hands the drawing over. The slots are reached by queued signals.
 #pragma once
 
 #include "framework/input/keypadevent.h"
@@ -11,19 +13,15 @@
 #include "menu/objectindex.h"
 #include "widget/home/mainwindowstates.h"
 
-#include <QDialog>
-#include <QList>
-#include <QMutex>
-#include <QPixmap>
-#include <QPointer>
-#include <QTimer>
-#include <QVector>
 #include <atomic>
 #include <memory>
 
-class Lock;
-class QLabel;
-class Ui_MainWindow;
+class HomeKeys;
+class HomeMessages;
+class HomeView;
+class PanelLock;
+class QTimer;
+class TakeOver;
 
 namespace VASK
 {
@@ -37,9 +35,6 @@ class MainWindow : public VASK::VaskUiObject
 public:
     /// Period of everything that blinks on this screen, milliseconds.
     static constexpr int m_TwinkledisplayTimer = 1000;
-    /// How long the lock window stays, milliseconds.
-    static constexpr int lockDialogMs = 2000;
-
     explicit MainWindow(VASK::ENUM_ObjectIndex index);
     ~MainWindow() override;
 
@@ -83,20 +78,17 @@ public:
 
     bool event(QEvent *event) override;
 
-    static VASK::MenuDirectory *m_pMainMenu;
-    static VASK::MenuDirectory *m_pUserHideMenu;
-    static VASK::MenuDirectory *m_pProductHideMenu;
-    static VASK::transport *tran;
-    static std::atomic<bool> m_bLockFlag;
-    /// Changes came from outside while the panel was locked: the next unlock reads the device state again.
-    static bool lock_mode;
-    static QString m_strIp;
-    static QString m_strDeviceRename;
-    static std::atomic<bool> m_deviceStartComplate;
-    static QTimer *m_pTwinkledisplayTimer;
-    static QPointer<QDialog> CalibratingDialog;
-    /// Guards the text of the address.
-    static QMutex m_mutex;
+    /// The address that is shown and the user's name of the device. Any thread.
+    /// @{
+    QString ip() const;
+    QString deviceName() const;
+    /// @}
+    bool isLocked() const;
+    /// A PC had the panel or has it: the next unlock reads the device state again.
+    bool isTakenOver() const;
+    /// Both services of the device have told that they run. Any thread.
+    bool deviceStarted() const { return m_deviceStartComplate; }
+    void logMenus() const;
 
 public slots:
     void slot_SetWinodwState(qint32 window, qint32 state);
@@ -128,53 +120,16 @@ protected:
 
 private:
     bool findMenus();
-    void InitLayer();
-    void InitWindow();
-    void InitSynMode();
-    void InitNetState();
 
-    bool setPicture(QLabel *label, const QString &path, const char *failure);
-    bool showNetPicture(int port, const QString &name);
-    void showNetState(int port, ENUM_MainWindowNetState state);
-    void showWindowState(int window, bool on);
-    void showLayerState(int layer, bool on);
-    void showSynState(ENUM_MainWindowSynState state);
-    void storeLockState(ENUM_MainWindowLockState state);
-    void showLockDialog();
-    Lock *lockDialog();
-
-    struct HomeKey;
-    static const QVector<HomeKey> &homeKeys();
-    bool keyEvent(VASK::KeypadEvent *event);
-    void lockKey(VASK::KeypadEvent *event);
-    void knobKey(VASK::KeypadEvent *event);
-    void openMainMenu(VASK::KeypadEvent *event);
-    void chooseLanguage(VASK::KeypadEvent *event);
-    void changeLanguage(bool english);
-    void openUserMenu(VASK::KeypadEvent *event);
-    void openProductMenu(VASK::KeypadEvent *event);
-    void openMenu(VASK::ENUM_ObjectIndex object);
-    void startFactoryTest(VASK::KeypadEvent *event);
-
-    /// Runs a message and destroys it; its result, or -1 if there is no such message.
-    int runMessage(VASK::ENUM_MenuIndex index);
-    /// Shows a message that stays until its owner or the user closes it.
-    QDialog *openMessage(VASK::ENUM_MenuIndex index, const QString &text = {});
-    void leaveForHome();
-    void endDialogs();
-    void endBrightnessEdit();
-
-    std::unique_ptr<Ui_MainWindow> ui;
-    QPixmap m_background;
-    Lock *m_lockDialog = nullptr;
-    QTimer *m_lockTimer = nullptr;
-    bool m_updateRunning = false;
-    QPointer<QDialog> m_updateDialog;
-    bool m_syncProblem = false;
-    QPointer<QDialog> m_syncDialog;
-    QList<QLabel *> m_netLabels;
-    QList<ENUM_MainWindowNetState> m_netStates;
-    bool m_blinkPhase = true;
-    bool m_namePhase = true;
-    QString m_optPicture;
+    std::unique_ptr<HomeView> m_view;
+    std::unique_ptr<PanelLock> m_lock;
+    std::unique_ptr<HomeMessages> m_messages;
+    std::unique_ptr<HomeKeys> m_keys;
+    std::unique_ptr<TakeOver> m_takeOver;
+    VASK::MenuDirectory *m_pMainMenu = nullptr;
+    VASK::MenuDirectory *m_pUserHideMenu = nullptr;
+    VASK::MenuDirectory *m_pProductHideMenu = nullptr;
+    VASK::transport *tran = nullptr;
+    QTimer *m_pTwinkledisplayTimer = nullptr;
+    std::atomic<bool> m_deviceStartComplate{false};
 };

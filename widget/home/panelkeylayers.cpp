@@ -7,7 +7,8 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
-#include "widget/page/menudirectoty.h"
+#include "widget/page/keyleds.h"
+#include "widget/page/openpage.h"
 
 namespace VASK
 {
@@ -72,7 +73,7 @@ void keypadLayerLongEvent(QWidget *, unsigned char key)
     if (!isOn(*engine, layer))
         return;
     setRow(layer.statusRow, layer.status, off);
-    MenuDirectory::UpdateLayerLedStatus(MenuDirectory::m_currentLayer);
+    showLayerLeds(OpenPage::layer());
 }
 
 void keypadScaleEvent(QWidget *, unsigned char)

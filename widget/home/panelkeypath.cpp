@@ -5,6 +5,7 @@
 #include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
+#include "widget/page/openpage.h"
 
 namespace VASK
 {
@@ -21,7 +22,7 @@ bool openMenuPath(QWidget *screen, std::initializer_list<ENUM_ObjectIndex> path)
     // The main menu starts over; a preset that waits for its copy is given back, as on the way out.
     if (pages.first()->isEditing())
         pages.first()->keypadEScEvent(nullptr);
-    MenuDirectory::enableCopiedPreset();
+    OpenPage::enableCopiedPreset();
 
     QWidget *above = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
     for (int i = 0; i < pages.size(); ++i) {
@@ -36,7 +37,7 @@ bool openMenuPath(QWidget *screen, std::initializer_list<ENUM_ObjectIndex> path)
     target->show();
     if (screen != target)
         screen->hide();
-    MenuDirectory::setCurrentPage(*(path.end() - 1));
+    OpenPage::set(*(path.end() - 1));
     return true;
 }
 } // namespace VASK

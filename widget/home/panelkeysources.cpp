@@ -8,7 +8,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
-#include "widget/page/menudirectoty.h"
+#include "widget/page/openpage.h"
 
 namespace VASK
 {
@@ -69,10 +69,10 @@ void keypadSourceEvent(QWidget *, unsigned char key)
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     if (number == noSource || !engine)
         return;
-    const unsigned char open = MenuDirectory::m_currentLayer;
+    const unsigned char open = OpenPage::layer();
     qDebug() << "m_currentLayer == " << open;
     const QString source = QString::number(number);
-    if (MenuDirectory::m_currentObj == ENUM_PAGE_MosaicSplit) {
+    if (OpenPage::number() == ENUM_PAGE_MosaicSplit) {
         if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_Mosaic_Arrangement))
             row->SetParaEntry(MENU_Mosaic_Arrangement, source, SET_XML_USER);
         return;

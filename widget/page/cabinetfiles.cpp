@@ -1,6 +1,4 @@
-// The list of cabinet files.
-
-#include "widget/page/menudirectoty.h"
+#include "widget/page/cabinetfiles.h"
 
 #include "boardio.h"
 #include "framework/protocol/link/cabinetnames.h"
@@ -8,6 +6,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "widget/page/menudirectoty.h"
 
 #include <QDir>
 
@@ -31,7 +30,7 @@ void storeFile(MenuAnalysis &store, int number, const QString &name, bool presen
 }
 } // namespace
 
-bool MenuDirectory::GetCabCfgFileName(QStringList &names)
+bool cabinetFileNames(QStringList &names)
 {
     names.clear();
     const QDir folder(board::filePath(cabinetFolder));
@@ -47,26 +46,26 @@ bool MenuDirectory::GetCabCfgFileName(QStringList &names)
     return !names.isEmpty();
 }
 
-bool MenuDirectory::prepareFiles(MenuDirectory *page)
+bool prepareCabinetFiles(MenuDirectory &above, MenuDirectory &page)
 {
     QStringList names;
-    if (!GetCabCfgFileName(names)) {
-        runMessage(MSG_NoFiles);
+    if (!cabinetFileNames(names)) {
+        above.runMessage(MSG_NoFiles);
         return false;
     }
-    page->showFiles(names);
+    showCabinetFiles(page, names);
     return true;
 }
 
-void MenuDirectory::showFiles(const QStringList &names)
+void showCabinetFiles(MenuDirectory &page, const QStringList &names)
 {
     auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
     if (!store)
         return;
-    if (names.size() > fileRowCount)
+    if (names.size() > MenuDirectory::fileRowCount)
         qDebug() << "too many file";
-    const int count = qMin(names.size(), fileRowCount);
-    for (int i = 0; i < fileRowCount; ++i) {
+    const int count = qMin(names.size(), MenuDirectory::fileRowCount);
+    for (int i = 0; i < MenuDirectory::fileRowCount; ++i) {
         const bool present = i < count;
         const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + i);
         storeFile(*store, i, names.value(i), present);
@@ -75,8 +74,8 @@ void MenuDirectory::showFiles(const QStringList &names)
             row->SetParaEntry(item, QString(), SET_XML_STORE); // brings the stored tag, too
             row->UpdateTagName(item, names.at(i));
         }
-        setRowHidden(i, !present);
+        page.setRowHidden(i, !present);
     }
-    setRowCount(count);
+    page.setRowCount(count);
 }
 } // namespace VASK

@@ -1,6 +1,4 @@
-// The LEDs of the layer and input keys.
-
-#include "widget/page/menudirectoty.h"
+#include "widget/page/keyleds.h"
 
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keyevent.h"
@@ -40,7 +38,7 @@ bool hasSignal(const ParaProcess &engine, int source)
 }
 } // namespace
 
-void MenuDirectory::UpdateLayerLedStatus(unsigned char layer)
+void showLayerLeds(unsigned char layer)
 {
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     if (!engine)
@@ -51,7 +49,7 @@ void MenuDirectory::UpdateLayerLedStatus(unsigned char layer)
     }
 }
 
-void MenuDirectory::UpdateSourceLedStatus()
+void showSourceLeds()
 {
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     if (!engine)

@@ -1,60 +1,19 @@
-// ESC on a page: the end of an edit, the way back to the page above, and which page counts as open.
-
-#include "widget/page/menudirectoty.h"
+#include "widget/page/openpage.h"
 
 #include "framework/engine/paraprocess.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
-#include "menu/objectindex.h"
+#include "menu/keycodes.h"
+#include "widget/home/mainwindow_k2860.h"
 #include "widget/home/panellayers.h"
-#include "widget/row/rowkinds.h"
+#include "widget/page/keyleds.h"
+#include "widget/page/menudirectoty.h"
+
+#include <QApplication>
 
 namespace VASK
 {
-void MenuDirectory::keypadEScEvent(KeypadEvent *)
-{
-    st_MenuItemInfo row;
-    if (!m_edit)
-        leave();
-    else if (currentRowInfo(row))
-        endEdit(row);
-}
-
-void MenuDirectory::endEdit(const st_MenuItemInfo &row)
-{
-    m_edit = false;
-    const unsigned char entered = m_entered;
-    m_entered = false;
-    VaskUiObject *widget = rowWidget(row);
-    if (!widget)
-        return;
-    if (isKnobRow(row.controlType))
-        widget->EscEntry(row.menuIndex, entered);
-    else if (isListRow(row.controlType))
-        widget->EscEntry(row.menuIndex);
-    if (row.menuIndex == MENU_ScreenBrightness)
-        saveBrightness();
-}
-
-void MenuDirectory::leave()
-{
-    if (!m_pparerentdirectory)
-        return;
-    enableCopiedPreset();
-    QWidget *parent = m_pparerentdirectory;
-    parent->show();
-    hide();
-    if (auto *page = dynamic_cast<MenuDirectory *>(parent)) {
-        page->m_child = this;
-        ENUM_ObjectIndex number = ENUM_OBJECT_END;
-        if (page->GetObectIndex(number))
-            setCurrentPage(number);
-    }
-    qDebug() << "m_pparerentdirectory:" << static_cast<void *>(this) << static_cast<void *>(parent)
-             << "m_currentObj == " << m_currentObj;
-}
-
-void MenuDirectory::setCurrentPage(ENUM_ObjectIndex page)
+void OpenPage::set(ENUM_ObjectIndex page)
 {
     m_currentObj = page;
     unsigned char layer = noLayer;
@@ -62,19 +21,48 @@ void MenuDirectory::setCurrentPage(ENUM_ObjectIndex page)
         if (page == panelLayers[i].page || page == panelLayers[i].cropPage)
             layer = static_cast<unsigned char>(i);
     if (m_currentLayer.exchange(layer) != layer)
-        UpdateLayerLedStatus(layer);
+        showLayerLeds(layer);
 }
 
 /// The main menu counts as open, as after ESC all the way: an ESC that ended an edit only has left the page's
 /// own number behind, and the keys at home would still serve that page.
-void MenuDirectory::setNoPage()
+void OpenPage::setNone()
 {
     m_currentObj = ENUM_MAIN_MENU;
     m_currentLayer = noLayer;
-    UpdateLayerLedStatus(noLayer);
+    showLayerLeds(noLayer);
 }
 
-void MenuDirectory::enableCopiedPreset()
+MenuDirectory *OpenPage::shown()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows)
+        if (auto *page = dynamic_cast<MenuDirectory *>(window); page && page->isVisible())
+            return page;
+    return nullptr;
+}
+
+void OpenPage::hideAll()
+{
+    while (MenuDirectory *page = shown())
+        page->hide();
+}
+
+void OpenPage::leaveMenu()
+{
+    enableCopiedPreset();
+    KeypadEvent esc = madeUpEsc();
+    if (MenuDirectory *page = shown())
+        page->keypadEScEvent(&esc);
+    hideAll();
+    if (auto *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU)) {
+        menu->m_pparerentdirectory = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
+        menu->keypadEScEvent(&esc);
+    }
+    setNone();
+}
+
+void OpenPage::enableCopiedPreset()
 {
     const int preset = ParaProcess::m_CopySceneNum;
     if (preset < 0)
@@ -87,22 +75,5 @@ void MenuDirectory::enableCopiedPreset()
         if (auto *row = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(object)))
             row->UpdateALLUI(ENUM_MenuIndex(MENU_Preset1 + preset));
     }
-}
-
-MenuDirectory *MenuDirectory::shownPage()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        if (auto *page = dynamic_cast<MenuDirectory *>(window); page && page->isVisible())
-            return page;
-    return nullptr;
-}
-
-void MenuDirectory::hideAllPages()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        if (auto *page = dynamic_cast<MenuDirectory *>(window))
-            page->hide();
 }
 } // namespace VASK

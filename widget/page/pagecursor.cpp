@@ -1,12 +1,9 @@
-// The knob on a page: the cursor and, in edit mode, the value under it.
-
-#include "widget/page/menudirectoty.h"
+#include "widget/page/pagecursor.h"
 
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
-#include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/row/rowkinds.h"
+#include "widget/row/pagerow.h"
 
 namespace VASK
 {
@@ -25,155 +22,115 @@ bool isPresent(ENUM_MenuIndex file)
     return present;
 }
 
-void enterParts(VaskUiObject *row, ENUM_MenuIndex item, bool fromTheLeft)
+void enterParts(const ShownRow &row, bool fromTheLeft)
 {
     unsigned char one = 1;
     if (fromTheLeft)
-        row->DownEntry(item, one, false);
+        row.widget->DownEntry(row.info.menuIndex, one, false);
     else
-        row->UpEntry(item, one, false);
+        row.widget->UpEntry(row.info.menuIndex, one, false);
 }
 } // namespace
 
-void MenuDirectory::keypadRotateLeftEvent(KeypadEvent *event)
+void PageCursor::turn(unsigned char speed, bool left)
 {
-    if (event)
-        rotate(event, true);
-}
-
-void MenuDirectory::keypadRotateRightEvent(KeypadEvent *event)
-{
-    if (event)
-        rotate(event, false);
-}
-
-void MenuDirectory::rotate(KeypadEvent *event, bool left)
-{
-    st_MenuItemInfo row;
-    if (m_rowCount == 0 || !currentRowInfo(row))
+    if (m_table.rowCount() == 0)
         return;
-    unsigned char speed = event->KeySpeed();
-    if (m_edit) {
-        turnValue(row, speed, left);
+    const ShownRow row = shownRow();
+    if (row && row.kind->hasParts() && moveInsideRow(row, speed, left))
         return;
-    }
-    const bool atEnd = left ? m_currentRow == 0 : m_currentRow == m_rowCount - 1;
-    if (hasInnerParts(row.controlType) && moveInsideRow(row, speed, left, atEnd))
-        return;
-    const int target = landingRow(m_currentRow, speed, left);
+    const int target = landingRow(speed, left);
     qDebug() << (left ? "left:" : " ###Right") << target;
-    land(target, left, target == m_currentRow);
-}
-
-void MenuDirectory::turnValue(const st_MenuItemInfo &row, unsigned char speed, bool left)
-{
-    VaskUiObject *widget = rowWidget(row);
-    if (!widget)
-        return;
-    if (isKnobRow(row.controlType)) {
-        RotateFlg = true;
-        if (left)
-            widget->UpEntry(row.menuIndex, speed);
-        else
-            widget->DownEntry(row.menuIndex, speed);
-        RotateFlg = false;
-    } else if (isListRow(row.controlType)) {
-        if (left)
-            widget->UpEntry(row.menuIndex);
-        else
-            widget->DownEntry(row.menuIndex);
-    }
+    land(target, left, target == m_row);
 }
 
 /// True if the row used up the whole speed among its own parts.
-bool MenuDirectory::moveInsideRow(const st_MenuItemInfo &row, unsigned char &speed, bool left, bool atEnd)
+bool PageCursor::moveInsideRow(const ShownRow &row, unsigned char &speed, bool left) const
 {
-    VaskUiObject *widget = rowWidget(row);
-    if (!widget)
-        return false;
+    const bool atEnd = m_row == (left ? 0 : m_table.rowCount() - 1);
     if (left)
-        widget->UpEntry(row.menuIndex, speed, atEnd);
+        row.widget->UpEntry(row.info.menuIndex, speed, atEnd);
     else
-        widget->DownEntry(row.menuIndex, speed, atEnd);
+        row.widget->DownEntry(row.info.menuIndex, speed, atEnd);
     return speed == 0;
-}
-
-bool MenuDirectory::isFocusable(int row) const
-{
-    const auto found = m_rows.constFind(row);
-    return found != m_rows.constEnd() && g_MenuXmlConfig.value(found->menuIndex).focusable &&
-           !m_table->isRowHidden(row);
 }
 
 /// Where a turn takes the cursor: speed rows on, over the tips, and back to the nearest row that can be
 /// reached when the table ends.
-int MenuDirectory::landingRow(int row, int speed, bool left) const
+int PageCursor::landingRow(int speed, bool left) const
 {
-    const int last = m_rowCount - 1;
+    const int last = m_table.rowCount() - 1;
     const int step = left ? -speed : speed;
-    int target = qBound(0, row + step, last);
-    while (!isFocusable(target)) {
+    int target = qBound(0, m_row + step, last);
+    while (!m_table.isFocusable(target)) {
         const int next = qBound(0, target + step, last);
         if (next == target)
             break;
         target = next;
     }
     const int back = left ? 1 : -1;
-    while (target != row && !isFocusable(target))
+    while (target != m_row && !m_table.isFocusable(target))
         target += back;
-    return left || target == row ? target : lastFileRow(target);
+    return left || target == m_row ? target : lastFileRow(target);
 }
 
 /// Of the file rows only those of files that are there can be reached.
-int MenuDirectory::lastFileRow(int row) const
+int PageCursor::lastFileRow(int row) const
 {
+    const auto item = [this](int number) { return m_table.rows().value(number).menuIndex; };
     int target = row;
-    while (target > 0 && isFileRow(m_rows.value(target).menuIndex) &&
-           !isPresent(m_rows.value(target).menuIndex))
+    while (target > 0 && isFileRow(item(target)) && !isPresent(item(target)))
         --target;
     return target;
 }
 
 /// Blocked: the table ends here, the cursor has not moved.
-void MenuDirectory::land(int row, bool left, bool blocked)
+void PageCursor::land(int row, bool left, bool blocked)
 {
-    const st_MenuItemInfo info = m_rows.value(row);
     if (m_markedApply != row)
         unmarkApply();
-    selectRow(row);
-    VaskUiObject *widget = rowWidget(info);
-    if (!widget)
+    select(row);
+    const ShownRow landed = shownRow();
+    if (!landed)
         return;
-    if (info.controlType == TYPE_APPLY) {
+    if (landed.info.controlType == TYPE_APPLY) {
         m_markedApply = row;
-        widget->ChangeStyleEntry(info.menuIndex, 1);
-    } else if (hasInnerParts(info.controlType)) {
+        landed.widget->ChangeStyleEntry(landed.info.menuIndex, 1);
+    } else if (landed.kind->hasParts()) {
         // The part next to where the cursor comes from; at the end of the table, the one it ran into.
-        enterParts(widget, info.menuIndex, left == blocked);
+        enterParts(landed, left == blocked);
     }
 }
 
-void MenuDirectory::selectRow(int row)
+void PageCursor::select(int row)
 {
-    m_currentRow = static_cast<unsigned char>(row);
-    m_table->setCurrentCell(row, 0);
+    m_row = static_cast<unsigned char>(row);
+    m_table.select(row);
 }
 
-void MenuDirectory::setCurrentRow(int row)
+void PageCursor::put(int row)
 {
-    if (row < 0 || row >= m_rowCount)
+    if (row < 0 || row >= m_table.rowCount())
         return;
     unmarkApply();
-    selectRow(row);
+    select(row);
 }
 
-void MenuDirectory::unmarkApply()
+void PageCursor::stayInside()
+{
+    if (m_row < m_table.rowCount())
+        return;
+    unmarkApply();
+    select(qMax(0, m_table.rowCount() - 1));
+}
+
+void PageCursor::unmarkApply()
 {
     if (m_markedApply == noApply)
         return;
-    const st_MenuItemInfo info = m_rows.value(m_markedApply);
+    const ShownRow row = m_table.row(m_markedApply);
     m_markedApply = noApply;
-    if (VaskUiObject *widget = rowWidget(info))
-        widget->ChangeStyleEntry(info.menuIndex, 0);
+    if (row)
+        row.widget->ChangeStyleEntry(row.info.menuIndex, 0);
 }
 } // namespace VASK

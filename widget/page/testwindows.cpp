@@ -1,4 +1,4 @@
-// The self-check window in the place of a page, and back.
+#include "widget/page/testwindows.h"
 
 #include "widget/factory/devcheckwin.h"
 #include "widget/factory/dialog_factory.h"
@@ -6,20 +6,37 @@
 
 namespace VASK
 {
-QPointer<DevCheckWin> MenuDirectory::m_win;
-QPointer<Factory> MenuDirectory::m_factory;
+QPointer<DevCheckWin> TestWindows::m_win;
+QPointer<Factory> TestWindows::m_factory;
 
-DevCheckWin *MenuDirectory::showSelfCheck(QWidget *instead, bool test)
+DevCheckWin *TestWindows::newSelfCheck(QWidget &instead, bool test)
 {
     delete m_win;
     m_win = new DevCheckWin;
     m_win->InitDefaultItems(test);
     m_win->show();
-    instead->hide();
+    instead.hide();
     return m_win;
 }
 
-void MenuDirectory::closeSelfCheck()
+void TestWindows::showSelfCheck(MenuDirectory &instead)
+{
+    QObject::connect(newSelfCheck(instead, false), SIGNAL(signal_devchk_end()), &instead,
+                     SLOT(slot_devchk_end()));
+}
+
+void TestWindows::showSelfCheckOfTest(QWidget &instead)
+{
+    newSelfCheck(instead, true);
+}
+
+void TestWindows::endSelfCheck()
+{
+    if (m_win)
+        m_win->deleteLater();
+}
+
+void TestWindows::closeSelfCheck()
 {
     if (!m_win || DevCheckWin::test_flg)
         return;
@@ -27,12 +44,17 @@ void MenuDirectory::closeSelfCheck()
     m_win->deleteLater();
 }
 
-void MenuDirectory::slot_devchk_end()
+DevCheckWin *TestWindows::selfCheck()
 {
-    m_skipNextEsc = true;
-    show();
-    // The window is still at its key.
-    if (m_win)
-        m_win->deleteLater();
+    return m_win;
+}
+
+void TestWindows::startProductionTest(QWidget &instead)
+{
+    if (!m_factory)
+        m_factory = new Factory;
+    m_factory->beginSelfTest();
+    m_factory->show();
+    instead.hide();
 }
 } // namespace VASK

@@ -8,12 +8,13 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
+#include "widget/row/pagerow.h"
 
 namespace VASK
 {
 class ParaProcess;
 
-class MenuRow : public VaskUiObject
+class MenuRow : public VaskUiObject, public PageRow
 {
     Q_OBJECT
 public:

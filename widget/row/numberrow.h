@@ -16,6 +16,7 @@ class NumberRow : public FramedRow
 public:
     NumberRow(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::EditsNumber; }
     using VaskUiObject::DownEntry;
     using VaskUiObject::EnterEntry;
     using VaskUiObject::EscEntry;

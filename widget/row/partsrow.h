@@ -15,6 +15,7 @@ class PartsRow : public MenuRow
 public:
     using MenuRow::MenuRow;
 
+    bool hasParts() const override { return true; }
     using VaskUiObject::DownEntry;
     using VaskUiObject::UpEntry;
     void UpEntry(ENUM_MenuIndex index, unsigned char &speed, bool first) override;

@@ -16,6 +16,7 @@ class typeapply : public MenuRow
 public:
     typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
     void ChangeStyleEntry(ENUM_MenuIndex index, unsigned char on) override;

@@ -16,6 +16,7 @@ class typeapplyreset : public PartsRow
 public:
     typeapplyreset(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override;
 

@@ -13,6 +13,7 @@ class typebutton : public FramedRow
 public:
     typebutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
 

@@ -14,6 +14,7 @@ class typecheckitem : public FramedRow
 public:
     typecheckitem(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override;
 

@@ -18,6 +18,7 @@ class typefourpic : public PartsRow
 public:
     typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override;
 

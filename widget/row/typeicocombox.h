@@ -16,6 +16,7 @@ class typeicocombox : public FramedRow
 public:
     typeicocombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::ChoosesFromList; }
     bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
     using VaskUiObject::DownEntry;
     using VaskUiObject::EnterEntry;

@@ -21,6 +21,7 @@ class typeipadjust : public MenuRow
 public:
     typeipadjust(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::EditsAddress; }
     using VaskUiObject::DownEntry;
     using VaskUiObject::EnterEntry;
     using VaskUiObject::EscEntry;

@@ -13,6 +13,7 @@ class typemainbutton : public FramedRow
 public:
     typemainbutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::OpensPage; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
 };

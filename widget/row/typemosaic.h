@@ -21,6 +21,7 @@ class typemosaic : public MenuRow
 public:
     typemosaic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::ChoosesFromList; }
     bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
     /// "0" stacks the boxes, anything else sets them side by side. From any thread.
     void updateSplite(QString value) override;

@@ -20,6 +20,8 @@ class typetwostringcombox : public PartsRow
 public:
     typetwostringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
+    OkKind okKind() const override { return OkKind::ChoosesFromList; }
+
     /// Shows the picture of a backup that is available, or the plain one. From any thread.
     void setTwoArrow(bool available) override;
     /// From any thread.

@@ -1,6 +1,7 @@
 #include "framework/protocol/link/proto3rdsend.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/input/knobturn.h"
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/send/sendrow.h"
@@ -156,7 +157,7 @@ int Proto3rdSend::SendHeldBack(const SendChange &change, PackageRequestWriteData
         return change.send(package);
 
     Proto3rd *timerOwner = protocol();
-    if (timerOwner && MenuDirectory::RotateFlg && mSendIndexCur == mSendIndexLast) {
+    if (timerOwner && KnobTurn::runs() && mSendIndexCur == mSendIndexLast) {
         qDebug() << "mSendFlg == " << mSendFlg;
         if (mSendFlg) {
             delete mSendDate;

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "boardio.h"
+#include "framework/engine/brightnessedit.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/input/knobturn.h"
 #include "framework/object/transport.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/store/menuanalysis.h"
@@ -17,6 +19,8 @@
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"
+#include "widget/page/menuitemfactory.h"
+#include "widget/row/pagerow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -32,12 +36,23 @@ inline QStringList &notes()
     return lines;
 }
 
-/// Notes every call as a line such as "Up 1 speed 3"; with parts, the cursor walks through them.
-class NotingRow : public VaskUiObject
+/// Works as the real row of its kind does, and notes every call as a line such as "Up 1 speed 3"; with parts,
+/// the cursor walks through them.
+class NotingRow : public VaskUiObject, public PageRow
 {
 public:
-    explicit NotingRow(ENUM_ObjectIndex object) : VaskUiObject(object) {}
+    explicit NotingRow(const st_MenuItemInfo &info) : VaskUiObject(info.itemObject)
+    {
+        const ENUM_ControlType type = info.controlType == TYPE_SUBPAGE ? TYPE_MAINBUTTON : info.controlType;
+        const std::unique_ptr<VaskUiObject> real(
+            MenuItemFactory::CreateMenuItem(type, info.itemObject, info.menuIndex));
+        const auto *row = dynamic_cast<PageRow *>(real.get());
+        m_okKind = row->okKind();
+        m_hasParts = row->hasParts();
+    }
 
+    OkKind okKind() const override { return m_okKind; }
+    bool hasParts() const override { return m_hasParts; }
     bool CurrentItemEnabled() override { return optionEnabled; }
     void EnterEntry(ENUM_MenuIndex i, QWidget *, unsigned char edit, unsigned char) override
     {
@@ -55,13 +70,13 @@ public:
     void UpEntry(ENUM_MenuIndex i) override { note("Up", i); }
     void UpEntry(ENUM_MenuIndex i, unsigned char &speed) override
     {
-        note(MenuDirectory::RotateFlg ? "UpTurned" : "Up", i, speed);
+        note(KnobTurn::runs() ? "UpTurned" : "Up", i, speed);
     }
     void UpEntry(ENUM_MenuIndex, unsigned char &speed, bool first) override { walk(speed, -1, first); }
     void DownEntry(ENUM_MenuIndex i) override { note("Down", i); }
     void DownEntry(ENUM_MenuIndex i, unsigned char &speed) override
     {
-        note(MenuDirectory::RotateFlg ? "DownTurned" : "Down", i, speed);
+        note(KnobTurn::runs() ? "DownTurned" : "Down", i, speed);
     }
     void DownEntry(ENUM_MenuIndex, unsigned char &speed, bool last) override { walk(speed, 1, last); }
     void ChangeStyleEntry(ENUM_MenuIndex i, unsigned char on) override { note("Style", i, on); }
@@ -98,6 +113,9 @@ private:
             }
         }
     }
+
+    OkKind m_okKind;
+    bool m_hasParts;
 };
 
 class NotingProtocol : public ProtocolInterface
@@ -139,7 +157,7 @@ public:
     static MenuDirectory *makePage(const ST_MenuConfig &info, ENUM_ConfigIndex config = CONFIG_END)
     {
         for (const st_MenuItemInfo &row : info.rowsMap)
-            enter(row.itemObject, new NotingRow(row.itemObject));
+            enter(row.itemObject, new NotingRow(row));
         auto *page = new MenuDirectory(info.object);
         page->SetTitleInfo(info.width, info.rows, info.title, info.styleSheet, info.englishStyleSheet);
         page->InsertMenuItem(info.rowsMap);
@@ -163,7 +181,7 @@ public:
             shown->setCurrentRow(0);
         }
         MenuDirectory::setCurrentPage(ENUM_MAIN_MENU);
-        MenuDirectory::bSetScreenBrightness = false;
+        BrightnessEdit::end();
         home->show();
         notes().clear();
         device->sent.clear();

@@ -9,6 +9,7 @@
 #include "tests/unit/widget/looks.h"
 #include "widget/factory/devcheckwin.h"
 #include "widget/factory/dialog_factory.h"
+#include "widget/page/testwindows.h"
 
 #include <QListWidget>
 #include <QScrollBar>
@@ -37,7 +38,7 @@ private slots:
         Factory::m_cur_step = FACTORY_STEP_NONE;
         Factory::InputSoureStable = false;
         signalOfInput(0, 0);
-        delete MenuDirectory::m_win;
+        delete TestWindows::selfCheck();
     }
 
     void stepsFollowTheSelfTest_data()
@@ -59,7 +60,8 @@ private slots:
         QTEST(Factory::m_cur_step.load(), "step");
         const bool failed = key == KEY_SELF_TEST_DONE && type == KEY_PRESSED;
         QCOMPARE(m_test->isVisible(), !failed);
-        QCOMPARE(MenuDirectory::m_win && MenuDirectory::m_win->isVisible() && DevCheckWin::test_flg, failed);
+        QCOMPARE(TestWindows::selfCheck() && TestWindows::selfCheck()->isVisible() && DevCheckWin::test_flg,
+                 failed);
     }
 
     /// Held keys are no keys pressed; the knob has no release.

@@ -135,7 +135,6 @@ private slots:
         QCoreApplication::sendEvent(m_rig->home, &held);
         QCoreApplication::processEvents();
         QVERIFY(!asked);
-        MainWindow::lock_mode = false;
     }
 
 private:

@@ -1,6 +1,7 @@
 // The home screen: what its setters and slots show, the lock and its time, what comes up by itself, what
 // blinks, and a take-over by a PC.
 
+#include "framework/engine/brightnessedit.h"
 #include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
@@ -8,6 +9,8 @@
 #include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
 #include "widget/dialog/lock.h"
+#include "widget/home/panellock.h"
+#include "widget/page/openpage.h"
 
 #include <QElapsedTimer>
 #include <QLabel>
@@ -41,7 +44,6 @@ private slots:
     {
         m_rig->home->SetLockState(PANEL_UNLOCK, false);
         m_rig->home->slot_cancelLockDialog();
-        MainWindow::lock_mode = false;
         m_rig->reset();
     }
     void cleanup()
@@ -144,23 +146,23 @@ private slots:
         m_rig->hold(KEY_LOCK);
         ProductionTest::m_cur_step = FACTORY_STEP_NONE;
         QCOMPARE(m_rig->shown(), m_rig->home);
-        QVERIFY(!MainWindow::m_bLockFlag);
+        QVERIFY(!m_rig->home->isLocked());
     }
 
     void aTakeOverLocksAndItsEndUnlocks()
     {
         MenuDirectory *page = PageRig::open(ENUM_PAGE_PIP1, m_rig->home);
         QApplication::setActiveWindow(page);
-        MenuDirectory::bSetScreenBrightness = true;
+        BrightnessEdit::begin();
         m_rig->home->slot_ReturnToMainSoft(false);
         QCOMPARE(m_rig->shown(), m_rig->home);
-        QVERIFY(MainWindow::m_bLockFlag);
-        QVERIFY(MainWindow::lock_mode);
-        QCOMPARE(int(MenuDirectory::m_currentLayer), int(MenuDirectory::noLayer));
+        QVERIFY(m_rig->home->isLocked());
+        QVERIFY(m_rig->home->isTakenOver());
+        QCOMPARE(int(OpenPage::layer()), int(OpenPage::noLayer));
         QCOMPARE(m_rig->device->sent, QStringList{"1002="});
         m_rig->home->slot_ReturnToMainSoft(true);
-        QVERIFY(!MainWindow::m_bLockFlag);
-        QVERIFY(!MainWindow::lock_mode);
+        QVERIFY(!m_rig->home->isLocked());
+        QVERIFY(!m_rig->home->isTakenOver());
     }
 
     /// What is open goes, all of it, whatever a message from the device has put over it.
@@ -197,7 +199,7 @@ private slots:
             open->setCurrentRow(row);
         }
         atHome ? m_rig->hold(KEY_OK) : m_rig->press(KEY_OK);
-        QTRY_VERIFY(MainWindow::m_bLockFlag);
+        QTRY_VERIFY(m_rig->home->isLocked());
         QCOMPARE(m_rig->messages, QStringList());
         QVERIFY(!QApplication::activeModalWidget());
         QCOMPARE(m_rig->shown(), m_rig->home);
@@ -209,9 +211,9 @@ private slots:
     {
         m_rig->hold(KEY_LOCK);
         m_rig->home->slot_ReturnToMainSoft(true);
-        QVERIFY(MainWindow::m_bLockFlag);
+        QVERIFY(m_rig->home->isLocked());
         m_rig->home->slot_ReturnToMainSoft(false);
-        QVERIFY(MainWindow::lock_mode);
+        QVERIFY(m_rig->home->isTakenOver());
     }
 
     void updateShowsOneMessageAfterTheOther()
@@ -289,8 +291,8 @@ private slots:
         QVERIFY(lock->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!lock->isVisible(), 3000);
         // Timers of this length may come a twentieth early.
-        QVERIFY(time.elapsed() >= MainWindow::lockDialogMs * 9 / 10);
-        QVERIFY(MainWindow::m_bLockFlag);
+        QVERIFY(time.elapsed() >= PanelLock::windowMs * 9 / 10);
+        QVERIFY(m_rig->home->isLocked());
     }
 
     void anUnlockAfterATakeOverReadsTheDeviceAgain()
@@ -298,10 +300,10 @@ private slots:
         for (bool takenOver : {false, true}) {
             m_rig->home->SetBrightNess("old");
             takenOver ? m_rig->home->slot_ReturnToMainSoft(false) : m_rig->hold(KEY_LOCK);
-            QVERIFY(MainWindow::m_bLockFlag);
+            QVERIFY(m_rig->home->isLocked());
             m_rig->hold(KEY_LOCK);
-            QVERIFY(!MainWindow::m_bLockFlag);
-            QVERIFY(!MainWindow::lock_mode);
+            QVERIFY(!m_rig->home->isLocked());
+            QVERIFY(!m_rig->home->isTakenOver());
             QCOMPARE(find("labBright")->text(), takenOver ? QString("60%") : QString("old"));
         }
     }

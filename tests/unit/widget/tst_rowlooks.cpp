@@ -9,8 +9,9 @@
 #include "testkit/contactsheet.h"
 #include "tests/testprogram.h"
 #include "tests/unit/widget/looks.h"
+#include "widget/page/pagetable.h"
 #include "widget/row/icocomboxtable.h"
-#include "widget/row/rowkinds.h"
+#include "widget/row/pagerow.h"
 #include "widget/row/stringcomboxtable.h"
 
 #include <QSet>
@@ -74,11 +75,11 @@ private slots:
     void edited()
     {
         eachRow([this](int) {
-            const ENUM_ControlType type = m_row.controlType;
-            if (isNumberRow(type))
+            const OkKind kind = shown().kind->okKind();
+            if (kind == OkKind::EditsNumber)
                 for (const QString &value : {m_item.min, m_item.max})
                     editNumber(value);
-            else if (type == TYPE_IPADJUST)
+            else if (kind == OkKind::EditsAddress)
                 editAddress();
         });
     }
@@ -102,7 +103,7 @@ private slots:
     void listed()
     {
         eachRow([this](int) {
-            if (!isListRow(m_row.controlType) || m_row.menuIndex == MENU_Test_VaskImage)
+            if (shown().kind->okKind() != OkKind::ChoosesFromList || m_row.menuIndex == MENU_Test_VaskImage)
                 return;
             if (m_row.controlType == TYPE_MOSAIC) // its options come from the device
                 for (const char *source : {"HDMI1", "HDMI2", "DVI1", "DVI2", "OPT1-1", "OPT1-2"})
@@ -268,12 +269,14 @@ private:
         return false;
     }
 
+    ShownRow shown() const { return m_page->table().row(m_page->currentRow()); }
+
     /// The row as it is, with the cursor on each of its parts.
     void everyPart(const QString &state)
     {
         const int row = m_page->currentRow();
         look(state);
-        if (!hasInnerParts(m_row.controlType))
+        if (!shown().kind->hasParts())
             return;
         const int direction = row == 0 ? -1 : 1;
         for (int part = 2;; ++part) {

@@ -188,7 +188,6 @@ void TestApplySystem::servicesStart()
     environment.close();
     m_rig->set(MENU_HDCPMemory, "0");
     m_rig->set(MENU_Net_NetMode, "1");
-    MainWindow::m_deviceStartComplate = false;
     m_rig->fromDevice(EVENT_SenderServiceStarted, "2");
     QCOMPARE(m_rig->device->sent.take(), QStringList());
     // The sequence runs every time.
@@ -197,7 +196,7 @@ void TestApplySystem::servicesStart()
         QCOMPARE(m_rig->device->sent.take(), (QStringList{"1054=0", "2374=1"}));
         QVERIFY(m_rig->reported.take().contains("2369=V9.8.7"));
     }
-    QVERIFY(MainWindow::m_deviceStartComplate);
+    QVERIFY(m_rig->home->deviceStarted());
     QCOMPARE(m_rig->value(MENU_About_VersionValue), QString("V9.8.7"));
 }
 

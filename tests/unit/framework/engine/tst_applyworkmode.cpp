@@ -213,7 +213,7 @@ void TestApplyWorkMode::fiberTakesTheLeds()
 
 void TestApplyWorkMode::fiberGivesTheHomeScreenBack()
 {
-    MenuDirectory *menu = MainWindow::m_pMainMenu;
+    MenuDirectory *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU);
     for (Mode to : {Controller, Sender})
         for (bool pageOpen : {true, false}) {
             init();

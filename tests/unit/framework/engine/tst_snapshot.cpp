@@ -198,7 +198,7 @@ void TestSnapshot::cutImageTakesNothingAway()
     QCOMPARE(m_rig->value(MENU_Preset1), preset);
     QVERIFY(m_rig->engine->presetNamed(0));
     QCOMPARE(m_rig->value(MENU_Net_IPAddress), address);
-    QCOMPARE(MainWindow::m_strDeviceRename, QString("n"));
+    QCOMPARE(m_rig->home->deviceName(), QString("n"));
 }
 
 void TestSnapshot::deviceName_data()
@@ -215,7 +215,7 @@ void TestSnapshot::deviceName()
     for (int i = 0; i < qMin(name.size(), 32); ++i)
         put(0xD14100 + 2 * i, name.at(i).unicode(), 2);
     start();
-    QTEST(MainWindow::m_strDeviceRename, "shown");
+    QTEST(m_rig->home->deviceName(), "shown");
 }
 
 FPD_TEST(TestSnapshot)

@@ -1,5 +1,6 @@
 // The way home when no key comes: from where the panel goes home, what it ends on the way, and when it stays.
 
+#include "framework/engine/brightnessedit.h"
 #include "framework/object/globaltimer.h"
 #include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
@@ -7,6 +8,7 @@
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
+#include "widget/page/openpage.h"
 
 #include <QDialog>
 
@@ -58,11 +60,11 @@ private slots:
         notes().clear();
         timeIsUp();
         QCOMPARE(m_rig->shown(), m_rig->home);
-        QCOMPARE(int(MenuDirectory::m_currentLayer), int(MenuDirectory::noLayer));
+        QCOMPARE(int(OpenPage::layer()), int(OpenPage::noLayer));
         QVERIFY(!page->isEditing());
         QCOMPARE(notes(), QStringList{QString("Esc %1 1").arg(MENU_PIP2_HorWidth)});
         // A page that takes the source keys to itself must not do so from behind the home screen.
-        QCOMPARE(int(MenuDirectory::m_currentObj), int(ENUM_MAIN_MENU));
+        QCOMPARE(int(OpenPage::number()), int(ENUM_MAIN_MENU));
         notes().clear();
         m_rig->press(KEY_INPUT1);
         QCOMPARE(notes(), QStringList{QString("Set %1 0 1").arg(MENU_MainLayer_InputSource)});
@@ -72,18 +74,18 @@ private slots:
     {
         MenuDirectory *menu = PageRig::open(ENUM_MAIN_MENU, m_rig->home);
         m_rig->press(KEY_OK);
-        QVERIFY(MenuDirectory::bSetScreenBrightness);
+        QVERIFY(BrightnessEdit::runs());
         QApplication::setActiveWindow(menu);
         timeIsUp();
         QCOMPARE(m_rig->device->sent, QStringList{"1002="});
-        QVERIFY(!MenuDirectory::bSetScreenBrightness);
+        QVERIFY(!BrightnessEdit::runs());
 
         m_rig->reset();
-        MenuDirectory::bSetScreenBrightness = true;
+        BrightnessEdit::begin();
         QApplication::setActiveWindow(nullptr);
         timeIsUp();
         QCOMPARE(m_rig->device->sent, QStringList{"1002="});
-        QVERIFY(!MenuDirectory::bSetScreenBrightness);
+        QVERIFY(!BrightnessEdit::runs());
         QVERIFY(m_rig->home->isVisible());
     }
 
@@ -96,7 +98,7 @@ private slots:
     void whereItStays()
     {
         QFETCH(QString, where);
-        MenuDirectory::bSetScreenBrightness = true; // shows whether it got that far
+        BrightnessEdit::begin(); // shows whether it got that far
         QWidget *active = m_rig->home;
         if (where != "home")
             active =
@@ -118,7 +120,7 @@ private slots:
         ObjectPool::getInstance()->InsertData(ENUM_MAIN_MENU, menu);
         QCOMPARE(m_rig->shown(), shown);
         QVERIFY(active->isVisible());
-        QVERIFY(MenuDirectory::bSetScreenBrightness);
+        QVERIFY(BrightnessEdit::runs());
         QCOMPARE(m_rig->device->sent, QStringList{});
     }
 

@@ -3,8 +3,8 @@
 
 #include "sendbench.h"
 
+#include "framework/input/knobturn.h"
 #include "tests/testprogram.h"
-#include "widget/page/menudirectoty.h"
 
 #include <QLoggingCategory>
 #include <QThread>
@@ -30,13 +30,8 @@ private slots:
         now = 0;
         armedAt = -1;
         sentAt.clear();
-        MenuDirectory::RotateFlg = false;
     }
-    void cleanup()
-    {
-        MenuDirectory::RotateFlg = false;
-        bench.reset();
-    }
+    void cleanup() { bench.reset(); }
 
     void aTurningKnobIsThinnedOut_data();
     void aTurningKnobIsThinnedOut();
@@ -53,9 +48,10 @@ private:
     void step(int item, int value)
     {
         const bool waiting = Proto3rdSend::mSendFlg;
-        MenuDirectory::RotateFlg = true;
-        QCOMPARE(bench->change(item, QString::number(value)), 0);
-        MenuDirectory::RotateFlg = false;
+        {
+            const KnobTurn turning;
+            QCOMPARE(bench->change(item, QString::number(value)), 0);
+        }
         if (!waiting && Proto3rdSend::mSendFlg)
             armedAt = now;
         note();
@@ -170,7 +166,7 @@ void TestProto3rdSendHoldback::withoutTheKnobEveryChangeLeaves()
 void TestProto3rdSendHoldback::aRefusedChangeDoesNotCountAsSent()
 {
     bench->client.acceptOnly = 0;
-    MenuDirectory::RotateFlg = true;
+    const KnobTurn turning;
     QCOMPARE(bench->change(brightness, "10"), 3);
     bench->client.acceptOnly = RecordingClient::everything;
     QCOMPARE(bench->change(brightness, "11"), 0);
@@ -200,7 +196,7 @@ void TestProto3rdSendHoldback::reportsDoNotDisturbATurn()
 {
     step(brightness, 10);
     step(brightness, 11);
-    MenuDirectory::RotateFlg = true;
+    const KnobTurn turning;
     std::unique_ptr<QThread> reports(QThread::create([this] {
         for (int i = 0; i < 5; ++i)
             bench->change(contrast, QString::number(i));

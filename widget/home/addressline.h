@@ -1,0 +1,33 @@
+// The line of the home screen that shows the address and, if the user has given one, the device's name in
+// turn. Both may be set from any thread; all else is the GUI thread's.
+#pragma once
+
+#include <QMutex>
+#include <QString>
+
+class QLabel;
+class QWidget;
+
+class AddressLine
+{
+public:
+    AddressLine(QWidget &window, QLabel &label) : m_window(window), m_label(label) {}
+
+    /// The address, or the translation key of what is said while there is none.
+    void setAddress(const QString &ip);
+    /// Empty for none.
+    void setName(const QString &name);
+    QString address() const;
+    QString name() const;
+    /// Once a second.
+    void tick();
+
+private:
+    QWidget &m_window;
+    QLabel &m_label;
+    mutable QMutex m_mutex;
+    QString m_strIp;
+    QString m_strDeviceRename;
+    unsigned m_ticks = 0;
+    bool m_namePhase = true;
+};

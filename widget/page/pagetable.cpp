@@ -1,0 +1,147 @@
+#include "widget/page/pagetable.h"
+
+#include "framework/object/vaskobject.h"
+#include "widget/language.h"
+#include "widget/look.h"
+#include "widget/menulook.h"
+#include "widget/row/pagerow.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTableWidget>
+
+namespace VASK
+{
+namespace
+{
+/// Titles are a little larger from the start than after a change of language.
+constexpr int firstTitlePixels = 16;
+
+const QString commonEnglishStyle =
+    look::sheet("*{font-family: \"Arial\";font-size: 20px;color: $text;background-color:rgba(0,0,0,0);}"
+                "QTableWidget::item:selected{background:rgba(39,25,99);}");
+} // namespace
+
+PageTable::PageTable(QWidget *page) : m_titleLabel(new QLabel(page)), m_table(new QTableWidget(page)) {}
+
+bool PageTable::setTitle(short width, signed char rowCount, const QString &title, const QString &style,
+                         const QString &englishStyle)
+{
+    if (title.isEmpty() || style.isEmpty())
+        return false;
+    m_width = width;
+    m_rowCount = rowCount;
+    m_title = title;
+    m_style = style;
+    m_englishStyle = englishStyle.isEmpty() ? commonEnglishStyle : englishStyle;
+    return true;
+}
+
+void PageTable::layOut()
+{
+    m_titleLabel->setGeometry(0, 0, m_width, menulook::titleHeight);
+    m_titleLabel->setContentsMargins(menulook::titleMargin, 0, 0, 0);
+
+    m_table->setGeometry(menulook::below);
+    m_table->setColumnCount(1);
+    m_table->setRowCount(m_rowCount);
+    m_table->horizontalHeader()->hide();
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->verticalHeader()->setMinimumSectionSize(1);
+    m_table->setShowGrid(false);
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->setFocusPolicy(Qt::NoFocus);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_table->verticalScrollBar()->setStyleSheet(menuScrollBarStyle());
+    setLanguageStyle(firstTitlePixels);
+}
+
+void PageTable::setLanguageStyle(int titlePixels)
+{
+    const bool english = englishChosen();
+    m_titleLabel->setText(translated(m_title));
+    m_titleLabel->setStyleSheet(menuTitleStyle(english, titlePixels));
+    // A style goes to every widget of the page again: only when it differs.
+    const QString &style = english ? m_englishStyle : m_style;
+    if (m_table->styleSheet() != style)
+        m_table->setStyleSheet(style);
+}
+
+void PageTable::followLanguage()
+{
+    // A page that was never shown would keep the fonts of the first style.
+    m_table->ensurePolished();
+    setLanguageStyle(menulook::titlePixels);
+}
+
+bool PageTable::placeRows(ENUM_ConfigIndex config)
+{
+    int position = 0;
+    for (const st_MenuItemInfo &row : qAsConst(m_rows)) {
+        VaskUiObject *widget = widgetOf(row);
+        if (!widget) {
+            qDebug() << "no widget for row" << position << "of page" << int(config);
+            return false;
+        }
+        if (position < m_rowCount) {
+            m_table->setRowHeight(position, int(g_MenuXmlConfig.value(row.menuIndex).rowHeight));
+            m_table->setCellWidget(position, 0, widget);
+        }
+        ++position;
+    }
+    return true;
+}
+
+void PageTable::setRowCount(int count)
+{
+    m_rowCount = static_cast<signed char>(qBound(0, count, m_rows.size()));
+}
+
+ShownRow PageTable::row(int number) const
+{
+    const auto found = m_rows.constFind(number);
+    if (found == m_rows.constEnd())
+        return {};
+    VaskUiObject *widget = widgetOf(*found);
+    return {*found, widget, dynamic_cast<PageRow *>(widget)};
+}
+
+VaskUiObject *PageTable::widgetOf(const st_MenuItemInfo &row) const
+{
+    for (auto it = m_rows.cbegin(); it != m_rows.cend(); ++it)
+        if (it->itemObject == row.itemObject)
+            if (auto *placed = dynamic_cast<VaskUiObject *>(m_table->cellWidget(it.key(), 0)))
+                return placed;
+    return poolObject<VaskUiObject>(row.itemObject);
+}
+
+int PageTable::rowOfPage(ENUM_ObjectIndex page) const
+{
+    for (auto it = m_rows.cbegin(); it != m_rows.cend(); ++it)
+        if (it->controlType == TYPE_SUBPAGE && it->pageObject == page)
+            return it.key();
+    return -1;
+}
+
+bool PageTable::isFocusable(int row) const
+{
+    const auto found = m_rows.constFind(row);
+    return found != m_rows.constEnd() && g_MenuXmlConfig.value(found->menuIndex).focusable &&
+           !m_table->isRowHidden(row);
+}
+
+void PageTable::setHidden(int row, bool hidden)
+{
+    m_table->setRowHidden(row, hidden);
+}
+
+void PageTable::select(int row)
+{
+    m_table->setCurrentCell(row, 0);
+}
+} // namespace VASK
