@@ -114,8 +114,7 @@ void words::go(Session &session, Arguments &arguments)
         arguments.complain("PATH is missing");
     if (!session.accepts(arguments))
         return;
-    Emulator &emulator = session.emulator;
-    auto *walker = new MenuWalker(emulator.keypad, emulator.screenText, path, opensLast, session.request());
+    auto *walker = new MenuWalker(session.emulator, path, opensLast, session.request());
     QObject::connect(walker, &MenuWalker::ended, session.request(), [&session](const QString &fault) {
         if (fault.isEmpty())
             session.ok();

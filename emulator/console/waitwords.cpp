@@ -57,8 +57,7 @@ void waitText(Session &session, const Wish &wish)
 
 void waitRest(Session &session, Rest::Of what)
 {
-    Emulator &emulator = session.emulator;
-    auto *rest = new Rest(what, emulator.lcd, emulator.screenText, emulator.device, session.request());
+    auto *rest = new Rest(what, session.emulator, session.request());
     QObject::connect(rest, &Rest::reached, session.request(), [&session] { session.ok(); });
     rest->start();
 }

@@ -3,22 +3,26 @@
 namespace
 {
 constexpr int patienceMs = 3000; ///< longer than the device takes for anything
-constexpr int restMs = 500;      ///< for an answer too many, behind the last of those that are expected
+constexpr int restMs = 500;      ///< for an answer too many, behind as many as are expected
 } // namespace
 
 AnswerCheck::AnswerCheck(Device &device, const QVector<session::Event> &events, QObject *parent)
     : QObject(parent)
 {
     for (const session::Event &event : events) {
-        if (event.kind == session::Kind::answered)
-            add(m_recorded, event.report);
+        if (event.kind != session::Kind::answered)
+            continue;
+        add(m_recorded, event.report);
+        ++m_missing;
     }
     m_patience.setSingleShot(true);
     connect(&m_patience, &QTimer::timeout, this, &AnswerCheck::ended);
     connect(&device, &Device::reported, this, [this](const Report &report, bool isAnswer) {
-        if (isAnswer)
-            add(m_given, report);
-        if (m_ending && m_given == m_recorded)
+        if (!isAnswer)
+            return;
+        add(m_given, report);
+        --m_missing;
+        if (m_ending && isComplete())
             m_patience.start(restMs);
     });
 }
@@ -26,7 +30,7 @@ AnswerCheck::AnswerCheck(Device &device, const QVector<session::Event> &events, 
 void AnswerCheck::end()
 {
     m_ending = true;
-    m_patience.start(m_given == m_recorded ? restMs : patienceMs);
+    m_patience.start(isComplete() ? restMs : patienceMs);
 }
 
 QStringList AnswerCheck::differences() const

@@ -24,9 +24,11 @@ signals:
 private:
     using Answers = QMap<QString, QStringList>; ///< a register and what it told, in hex
 
+    bool isComplete() const { return m_missing <= 0; }
     static void add(Answers &answers, const Report &report);
 
     Answers m_recorded, m_given;
+    int m_missing = 0; ///< as many as were recorded less those given
     QTimer m_patience;
     bool m_ending = false;
 };

@@ -1,11 +1,14 @@
 #include "emulator/device/menuwalker.h"
 
+#include "emulator/emulator.h"
+
 #include <QJsonObject>
 
 namespace
 {
 constexpr int lookMs = 30;
-constexpr int patienceMs = 1500; ///< for a change that need not come
+constexpr int noChangeMs = 400;  ///< by then a panel that has nothing to do has nothing to show
+constexpr int patienceMs = 5000; ///< with one that has
 constexpr int mostPresses = 12;  ///< of ESC, deeper no menu is
 
 QString nameOf(const QJsonValue &text)
@@ -15,14 +18,14 @@ QString nameOf(const QJsonValue &text)
 }
 } // namespace
 
-MenuWalker::MenuWalker(Keypad &keypad, ScreenText &screen, QStringList path, bool openLast, QObject *parent)
-    : QObject(parent), m_keypad(keypad), m_screen(screen), m_path(std::move(path)), m_openLast(openLast)
+MenuWalker::MenuWalker(Emulator &emulator, QStringList path, bool openLast, QObject *parent)
+    : QObject(parent), m_emulator(emulator), m_path(std::move(path)), m_openLast(openLast)
 {
 }
 
 void MenuWalker::start()
 {
-    m_screen.ask(this, [this](const std::optional<QJsonArray> &texts) {
+    m_emulator.screenText.ask(this, [this](const std::optional<QJsonArray> &texts) {
         if (!texts)
             return fail("the panel does not answer");
         m_texts = *texts;
@@ -99,15 +102,15 @@ void MenuWalker::enterPage()
 
 void MenuWalker::press(int key, Step next)
 {
-    if (!m_keypad.tap({key}))
-        return fail(m_keypad.refusal());
+    if (!m_emulator.keypad.tap({key}))
+        return fail(m_emulator.keypad.refusal());
     awaitChange(next);
 }
 
 void MenuWalker::turn(Step next)
 {
-    if (!m_keypad.turn(m_left ? keyKnobLeft : keyKnobRight, 1, 1))
-        return fail(m_keypad.refusal());
+    if (!m_emulator.keypad.turn(m_left ? keyKnobLeft : keyKnobRight, 1, 1))
+        return fail(m_emulator.keypad.refusal());
     awaitChange(next);
 }
 
@@ -121,12 +124,13 @@ void MenuWalker::awaitChange(Step next)
 void MenuWalker::read(Step next)
 {
     QTimer::singleShot(lookMs, this, [this, next] {
-        m_screen.ask(this, [this, next](const std::optional<QJsonArray> &texts) {
+        m_emulator.screenText.ask(this, [this, next](const std::optional<QJsonArray> &texts) {
             if (!texts)
                 return fail("the panel does not answer");
-            const bool settled = *texts == m_textsOnce && *texts != m_textsBefore;
+            const bool same = *texts == m_textsOnce, changed = *texts != m_textsBefore;
+            const bool idle = m_passed.hasExpired(noChangeMs) && !m_emulator.panel.isBusy();
             m_textsOnce = *texts;
-            if (!settled && !m_passed.hasExpired(patienceMs))
+            if (!(same && (changed || idle)) && !m_passed.hasExpired(patienceMs))
                 return read(next);
             m_texts = *texts;
             (this->*next)();

@@ -1,10 +1,12 @@
 // Walks the panel's menu as a user does: home, then from page to page by the names of the rows. Main thread.
 #pragma once
 
-#include "emulator/device/keypad.h"
-#include "emulator/device/screentext.h"
-
 #include <QElapsedTimer>
+#include <QJsonArray>
+#include <QObject>
+#include <QStringList>
+
+class Emulator;
 
 class MenuWalker : public QObject
 {
@@ -12,8 +14,7 @@ class MenuWalker : public QObject
 public:
     /// The names of the rows as the panel shows them, in upper or lower case; of the last the page is opened
     /// only if told so.
-    MenuWalker(Keypad &keypad, ScreenText &screen, QStringList path, bool openLast,
-               QObject *parent = nullptr);
+    MenuWalker(Emulator &emulator, QStringList path, bool openLast, QObject *parent = nullptr);
 
     void start();
 
@@ -41,8 +42,7 @@ private:
     /// The first text of that role and, if one is asked for, state.
     QString find(const QString &role, const QString &state = QString()) const;
 
-    Keypad &m_keypad;
-    ScreenText &m_screen;
+    Emulator &m_emulator;
     const QStringList m_path;
     const bool m_openLast;
     int m_at = 0;        ///< of the path

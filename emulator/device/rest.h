@@ -2,8 +2,10 @@
 // silent, too. Main thread.
 #pragma once
 
-#include "emulator/bus/device.h"
-#include "emulator/device/screentext.h"
+#include <QObject>
+#include <QTimer>
+
+class Emulator;
 
 class Rest : public QObject
 {
@@ -11,7 +13,7 @@ class Rest : public QObject
 public:
     enum Of { Screen, ScreenAndBus };
 
-    Rest(Of what, const Lcd &lcd, ScreenText &screen, Device &device, QObject *parent = nullptr);
+    Rest(Of what, Emulator &emulator, QObject *parent = nullptr);
 
     /// Looks from now on.
     void start();
@@ -25,8 +27,7 @@ private:
     void count();
 
     const Of m_what;
-    const Lcd &m_lcd;
-    ScreenText &m_screen;
+    Emulator &m_emulator;
     QTimer m_look;
     quint64 m_changes = 0;
     int m_stillLooks = 0;

@@ -54,6 +54,8 @@ private:
 bool TestSystemWords::goHome()
 {
     constexpr int mostPresses = 30; // a message that saves something takes none for some seconds
+    if (texts().contains("home field Port"))
+        return true;
     for (int i = 0; i < mostPresses; ++i)
         if (m_panel.press("esc") && m_panel.ask({"wait", "text", "Port", "0.3"}).ok)
             return m_panel.ask({"wait", "screen", "still"}).ok;
