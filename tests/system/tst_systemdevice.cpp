@@ -39,8 +39,9 @@ private slots:
         QVERIFY(restart());
         QVERIFY(m_panel.settle());
         QVERIFY(homescreen::waitToSee(m_panel, "led3:on"));
-        QCOMPARE(m_panel.stored(MENU_MainLayer_ScalingMode), QString("0"));
+        m_panel.waitUntil([this] { return mirrored::differences(m_panel).isEmpty(); });
         QCOMPARE(mirrored::differences(m_panel).join('\n'), QString());
+        QCOMPARE(m_panel.stored(MENU_MainLayer_ScalingMode), QString("0"));
     }
 
     void theyAgreeOnWhatIsChosen()
