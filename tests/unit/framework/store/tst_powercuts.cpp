@@ -312,6 +312,12 @@ void TestPowerCuts::nothingIsLost()
     QVERIFY2(m_lost.isEmpty(), qPrintable(m_lost.mid(0, 10).join('\n')));
 }
 
-FPD_TEST(TestPowerCuts)
+/// The test library's own patience of five minutes would end a long run.
+static void beInNoHurry()
+{
+    qputenv("QTEST_FUNCTION_TIMEOUT", "7200000");
+}
+
+FPD_TEST_IN(TestPowerCuts, Gui, beInNoHurry)
 
 #include "tst_powercuts.moc"
