@@ -40,9 +40,9 @@ constexpr unsigned int flashSize = 20 * 1024 * 1024;
 constexpr const char *flashFaultFile = "/fault/flash";
 /// How many of the next sends on the bus shall fail, in decimal.
 constexpr const char *busFaultFile = "/fault/bus-send";
-/// Which of the next calls that bring a file to the disk shall fail: "CALL N ERRNO", the N-th from now on, and
-/// with a fourth word all behind it, too. CALL is open, read, write, fsync, rename, remove, copy, sync or any;
-/// N is counted down, 0 for none.
+/// Which of the next calls that bring a file to the disk shall fail: "CALL N ERRNO", the N-th from now on,
+/// and with a fourth word all behind it, too. CALL is open, read, write, fsync, rename, remove, copy, sync or
+/// any; N is counted down, 0 for none.
 constexpr const char *diskFaultFile = "/fault/disk";
 
 /// Persistent environment and link state: lines of NAME=VALUE.

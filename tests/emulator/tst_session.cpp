@@ -1,8 +1,8 @@
 // Sessions as text, recorded from a keypad and a device and played again to both.
 #include "emulator/device/recorder.h"
 #include "emulator/device/replayer.h"
-#include "tests/fulldisk.h"
 #include "panelend.h"
+#include "tests/fulldisk.h"
 #include "tests/testprogram.h"
 
 #include <QDir>

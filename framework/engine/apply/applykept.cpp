@@ -1,5 +1,5 @@
-// Items that are neither sent nor shown when they change, each with its reason. All others that have no case of
-// their own are plain: stored, then handed to the protocol or, as reported, to their rows.
+// Items that are neither sent nor shown when they change, each with its reason. All others that have no case
+// of their own are plain: stored, then handed to the protocol or, as reported, to their rows.
 
 #include "framework/engine/parachange.h"
 #include "menu/itemindex.h"
