@@ -6,25 +6,6 @@
 
 namespace VASK
 {
-namespace
-{
-/// HDMI and the first DVI input have codes of two families; a device lists its inputs by one of them.
-struct CodePair {
-    int code;
-    int alias;
-};
-
-constexpr CodePair codePairs[] = {{SOURCE_HDMI1, 17}, {SOURCE_HDMI2, 18}, {SOURCE_DVI1, 0}};
-
-int aliasOf(int code)
-{
-    for (const CodePair &pair : codePairs)
-        if (code == pair.code || code == pair.alias)
-            return code == pair.code ? pair.alias : pair.code;
-    return code;
-}
-} // namespace
-
 WorkMode DeviceView::workMode() const
 {
     return WorkMode(m_engine.GetParaFromIndex(MENU_WorkMode).toInt());
@@ -54,7 +35,7 @@ InputRecord DeviceView::input(int number) const
 int DeviceView::inputOfCode(int code) const
 {
     const int listed = listedInputs();
-    for (int wanted : {code, aliasOf(code)})
+    for (int wanted : {code, otherCode(code)})
         for (int number = 0; number < listed; ++number)
             if (input(number).sourceCode == wanted)
                 return number;
@@ -73,7 +54,7 @@ int DeviceView::listedInputs() const
 int DeviceView::syncInput() const
 {
     if (workMode() == WORK_SENDER)
-        return inputOfCode(SOURCE_SYNC_REFERENCE);
+        return inputOfCode(INPUT_SyncReference);
     return m_engine.GetParaFromIndex(MENU_Sync_Source).toInt();
 }
 

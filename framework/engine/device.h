@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/engine/processdata.h"
+#include "framework/protocol/inputcodes.h"
 #include "menu/itemindex.h"
 
 #include <QString>
@@ -10,18 +11,6 @@
 namespace VASK
 {
 class ParaProcess;
-
-/// Codes by which the device names its inputs.
-enum SourceCode : int {
-    SOURCE_HDMI1 = 97,
-    SOURCE_HDMI2 = 98,
-    SOURCE_DVI1 = 105,
-    SOURCE_DVI2 = 106,
-    SOURCE_OPT1 = 233,
-    SOURCE_OPT2 = 234,
-    SOURCE_SDI = 48,
-    SOURCE_SYNC_REFERENCE = 254, ///< the last record that the device lists
-};
 
 constexpr int layerCount = 3; ///< main, PIP 1, PIP 2
 /// The item of a layer that corresponds to one of the main layer.

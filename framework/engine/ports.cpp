@@ -69,7 +69,7 @@ void ParaProcess::UpdateOPTLinkState(int link)
     auto stable = [&device](int code) {
         return device.input(device.inputOfCode(code)).signalState == stableSignal;
     };
-    if (m_processData.value(PARA_OPT1Link) == 1 && (stable(SOURCE_OPT1) || stable(SOURCE_OPT2))) {
+    if (m_processData.value(PARA_OPT1Link) == 1 && (stable(INPUT_OPT1) || stable(INPUT_OPT2))) {
         for (int port = 0; port < NET_PORT_COUNT; ++port)
             UpdatePortState(port);
     } else {

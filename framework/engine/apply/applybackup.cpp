@@ -15,11 +15,11 @@ QVector<int> inputsOf(ENUM_MenuIndex row)
 {
     switch (row) {
     case MENU_InputBackup_HDMI1:
-        return {SOURCE_HDMI1, SOURCE_HDMI2};
+        return {INPUT_HDMI1, INPUT_HDMI2};
     case MENU_InputBackup_DVI1:
-        return {SOURCE_DVI1, SOURCE_DVI2};
+        return {INPUT_DVI1, INPUT_DVI2};
     default:
-        return {SOURCE_HDMI1, SOURCE_HDMI2, SOURCE_DVI1, SOURCE_DVI2};
+        return {INPUT_HDMI1, INPUT_HDMI2, INPUT_DVI1, INPUT_DVI2};
     }
 }
 

@@ -109,7 +109,7 @@ void followWithSenderOutput(ParaChange &change, const InputReport &input)
 {
     const DeviceView device(change.engine);
     const bool sync = device.syncOn();
-    if (sync ? input.record.sourceCode != SOURCE_SYNC_REFERENCE : !isShownBy(change, input, 0))
+    if (sync ? input.record.sourceCode != INPUT_SyncReference : !isShownBy(change, input, 0))
         return;
     if (input.stable())
         takeOutputRate(change, input.snappedRate());
@@ -158,16 +158,17 @@ void applyInput(ParaChange &change)
     followWithTest(change, input);
 }
 
-/// Which page shows the colour sampling of an input, by its source code.
+/// Which page shows the colour sampling of an input, by its source code of either family.
 struct SamplingRow {
     int code;
     ENUM_MenuIndex item;
 };
 constexpr SamplingRow samplingRows[] = {
-    {17, MENU_HDMI1_ColorSample}, {96, MENU_HDMI1_ColorSample}, {97, MENU_HDMI1_ColorSample},
-    {18, MENU_HDMI2_ColorSample}, {98, MENU_HDMI2_ColorSample}, {104, MENU_DVI_ColorSample},
-    {105, MENU_DVI_ColorSample},  {0, MENU_DVI_ColorSample},    {1, MENU_DVI_ColorSample},
-    {2, MENU_DVI2_ColorSample},   {106, MENU_DVI2_ColorSample}, {48, MENU_SDI_ColorSample},
+    {INPUT_HDMI1, MENU_HDMI1_ColorSample},  {INPUT_HDMI1AliasTwin, MENU_HDMI1_ColorSample},
+    {INPUT_HDMI2, MENU_HDMI2_ColorSample},  {INPUT_DVI1, MENU_DVI_ColorSample},
+    {INPUT_DVI1Twin, MENU_DVI_ColorSample}, {INPUT_DVI1AliasTwin, MENU_DVI_ColorSample},
+    {INPUT_DVI2, MENU_DVI2_ColorSample},    {INPUT_DVI2Twin, MENU_DVI2_ColorSample},
+    {INPUT_SDI, MENU_SDI_ColorSample},
 };
 constexpr const char *samplings[] = {"RGB 4:4:4", "YCbCr 4:2:2", "YCbCr 4:4:4"};
 constexpr int sampledInputs = 5; ///< inputs of which the sampling is shown
@@ -180,7 +181,7 @@ void applySampling(ParaChange &change)
     const QString text = sampling < int(std::size(samplings)) ? samplings[sampling] : "";
     const int code = DeviceView(change.engine).input(input).sourceCode;
     for (const SamplingRow &row : samplingRows)
-        if (row.code == code)
+        if (row.code == code || otherCode(row.code) == code)
             change.show(row.item, text);
 }
 

@@ -1,6 +1,7 @@
 // The inputs: picture, colour range, EDID, audio, copy protection, backup and the mosaic of two inputs.
 
 #include "framework/engine/paraprocess.h"
+#include "framework/protocol/inputcodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
 #include "framework/protocol/send/videomode.h"
@@ -26,7 +27,7 @@ enum EnInputSourceCardNo : int {
 constexpr int stridedCards = CARD_SDI; ///< their pages are twins with item numbers a stride apart
 
 /// The codes by which the device knows them in picture and EDID registers.
-constexpr quint8 cardCodes[CARD_END] = {17, 18, 0, 106, 48};
+constexpr quint8 cardCodes[CARD_END] = {INPUT_HDMI1, INPUT_HDMI2, INPUT_DVI1, INPUT_DVI2, INPUT_SDI};
 
 ENUM_MenuIndex ofCard(ENUM_MenuIndex ofHdmi1, int card)
 {
@@ -93,7 +94,8 @@ int inputBackupChanged(const SendChange &change)
         quint8 backup;
     };
     constexpr quint8 noBackup = 255;
-    static constexpr Pair pairs[] = {{17, 18}, {105, 106}, {224, 224}};
+    static constexpr Pair pairs[] = {
+        {INPUT_HDMI1, INPUT_HDMI2}, {INPUT_DVI1Alias, INPUT_DVI2}, {INPUT_Mosaic, INPUT_Mosaic}};
     const Pair &pair = pairs[change.member];
     const bool off = change.value == QLatin1String("0");
     return change.sendBytes(littleEndian(pair.main, 1) + littleEndian(0, 1) +
