@@ -53,11 +53,12 @@ void contactSheets(const QDir &pictures, const QString &name)
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    if (argc != 2) {
-        fprintf(stderr, "usage: fpd-tour DIR\n");
-        return 2;
+    const bool help = argc == 2 && (qstrcmp(argv[1], "--help") == 0 || qstrcmp(argv[1], "-h") == 0);
+    if (argc != 2 || help) {
+        fprintf(help ? stdout : stderr, "usage: fpd-tour DIR\n");
+        return help ? 0 : 2;
     }
+    QApplication application(argc, argv);
     const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
     QStringList faults;
     for (bool english : {true, false}) {
