@@ -65,7 +65,9 @@ void words::push(Session &session, Arguments &arguments)
     const auto deviceType = quint8(arguments.numberOption("--device", 0, 255).value_or(0));
     const auto ack = quint8(arguments.numberOption("--ack", 0, 255).value_or(0));
     const quint32 address = isRaw ? 0 : arguments.hexNumber("ADDRESS");
-    const QByteArray bytes = arguments.bytes(isRaw ? "HEX" : "BYTES", 1, mostBytes);
+    // A report of no bytes is asked for by "" alone: bytes that were forgotten are not.
+    const bool isEmpty = !isRaw && !arguments.isEmpty() && arguments.peek().isEmpty();
+    const QByteArray bytes = arguments.bytes(isRaw ? "HEX" : "BYTES", isEmpty ? 0 : 1, mostBytes);
     if (!session.accepts(arguments))
         return;
     if (isRaw)

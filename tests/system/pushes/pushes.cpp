@@ -39,8 +39,12 @@ bool Pushes::begin()
 bool Pushes::push(const QStringList &reports)
 {
     QList<QStringList> requests;
-    for (const QString &report : reports)
-        requests << QStringList{"push"} + report.split(' ', Qt::SkipEmptyParts);
+    for (const QString &report : reports) {
+        QStringList words = report.split(' ', Qt::SkipEmptyParts);
+        if (words.size() == 1)
+            words << ""; // a report without a byte
+        requests << QStringList{"push"} + words;
+    }
     m_panel.mark();
     // What the report thread has left to the GUI thread stands there before a second barrier, which passes
     // through it.
