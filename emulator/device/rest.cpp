@@ -26,9 +26,11 @@ void Rest::start()
 
 void Rest::look()
 {
-    m_emulator.screenText.ping(this, [this](const std::optional<QJsonArray> &answer) {
+    // Before it is asked: it is still at work on its answer when that comes.
+    const bool works = m_what == ScreenAndBus && m_emulator.panel.isBusy();
+    m_emulator.screenText.ping(this, [this, works](const std::optional<QJsonArray> &answer) {
         if (answer)
-            count();
+            count(works);
         if (m_stillLooks >= stillLooks && (m_what == Screen || m_silentLooks >= silentLooks))
             emit reached();
         else
@@ -36,11 +38,10 @@ void Rest::look()
     });
 }
 
-void Rest::count()
+void Rest::count(bool works)
 {
     const quint64 changes = m_emulator.lcd.changes();
     m_stillLooks = changes == m_changes ? m_stillLooks + 1 : 0;
     m_changes = changes;
-    const bool works = m_what == ScreenAndBus && m_emulator.panel.isBusy();
     m_silentLooks = works ? 0 : m_silentLooks + 1;
 }

@@ -23,8 +23,9 @@ signals:
 
 private:
     void look();
-    /// The panel has answered, so what it had to do before that is done.
-    void count();
+    /// The panel has answered, so what it had to do before that is done; works: it was at work when it was
+    /// asked.
+    void count(bool works);
 
     const Of m_what;
     Emulator &m_emulator;
