@@ -11,8 +11,8 @@ constexpr const char *heardText = "StartComplate: 2";
 Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
     : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), device(stateFolder.path()),
       recorder(keypad, device), bootFlag(stateFolder.path()), panel(stateFolder.path()),
-      tools(stateFolder.path()), lcd(stateFolder.path()), screenText(stateFolder.path(), lcd),
-      keyRules(keypad, screenText)
+      tools(stateFolder.path()), service(stateFolder, device), pushChannel(stateFolder),
+      lcd(stateFolder.path()), screenText(stateFolder.path(), lcd), keyRules(keypad, screenText)
 {
     m_look.setInterval(lookMs);
     connect(&m_look, &QTimer::timeout, this, &Emulator::lookIfReady);
@@ -35,6 +35,8 @@ QString Emulator::open()
         return fault;
     if (!keypad.setPresent(true) || !device.setBusUp(true) || !screenText.open())
         return "cannot open the sockets in " + folder.path();
+    if (!service.open() || !pushChannel.open())
+        return "cannot open the REST service";
     bootFlag.start();
     return QString();
 }

@@ -11,6 +11,8 @@
 #include "emulator/host/panelprocess.h"
 #include "emulator/host/shelltools.h"
 #include "emulator/host/statefolder.h"
+#include "emulator/service/pushchannel.h"
+#include "emulator/service/restservice.h"
 
 class Emulator : public QObject
 {
@@ -34,6 +36,8 @@ public:
     BootFlag bootFlag;
     PanelProcess panel;
     ShellTools tools;
+    RestService service;
+    PushChannel pushChannel;
     Lcd lcd;
     ScreenText screenText;
     KeyRules keyRules;

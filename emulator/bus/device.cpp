@@ -140,6 +140,15 @@ bool Device::reportAndAdopt(const Report &report)
     return taken;
 }
 
+void Device::change(const QVector<Write> &writes, const Reports &besides)
+{
+    Reports reports = besides;
+    for (const Write &write : writes)
+        reports += m_model.obey(write);
+    if (m_reporting)
+        sendLater(reports);
+}
+
 bool Device::reportAll()
 {
     const int settledMs = Report().afterMs;

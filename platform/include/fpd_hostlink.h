@@ -57,6 +57,7 @@ constexpr const char *linkPriority = "pc_priority";
 /// emulator when it listens, so that the panels of two state folders never reach the same service.
 constexpr const char *portFile = "/ports";
 constexpr unsigned short restPort = 8001; ///< the REST service, on the board
+constexpr unsigned short pushPort = 8002; ///< its WebSocket channel
 
 /// Shell tools of the board; put in front of PATH.
 constexpr const char *toolFolder = "/bin";
