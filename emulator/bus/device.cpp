@@ -140,9 +140,9 @@ bool Device::reportAndAdopt(const Report &report)
     return taken;
 }
 
-void Device::change(const QVector<Write> &writes, const Reports &besides)
+void Device::change(const QVector<Write> &writes)
 {
-    Reports reports = besides;
+    Reports reports;
     for (const Write &write : writes)
         reports += m_model.obey(write);
     if (m_reporting)

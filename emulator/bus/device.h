@@ -56,9 +56,8 @@ public:
     /// A report out of the blue: the device holds what it tells from then on.
     bool reportAndAdopt(const Report &report);
 
-    /// A change that came another way than over the bus: the model obeys it, and the device reports what comes
-    /// of it and what is said besides.
-    void change(const QVector<Write> &writes, const Reports &besides);
+    /// A change that came another way than over the bus: the device obeys and reports as if it had.
+    void change(const QVector<Write> &writes);
 
     /// Whether the device reports by itself what it is and what a write has done; it does unless told
     /// otherwise.

@@ -12,7 +12,8 @@ namespace rest
 {
 namespace
 {
-using Made = std::optional<Change>;
+using Writes = QVector<Write>;
+using Made = std::optional<Writes>;
 
 constexpr quint32 solidRegister = 0x01000011;
 constexpr quint32 mappingRegister = 0x01000088;
@@ -54,11 +55,10 @@ int u8(const Registers &registers, quint8 deviceType, quint32 address)
     return quint8(registers.read(deviceType, address, 1)[0]);
 }
 
-/// A value of the receiving cards that the device tells, too.
+/// A value of the receiving cards.
 Made cardByte(quint32 address, int value)
 {
-    return Change{{{receivingCard, address, byte(value)}},
-                  {{address, byte(value), Report().afterMs, receivingCard}}};
+    return Writes{{receivingCard, address, byte(value)}};
 }
 
 Made changeBrightness(const QJsonValue &body)
@@ -77,7 +77,7 @@ Made changeGamma(const QJsonValue &body)
     const double tenths = std::round(body["value"].toDouble(-1) * gammaScale);
     if (!(tenths >= 0 && tenths <= mostByte))
         return std::nullopt;
-    return Change{{{receivingCard, cardGammaRegister, byte(int(tenths))}}, {}};
+    return Writes{{receivingCard, cardGammaRegister, byte(int(tenths))}};
 }
 
 QJsonValue readGamma(const Registers &registers)
@@ -98,7 +98,7 @@ Made changeColours(const QJsonValue &body)
             return std::nullopt;
         bytes += byte(*value);
     }
-    return Change{{{receivingCard, cardColoursRegister, bytes}}, {}};
+    return Writes{{receivingCard, cardColoursRegister, bytes}};
 }
 
 QJsonValue readColours(const Registers &registers)
@@ -115,7 +115,7 @@ Made changeSolid(const QJsonValue &body)
     const auto what = number(body, "type", mostByte);
     if (!what)
         return std::nullopt;
-    return Change{{{receivingCard, solidRegister, byte(*what)}}, {}};
+    return Writes{{receivingCard, solidRegister, byte(*what)}};
 }
 
 Made changeMapping(const QJsonValue &body)
@@ -134,7 +134,7 @@ Made changeLowLatency(const QJsonValue &body)
     const QJsonValue on = body["enable"];
     if (!on.isBool())
         return std::nullopt;
-    return Change{{{sendingSide, lowLatencyRegister, byte(on.toBool() ? lowLatencyOn : 0)}}, {}};
+    return Writes{{sendingSide, lowLatencyRegister, byte(on.toBool() ? lowLatencyOn : 0)}};
 }
 
 QJsonValue readLowLatency(const Registers &registers)
@@ -147,7 +147,7 @@ Made changeDisplayMode(const QJsonValue &body)
     const auto mode = number(body, "value", int(std::size(displayModes)) - 1);
     if (!mode)
         return std::nullopt;
-    return Change{{{sendingSide, displayRegister, byte(displayModes[*mode])}}, {}};
+    return Writes{{sendingSide, displayRegister, byte(displayModes[*mode])}};
 }
 
 QJsonValue readDisplayMode(const Registers &registers)
@@ -189,7 +189,7 @@ Made sendCabinet(const QJsonValue &body)
     constexpr int mostFiles = 8;
     if (file < 0 || file >= mostFiles)
         return std::nullopt;
-    return Change{{{sendingSide, loadCabinetRegister + quint32(file), byte(1)}}, {}};
+    return Writes{{sendingSide, loadCabinetRegister + quint32(file), byte(1)}};
 }
 
 /// A pattern as the service describes it, and as the register has it: the family's mark and the icon's place.
@@ -236,9 +236,8 @@ Made changeTestPattern(const QJsonValue &body)
     });
     if (pattern == std::end(patterns) || !gray || !spacing || !speed)
         return std::nullopt;
-    return Change{{{sendingSide, patternRegister, byte(*gray / grayStep + 1) + byte(*spacing) + byte(*speed)},
-                   {sendingSide, displayRegister, byte(testMode) + byte(pattern->code)}},
-                  {}};
+    return Writes{{sendingSide, patternRegister, byte(*gray / grayStep + 1) + byte(*spacing) + byte(*speed)},
+                  {sendingSide, displayRegister, byte(testMode) + byte(pattern->code)}};
 }
 
 Made changeQuick(const QJsonValue &body)
@@ -249,10 +248,9 @@ Made changeQuick(const QJsonValue &body)
     if (!rows || !columns || !cabinets || !route)
         return std::nullopt;
     constexpr int length = 4, cabinetsOffset = 2;
-    return Change{{{sendingSide, screenPortRegister,
-                    Block(length).u8(0, *rows).u8(1, *columns).u16(cabinetsOffset, *cabinets)},
-                   {sendingSide, routeRegister, byte(*route)}},
-                  {}};
+    return Writes{{sendingSide, screenPortRegister,
+                   Block(length).u8(0, *rows).u8(1, *columns).u16(cabinetsOffset, *cabinets)},
+                  {sendingSide, routeRegister, byte(*route)}};
 }
 
 /// The two writes of one port, whose record stands behind the one of the quick form.
@@ -278,15 +276,15 @@ bool addPort(const QJsonValue &body, QVector<Write> &writes)
 
 Made changeAdvanced(const QJsonValue &body)
 {
-    Change change;
+    Writes writes;
     for (const QJsonValue &port : body.toArray()) {
-        if (!addPort(port, change.writes))
+        if (!addPort(port, writes))
             return std::nullopt;
     }
-    if (change.writes.isEmpty())
+    if (writes.isEmpty())
         return std::nullopt;
-    change.writes += {sendingSide, advancedRegister, byte(takeOverPorts)};
-    return change;
+    writes += {sendingSide, advancedRegister, byte(takeOverPorts)};
+    return writes;
 }
 
 constexpr Meaning meanings[] = {

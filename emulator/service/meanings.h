@@ -9,16 +9,11 @@
 
 namespace rest
 {
-/// What a request changes: registers, as if the panel had written them, and what is told besides.
-struct Change {
-    QVector<Write> writes;
-    Reports reports;
-};
-
 struct Meaning {
     const char *resource; ///< as in the table of paths
-    /// Nothing for a body that the device does not take.
-    std::optional<Change> (*change)(const QJsonValue &body);
+    /// The registers that a body means, as if the panel had written them; nothing for a body that the device
+    /// does not take.
+    std::optional<QVector<Write>> (*change)(const QJsonValue &body);
     /// What it holds; null: what was put last.
     QJsonValue (*read)(const Registers &registers);
 };

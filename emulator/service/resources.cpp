@@ -83,7 +83,7 @@ Answer Resources::change(const QString &resource, const Request &request)
         const auto change = body ? meaning->change(*body) : std::nullopt;
         if (!change)
             return failure(badBody, "the device does not take that");
-        m_device.change(change->writes, change->reports);
+        m_device.change(*change);
         m_keptBytes -= m_kept.take(request.path).size(); // of the console
     }
     // What is no JSON, a form of parts, is taken and not given back.
