@@ -1,0 +1,247 @@
+// The panel that speaks to the REST service, and fpd-resource: what they ask for, to the byte, and what
+// becomes of the panel when the service is not well.
+#include "tests/system/frames/framedrive.h"
+#include "tests/testprogram.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+
+using namespace VASK;
+using frames::path;
+
+namespace
+{
+using Path = QList<ENUM_MenuIndex>;
+
+struct KeyRequests {
+    const char *name;
+    Path path;
+    const char *keys;
+    QStringList requests; ///< behind "/api/v1/device/"
+};
+
+Path control(ENUM_MenuIndex row)
+{
+    return {MENU_DisplayControl, row};
+}
+Path pattern(ENUM_MenuIndex row)
+{
+    return {MENU_DisplayControl, MENU_TestPattern, row};
+}
+Path screen(ENUM_MenuIndex row)
+{
+    return {MENU_AdvancedSetting, MENU_ScreenSetting, row};
+}
+Path more(ENUM_MenuIndex row)
+{
+    return {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_MoreSettings, row};
+}
+Path colour(ENUM_MenuIndex row)
+{
+    return {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_MoreSettings, MENU_LEDScreenColor, row};
+}
+
+QString cabinets(const char *what, const char *body)
+{
+    return QString("PUT cabinets/16777215/%1 %2").arg(what, body);
+}
+QString screens(const char *what, const char *body)
+{
+    return QString("PUT screens/255/%1 %2").arg(what, body);
+}
+QString shown(int mode, const char *rgb, int lineWidth, int gray = 130, int spacing = 5, int speed = 3)
+{
+    const auto part = [rgb](int i) { return rgb[i] == '1' ? 255 : 0; };
+    return QString(R"(PUT screens/255/txtestpattern {"blue":%1,"gray":%2,"green":%3,"lineWidth":%4,)"
+                   R"("modeType":%5,"moveDirection":0,"moveSpeed":%6,"red":%7,"spaceValue":%8})")
+        .arg(part(2))
+        .arg(gray)
+        .arg(part(1))
+        .arg(lineWidth)
+        .arg(mode)
+        .arg(speed)
+        .arg(part(0))
+        .arg(spacing);
+}
+QStringList twice(const QString &request)
+{
+    return {request, request};
+}
+const QString solid = cabinets("solid", R"({"type":0})");
+QStringList brightness(const char *body)
+{
+    return twice(cabinets("brightness", body)) << solid;
+}
+
+QVector<KeyRequests> table()
+{
+    return {
+        {"brightness 63", path(MENU_ScreenBrightness), "R3 ok closed", brightness(R"({"value":160})")},
+        {"brightness 100", path(MENU_ScreenBrightness), "R37 ok closed", brightness(R"({"value":255})")},
+        {"brightness 50", path(MENU_ScreenBrightness), "L50 ok closed", brightness(R"({"value":127})")},
+        {"brightness 0", path(MENU_ScreenBrightness), "L50 ok closed", brightness(R"({"value":0})")},
+        {"freeze", control(MENU_Freeze), "", {screens("displaymode", R"({"value":2})")}},
+        {"black", control(MENU_FTB), "", {screens("displaymode", R"({"value":1})")}},
+        {"normal", control(MENU_Normal), "", {screens("displaymode", R"({"value":0})")}},
+        {"low latency on",
+         path(MENU_AdvancedSetting, MENU_LowLatency),
+         "r1 ok",
+         {screens("lowlatency", R"({"enable":true})")}},
+        {"low latency off",
+         path(MENU_AdvancedSetting, MENU_LowLatency),
+         "r1 ok",
+         {screens("lowlatency", R"({"enable":false})")}},
+        {"mapping on", more(MENU_Mapping), "r1 ok", {cabinets("mapping", R"({"enable":true})")}},
+        {"mapping off", more(MENU_Mapping), "r1 ok", {cabinets("mapping", R"({"enable":false})")}},
+        {"gamma", colour(MENU_Color_Gamma), "R1 ok", twice(cabinets("gamma", R"({"type":3,"value":2.9})"))},
+        {"colours of one's own", colour(MENU_Color_ColorTemp), "r3 ok", {}},
+        {"red", colour(MENU_Color_R), "L5 ok",
+         twice(cabinets("rgbbrightness", R"({"b":253,"g":249,"r":250})"))},
+        {"save", screen(MENU_SavetoRVCard), "yes closed2", {solid}},
+        {"test pattern", control(MENU_TestPattern), "", {shown(11, "111", 1)}},
+        {"pure colour", pattern(MENU_Test_PureColor), "r1 ok", {shown(11, "111", 1), shown(12, "111", 1)}},
+        {"gradient",
+         pattern(MENU_Test_Gradient),
+         "r2 ok",
+         {shown(3, "100", 0), shown(3, "010", 0), shown(3, "001", 0)}},
+        {"grid", pattern(MENU_Test_Grid), "r1 ok", {shown(5, "111", 1), shown(4, "111", 1)}},
+        // The service's families count from one, the panel's from zero: the one before the grid goes out.
+        {"spacing", pattern(MENU_Test_Spacing), "L2 ok", twice(shown(3, "001", 0, 130, 3))},
+        {"test brightness", pattern(MENU_Test_Brightness), "R1 ok", twice(shown(3, "001", 0, 195, 3))},
+        {"end of the test", control(MENU_Normal), "", {screens("displaymode", R"({"value":0})")}},
+    };
+}
+} // namespace
+
+class TestStoryResource : public SystemTest
+{
+    Q_OBJECT
+protected:
+    void begin() override
+    {
+        // The option goes to the emulator behind those that the panel under test gives it.
+        QVERIFY(m_panel.powerDevice({"sh", "-c", "exec \"$@\" --rest", "sh"}) && m_drive.startPanel());
+        QVERIFY(m_walk.speak("fpd_ZH"));
+    }
+
+    void leave() override
+    {
+        for (const char *well : {"on", "silent off", "status own"})
+            QVERIFY(m_panel.ask(QStringList{"service"} + QString(well).split(' ')).ok);
+    }
+
+private slots:
+    void init() { QVERIFY(m_panel.ask({"requests", "--clear"}).ok); }
+
+    void keysAsk_data()
+    {
+        QTest::addColumn<int>("line");
+        const QVector<KeyRequests> lines = table();
+        for (int line = 0; line < lines.size(); ++line)
+            QTest::newRow(lines[line].name) << line;
+    }
+    /// Nothing of it goes over the bus.
+    void keysAsk()
+    {
+        QFETCH(int, line);
+        const KeyRequests row = table()[line];
+        const QString fault = m_drive.drive({row.path, row.keys, {}});
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
+        QVERIFY2(m_panel.waitUntil([&] { return asked().size() >= row.requests.size(); }),
+                 qPrintable(asked().join('\n')));
+        QStringList asks = asked();
+        // The panel saves once more when it comes home while the message of the saving still stands.
+        if (row.requests.endsWith(solid) && asks.size() == row.requests.size() + 1 &&
+            asks.last().endsWith(solid.section(' ', 1)))
+            asks.removeLast();
+        QCOMPARE(asks.replaceInStrings(QRegularExpression("(?<= )/api/v1/device/"), "").join('\n'),
+                 row.requests.join('\n'));
+    }
+
+    void theDeviceTellsThePanel()
+    {
+        QVERIFY(m_drive.home());
+        QCOMPARE(resource({"put", "ScreenLowLatency", R"({"enable":true})", "id=255"}), 0);
+        QVERIFY(waitUntilStored(MENU_LowLatency, "1"));
+        QVERIFY(m_panel.ask({"device", "show"}).lines.contains("  low latency: on"));
+        QCOMPARE(resource({"put", "ScreenLowLatency", R"({"enable":1})", "id=255"}), 1);
+    }
+
+    void aServiceThatIsNotWell_data()
+    {
+        QTest::addColumn<QStringList>("fault");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("log");
+        const QString failed = "http return : brightness set faild error", done = "succeed, index: 1";
+        QTest::newRow("absent") << QStringList{"service", "off"} << 2 << failed;
+        QTest::newRow("silent") << QStringList{"service", "silent", "on"} << 2 << failed;
+        QTest::newRow("500") << QStringList{"service", "status", "500", "{\"code\":0}"} << 1 << failed;
+        QTest::newRow("garbage") << QStringList{"service", "garbage"} << 1 << done;
+    }
+    /// The panel shows and keeps the user's value, at once, and logs the end of the request.
+    void aServiceThatIsNotWell()
+    {
+        QFETCH(QStringList, fault);
+        QFETCH(int, status);
+        QFETCH(QString, log);
+        QVERIFY(m_drive.home() && m_walk.go({MENU_ScreenBrightness}));
+        QVERIFY(m_panel.ask(fault).ok);
+        m_panel.mark();
+        const int value = m_panel.stored(MENU_ScreenBrightness).toInt() + 1;
+        QElapsedTimer sinceKey;
+        sinceKey.start();
+        QVERIFY(m_walk.turn(Right, 1));
+        QVERIFY(m_panel.waitFor(QString::number(value), QRect(200, 24, 120, 40)));
+        QVERIFY2(sinceKey.elapsed() < 2500, "the panel waited for the service");
+        QVERIFY(m_panel.waitForLog(log));
+        QCOMPARE(resource({"--timeout", "1", "get", "Device_cfgfile"}), status);
+        leave();
+        QVERIFY(m_walk.press(keys::Esc));
+        QVERIFY(waitUntilStored(MENU_ScreenBrightness, QString::number(value)));
+        QVERIFY(m_walk.home());
+        QCOMPARE(resource({"get", "Device_cfgfile"}), 0);
+    }
+
+    /// The command has the whole catalogue, the device knows each path of it, and they mean the same.
+    void everyResourceIsAsked()
+    {
+        QCOMPARE(resource({"list"}), 0);
+        const QStringList rows = m_output.split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(rows.size(), 392);
+        QStringList expected;
+        for (const QString &row : rows) {
+            QString path = row.section(' ', 1);
+            QStringList words{"--json", "get", row.section(' ', 0, 0)};
+            for (const char *name : {"id", "outputid", "type"}) {
+                if (path.contains('{' + QString(name) + '}'))
+                    words += QString(name) + "=7";
+                path.replace('{' + QString(name) + '}', "7");
+            }
+            expected += "GET " + path;
+            QVERIFY2(resource(words) == 0, qPrintable(row + ": " + m_output));
+        }
+        QCOMPARE(asked().join('\n'), expected.join('\n'));
+    }
+
+private:
+    QStringList asked() { return m_panel.ask({"requests"}).lines; }
+    /// fpd-resource against this device: its exit status.
+    int resource(const QStringList &words)
+    {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(QCoreApplication::applicationDirPath() + "/../bin/fpd-resource",
+                      QStringList{"--state", m_panel.statePath()} + words);
+        if (!process.waitForFinished())
+            return -1;
+        m_output = QString::fromUtf8(process.readAll());
+        return process.exitCode();
+    }
+
+    FrameDrive m_drive{m_panel, m_walk};
+    QString m_output;
+};
+
+FPD_TEST(TestStoryResource)
+#include "tst_storyresource.moc"
