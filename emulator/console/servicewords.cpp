@@ -18,7 +18,7 @@ bool switchService(Emulator &emulator, bool on)
 }
 
 /// What it tells its clients. With a port, a datagram goes there, too.
-void push(Session &session, Arguments &arguments)
+void pushToClients(Session &session, Arguments &arguments)
 {
     const qint64 port = arguments.numberOption("--udp", 1, mostPort).value_or(0);
     const QString text = arguments.text("JSON");
@@ -128,7 +128,7 @@ void words::service(Session &session, Arguments &arguments)
         names << verb.name;
     const QString name = arguments.choice(names);
     if (name == "push")
-        return push(session, arguments);
+        return pushToClients(session, arguments);
     for (const Verb &verb : verbs) {
         if (name == QLatin1String(verb.name))
             return verb.handle(session, arguments) ? session.ok() : session.fail(verb.fault);
