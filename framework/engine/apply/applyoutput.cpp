@@ -106,8 +106,7 @@ void syncOn(ParaChange &change)
         change.send(MENU_LowLatency, "0");
     }
     const QString source = change.item(MENU_Sync_Source);
-    const int input =
-        source == QLatin1String("0") ? device.inputOfCode(INPUT_SyncReference) : source.toInt();
+    const int input = source == QLatin1String("0") ? device.inputOfCode(INPUT_SyncReference) : source.toInt();
     const int rate = followedRate(change, device.input(input));
     change.set(PARA_OutputRate, QString::number(rate));
     change.redoResolution(rate);
