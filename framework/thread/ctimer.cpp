@@ -1,13 +1,10 @@
 #include "framework/thread/ctimer.h"
 
-#include <ctime>
-
 namespace VASK
 {
 namespace
 {
 constexpr int startCapacity = 64;
-constexpr long tickNs = 10000000;
 
 void *runTimer(void *timer)
 {
@@ -40,6 +37,7 @@ int CTimer::Initialize()
 int CTimer::UnInitialize()
 {
     m_stop = 1;
+    m_alarm.ring();
     if (m_running)
         pthread_join(m_thread, nullptr);
     m_running = false;
@@ -48,7 +46,10 @@ int CTimer::UnInitialize()
 
 int CTimer::SetTimer(unsigned int interval, int times, CTimerNode::Callback callback, void *argument)
 {
-    return m_queue.Schedule(interval, times, callback, argument);
+    const int id = m_queue.Schedule(interval, times, callback, argument);
+    if (m_queue.isFirst(id))
+        m_alarm.ring(); // the pause that runs is too long for it
+    return id;
 }
 
 int CTimer::CancelTimer(int id)
@@ -61,10 +62,24 @@ int CTimer::CancelTimer(int id)
 void CTimer::Run()
 {
     while (!m_stop) {
-        const timespec pause{0, tickNs};
-        nanosleep(&pause, nullptr);
+        if (m_alarm.pause(untilDueUs()) == TimerAlarm::RUNG)
+            continue;
+        // As if the clock had been looked at in every moment: a clock that stands before that was set back.
+        const unsigned int skippedMs = m_alarm.skippedMs();
+        if (!m_previous.isEmpty())
+            m_previous = m_previous.plusMs(skippedMs);
         tick();
     }
+}
+
+long CTimer::untilDueUs()
+{
+    CTimeValue due;
+    if (!m_queue.firstDue(due))
+        return TimerAlarm::longestPauseUs;
+    CTimeValue now;
+    m_clock(now);
+    return now < due ? due.usSince(now) : 0;
 }
 
 void CTimer::tick()

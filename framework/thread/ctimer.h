@@ -1,8 +1,10 @@
-// The timer service: one thread that looks every 10 ms which timers are due and runs their callbacks, one
-// after the other, away from the GUI. A callback must be short and must not touch a widget. The plain
-// functions work on the one instance and are called from any thread.
+// The timer service: one thread that looks at moments 10 ms apart which timers are due and runs their
+// callbacks, one after the other, away from the GUI; moments at which nothing is due pass without it. A
+// callback must be short and must not touch a widget. The plain functions work on the one instance and are
+// called from any thread.
 #pragma once
 
+#include "framework/thread/timeralarm.h"
 #include "framework/thread/timerqueue.h"
 
 #include <atomic>
@@ -35,6 +37,7 @@ public:
     CTimerQueue &queue() { return m_queue; }
 
 private:
+    long untilDueUs();
     void fireDue(const CTimeValue &now);
 
     pthread_t m_thread{};
@@ -42,7 +45,9 @@ private:
     std::atomic<unsigned char> m_stop{0};
     const CTimerQueue::Clock m_clock;
     CTimerQueue m_queue;
-    /// The clock at the tick before; empty at the start.
+    TimerAlarm m_alarm;
+    /// The clock at the tick before, or where it would have been at the one that nobody looked at; empty at
+    /// the start.
     CTimeValue m_previous;
 };
 

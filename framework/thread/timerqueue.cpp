@@ -25,6 +25,11 @@ CTimeValue CTimeValue::plusMs(unsigned int ms) const
     return sum;
 }
 
+long CTimeValue::usSince(const CTimeValue &earlier) const
+{
+    return (seconds - earlier.seconds) * microsecondsPerSecond + microseconds - earlier.microseconds;
+}
+
 bool CTimeValue::operator<(const CTimeValue &other) const
 {
     return seconds != other.seconds ? seconds < other.seconds : microseconds < other.microseconds;
@@ -112,6 +117,20 @@ CTimerNode *CTimerQueue::Get(int slot)
 {
     CMutexGuard guard(m_lock);
     return slot >= 0 && slot < m_count ? m_heap[slot] : nullptr;
+}
+
+bool CTimerQueue::firstDue(CTimeValue &due)
+{
+    CMutexGuard guard(m_lock);
+    if (m_count > 0)
+        due = m_heap[0]->m_dueTime;
+    return m_count > 0;
+}
+
+bool CTimerQueue::isFirst(int id)
+{
+    CMutexGuard guard(m_lock);
+    return m_count > 0 && m_heap[0]->m_id == id;
 }
 
 int CTimerQueue::GetCurSize()

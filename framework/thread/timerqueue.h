@@ -13,6 +13,7 @@ struct CTimeValue {
 
     bool isEmpty() const { return seconds == 0 && microseconds == 0; }
     CTimeValue plusMs(unsigned int ms) const;
+    long usSince(const CTimeValue &earlier) const;
     bool operator<(const CTimeValue &other) const;
 };
 
@@ -58,6 +59,10 @@ public:
     bool Cancel(int id);
     /// The timer in a heap slot, null past the end; slot 0 is the next to fire.
     CTimerNode *Get(int slot);
+    /// When the next timer is to fire; false if none is armed.
+    bool firstDue(CTimeValue &due);
+    /// Is this the timer that is to fire next?
+    bool isFirst(int id);
     /// Number of armed timers.
     int GetCurSize();
     int GetCapacity();

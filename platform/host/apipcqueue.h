@@ -39,7 +39,7 @@ public:
 
 private:
     static constexpr size_t maximalMessages = 4096;
-    static constexpr std::chrono::milliseconds longestWait{1000};
+    static constexpr std::chrono::milliseconds longestWait{3000};
 
     std::mutex m_lock;
     std::condition_variable m_filled, m_taken;

@@ -78,6 +78,7 @@ void APiPCService::Terminate()
 void APiPCService::stop(Direction &direction)
 {
     if (direction.ticker) {
+        direction.gate.close();
         direction.ticker->setStop(true);
         direction.ticker->wait(longestStopMs);
         direction.ticker.reset();
@@ -89,9 +90,12 @@ void APiPCService::stop(Direction &direction)
 
 void APiPCService::append(Direction &direction, const QByteArray &packet)
 {
-    QMutexLocker lock(&direction.mutex);
-    direction.list.append(packet);
-    direction.waiting = direction.list.size();
+    {
+        QMutexLocker lock(&direction.mutex);
+        direction.list.append(packet);
+        direction.waiting = direction.list.size();
+    }
+    direction.gate.wake();
 }
 
 int APiPCService::SendMsg(void *packet)

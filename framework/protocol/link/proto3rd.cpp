@@ -122,9 +122,12 @@ void Proto3rd::queueNotify(const QByteArray &packet)
 {
     auto *notify = new NotifyStruct;
     notify->setByteArrayInfo(packet);
-    QMutexLocker lock(&m_notifyMutex);
-    m_notifyList.append(notify);
-    m_waiting = m_notifyList.size();
+    {
+        QMutexLocker lock(&m_notifyMutex);
+        m_notifyList.append(notify);
+        m_waiting = m_notifyList.size();
+    }
+    m_notifyGate.wake();
 }
 
 void Proto3rd::slot_notifyThreadFun(bool)

@@ -3,6 +3,7 @@
 #include "framework/thread/tickgate.h"
 #include "tests/testprogram.h"
 
+#include <QSemaphore>
 #include <QtTest>
 
 using namespace VASK;
@@ -13,6 +14,7 @@ class TestMsgThread : public QObject
 private slots:
     void ticksUntilStopped();
     void gateLetsWorkThrough();
+    void noWorkIsMissed();
 };
 
 void TestMsgThread::ticksUntilStopped()
@@ -39,7 +41,11 @@ void TestMsgThread::gateLetsWorkThrough()
     int handled = 0;
     bool onOwnThread = true;
     MsgThread ticker(1);
+    std::atomic<int> ticks{0};
+    connect(
+        &ticker, &MsgThread::doInfo, &ticker, [&] { ++ticks; }, Qt::DirectConnection);
     TickGate gate;
+    gate.wake(); // nobody is there yet
     gate.open(
         &ticker, &receiver, [&] { return work > 0; },
         [&](bool) {
@@ -50,12 +56,34 @@ void TestMsgThread::gateLetsWorkThrough()
     ticker.start();
     QTest::qWait(30);
     QCOMPARE(handled, 0);
+    QCOMPARE(ticks, 1); // and it rests
     work = 1;
+    gate.wake();
     QThread::msleep(50); // many ticks while the receiver does not look: one of them waits
     QVERIFY(QTest::qWaitFor([&] { return handled > 0; }, 5000));
     QTest::qWait(30);
     QCOMPARE(handled, 1);
     QVERIFY(onOwnThread);
+    gate.close();
+    ticker.setStop(true); // out of its rest
+    QVERIFY(ticker.wait(5000));
+}
+
+/// Work that comes while the ticker is on its way to rest must not be left lying.
+void TestMsgThread::noWorkIsMissed()
+{
+    std::atomic<int> work{0};
+    QSemaphore done;
+    MsgThread ticker(0);
+    ticker.tickOnlyWhile([&] { return work > 0; });
+    connect(
+        &ticker, &MsgThread::doInfo, &ticker, [&] { done.release(work.exchange(0)); }, Qt::DirectConnection);
+    ticker.start();
+    for (int i = 0; i < 20000; ++i) {
+        work = 1;
+        ticker.wake();
+        QVERIFY2(done.tryAcquire(1, 5000), qPrintable(QString::number(i)));
+    }
     ticker.setStop(true);
     QVERIFY(ticker.wait(5000));
 }

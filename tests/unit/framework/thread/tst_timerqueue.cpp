@@ -279,6 +279,41 @@ private slots:
         QCOMPARE(timer.queue().GetCurSize(), 1); // armed, and nobody looks
     }
 
+    void aPauseEndsForAnEarlierTimer()
+    {
+        CTimer timer;
+        QCOMPARE(timer.Initialize(), 0);
+        QSemaphore fired;
+        const auto release = [](int, void *argument) { static_cast<QSemaphore *>(argument)->release(); };
+        timer.SetTimer(100000, 1, nothing, nullptr);
+        QTest::qWait(30); // it has begun to wait for that one
+        timer.SetTimer(20, 1, release, &fired);
+        QVERIFY(fired.tryAcquire(1, 5000));
+        // With the thread asleep until then, its end does not wait either.
+        QElapsedTimer ending;
+        ending.start();
+        QCOMPARE(timer.UnInitialize(), 0);
+        QVERIFY(ending.elapsed() < 5000);
+    }
+
+    void clockSetBackDuringALongPause()
+    {
+        static std::atomic<long> offset;
+        offset = 0;
+        CTimer timer([](CTimeValue &now) {
+            GetTimeOfDay(now);
+            now.seconds += offset;
+        });
+        QCOMPARE(timer.Initialize(), 0);
+        QSemaphore fired;
+        timer.SetTimer(
+            200, -1, [](int, void *argument) { static_cast<QSemaphore *>(argument)->release(); }, &fired);
+        QVERIFY(fired.tryAcquire(1, 5000));
+        offset = -3600;
+        QVERIFY(fired.tryAcquire(2, 5000)); // neither stopped for an hour nor thrown off
+        QCOMPARE(timer.UnInitialize(), 0);
+    }
+
     void plainFunctionsCheckTheirArguments()
     {
         int id = 7;
