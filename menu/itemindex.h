@@ -1,6 +1,8 @@
 // Items of the menu, messages and values of the engine have their number here, once each.
 #pragma once
 
+#include "menu/nth.h"
+
 namespace VASK
 {
 /// Every item of the menu, every message and every value of the engine, in one space. Item texts, limits and

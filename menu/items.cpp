@@ -194,84 +194,75 @@ constexpr Texts customRates{"23.98", "24", "25", "29.97", "30", "47.95", "48", "
 constexpr Texts wideRates{"23.98", "24", "25", "29.97", "30", "48", "50", "59.94", "60"};
 constexpr Texts edidRates{"30", "50", "59.94", "60"};
 
-/// Member of a family: its number in the enumeration is the first member's, raised by the distance.
-ENUM_MenuIndex member(ENUM_MenuIndex first, int distance)
-{
-    return ENUM_MenuIndex(first + distance);
-}
-
 /// A layer; the defaults are the window's start, its priority and whether it is on.
 Items layerItems(int layer, const QString &status, const QString &x, const QString &y,
                  const QString &priority)
 {
-    const int distance = layer * STRIDE_Layer;
     return {
-        list(member(MENU_MainLayer_Status, distance), "Status", offOn, status),
-        list(member(MENU_MainLayer_InputSource, distance), "InputSource", inputs, "2"),
-        list(member(MENU_MainLayer_ScalingMode, distance), "ScalingMode", scalings, "2"),
-        number(member(MENU_MainLayer_HorWidth, distance), "HorWidth", "64", "32768", "1", "800"),
-        number(member(MENU_MainLayer_VerHeight, distance), "VerHeight", "64", "32768", "1", "600"),
-        number(member(MENU_MainLayer_InitialX, distance), "InitialX", "-32768", "32768", "1", x),
-        number(member(MENU_MainLayer_InitialY, distance), "InitialY", "-32768", "32768", "1", y),
-        list(member(MENU_MainLayer_Priority, distance), "Priority", priorities, priority),
-        entry(member(MENU_MainLayer_InputCrop, distance), "InputCrop"),
-        number(member(MENU_MainLayer_Opacity, distance), "Opacity", "0", "100", "1", "100").withUnit("%"),
+        list(nth(MENU_MainLayer_Status, layer, STRIDE_Layer), "Status", offOn, status),
+        list(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer), "InputSource", inputs, "2"),
+        list(nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer), "ScalingMode", scalings, "2"),
+        number(nth(MENU_MainLayer_HorWidth, layer, STRIDE_Layer), "HorWidth", "64", "32768", "1", "800"),
+        number(nth(MENU_MainLayer_VerHeight, layer, STRIDE_Layer), "VerHeight", "64", "32768", "1", "600"),
+        number(nth(MENU_MainLayer_InitialX, layer, STRIDE_Layer), "InitialX", "-32768", "32768", "1", x),
+        number(nth(MENU_MainLayer_InitialY, layer, STRIDE_Layer), "InitialY", "-32768", "32768", "1", y),
+        list(nth(MENU_MainLayer_Priority, layer, STRIDE_Layer), "Priority", priorities, priority),
+        entry(nth(MENU_MainLayer_InputCrop, layer, STRIDE_Layer), "InputCrop"),
+        number(nth(MENU_MainLayer_Opacity, layer, STRIDE_Layer), "Opacity", "0", "100", "1", "100")
+            .withUnit("%"),
     };
 }
 
 /// The input crop of a layer.
 Items cropItems(int layer)
 {
-    const int distance = layer * STRIDE_Crop;
     return {
-        list(member(MENU_MainLayerCrop_Status, distance), "Status", offOn, "0"),
-        number(member(MENU_MainLayerCrop_HorWidth, distance), "HorWidth", "64", "32768", "1", "3840"),
-        number(member(MENU_MainLayerCrop_VerHeight, distance), "VerHeight", "64", "32768", "1", "1080"),
-        number(member(MENU_MainLayerCrop_InitialX, distance), "InitialX", "0", "32768", "1", "0"),
-        number(member(MENU_MainLayerCrop_InitialY, distance), "InitialY", "0", "32768", "1", "0"),
-        action(member(MENU_MainLayerCrop_Reset, distance), "Reset", "0"),
+        list(nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop), "Status", offOn, "0"),
+        number(nth(MENU_MainLayerCrop_HorWidth, layer, STRIDE_Crop), "HorWidth", "64", "32768", "1", "3840"),
+        number(nth(MENU_MainLayerCrop_VerHeight, layer, STRIDE_Crop), "VerHeight", "64", "32768", "1",
+               "1080"),
+        number(nth(MENU_MainLayerCrop_InitialX, layer, STRIDE_Crop), "InitialX", "0", "32768", "1", "0"),
+        number(nth(MENU_MainLayerCrop_InitialY, layer, STRIDE_Crop), "InitialY", "0", "32768", "1", "0"),
+        action(nth(MENU_MainLayerCrop_Reset, layer, STRIDE_Crop), "Reset", "0"),
     };
 }
 
 /// An input's page.
 Items inputItems(int input, const QString &colourSampling)
 {
-    const int distance = input * STRIDE_Input;
     return {
-        entry(member(MENU_HDMI1_EDID, distance), "EDID"),
-        entry(member(MENU_HDMI1_InputColor, distance), "InputColor"),
-        list(member(MENU_HDMI1_LimitedtoFull, distance), "LimitedtoFull", offOn, "0"),
-        entry(member(MENU_HDMI1_Attributes, distance), "Attributes"),
-        information(member(MENU_HDMI1_ColorSample, distance), "ColorSample", colourSampling),
+        entry(nth(MENU_HDMI1_EDID, input, STRIDE_Input), "EDID"),
+        entry(nth(MENU_HDMI1_InputColor, input, STRIDE_Input), "InputColor"),
+        list(nth(MENU_HDMI1_LimitedtoFull, input, STRIDE_Input), "LimitedtoFull", offOn, "0"),
+        entry(nth(MENU_HDMI1_Attributes, input, STRIDE_Input), "Attributes"),
+        information(nth(MENU_HDMI1_ColorSample, input, STRIDE_Input), "ColorSample", colourSampling),
     };
 }
 
 /// EDID and picture of an input.
 Items pictureItems(int input, Texts inputResolutions)
 {
-    const int distance = input * STRIDE_InputPicture;
     return {
-        list(member(MENU_HDMI1_EDIDChoice, distance), "EDID", edidKinds, "0"),
-        list(member(MENU_HDMI1_EDIDResolution, distance), "Resolution", inputResolutions, "7"),
-        list(member(MENU_HDMI1_EDIDFrameRate, distance), "FrameRate", edidRates, "3"),
-        action(member(MENU_HDMI1_EDIDApply, distance), "Apply", "0"),
-        number(member(MENU_HDMI1_EDIDWidth, distance), "Width", "800", "3840", "2", "1920"),
-        number(member(MENU_HDMI1_EDIDHeight, distance), "Height", "600", "3840", "1", "1080"),
-        list(member(MENU_HDMI1_EDIDCustomRate, distance), "FrameRate", customRates, "9"),
-        number(member(MENU_HDMI1_Brightness, distance), "Brightness", "0", "100", "1", "50"),
-        number(member(MENU_HDMI1_Contrast, distance), "Contrast", "0", "100", "1", "50"),
-        number(member(MENU_HDMI1_Saturation, distance), "Saturation", "0", "100", "1", "50"),
-        number(member(MENU_HDMI1_Hue, distance), "Hue", "-180", "180", "1", "0"),
-        action(member(MENU_HDMI1_ColorReset, distance), "Reset", "0"),
+        list(nth(MENU_HDMI1_EDIDChoice, input, STRIDE_InputPicture), "EDID", edidKinds, "0"),
+        list(nth(MENU_HDMI1_EDIDResolution, input, STRIDE_InputPicture), "Resolution", inputResolutions, "7"),
+        list(nth(MENU_HDMI1_EDIDFrameRate, input, STRIDE_InputPicture), "FrameRate", edidRates, "3"),
+        action(nth(MENU_HDMI1_EDIDApply, input, STRIDE_InputPicture), "Apply", "0"),
+        number(nth(MENU_HDMI1_EDIDWidth, input, STRIDE_InputPicture), "Width", "800", "3840", "2", "1920"),
+        number(nth(MENU_HDMI1_EDIDHeight, input, STRIDE_InputPicture), "Height", "600", "3840", "1", "1080"),
+        list(nth(MENU_HDMI1_EDIDCustomRate, input, STRIDE_InputPicture), "FrameRate", customRates, "9"),
+        number(nth(MENU_HDMI1_Brightness, input, STRIDE_InputPicture), "Brightness", "0", "100", "1", "50"),
+        number(nth(MENU_HDMI1_Contrast, input, STRIDE_InputPicture), "Contrast", "0", "100", "1", "50"),
+        number(nth(MENU_HDMI1_Saturation, input, STRIDE_InputPicture), "Saturation", "0", "100", "1", "50"),
+        number(nth(MENU_HDMI1_Hue, input, STRIDE_InputPicture), "Hue", "-180", "180", "1", "0"),
+        action(nth(MENU_HDMI1_ColorReset, input, STRIDE_InputPicture), "Reset", "0"),
     };
 }
 
 /// The custom scaling of a layer.
 Items customScalingItems(int layer, const QString &name)
 {
-    const int distance = layer * STRIDE_CustomScaling;
     auto number = [&](ENUM_MenuIndex first, const QString &what, const QString &min, const QString &value) {
-        return hiddenNumber(member(first, distance), name + what, min, "32768", value);
+        return hiddenNumber(nth(first, layer, STRIDE_CustomScaling), name + what, min, "32768", value);
     };
     return {
         number(MENU_MainLayer_CustomWidth, "自定义缩放宽度", "64", "800"),
@@ -284,14 +275,16 @@ Items customScalingItems(int layer, const QString &name)
 /// The advanced configuration of an Ethernet port, counted from 0.
 Items advancedPortItems(int port)
 {
-    const int distance = port * STRIDE_AdvancedPort;
     const QString name = QString("高级配屏网口%1").arg(port + 1);
     return {
-        hiddenNumber(member(MENU_AdvancedPort1_Rows, distance), name + "行数", "1", "255", "1"),
-        hiddenNumber(member(MENU_AdvancedPort1_Cols, distance), name + "列数", "1", "255", "1"),
-        hiddenNumber(member(MENU_AdvancedPort1_X, distance), name + "水平起始", "0", "8192", "0"),
-        hiddenNumber(member(MENU_AdvancedPort1_Y, distance), name + "垂直起始", "0", "8192", "0"),
-        hiddenNumber(member(MENU_AdvancedPort1_FlowWay, distance), name + "走线方式", "0", "7", "0"),
+        hiddenNumber(nth(MENU_AdvancedPort1_Rows, port, STRIDE_AdvancedPort), name + "行数", "1", "255", "1"),
+        hiddenNumber(nth(MENU_AdvancedPort1_Cols, port, STRIDE_AdvancedPort), name + "列数", "1", "255", "1"),
+        hiddenNumber(nth(MENU_AdvancedPort1_X, port, STRIDE_AdvancedPort), name + "水平起始", "0", "8192",
+                     "0"),
+        hiddenNumber(nth(MENU_AdvancedPort1_Y, port, STRIDE_AdvancedPort), name + "垂直起始", "0", "8192",
+                     "0"),
+        hiddenNumber(nth(MENU_AdvancedPort1_FlowWay, port, STRIDE_AdvancedPort), name + "走线方式", "0", "7",
+                     "0"),
     };
 }
 

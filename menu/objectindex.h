@@ -1,6 +1,8 @@
 // Objects of the pool (services, pages and row widgets) have their number here, once each.
 #pragma once
 
+#include "menu/nth.h"
+
 namespace VASK
 {
 /// Objects of the pool: services, pages and row widgets.

@@ -1,6 +1,8 @@
 // Pages of the menu have their number here, once each.
 #pragma once
 
+#include "menu/nth.h"
+
 namespace VASK
 {
 /// Pages, in the numbers of g_config.

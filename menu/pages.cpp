@@ -67,14 +67,14 @@ ST_MenuConfig raised(const ST_MenuConfig &first, const QString &title, Raise by)
 {
     Rows rows = first.rowsMap;
     for (st_MenuItemInfo &info : rows) {
-        info.itemObject = ENUM_ObjectIndex(info.itemObject + by.objects);
-        info.menuIndex = ENUM_MenuIndex(info.menuIndex + by.items);
+        info.itemObject = nth(info.itemObject, by.objects);
+        info.menuIndex = nth(info.menuIndex, by.items);
         if (info.pageObject != ENUM_OBJECT_END) {
-            info.pageObject = ENUM_ObjectIndex(info.pageObject + by.objects);
-            info.subPage = ENUM_ConfigIndex(info.subPage + by.configs);
+            info.pageObject = nth(info.pageObject, by.objects);
+            info.subPage = nth(info.subPage, by.configs);
         }
     }
-    return page(ENUM_ObjectIndex(first.object + by.objects), title, rows);
+    return page(nth(first.object, by.objects), title, rows);
 }
 
 /// Main menu and its first level
@@ -341,7 +341,7 @@ void addLayerPages(Pages &pages)
                  row(ENUM_ROW_MainLayerCrop_Reset, TYPE_APPLY, MENU_MainLayerCrop_Reset),
              }));
     for (int layer = 1; layer < 3; ++layer) {
-        const ENUM_ConfigIndex config = ENUM_ConfigIndex(CONFIG_MainLayerCrop + layer);
+        const ENUM_ConfigIndex config = nth(CONFIG_MainLayerCrop, layer);
         const ENUM_ObjectIndex object = layer == 1 ? ENUM_PAGE_PIP1Crop : ENUM_PAGE_PIP2Crop;
         pages[config] =
             raised(pages[CONFIG_MainLayerCrop], "InputCrop", {layer * STRIDE_Crop, layer * STRIDE_Crop, 0});
@@ -414,14 +414,14 @@ void addInputPages(Pages &pages)
     for (int input = 1; input < 4; ++input) {
         const int objects = input * objectsPerInput;
         const int configs = input * pagesPerInput;
-        const ENUM_ConfigIndex inputPage = ENUM_ConfigIndex(CONFIG_HDMI1 + input);
+        const ENUM_ConfigIndex inputPage = nth(CONFIG_HDMI1, input);
         pages[inputPage] =
             raised(pages[CONFIG_HDMI1], titles[input], {input * STRIDE_Input, objects, configs});
         pages[inputPage].object = inputPages[input];
         for (ENUM_ConfigIndex config : {CONFIG_HDMI1_EDID, CONFIG_HDMI1_EDIDStandard, CONFIG_HDMI1_EDIDCustom,
                                         CONFIG_HDMI1_InputColor, CONFIG_HDMI1_Attributes}) {
             const int items = config == CONFIG_HDMI1_Attributes ? STRIDE_Input : STRIDE_InputPicture;
-            pages[ENUM_ConfigIndex(config + configs)] =
+            pages[nth(config, configs)] =
                 raised(pages[config], pages[config].title, {input * items, objects, configs});
         }
     }

@@ -35,9 +35,8 @@ ENUM_ConfigIndex otherPage(ENUM_ConfigIndex page, ENUM_MenuIndex item)
     const int pages = page - CONFIG_HDMI1_EDID;
     const int input = pages / pagesPerInput;
     const bool isEdid = pages >= 0 && page <= CONFIG_DVI_EDID && pages % pagesPerInput == 0;
-    return isEdid && item == MENU_HDMI1_EDIDChoice + input * STRIDE_InputPicture
-               ? ENUM_ConfigIndex(page + customPage)
-               : CONFIG_END;
+    return isEdid && item == nth(MENU_HDMI1_EDIDChoice, input, STRIDE_InputPicture) ? nth(page, customPage)
+                                                                                    : CONFIG_END;
 }
 
 /// The pages below a root, as the rows lead to them.

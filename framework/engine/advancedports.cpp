@@ -14,9 +14,8 @@ AdvancedPorts::AdvancedPorts(const ParaProcess &engine)
 {
     for (int port = 0; port < count; ++port)
         for (int field = 0; field < FieldCount; ++field) {
-            const int index = MENU_AdvancedPort1_Rows + port * STRIDE_AdvancedPort + field;
-            m_ports[size_t(port)][size_t(field)] =
-                uint16_t(engine.GetParaFromIndex(ENUM_MenuIndex(index)).toInt());
+            const ENUM_MenuIndex item = nth(nth(MENU_AdvancedPort1_Rows, port, STRIDE_AdvancedPort), field);
+            m_ports[size_t(port)][size_t(field)] = uint16_t(engine.GetParaFromIndex(item).toInt());
         }
 }
 

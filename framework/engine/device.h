@@ -13,11 +13,6 @@ namespace VASK
 class ParaProcess;
 
 constexpr int layerCount = 3; ///< main, PIP 1, PIP 2
-/// The item of a layer that corresponds to one of the main layer.
-constexpr ENUM_MenuIndex layerItem(ENUM_MenuIndex ofMain, int layer)
-{
-    return ENUM_MenuIndex(ofMain + layer * STRIDE_Layer);
-}
 
 constexpr int noInput = 255;
 constexpr int stableSignal = 3;   ///< signal state of an input record

@@ -11,8 +11,8 @@ namespace VASK
 {
 void ParaProcess::showLayer(int layer)
 {
-    const bool on = GetParaFromIndex(layerItem(MENU_MainLayer_Status, layer)) != QLatin1String("0");
-    const QString source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer));
+    const bool on = GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) != QLatin1String("0");
+    const QString source = GetParaFromIndex(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer));
     if (init_20m_flg)
         emit signal_window_state(layer, on ? 0 : 1);
     else
@@ -38,9 +38,9 @@ void ParaProcess::ChangeLayerSrc()
     if (!neededHome())
         return;
     for (int layer = 0; layer < layerCount; ++layer) {
-        const QString source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer));
+        const QString source = GetParaFromIndex(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer));
         m_pMainWindow->SetLayerName(ENUM_MainWindowLayerIndex(layer), GetInputNameByIndex(source));
-        if (GetParaFromIndex(layerItem(MENU_MainLayer_Status, layer)) == QLatin1String("0"))
+        if (GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) == QLatin1String("0"))
             continue;
         const InputRecord input = m_processData.input(source.toInt());
         showLayerSignal(layer, input, input.rateCentiHz());

@@ -32,32 +32,28 @@ struct LayerItems {
 
     bool isMain() const { return number == 0; }
     /// The item that remembers one of the four of the geometry.
-    ENUM_MenuIndex customOf(ENUM_MenuIndex geometry) const
-    {
-        return ENUM_MenuIndex(customWidth + (geometry - width));
-    }
+    ENUM_MenuIndex customOf(ENUM_MenuIndex geometry) const { return nth(customWidth, geometry - width); }
     std::array<ENUM_MenuIndex, 4> geometry() const { return {width, height, x, y}; }
 };
 
 constexpr LayerItems itemsOfLayer(int layer)
 {
-    const int crop = layer * STRIDE_Crop;
     return {layer,
-            layerItem(MENU_MainLayer_Status, layer),
-            layerItem(MENU_MainLayer_InputSource, layer),
-            layerItem(MENU_MainLayer_ScalingMode, layer),
-            layerItem(MENU_MainLayer_HorWidth, layer),
-            layerItem(MENU_MainLayer_VerHeight, layer),
-            layerItem(MENU_MainLayer_InitialX, layer),
-            layerItem(MENU_MainLayer_InitialY, layer),
-            layerItem(MENU_MainLayer_Priority, layer),
-            layerItem(MENU_MainLayer_InputCrop, layer),
-            ENUM_MenuIndex(MENU_MainLayer_CustomWidth + layer * STRIDE_CustomScaling),
-            ENUM_MenuIndex(MENU_MainLayerCrop_Status + crop),
-            ENUM_MenuIndex(MENU_MainLayerCrop_HorWidth + crop),
-            ENUM_MenuIndex(MENU_MainLayerCrop_VerHeight + crop),
-            ENUM_MenuIndex(MENU_MainLayerCrop_InitialX + crop),
-            ENUM_MenuIndex(MENU_MainLayerCrop_InitialY + crop)};
+            nth(MENU_MainLayer_Status, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_HorWidth, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_VerHeight, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_InitialX, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_InitialY, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_Priority, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_InputCrop, layer, STRIDE_Layer),
+            nth(MENU_MainLayer_CustomWidth, layer, STRIDE_CustomScaling),
+            nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop),
+            nth(MENU_MainLayerCrop_HorWidth, layer, STRIDE_Crop),
+            nth(MENU_MainLayerCrop_VerHeight, layer, STRIDE_Crop),
+            nth(MENU_MainLayerCrop_InitialX, layer, STRIDE_Crop),
+            nth(MENU_MainLayerCrop_InitialY, layer, STRIDE_Crop)};
 }
 
 inline constexpr std::array<LayerItems, layerCount> layers{itemsOfLayer(0), itemsOfLayer(1), itemsOfLayer(2)};

@@ -65,7 +65,7 @@ bool ParaProcess::GetPortLinkStatus() const
 {
     for (ENUM_MenuIndex first : {PARA_PortLink, PARA_OPT1PortLink, PARA_OPT2PortLink})
         for (int port = 0; port < ProcessData::portCount; ++port)
-            if (m_processData.value(ENUM_MenuIndex(first + port)) != 0)
+            if (m_processData.value(nth(first, port)) != 0)
                 return true;
     return false;
 }
@@ -76,9 +76,9 @@ unsigned char ParaProcess::GetLowLayerNum()
     unsigned char lowest = noLayer;
     int lowestPriority = 0;
     for (int layer = 0; layer < layerCount; ++layer) {
-        if (GetParaFromIndex(layerItem(MENU_MainLayer_Status, layer)) != QLatin1String("1"))
+        if (GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) != QLatin1String("1"))
             continue;
-        const int priority = GetParaFromIndex(layerItem(MENU_MainLayer_Priority, layer)).toInt();
+        const int priority = GetParaFromIndex(nth(MENU_MainLayer_Priority, layer, STRIDE_Layer)).toInt();
         if (layer == 0 && priority >= absentMainPriority)
             continue;
         if (lowest == noLayer || priority < lowestPriority) {
@@ -86,8 +86,8 @@ unsigned char ParaProcess::GetLowLayerNum()
             lowestPriority = priority;
         }
     }
-    const bool fullScreen = lowest != noLayer && GetParaFromIndex(layerItem(MENU_MainLayer_ScalingMode,
-                                                                            lowest)) == QLatin1String("0");
+    const bool fullScreen = lowest != noLayer && GetParaFromIndex(nth(MENU_MainLayer_ScalingMode, lowest,
+                                                                      STRIDE_Layer)) == QLatin1String("0");
     KeyEvent::SendLedCommand(LED_SCALE, fullScreen ? LED_ON : LED_OFF);
     return lowest;
 }
@@ -203,7 +203,7 @@ void ParaProcess::SetLayerSrc_Res(int layer)
 {
     if (layer < 0 || layer >= layerCount)
         return;
-    const int source = GetParaFromIndex(layerItem(MENU_MainLayer_InputSource, layer)).toInt();
+    const int source = GetParaFromIndex(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer)).toInt();
     const bool stable = m_processData.input(source).signalState == stableSignal;
     emit signal_Layer_state(layer, stable ? 0 : 1);
 }

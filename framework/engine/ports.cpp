@@ -9,11 +9,6 @@ namespace VASK
 {
 namespace
 {
-ENUM_MenuIndex ofPort(ENUM_MenuIndex first, int port)
-{
-    return ENUM_MenuIndex(first + port);
-}
-
 ENUM_MainWindowNetState netState(bool link, bool engaged, bool backup)
 {
     if (!link)
@@ -33,9 +28,9 @@ void ParaProcess::UpdatePortState(int port)
 {
     if (!isShown(port) || !neededHome())
         return;
-    const auto state = netState(m_processData.value(ofPort(PARA_PortLink, port)),
-                                m_processData.value(ofPort(PARA_PortBackupEngaged, port)),
-                                m_processData.value(ofPort(PARA_PortBackup, port)));
+    const auto state = netState(m_processData.value(nth(PARA_PortLink, port)),
+                                m_processData.value(nth(PARA_PortBackupEngaged, port)),
+                                m_processData.value(nth(PARA_PortBackup, port)));
     m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), state);
 }
 
@@ -45,12 +40,12 @@ void ParaProcess::UpdataOPT1PortState(int port)
         return;
     // The device tells its optical ports also without a fiber: those at rest must not hide the port's own
     // link.
-    if (!m_processData.value(ofPort(PARA_OPT1PortLink, port))) {
+    if (!m_processData.value(nth(PARA_OPT1PortLink, port))) {
         UpdatePortState(port);
         return;
     }
-    const auto state = netState(true, m_processData.value(ofPort(PARA_OPT1BackupEngaged, port)),
-                                m_processData.value(ofPort(PARA_PortBackup, port)));
+    const auto state = netState(true, m_processData.value(nth(PARA_OPT1BackupEngaged, port)),
+                                m_processData.value(nth(PARA_PortBackup, port)));
     m_pMainWindow->SetNetState(ENUM_MainWindowNetIndex(port), state);
 }
 
@@ -81,8 +76,8 @@ void ParaProcess::UpdateOPT2PortBackUPState(int port)
 {
     if (port < 0 || port >= ProcessData::portCount)
         return;
-    const int backup = m_processData.value(ofPort(PARA_PortBackup, port));
+    const int backup = m_processData.value(nth(PARA_PortBackup, port));
     const bool copies = GetParaFromIndex(MENU_OPT2Mode) == QLatin1String("1");
-    m_processData.set(ofPort(PARA_OPT2BackupEngaged, port), copies ? backup : !backup);
+    m_processData.set(nth(PARA_OPT2BackupEngaged, port), copies ? backup : !backup);
 }
 } // namespace VASK

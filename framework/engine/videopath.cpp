@@ -31,7 +31,7 @@ constexpr ENUM_MenuIndex pipEntries[] = {MENU_PIP1, MENU_PIP2};
 
 bool pipIsOn(const ParaChange &change, int layer)
 {
-    return change.isOn(layerItem(MENU_MainLayer_Status, layer));
+    return change.isOn(nth(MENU_MainLayer_Status, layer, STRIDE_Layer));
 }
 
 void giveBackMainLayer(ParaChange &change, WorkMode nextMode)
@@ -92,7 +92,7 @@ void lowerMainLayer(ParaChange &change)
     change.enable(MENU_MainLayer_Priority, false);
     if (lowered != 0) {
         for (int layer = 1; layer < layerCount; ++layer) {
-            const ENUM_MenuIndex item = layerItem(MENU_MainLayer_Priority, layer);
+            const ENUM_MenuIndex item = nth(MENU_MainLayer_Priority, layer, STRIDE_Layer);
             const int priority = change.number(item);
             showAndSend(change, item, QString::number(priority < lowered ? priority + 1 : priority));
         }
@@ -109,7 +109,7 @@ void lowerMainLayer(ParaChange &change)
 void closePips(ParaChange &change)
 {
     for (int layer = 1; layer < layerCount; ++layer) {
-        const ENUM_MenuIndex status = layerItem(MENU_MainLayer_Status, layer);
+        const ENUM_MenuIndex status = nth(MENU_MainLayer_Status, layer, STRIDE_Layer);
         change.enable(status, true);
         showAndSend(change, status, "0");
     }

@@ -77,7 +77,7 @@ void Factory::passLinkedPorts()
 {
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     for (int port = 0; engine && port < NET_PORT_COUNT; ++port)
-        if (engine->GetParaFromIndex(ENUM_MenuIndex(PARA_PortLink + port)).toInt() != 0)
+        if (engine->GetParaFromIndex(nth(PARA_PortLink, port)).toInt() != 0)
             slot_UpdateMenuItem(en_inout_test_index(INOUT_NET1 + port), ITEM_PASSED);
 }
 

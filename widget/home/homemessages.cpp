@@ -78,14 +78,14 @@ void HomeMessages::deviceBackup(quint8 step)
 {
     qDebug() << "qDialog->exex()";
     if (step < backupSteps)
-        run(ENUM_MenuIndex(MSG_DeviceBackupFirst + step));
+        run(nth(MSG_DeviceBackupFirst, step));
 }
 
 void HomeMessages::deviceRestore(quint8 step)
 {
     qDebug() << "qDialog->exex()";
     if (step < backupSteps)
-        run(ENUM_MenuIndex(MSG_DeviceRestoreFirst + step));
+        run(nth(MSG_DeviceRestoreFirst, step));
 }
 
 void HomeMessages::calibration(quint8 state)

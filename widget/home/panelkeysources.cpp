@@ -29,8 +29,7 @@ constexpr SourceKey sourceKeys[] = {
 };
 
 constexpr unsigned char sdiSource = 3;
-constexpr ENUM_MenuIndex sdiSourceCode =
-    ENUM_MenuIndex(PARA_InputRecordFirst + sdiSource * STRIDE_InputRecord);
+constexpr ENUM_MenuIndex sdiSourceCode = nth(PARA_InputRecordFirst, sdiSource, STRIDE_InputRecord);
 const QString noSuchInput = QStringLiteral("255");
 
 const SourceKey *findSource(unsigned char key)

@@ -18,7 +18,7 @@ const QString cabinetFolder = QStringLiteral("/usr/vask/etc/fpd/cabCfg");
 
 void storeFile(MenuAnalysis &store, int number, const QString &name, bool present)
 {
-    const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + number);
+    const auto item = nth(MENU_CabinetFile1, number);
     store.changeItem(item, [&](ST_ItemInfo &info) {
         if (present) {
             info.value = name;
@@ -67,9 +67,9 @@ void showCabinetFiles(MenuDirectory &page, const QStringList &names)
     const int count = qMin(names.size(), MenuDirectory::fileRowCount);
     for (int i = 0; i < MenuDirectory::fileRowCount; ++i) {
         const bool present = i < count;
-        const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + i);
+        const auto item = nth(MENU_CabinetFile1, i);
         storeFile(*store, i, names.value(i), present);
-        auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(ENUM_ROW_CabinetFile1 + i));
+        auto *row = poolObject<VaskUiObject>(nth(ENUM_ROW_CabinetFile1, i));
         if (present && row) {
             row->SetParaEntry(item, QString(), SET_XML_STORE); // brings the stored tag, too
             row->UpdateTagName(item, names.at(i));

@@ -33,8 +33,8 @@ bool isUsed(const ParaProcess &engine, const QString &source)
 
 bool hasSignal(const ParaProcess &engine, int source)
 {
-    const int field = PARA_InputRecordFirst + source * STRIDE_InputRecord + signalStateOffset;
-    return engine.GetParaFromIndex(ENUM_MenuIndex(field)) == stable;
+    const ENUM_MenuIndex record = nth(PARA_InputRecordFirst, source, STRIDE_InputRecord);
+    return engine.GetParaFromIndex(nth(record, signalStateOffset)) == stable;
 }
 } // namespace
 

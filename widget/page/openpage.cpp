@@ -68,12 +68,12 @@ void OpenPage::enableCopiedPreset()
     if (preset < 0)
         return;
     if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
-        store->UpdataItemEnable(ENUM_MenuIndex(MENU_Preset1 + preset), true);
+        store->UpdataItemEnable(nth(MENU_Preset1, preset), true);
     // Both pages have shown it as off.
     for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1}) {
-        const auto object = ENUM_ObjectIndex(first + preset);
+        const auto object = nth(first, preset);
         if (auto *row = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(object)))
-            row->UpdateALLUI(ENUM_MenuIndex(MENU_Preset1 + preset));
+            row->UpdateALLUI(nth(MENU_Preset1, preset));
     }
 }
 } // namespace VASK

@@ -31,10 +31,7 @@ protected:
     bool setfocus(int part);
     int partCount() const { return m_parts.size(); }
     /// The item that a part stands for.
-    ENUM_MenuIndex itemOfPart(ENUM_MenuIndex index) const
-    {
-        return ENUM_MenuIndex(index + m_currentItem - 1);
-    }
+    ENUM_MenuIndex itemOfPart(ENUM_MenuIndex index) const { return nth(index, m_currentItem - 1); }
     /// Logs that OK was pressed, and on what; false while no part has the focus.
     bool logEnter(ENUM_MenuIndex index) const;
     /// How the row calls itself in the log.

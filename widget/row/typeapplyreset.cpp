@@ -20,7 +20,7 @@ constexpr int buttonHeight = 32; ///< pixels
 typeapplyreset::typeapplyreset(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
     : PartsRow(menuIndex, objectIndex)
 {
-    const ENUM_MenuIndex second = ENUM_MenuIndex(menuIndex + 1);
+    const ENUM_MenuIndex second = nth(menuIndex, 1);
     CreateMenuXml(second);
     m_apply = new QPushButton(this);
     m_reset = new QPushButton(this);

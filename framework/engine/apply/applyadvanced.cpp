@@ -25,8 +25,7 @@ int portOnPage(const ParaChange &change)
 /// What a row of the page shows of a port.
 ENUM_MenuIndex recordItem(ENUM_MenuIndex pageRow, int port)
 {
-    return ENUM_MenuIndex(MENU_AdvancedPort1_Rows + port * STRIDE_AdvancedPort +
-                          (pageRow - MENU_Advanced_CabinetRow));
+    return nth(nth(MENU_AdvancedPort1_Rows, pageRow - MENU_Advanced_CabinetRow), port, STRIDE_AdvancedPort);
 }
 
 void showPort(ParaChange &change, int port)
@@ -110,7 +109,7 @@ void resetForm(ParaChange &change)
         return;
     for (int port = 0; port < AdvancedPorts::count; ++port)
         for (int field = 0; field < STRIDE_AdvancedPort; ++field)
-            change.set(recordItem(ENUM_MenuIndex(MENU_Advanced_CabinetRow + field), port), defaults[field]);
+            change.set(recordItem(nth(MENU_Advanced_CabinetRow, field), port), defaults[field]);
     change.set(MENU_Advanced_EthernetPort, "1");
     change.refresh(MENU_Advanced_EthernetPort);
     showPort(change, 0);
@@ -125,7 +124,7 @@ template <int Port> void applyRecord(ParaChange &change)
 
 template <int Port> constexpr ApplyCase recordCase()
 {
-    constexpr auto flowWay = ENUM_MenuIndex(MENU_AdvancedPort1_FlowWay + Port * STRIDE_AdvancedPort);
+    constexpr auto flowWay = nth(MENU_AdvancedPort1_FlowWay, Port, STRIDE_AdvancedPort);
     return {flowWay, flowWay, applyRecord<Port>};
 }
 

@@ -37,7 +37,7 @@ bool allStable(const ParaChange &change)
 /// No page holds these rows at present: they are looked up by the number that is theirs.
 void showArrows(ENUM_MenuIndex row, bool both)
 {
-    const auto object = ENUM_ObjectIndex(ENUM_ROW_InputBackup_HDMI1 + (row - MENU_InputBackup_HDMI1));
+    const auto object = nth(ENUM_ROW_InputBackup_HDMI1, row - MENU_InputBackup_HDMI1);
     if (auto *widget = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(object)))
         widget->setTwoArrow(both);
 }

@@ -62,7 +62,7 @@ void resetPicture(ParaChange &change)
 {
     static constexpr const char *defaults[] = {"50", "50", "50", "0"};
     for (int i = 0; i < 4; ++i)
-        change.show(ENUM_MenuIndex(change.index - 4 + i), defaults[i]);
+        change.show(nth(change.index, i - 4), defaults[i]);
     change.tail();
 }
 

@@ -22,12 +22,6 @@ int inputOf(ENUM_MenuIndex item)
     return (item - MENU_HDMI1_EDIDChoice) / STRIDE_InputPicture;
 }
 
-/// The item of that input that corresponds to one of HDMI 1.
-ENUM_MenuIndex itemOf(int input, ENUM_MenuIndex ofHdmi1)
-{
-    return ENUM_MenuIndex(ofHdmi1 + input * STRIDE_InputPicture);
-}
-
 void applyChoice(ParaChange &change)
 {
     const bool custom = change.value == QLatin1String("1");
@@ -35,11 +29,9 @@ void applyChoice(ParaChange &change)
         return;
     const int input = inputOf(change.index);
     swapPage(change.engine,
-             {ENUM_ObjectIndex(ENUM_PAGE_HDMI1_EDID + input * inputPages),
-              ENUM_ObjectIndex((custom ? ENUM_PAGE_HDMI1_EDIDCustom : ENUM_PAGE_HDMI1_EDIDStandard) +
-                               input * inputPages),
-              ENUM_ConfigIndex((custom ? CONFIG_HDMI1_EDIDCustom : CONFIG_HDMI1_EDIDStandard) +
-                               input * inputConfigs),
+             {nth(ENUM_PAGE_HDMI1_EDID, input, inputPages),
+              nth(custom ? ENUM_PAGE_HDMI1_EDIDCustom : ENUM_PAGE_HDMI1_EDIDStandard, input, inputPages),
+              nth(custom ? CONFIG_HDMI1_EDIDCustom : CONFIG_HDMI1_EDIDStandard, input, inputConfigs),
               parentPages[input]});
     // The row stands on all pages; the one that opens may have been left with the other choice.
     change.refresh(change.index);
@@ -47,16 +39,17 @@ void applyChoice(ParaChange &change)
 
 QString standardMode(const ParaChange &change, int input)
 {
-    const QStringList size = change.chosenOption(itemOf(input, MENU_HDMI1_EDIDResolution)).split('*');
+    const QStringList size =
+        change.chosenOption(nth(MENU_HDMI1_EDIDResolution, input, STRIDE_InputPicture)).split('*');
     return size.value(0) + 'x' + size.value(1) + 'x' +
-           change.chosenOption(itemOf(input, MENU_HDMI1_EDIDFrameRate));
+           change.chosenOption(nth(MENU_HDMI1_EDIDFrameRate, input, STRIDE_InputPicture));
 }
 
 QString customMode(const ParaChange &change, int input)
 {
-    return change.item(itemOf(input, MENU_HDMI1_EDIDWidth)) + 'x' +
-           change.item(itemOf(input, MENU_HDMI1_EDIDHeight)) + 'x' +
-           change.chosenOption(itemOf(input, MENU_HDMI1_EDIDCustomRate));
+    return change.item(nth(MENU_HDMI1_EDIDWidth, input, STRIDE_InputPicture)) + 'x' +
+           change.item(nth(MENU_HDMI1_EDIDHeight, input, STRIDE_InputPicture)) + 'x' +
+           change.chosenOption(nth(MENU_HDMI1_EDIDCustomRate, input, STRIDE_InputPicture));
 }
 
 void applyEdid(ParaChange &change)
@@ -64,8 +57,9 @@ void applyEdid(ParaChange &change)
     if (!change.fromUser())
         return;
     const int input = inputOf(change.index);
-    change.value = change.isOn(itemOf(input, MENU_HDMI1_EDIDChoice)) ? customMode(change, input)
-                                                                     : standardMode(change, input);
+    change.value = change.isOn(nth(MENU_HDMI1_EDIDChoice, input, STRIDE_InputPicture))
+                       ? customMode(change, input)
+                       : standardMode(change, input);
     change.dialog(MSG_Waiting);
     change.tail();
 }

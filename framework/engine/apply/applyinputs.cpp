@@ -18,7 +18,7 @@ enum RecordField { FieldPeriod = 5, FieldSampling = 6 };
 
 constexpr ENUM_MenuIndex recordField(int input, RecordField field)
 {
-    return ENUM_MenuIndex(PARA_InputRecordFirst + input * STRIDE_InputRecord + field);
+    return nth(nth(PARA_InputRecordFirst, input, STRIDE_InputRecord), field);
 }
 
 /// One report of an input on its way through the cases below.
@@ -45,22 +45,22 @@ InputReport reportOf(const ParaChange &change)
 
 bool isShownBy(const ParaChange &change, const InputReport &input, int layer)
 {
-    return change.number(layerItem(MENU_MainLayer_InputSource, layer)) == input.number;
+    return change.number(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer)) == input.number;
 }
 
 bool isCropped(const ParaChange &change, int layer)
 {
-    return change.item(ENUM_MenuIndex(MENU_MainLayerCrop_Status + layer * STRIDE_Crop)) != QLatin1String("0");
+    return change.item(nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop)) != QLatin1String("0");
 }
 
 bool isPixelToPixel(const ParaChange &change, int layer)
 {
-    return change.isOn(layerItem(MENU_MainLayer_ScalingMode, layer));
+    return change.isOn(nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer));
 }
 
 void offerCrop(ParaChange &change, int layer, bool on)
 {
-    setEnabled(change, layerItem(MENU_MainLayer_InputCrop, layer), on);
+    setEnabled(change, nth(MENU_MainLayer_InputCrop, layer, STRIDE_Layer), on);
 }
 
 void showSignal(ParaChange &change, const InputReport &input, int layer)
@@ -87,7 +87,7 @@ void followWithPip(ParaChange &change, const InputReport &input, int layer, Work
     constexpr int pipPixels = 3250000;
     offerCrop(change, layer, input.stable());
     if (!isCropped(change, layer) && input.width * input.height <= pipPixels) {
-        const ENUM_MenuIndex scaling = layerItem(MENU_MainLayer_ScalingMode, layer);
+        const ENUM_MenuIndex scaling = nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer);
         if (isPixelToPixel(change, layer))
             takeSize(change, layers[size_t(layer)], {input.width, input.height});
         else if (change.item(MENU_ImageMosaic_Status) == QLatin1String("0") &&

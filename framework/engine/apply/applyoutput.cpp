@@ -44,8 +44,8 @@ void applyResolution(ParaChange &change)
 {
     ENUM_MenuIndex rateList = MENU_Output_FrameRate;
     if (change.index != MENU_Output_Resolution)
-        rateList = ENUM_MenuIndex(change.index + MENU_HDMI1_EDIDFrameRate - MENU_HDMI1_EDIDResolution);
-    const ST_ItemInfo allowed = change.info(ENUM_MenuIndex(MENU_Rates_1024x768 + change.value.toInt()));
+        rateList = nth(change.index, MENU_HDMI1_EDIDFrameRate - MENU_HDMI1_EDIDResolution);
+    const ST_ItemInfo allowed = change.info(nth(MENU_Rates_1024x768, change.value.toInt()));
     change.store.changeItem(rateList, [&allowed](ST_ItemInfo &rates) {
         rates.params = allowed.params;
         rates.params1 = allowed.params1;

@@ -10,15 +10,10 @@ namespace VASK
 {
 namespace
 {
-constexpr ENUM_MenuIndex ofPort(ENUM_MenuIndex first, int port)
-{
-    return ENUM_MenuIndex(first + port);
-}
-
 /// The row of the table that serves the six ports of this model.
 constexpr ApplyCase shownPorts(ENUM_MenuIndex first, void (*apply)(ParaChange &))
 {
-    return {first, ofPort(first, NET_PORT_COUNT - 1), apply};
+    return {first, nth(first, NET_PORT_COUNT - 1), apply};
 }
 
 void applyPortLink(ParaChange &change)
@@ -37,7 +32,7 @@ void applyPortBackup(ParaChange &change)
         return;
     int backups = 0;
     for (int port = 0; port < NET_PORT_COUNT; ++port)
-        backups += change.number(ofPort(PARA_PortBackup, port)) != 0;
+        backups += change.number(nth(PARA_PortBackup, port)) != 0;
     if (backups != 0 && backups != NET_PORT_COUNT)
         return;
     const bool backup = backups != 0;
@@ -92,8 +87,8 @@ constexpr ApplyCase cases[] = {
     shownPorts(PARA_PortBackupEngaged, applyBackupEngaged),
     shownPorts(PARA_OPT1BackupEngaged, applyOpt1BackupEngaged),
     shownPorts(PARA_OPT2BackupEngaged, applyOpt2BackupEngaged),
-    {PARA_OPT1PortLink, ofPort(PARA_OPT1PortLink, ProcessData::portCount - 1), applyOpt1PortLink},
-    {PARA_OPT2PortLink, ofPort(PARA_OPT2PortLink, ProcessData::portCount - 1), applyOpt2PortLink},
+    {PARA_OPT1PortLink, nth(PARA_OPT1PortLink, ProcessData::portCount - 1), applyOpt1PortLink},
+    {PARA_OPT2PortLink, nth(PARA_OPT2PortLink, ProcessData::portCount - 1), applyOpt2PortLink},
     {PARA_OPT1Link, PARA_OPT2Link, applyOptLink},
 };
 } // namespace

@@ -34,7 +34,7 @@ public:
 
     static bool exists(int number) { return number >= 0 && number < ParaProcess::presetCount; }
     int number() const { return m_number; }
-    ENUM_MenuIndex item() const { return ENUM_MenuIndex(MENU_Preset1 + m_number); }
+    ENUM_MenuIndex item() const { return nth(MENU_Preset1, m_number); }
     QString state() const { return m_change.item(item()); }
     QString name() const { return m_change.info(item()).tag; }
     QString factoryName() const { return QStringLiteral("Preset%1").arg(m_number + 1); }
@@ -63,13 +63,13 @@ public:
     void reload() const
     {
         for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1})
-            if (auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(first + m_number)))
+            if (auto *row = poolObject<VaskUiObject>(nth(first, m_number)))
                 row->UpdateALLUI(item());
     }
     /// The commands have no item of their own: the preset's row hands them over.
     void send(ENUM_MenuIndex command, const QString &value) const
     {
-        if (auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(ENUM_ROW_Preset1 + m_number)))
+        if (auto *row = poolObject<VaskUiObject>(nth(ENUM_ROW_Preset1, m_number)))
             row->CallProtocol(value, command);
     }
     void send(ENUM_MenuIndex command) const { send(command, QString::number(m_number)); }
@@ -233,7 +233,7 @@ void ParaProcess::QuickLoadScene(int number)
     MenuAnalysis *store = neededStore();
     if (!store || !Preset::exists(number))
         return;
-    ParaChange change(*this, *store, QString(), ENUM_MenuIndex(MENU_Preset1 + number), SET_XML_USER);
+    ParaChange change(*this, *store, QString(), nth(MENU_Preset1, number), SET_XML_USER);
     const Preset preset(change, number);
     if (preset.state() == blank)
         change.dialog(MSG_PresetLoadEmpty);

@@ -106,7 +106,7 @@ void showCabinetFiles(ParaChange &change)
             names = names.mid(0, MenuDirectory::fileRowCount);
         }
         for (int row = 0; row < MenuDirectory::fileRowCount; ++row)
-            store->UpdataItemEnable(ENUM_MenuIndex(MENU_CabinetFile1 + row), row < names.size());
+            store->UpdataItemEnable(nth(MENU_CabinetFile1, row), row < names.size());
         page->showFiles(names);
     });
 }
@@ -137,7 +137,7 @@ constexpr ApplyCase cases[] = {
     {MENU_BootLogo, MENU_BootLogo, applyBootLogo},
     {MENU_MakerSign, MENU_MakerSign, applyMakerSign},
     {MENU_CabinetFile1, MENU_CabinetFile8, loadCabinetFile},
-    {EVENT_OSDPictureFirst, ENUM_MenuIndex(EVENT_OSDPictureFirst + osdPictureCount - 1), applyOsdPicture},
+    {EVENT_OSDPictureFirst, nth(EVENT_OSDPictureFirst, osdPictureCount - 1), applyOsdPicture},
     {EVENT_CabinetListLoaded, EVENT_CabinetListLoaded, showCabinetFiles},
     {EVENT_SoftCalibrate, EVENT_SoftCalibrate, applySoftCalibration},
     {EVENT_VideoServiceStarted, EVENT_SenderServiceStarted, applyServiceStarted},

@@ -31,8 +31,8 @@ void applyType(ParaChange &change)
     if (type < int(std::size(patterns)) && change.fromUser())
         change.send(patterns[type], change.item(patterns[type]));
     change.set(PARA_TestPatternFamily, QString::number(type));
-    swapPage(change.engine, {ENUM_PAGE_TestPattern, ENUM_ObjectIndex(ENUM_PAGE_TestPureColor + type),
-                             ENUM_ConfigIndex(CONFIG_TestPureColor + type), ENUM_PAGE_DisplayControl});
+    swapPage(change.engine, {ENUM_PAGE_TestPattern, nth(ENUM_PAGE_TestPureColor, type),
+                             nth(CONFIG_TestPureColor, type), ENUM_PAGE_DisplayControl});
     change.tail();
 }
 

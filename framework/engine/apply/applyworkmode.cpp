@@ -62,7 +62,7 @@ void enableSyncSources(ParaChange &change)
 void showLayers(ParaChange &change)
 {
     for (int layer = 1; layer < layerCount; ++layer) {
-        if (change.item(layerItem(MENU_MainLayer_Status, layer)) == QLatin1String("0"))
+        if (change.item(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) == QLatin1String("0"))
             change.home()->SetWindowState(ENUM_MainWindowWindowIndex(layer), COMMON_OFF);
         else
             change.engine.SetLayerSrc_Res(layer);

@@ -24,11 +24,10 @@ constexpr uint64_t frameStoreBits = 0x10000000;
 /// The three items of one input's custom EDID.
 struct CustomEdid {
     explicit CustomEdid(const ParaProcess &paraProcess, ENUM_MenuIndex index)
-        : engine(paraProcess),
-          distance((index - MENU_HDMI1_EDIDWidth) / STRIDE_InputPicture * STRIDE_InputPicture)
+        : engine(paraProcess), input((index - MENU_HDMI1_EDIDWidth) / STRIDE_InputPicture)
     {
     }
-    ENUM_MenuIndex of(ENUM_MenuIndex first) const { return ENUM_MenuIndex(first + distance); }
+    ENUM_MenuIndex of(ENUM_MenuIndex ofHdmi1) const { return nth(ofHdmi1, input, STRIDE_InputPicture); }
     int width() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDWidth)).toInt()); }
     int height() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDHeight)).toInt()); }
     /// 0 for an option that is no rate.
@@ -42,7 +41,7 @@ struct CustomEdid {
     }
 
     const ParaProcess &engine;
-    int distance;
+    int input; ///< from 0
 };
 
 /// A 24-bit frame, whose lines take whole units of 64 bytes, has to fit the frame store.
@@ -95,7 +94,7 @@ QString limitHeight(ParaProcess &engine, const QString &value, ENUM_MenuIndex in
 /// The value stays; rates outside what the clocks allow are switched off in the list.
 QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
 {
-    const CustomEdid edid(engine, ENUM_MenuIndex(index - 2));
+    const CustomEdid edid(engine, index);
     auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
     if (!store)
         return value;
@@ -110,9 +109,8 @@ QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex inde
             item.params1[option.key()] = rate >= lowest && rate <= highest ? optionEnable : optionDisable;
         }
     });
-    const int input = (index - MENU_HDMI1_EDIDCustomRate) / STRIDE_InputPicture;
     constexpr int stride = ENUM_ROW_HDMI2_EDIDCustomRate - ENUM_ROW_HDMI1_EDIDCustomRate;
-    repaintList(ENUM_ObjectIndex(ENUM_ROW_HDMI1_EDIDCustomRate + input * stride), index);
+    repaintList(nth(ENUM_ROW_HDMI1_EDIDCustomRate, edid.input, stride), index);
     return value;
 }
 

@@ -40,10 +40,10 @@ QString limitLoadAreaStart(ParaProcess &engine, const QString &value, ENUM_MenuI
 QString limitCrop(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
 {
     const int layer = (index - MENU_MainLayerCrop_Status) / STRIDE_Crop;
-    const ENUM_MenuIndex status = ENUM_MenuIndex(MENU_MainLayerCrop_Status + layer * STRIDE_Crop);
+    const ENUM_MenuIndex status = nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop);
     const int field = index - status; // 1 width, 2 height, 3 X, 4 Y
-    const ENUM_MenuIndex partner = ENUM_MenuIndex(field <= 2 ? index + 2 : index - 2);
-    const ENUM_MenuIndex source = ENUM_MenuIndex(MENU_MainLayer_InputSource + layer * STRIDE_Layer);
+    const ENUM_MenuIndex partner = nth(index, field <= 2 ? 2 : -2);
+    const ENUM_MenuIndex source = nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer);
     const InputRecord input = engine.processData().input(engine.GetParaFromIndex(source).toInt());
     const int size = field % 2 == 1 ? input.width : input.height;
     return atMost(value, size - uint16_t(engine.GetParaFromIndex(partner).toInt()));

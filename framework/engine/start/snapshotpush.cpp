@@ -47,11 +47,6 @@ private:
     const SnapshotMirror &m_mirror;
 };
 
-ENUM_MenuIndex raised(ENUM_MenuIndex first, int distance)
-{
-    return ENUM_MenuIndex(first + distance);
-}
-
 /// Hundredths as text with one decimal.
 QString tenths(int hundredths)
 {
@@ -113,14 +108,14 @@ void SnapshotPush::pictures()
     auto picture = [this](int input, ENUM_MenuIndex brightness) {
         const int base = LIVE_Pictures + input * PICTURE_Stride;
         report(brightness, m_mirror.live.u8(base + PICTURE_Brightness));
-        report(raised(brightness, 1), m_mirror.live.u8(base + PICTURE_Contrast));
-        report(raised(brightness, 2), m_mirror.live.u8(base + PICTURE_Saturation));
-        report(raised(brightness, 3), int16_t(m_mirror.live.u16(base + PICTURE_Hue)));
+        report(nth(brightness, 1), m_mirror.live.u8(base + PICTURE_Contrast));
+        report(nth(brightness, 2), m_mirror.live.u8(base + PICTURE_Saturation));
+        report(nth(brightness, 3), int16_t(m_mirror.live.u16(base + PICTURE_Hue)));
     };
     for (int input = 0; input < inputCount; ++input) {
-        picture(input, raised(MENU_HDMI1_Brightness, input * STRIDE_InputPicture));
+        picture(input, nth(MENU_HDMI1_Brightness, input, STRIDE_InputPicture));
         const int fullRange = m_mirror.live.u8(LIVE_Pictures + input * PICTURE_Stride + PICTURE_FullRange);
-        report(raised(MENU_HDMI1_LimitedtoFull, input * STRIDE_Input), fullRange);
+        report(nth(MENU_HDMI1_LimitedtoFull, input, STRIDE_Input), fullRange);
     }
     picture(inputCount, MENU_SDI_Brightness);
 }
@@ -145,9 +140,9 @@ void SnapshotPush::layers()
         // An erased snapshot holds no window.
         if (m_mirror.live.i32(window + WINDOW_Width) <= 0 || m_mirror.live.i32(window + WINDOW_Height) <= 0)
             continue;
-        choose(layerItem(MENU_MainLayer_Status, layer), m_mirror.live.u8(window + WINDOW_Status));
-        choose(layerItem(MENU_MainLayer_InputSource, layer), m_mirror.live.u8(window + WINDOW_Input));
-        choose(layerItem(MENU_MainLayer_Priority, layer), m_mirror.live.u8(window + WINDOW_Priority));
+        choose(nth(MENU_MainLayer_Status, layer, STRIDE_Layer), m_mirror.live.u8(window + WINDOW_Status));
+        choose(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer), m_mirror.live.u8(window + WINDOW_Input));
+        choose(nth(MENU_MainLayer_Priority, layer, STRIDE_Layer), m_mirror.live.u8(window + WINDOW_Priority));
     }
 }
 
@@ -160,12 +155,12 @@ void SnapshotPush::crops()
         if (input >= inputCount)
             continue;
         const int base = LIVE_Crops + CROP_First + layer * CROP_LayerStride + input * CROP_InputStride;
-        const ENUM_MenuIndex status = raised(MENU_MainLayerCrop_Status, layer * STRIDE_Crop);
+        const ENUM_MenuIndex status = nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop);
         report(status, m_mirror.live.u8(base + CROP_Status));
-        report(raised(status, 1), m_mirror.live.u16(base + CROP_Width));
-        report(raised(status, 2), m_mirror.live.u16(base + CROP_Height));
-        report(raised(status, 3), m_mirror.live.u16(base + CROP_X));
-        report(raised(status, 4), m_mirror.live.u16(base + CROP_Y));
+        report(nth(status, 1), m_mirror.live.u16(base + CROP_Width));
+        report(nth(status, 2), m_mirror.live.u16(base + CROP_Height));
+        report(nth(status, 3), m_mirror.live.u16(base + CROP_X));
+        report(nth(status, 4), m_mirror.live.u16(base + CROP_Y));
     }
 }
 
@@ -278,7 +273,7 @@ void SnapshotPush::hdcpAndInputAudio()
     for (int input = 0; input < inputCount; ++input) {
         const int byte = m_mirror.inputs.u8(INPUTS_Audio + INPUTS_AudioStride * input);
         const bool lineIn = input < hdmiCount ? byte != 1 : byte != 0;
-        report(raised(MENU_AudioInput_HDMI1, input), lineIn ? 1 : 0);
+        report(nth(MENU_AudioInput_HDMI1, input), lineIn ? 1 : 0);
     }
 }
 
@@ -331,7 +326,7 @@ void ParaProcess::pushPresets()
         return;
     const int inUse = m_mirror.presetInUse.u8(0);
     for (int preset = 0; preset < presetCount; ++preset) {
-        const ENUM_MenuIndex index = raised(MENU_Preset1, preset);
+        const ENUM_MenuIndex index = nth(MENU_Preset1, preset);
         ST_ItemInfo item;
         store->GetMenuItem(index, item);
         // The panel may have gone off while a copy had the preset as its source.
@@ -347,7 +342,7 @@ void ParaProcess::pushPresets()
             item.value = "Used";
         store->updataMenuItem(index, item);
         for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1})
-            if (auto *row = poolObject<VaskUiObject>(ENUM_ObjectIndex(first + preset)))
+            if (auto *row = poolObject<VaskUiObject>(nth(first, preset)))
                 row->UpdateALLUI(index);
     }
     SaveProcessData(QString::number(inUse), PARA_PresetInUse);

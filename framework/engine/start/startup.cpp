@@ -102,9 +102,9 @@ void ParaProcess::keepRightEyeStarts(MenuAnalysis &store)
 void ParaProcess::markFnFunction(MenuAnalysis &store)
 {
     const int function = GetParaFromIndex(MENU_FnMode).toInt();
-    const int index = MENU_Fn_Synchronization + function;
+    const ENUM_MenuIndex index = nth(MENU_Fn_Synchronization, function);
     if (index >= MENU_Fn_Synchronization && index <= MENU_Fn_TestPattern)
-        store.UpdataItemCurChoice(ENUM_MenuIndex(index), SELECTED);
+        store.UpdataItemCurChoice(index, SELECTED);
 }
 
 void ParaProcess::resetDisplayItems(MenuAnalysis &store)
@@ -112,7 +112,7 @@ void ParaProcess::resetDisplayItems(MenuAnalysis &store)
     for (const Reset &reset : displayItems)
         store.UpdataItemCurValue(reset.item, reset.value);
     for (int layer = 0; layer < layerCount; ++layer)
-        store.UpdataItemEnable(layerItem(MENU_MainLayer_InputCrop, layer), false);
+        store.UpdataItemEnable(nth(MENU_MainLayer_InputCrop, layer, STRIDE_Layer), false);
     store.UpdataItemCurChoice(MENU_Normal, SELECTED);
     store.UpdataItemCurChoice(MENU_Freeze, UNSELECTED);
     store.UpdataItemCurChoice(MENU_FTB, UNSELECTED);

@@ -33,9 +33,9 @@ public:
     int Parse3rdToDisplay(const stMessageHandle *message);
     /// Tells the engine a value of the device. 1.
     int ReportMsgToParaProcess(ENUM_MenuIndex index, const QString &value);
-    int report(int index, int value)
+    int report(ENUM_MenuIndex index, int value)
     {
-        return ReportMsgToParaProcess(ENUM_MenuIndex(index), QString::number(value));
+        return ReportMsgToParaProcess(index, QString::number(value));
     }
 
     /// Enters an input into the tables, in the order of the reports, until the device has listed all of them:

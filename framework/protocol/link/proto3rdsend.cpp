@@ -76,7 +76,7 @@ void Proto3rdSend::addRows(const SendFamily &family)
         const SendRow &row = family.rows[r];
         for (int member = 0; member < row.members; ++member)
             for (int place = 0; place <= row.last - row.first; ++place)
-                m_mapMenuIndexAndHander.insert({ENUM_MenuIndex(row.first + member * row.stride + place),
+                m_mapMenuIndexAndHander.insert({nth(nth(row.first, member, row.stride), place),
                                                 SendEntry{&row, row.firstMember + member, place}});
     }
 }

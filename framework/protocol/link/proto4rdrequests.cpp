@@ -76,10 +76,9 @@ bool quickConfiguration(const RestChange &change, ST_Protocol4rdMsg &message)
 /// All ports, whether they differ from their defaults or not.
 bool advancedConfiguration(const RestChange &change, ST_Protocol4rdMsg &message)
 {
-    constexpr int step = MENU_AdvancedPort2_Rows - MENU_AdvancedPort1_Rows;
     for (int port = 0; port < AdvancedPorts::count; ++port) {
         const auto value = [&](ENUM_MenuIndex ofFirstPort) {
-            return change.natural(ENUM_MenuIndex(ofFirstPort + step * port));
+            return change.natural(nth(ofFirstPort, port, STRIDE_AdvancedPort));
         };
         Parameters parameters;
         parameters.body.insert("rowCount", value(MENU_AdvancedPort1_Rows));

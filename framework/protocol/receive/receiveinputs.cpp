@@ -14,12 +14,12 @@ constexpr int inputCount = 9;
 /// Input records: source code, interlace, signal state, size, frame period, colour sampling.
 int ParseEDIDSourceCode(const Report &report)
 {
-    const int first = PARA_InputRecordFirst + STRIDE_InputRecord * report.member;
+    const ENUM_MenuIndex first = nth(PARA_InputRecordFirst, report.member, STRIDE_InputRecord);
     const int values[] = {report.u8(0),  report.u8(1),  report.u8(2), report.u16(3),
                           report.u16(5), report.u16(7), report.u8(26)};
-    report.parse.BuildMap(ENUM_MenuIndex(first), static_cast<unsigned char>(values[0]));
+    report.parse.BuildMap(first, static_cast<unsigned char>(values[0]));
     for (int i = 0; i < STRIDE_InputRecord; ++i)
-        report.parse.report(first + i, values[i]);
+        report.parse.report(nth(first, i), values[i]);
     return 0;
 }
 
@@ -35,7 +35,7 @@ int ParseInputQualityInfo(const Report &report)
     // The hue goes out as a signed number and comes back as one.
     const int values[] = {report.u8(1), report.u8(2), report.u8(4), static_cast<qint16>(report.u16(5))};
     for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
-        report.parse.report(first[report.member] + i, values[i]);
+        report.parse.report(nth(first[report.member], i), values[i]);
     return 0;
 }
 
@@ -50,7 +50,7 @@ int ParseAudioInputInfo(const Report &report)
         return 2;
     }
     const bool off = report.member < hdmiInputs ? mode == 1 : mode == 0;
-    report.parse.report(MENU_AudioInput_HDMI1 + report.member, off ? 0 : 1);
+    report.parse.report(nth(MENU_AudioInput_HDMI1, report.member), off ? 0 : 1);
     return 0;
 }
 

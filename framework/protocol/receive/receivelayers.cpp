@@ -15,11 +15,6 @@ namespace
 constexpr unsigned int cropAddress = 0x13024014;
 constexpr unsigned int cropStride = 132; ///< from one layer to the next
 
-ENUM_MenuIndex layerItem(ENUM_MenuIndex ofMainLayer, int layer)
-{
-    return ENUM_MenuIndex(ofMainLayer + STRIDE_Layer * layer);
-}
-
 int ParseLayerInfo(const Report &report)
 {
     struct Field {
@@ -33,7 +28,7 @@ int ParseLayerInfo(const Report &report)
         {MENU_MainLayer_Priority, report.u8(3)},   {MENU_MainLayer_Opacity, report.u8(47)},
     };
     for (const Field &field : fields)
-        report.parse.report(layerItem(field.item, report.member), field.value);
+        report.parse.report(nth(field.item, report.member, STRIDE_Layer), field.value);
     return 0;
 }
 
@@ -42,7 +37,7 @@ int ParseInterceptReceiveParse(const Report &report)
 {
     const int layer = static_cast<int>((report.message.address - cropAddress) / cropStride);
     qDebug() << "winNum:" << layer << ", sourceNum:" << report.member;
-    const int first = MENU_MainLayerCrop_Status + STRIDE_Crop * layer;
+    const ENUM_MenuIndex first = nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop);
     const QString values[] = {
         QString::number(report.u8(2)),  QString::number(report.u16(7)), QString::number(report.u16(9)),
         QString::number(report.u16(3)), QString::number(report.u16(5)),
@@ -51,9 +46,9 @@ int ParseInterceptReceiveParse(const Report &report)
              << "strXStart" << values[3] << "strYStart" << values[4];
     // All of it stands in the store before any of it is worked out: a layer follows its crop as a whole.
     for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
-        report.parse.store().UpdataItemCurValue(ENUM_MenuIndex(first + i), values[i]);
+        report.parse.store().UpdataItemCurValue(nth(first, i), values[i]);
     for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
-        report.parse.ReportMsgToParaProcess(ENUM_MenuIndex(first + i), values[i]);
+        report.parse.ReportMsgToParaProcess(nth(first, i), values[i]);
     return 0;
 }
 

@@ -23,7 +23,7 @@ bool bit(int byte, int number)
 int ParseNetLinkState(const Report &report)
 {
     for (int i = 0; i < portsOfGroup[report.member]; ++i)
-        report.parse.report(PARA_PortLink + groupSize * report.member + i, bit(report.u8(0), i));
+        report.parse.report(nth(PARA_PortLink, groupSize * report.member + i), bit(report.u8(0), i));
     return 0;
 }
 
@@ -33,7 +33,7 @@ int ParseNetBackupState(const Report &report)
     for (int i = 0; i < portsOfGroup[report.member]; ++i) {
         const bool backup = report.u8(i) == isBackup;
         qDebug() << "Backup == " << backup;
-        report.parse.report(PARA_PortBackup + groupSize * report.member + i, backup);
+        report.parse.report(nth(PARA_PortBackup, groupSize * report.member + i), backup);
     }
     return 0;
 }
@@ -44,7 +44,7 @@ int backupEngaged(const Report &report, ENUM_MenuIndex first)
     for (int i = 0; i < portsOfGroup[report.member]; ++i) {
         const bool on = bit(report.u8(0), 2 * i + 1);
         qDebug() << "BackupOn == " << on;
-        report.parse.report(first + groupSize * report.member + i, on);
+        report.parse.report(nth(first, groupSize * report.member + i), on);
     }
     return 0;
 }
@@ -77,7 +77,7 @@ int opticalPortLink(const Report &report, ENUM_MenuIndex first)
     for (int i = 0; i < portsOfByte[report.member]; ++i) {
         const int port = byteSize * report.member + i;
         qDebug() << "network" << port << ", netState" << bit(report.u8(0), i);
-        report.parse.report(first + port, bit(report.u8(0), i));
+        report.parse.report(nth(first, port), bit(report.u8(0), i));
     }
     return 0;
 }
@@ -96,7 +96,7 @@ int ParseOPT2PortLinkState(const Report &report)
 int ParsePortACTState(const Report &report)
 {
     for (int i = 0; i < portsOfByte[report.member]; ++i)
-        report.parse.report(PARA_PortActive + byteSize * report.member + i, !bit(report.u8(0), i));
+        report.parse.report(nth(PARA_PortActive, byteSize * report.member + i), !bit(report.u8(0), i));
     return 0;
 }
 

@@ -45,7 +45,7 @@ int ParseOSDInfo(const Report &report)
 
 int ParseOSDPictureState(const Report &report)
 {
-    report.parse.report(EVENT_OSDPictureFirst + report.member, report.u8(0));
+    report.parse.report(nth(EVENT_OSDPictureFirst, report.member), report.u8(0));
     return 0;
 }
 

@@ -31,9 +31,9 @@ constexpr quint8 cardCodes[CARD_END] = {INPUT_HDMI1, INPUT_HDMI2, INPUT_DVI1, IN
 
 ENUM_MenuIndex ofCard(ENUM_MenuIndex ofHdmi1, int card)
 {
-    const int base =
-        card == CARD_SDI ? MENU_SDI_Brightness : MENU_HDMI1_Brightness + card * STRIDE_InputPicture;
-    return ENUM_MenuIndex(base + ofHdmi1 - MENU_HDMI1_Brightness);
+    if (card == CARD_SDI)
+        return nth(MENU_SDI_Brightness, ofHdmi1 - MENU_HDMI1_Brightness);
+    return nth(ofHdmi1, card, STRIDE_InputPicture);
 }
 
 /// Brightness, contrast, saturation, hue: the register is that of the input's place among all inputs.

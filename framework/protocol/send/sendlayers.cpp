@@ -15,11 +15,6 @@ using P = TGProtocolParser3rd;
 
 constexpr int layerCount = 3;
 
-ENUM_MenuIndex ofLayer(ENUM_MenuIndex mainLayer, int layer)
-{
-    return ENUM_MenuIndex(mainLayer + layer * STRIDE_Layer);
-}
-
 /// The value is the number of the input among all inputs.
 int InputSourceValueChanged(const SendChange &change)
 {
@@ -31,16 +26,17 @@ int InputSourceValueChanged(const SendChange &change)
 
 QByteArray windowStart(const SendChange &change, int layer)
 {
-    return littleEndian(change.number(ofLayer(MENU_MainLayer_InitialX, layer)), 4) +
-           littleEndian(change.number(ofLayer(MENU_MainLayer_InitialY, layer)), 4);
+    return littleEndian(change.number(nth(MENU_MainLayer_InitialX, layer, STRIDE_Layer)), 4) +
+           littleEndian(change.number(nth(MENU_MainLayer_InitialY, layer, STRIDE_Layer)), 4);
 }
 
 int WindowValueChanged(const SendChange &change)
 {
     const int layer = change.member;
-    const QByteArray data = windowStart(change, layer) +
-                            littleEndian(change.number(ofLayer(MENU_MainLayer_HorWidth, layer)), 4) +
-                            littleEndian(change.number(ofLayer(MENU_MainLayer_VerHeight, layer)), 4);
+    const QByteArray data =
+        windowStart(change, layer) +
+        littleEndian(change.number(nth(MENU_MainLayer_HorWidth, layer, STRIDE_Layer)), 4) +
+        littleEndian(change.number(nth(MENU_MainLayer_VerHeight, layer, STRIDE_Layer)), 4);
     change.log(data);
     return Proto3rdSend::SendHeldBack(change, change.package(data));
 }
@@ -60,12 +56,12 @@ int InterceptionValueChanged(const SendChange &change)
     const int layer = change.member;
     QString part[CROP_END];
     for (int place = 0; place < CROP_END; ++place) {
-        const int item = MENU_MainLayerCrop_Status + layer * STRIDE_Crop + place;
+        const ENUM_MenuIndex item = nth(nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop), place);
         part[place] = place == change.place ? change.value : QString();
         if (part[place].isEmpty())
-            part[place] = change.item(ENUM_MenuIndex(item));
+            part[place] = change.item(item);
     }
-    const QString input = change.item(ofLayer(MENU_MainLayer_InputSource, layer));
+    const QString input = change.item(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer));
     const auto key = static_cast<unsigned char>(input.toInt());
     if (key == InputTable::noKey) {
         qDebug("Invalid Source Name:%s", qPrintable(input));
@@ -81,19 +77,19 @@ int InterceptionValueChanged(const SendChange &change)
         change, toAllBoards(P::Set_SenderInterception, data, change.tag(), layer, source.index));
 }
 
-constexpr SendRow layerItem(ENUM_MenuIndex index, ValueForm form, RegisterBuilder builder)
+constexpr SendRow eachLayer(ENUM_MenuIndex index, ValueForm form, RegisterBuilder builder)
 {
     return family(index, index, STRIDE_Layer, layerCount, sendPlain, builder, form);
 }
 
 constexpr SendRow rows[] = {
-    layerItem(MENU_MainLayer_Status, zeroElse(0, 1), P::Set_SenderFormsStatusData),
+    eachLayer(MENU_MainLayer_Status, zeroElse(0, 1), P::Set_SenderFormsStatusData),
     family(MENU_MainLayer_InputSource, MENU_MainLayer_InputSource, STRIDE_Layer, layerCount,
            InputSourceValueChanged, P::Set_SenderFormsRosourceCard),
     family(MENU_MainLayer_HorWidth, MENU_MainLayer_InitialY, STRIDE_Layer, layerCount, WindowValueChanged,
            P::Set_SenderFormsHorStartData),
-    layerItem(MENU_MainLayer_Priority, number(), P::Set_SenderFormsPriorityData),
-    layerItem(MENU_MainLayer_Opacity, number(), P::Set_SenderFormsTransparent),
+    eachLayer(MENU_MainLayer_Priority, number(), P::Set_SenderFormsPriorityData),
+    eachLayer(MENU_MainLayer_Opacity, number(), P::Set_SenderFormsTransparent),
     family(MENU_MainLayerCrop_Status, MENU_MainLayerCrop_InitialY, STRIDE_Crop, layerCount,
            InterceptionValueChanged),
     family(EVENT_SendingCardX, EVENT_SendingCardY, 0, 1, MAINWindowChangedtoSend, P::Set_HorStartDataToSend),

@@ -71,10 +71,7 @@ struct PortArea {
 
 PortArea readPort(const SendChange &change, int port)
 {
-    const int base = MENU_AdvancedPort1_Rows + (port - 1) * STRIDE_AdvancedPort;
-    auto at = [base](ENUM_MenuIndex ofPort1) {
-        return ENUM_MenuIndex(base + ofPort1 - MENU_AdvancedPort1_Rows);
-    };
+    auto at = [port](ENUM_MenuIndex ofPort1) { return nth(ofPort1, port - 1, STRIDE_AdvancedPort); };
     PortArea area{change.number(at(MENU_AdvancedPort1_Rows)), change.number(at(MENU_AdvancedPort1_Cols)),
                   change.number(at(MENU_AdvancedPort1_X)), change.number(at(MENU_AdvancedPort1_Y)),
                   change.item(at(MENU_AdvancedPort1_FlowWay))};
