@@ -47,8 +47,8 @@ QVector<NamedFrames> TestFramesSystem::table() const
         {"self test, refused", path(MENU_SystemSetting, MENU_SelfTest), "no", ""},
         {"self test", path(MENU_SystemSetting, MENU_SelfTest), "yes closed esc", "13800000 00 00"},
     };
-    // A register for each row.
-    for (int file = 0; file < fileRows; ++file)
+    // A register for each row. Each takes seven seconds of messages, so only the ends are tried.
+    for (int file : {0, fileRows - 1})
         lines.append({"file " + QByteArray::number(file + 1),
                       path(MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles,
                            ENUM_MenuIndex(MENU_CabinetFile1 + file)),
