@@ -79,7 +79,7 @@ int Proto4rd::HandleMenuValueChanged(ENUM_MenuIndex index, const QString &strVal
 int Proto4rd::sendShownPattern()
 {
     static const QMap<QString, ENUM_MenuIndex> shown{
-        {"1", MENU_Test_PureColor}, {"2", MENU_Test_Gradient}, {"3", MENU_Test_Grid}};
+        {"0", MENU_Test_PureColor}, {"1", MENU_Test_Gradient}, {"2", MENU_Test_Grid}};
     if (!m_pParaProcess)
         return 0;
     const QString family = m_pParaProcess->GetParaFromIndex(PARA_TestPatternFamily);

@@ -19,6 +19,7 @@ struct KeyRequests {
     Path path;
     const char *keys;
     QStringList requests; ///< behind "/api/v1/device/"
+    QStringList frames{}; ///< what goes over the bus all the same
 };
 
 Path control(ENUM_MenuIndex row)
@@ -36,6 +37,14 @@ Path screen(ENUM_MenuIndex row)
 Path more(ENUM_MenuIndex row)
 {
     return {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_MoreSettings, row};
+}
+Path quick(ENUM_MenuIndex row)
+{
+    return {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_QuickConfiguration, row};
+}
+Path advanced(ENUM_MenuIndex row)
+{
+    return {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_MoreSettings, MENU_AdvancedCfg, row};
 }
 Path colour(ENUM_MenuIndex row)
 {
@@ -63,6 +72,34 @@ QString shown(int mode, const char *rgb, int lineWidth, int gray = 130, int spac
         .arg(speed)
         .arg(part(0))
         .arg(spacing);
+}
+/// A knob's steps over patterns of one family: the one that is there, and each that follows.
+QStringList stepped(const QVector<int> &modes, const QStringList &colours, int lineWidth)
+{
+    QStringList requests;
+    for (int i = 0; i < modes.size(); ++i)
+        requests += shown(modes[i], qPrintable(colours[i]), lineWidth);
+    return requests;
+}
+QString quickForm(int rows, int columns, int cabinets, int flowWay)
+{
+    return QString(R"(PUT screens/autoconfiguration/base {"LayoutType":%4,"colCount":%2,)"
+                   R"("port1CabinetCount":%3,"rowCount":%1})")
+        .arg(rows)
+        .arg(columns)
+        .arg(cabinets)
+        .arg(flowWay);
+}
+/// All ports, of which the second is described and the others are as they were delivered.
+QString advancedForm(const QString &second)
+{
+    constexpr int ports = 10;
+    const QString delivered =
+        R"({"colCount":1,"layoutType":0,"offsetX":0,"offsetY":0,"portID":%1,"rowCount":1})";
+    QStringList list;
+    for (int port = 0; port < ports; ++port)
+        list += port == 1 ? second : delivered.arg(port);
+    return "POST screens/autoconfiguration/senior [" + list.join(',') + ']';
 }
 QStringList twice(const QString &request)
 {
@@ -98,17 +135,44 @@ QVector<KeyRequests> table()
         {"colours of one's own", colour(MENU_Color_ColorTemp), "r3 ok", {}},
         {"red", colour(MENU_Color_R), "L5 ok",
          twice(cabinets("rgbbrightness", R"({"b":253,"g":249,"r":250})"))},
+        {"green", colour(MENU_Color_G), "L9 ok",
+         twice(cabinets("rgbbrightness", R"({"b":253,"g":240,"r":250})"))},
+        {"blue", colour(MENU_Color_B), "L3 ok",
+         twice(cabinets("rgbbrightness", R"({"b":250,"g":240,"r":250})"))},
+        {"quick page",
+         {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_QuickConfiguration},
+         "",
+         {quickForm(1, 1, 1, 0)}},
+        {"quick rows", quick(MENU_Quick_CabinetRow), "R3 ok", twice(quickForm(4, 1, 1, 0))},
+        // Sixteen cabinets on six ports are three on the first at least, which is told, too.
+        {"quick columns", quick(MENU_Quick_CabinetCol), "R3 ok",
+         QStringList{quickForm(4, 4, 3, 0)} + twice(quickForm(4, 4, 3, 0))},
+        {"quick first port", quick(MENU_Quick_PortOneCab), "R1 ok", twice(quickForm(4, 4, 4, 0))},
+        {"quick flow way", quick(MENU_Quick_FlowWay), "r1 ok", {quickForm(4, 4, 4, 1)}},
+        {"advanced on", advanced(MENU_Advanced_Status), "r1 ok", {}, {"02810000 00 a8"}},
+        {"port", advanced(MENU_Advanced_EthernetPort), "R1 ok", {}},
+        {"port rows", advanced(MENU_Advanced_CabinetRow), "R1 ok", {}},
+        {"port x", advanced(MENU_Advanced_HorOffset), "R9 ok", {}},
+        {"port flow way", advanced(MENU_Advanced_FlowWay), "r2 ok", {}},
+        {"applied",
+         advanced(MENU_Advanced_Apply),
+         "closed",
+         {advancedForm(R"({"colCount":1,"layoutType":2,"offsetX":9,"offsetY":0,"portID":1,"rowCount":2})")}},
+        {"cabinet file",
+         {MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles, MENU_CabinetFile2},
+         "closed2",
+         {cabinets("sendcfgfile", R"({"fileName":"1+P2.5-128x128.cab"})")}},
         {"save", screen(MENU_SavetoRVCard), "yes closed2", {solid}},
         {"test pattern", control(MENU_TestPattern), "", {shown(11, "111", 1)}},
-        {"pure colour", pattern(MENU_Test_PureColor), "r1 ok", {shown(11, "111", 1), shown(12, "111", 1)}},
-        {"gradient",
-         pattern(MENU_Test_Gradient),
-         "r2 ok",
-         {shown(3, "100", 0), shown(3, "010", 0), shown(3, "001", 0)}},
-        {"grid", pattern(MENU_Test_Grid), "r1 ok", {shown(5, "111", 1), shown(4, "111", 1)}},
-        // The service's families count from one, the panel's from zero: the one before the grid goes out.
-        {"spacing", pattern(MENU_Test_Spacing), "L2 ok", twice(shown(3, "001", 0, 130, 3))},
-        {"test brightness", pattern(MENU_Test_Brightness), "R1 ok", twice(shown(3, "001", 0, 195, 3))},
+        {"pure colours, down", pattern(MENU_Test_PureColor), "l5 ok",
+         QStringList{shown(11, "111", 1)} + stepped({1, 1, 1, 1, 1}, {"111", "001", "010", "100", "000"}, 0)},
+        {"gradient", pattern(MENU_Test_Gradient), "r7 ok",
+         stepped({3, 3, 3, 3, 2, 2, 2, 2}, {"100", "010", "001", "111", "100", "010", "001", "111"}, 0)},
+        {"grids", pattern(MENU_Test_Grid), "r5 ok",
+         stepped({5, 4, 7, 8, 6, 9}, {"111", "111", "111", "111", "111", "111"}, 1)},
+        {"spacing", pattern(MENU_Test_Spacing), "L2 ok", twice(shown(9, "111", 1, 130, 3))},
+        {"test brightness", pattern(MENU_Test_Brightness), "R1 ok", twice(shown(9, "111", 1, 195, 3))},
+        {"speed", pattern(MENU_Test_Speed), "R1 ok", twice(shown(9, "111", 1, 195, 3, 4))},
         {"end of the test", control(MENU_Normal), "", {screens("displaymode", R"({"value":0})")}},
     };
 }
@@ -123,6 +187,10 @@ protected:
         // The option goes to the emulator behind those that the panel under test gives it.
         QVERIFY(m_panel.powerDevice({"sh", "-c", "exec \"$@\" --rest", "sh"}) && m_drive.startPanel());
         QVERIFY(m_walk.speak("fpd_ZH"));
+        // Without a cable the panel is told every five seconds that nobody else holds it, which ends an edit
+        // of the brightness, wherever that is.
+        QVERIFY(m_panel.ask({"link", "usb", "1"}).ok && m_panel.waitForLog("usb_link == ") &&
+                m_panel.settle());
     }
 
     void leave() override
@@ -141,12 +209,12 @@ private slots:
         for (int line = 0; line < lines.size(); ++line)
             QTest::newRow(lines[line].name) << line;
     }
-    /// Nothing of it goes over the bus.
+    /// And nothing else goes over the bus.
     void keysAsk()
     {
         QFETCH(int, line);
         const KeyRequests row = table()[line];
-        const QString fault = m_drive.drive({row.path, row.keys, {}});
+        const QString fault = m_drive.drive({row.path, row.keys, row.frames});
         QVERIFY2(fault.isEmpty(), qPrintable(fault));
         QVERIFY2(m_panel.waitUntil([&] { return asked().size() >= row.requests.size(); }),
                  qPrintable(asked().join('\n')));

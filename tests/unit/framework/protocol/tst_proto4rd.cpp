@@ -221,10 +221,12 @@ private slots:
     {
         QTest::addColumn<QString>("family");
         QTest::addColumn<QString>("request");
-        QTest::newRow("colour") << "1" << pattern(1, 255, 0, 0, 0);
-        QTest::newRow("gradient") << "2" << pattern(2, 255, 0, 0, 0);
-        QTest::newRow("grid") << "3" << pattern(9, 255, 255, 255, 1);
-        QTest::newRow("none") << "0"
+        QTest::newRow("colour") << "0" << pattern(1, 255, 0, 0, 0);
+        QTest::newRow("gradient") << "1" << pattern(2, 255, 0, 0, 0);
+        QTest::newRow("grid") << "2" << pattern(9, 255, 255, 255, 1);
+        QTest::newRow("picture") << "3"
+                                 << "";
+        QTest::newRow("none") << "255"
                               << "";
     }
     void thePatternOnShowGoesOutAgain()
@@ -238,7 +240,7 @@ private slots:
             QCOMPARE(m_client->take(), request);
         }
         if (request.isEmpty())
-            QCOMPARE(logged.filter("type is fail!").size(), 3);
+            QCOMPARE(logged.filter("type is fail! \"" + family + '"').size(), 3);
     }
 
     void levelsOfGray()
