@@ -30,7 +30,10 @@ bool MenuAnalysis::initlize()
     if (!m_updateTimer) {
         m_updateTimer = new QTimer(this);
         m_updateTimer->setObjectName("store write");
-        connect(m_updateTimer, &QTimer::timeout, this, &MenuAnalysis::slot_updateXml);
+        connect(m_updateTimer, &QTimer::timeout, this, [this] {
+            if (hasChanges())
+                m_save.ask();
+        });
     }
     m_updateTimer->start(writeDelayMs);
     return true;

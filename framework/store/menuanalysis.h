@@ -70,12 +70,14 @@ public:
     /// Writes what has changed since the last write. False if it could not be written: it is tried again with
     /// every timeout.
     bool updateActivittyItem();
-    /// Waits until the last save is on the disk and not only in its file.
-    void endSync() { m_files.endSync(); }
+    /// Waits until what has been asked to be saved is on the disk and not only in its file. GUI thread.
+    void endSync();
+    /// Does something to the store's files themselves, and loads what they hold then: no save comes between.
+    void replaceFiles(const std::function<void()> &change) { m_files.whileNoneWrites(change); }
 
 public slots:
     /// The flush: added items, changed items, deleted items. Without any of them, a write that has failed.
-    /// GUI thread.
+    /// Any thread; the panel leaves it to one of its own, so that no key waits for the disk.
     void slot_updateXml();
 
 private:
@@ -105,6 +107,7 @@ private:
     bool saveDataToFile(const QString &name);
     void offerDocument();
     bool saveFile();
+    bool hasChanges();
 
     void ensureDocument();
     bool updateCacheList();
@@ -136,5 +139,8 @@ private:
     /// again and again.
     QList<ENUM_MenuIndex> m_activityElementList;
     QList<ENUM_MenuIndex> m_deleteItemList;
+
+    /// Ends before all that it works with.
+    Errand m_save{"save", [this] { slot_updateXml(); }};
 };
 } // namespace VASK

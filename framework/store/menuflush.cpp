@@ -15,6 +15,13 @@ void logTime()
 }
 } // namespace
 
+bool MenuAnalysis::hasChanges()
+{
+    QMutexLocker lock(&m_mutex);
+    return m_isBlind || m_files.hasWork() || !cacheList.isEmpty() || !m_activityElementList.isEmpty() ||
+           !m_deleteItemList.isEmpty();
+}
+
 void MenuAnalysis::slot_updateXml()
 {
     if (m_isBlind)
@@ -144,6 +151,12 @@ void MenuAnalysis::offerDocument()
 {
     if (!m_xmldoc.isNull())
         m_files.offer(menuDocumentText(m_xmldoc));
+}
+
+void MenuAnalysis::endSync()
+{
+    m_save.finish();
+    m_files.endSync();
 }
 
 bool MenuAnalysis::saveFile()

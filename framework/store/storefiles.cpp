@@ -127,11 +127,6 @@ QString StoreFiles::factory()
     return folder() + "config_factory.xml";
 }
 
-StoreFiles::~StoreFiles()
-{
-    endSync();
-}
-
 /// A second try costs nothing where the first has failed for a moment, and all that the file holds where it
 /// is not made.
 StoreFiles::Sight StoreFiles::read(const QString &name, QByteArray &bytes)
@@ -235,11 +230,12 @@ bool StoreFiles::write()
         m_isBackupDue = false;
         m_isSyncDue = true;
     }
-    startSync();
+    if (m_isSyncDue.exchange(false))
+        m_sync.ask();
     return true;
 }
 
-/// Called, as the three below, under the lock of the writers.
+/// Called, as the one below, under the lock of the writers.
 bool StoreFiles::writeConfig()
 {
     QByteArray snapshot;
@@ -272,30 +268,15 @@ void StoreFiles::tellOutcome(bool isWritten)
     m_hasFailed = !isWritten;
 }
 
-/// A sync that still runs may have passed the new copy already: the next write starts another.
-void StoreFiles::startSync()
-{
-    if (!m_isSyncDue || (m_sync && !m_sync->isFinished()))
-        return;
-    waitForSync();
-    m_isSyncDue = false;
-    m_sync.reset(QThread::create([this] {
-        if (!sync())
-            m_isSyncDue = true;
-    }));
-    m_sync->setObjectName("sync");
-    m_sync->start();
-}
-
-void StoreFiles::waitForSync()
-{
-    if (m_sync)
-        m_sync->wait();
-}
-
 void StoreFiles::endSync()
 {
     QMutexLocker lock(&m_writeMutex);
-    waitForSync();
+    m_sync.finish();
+}
+
+void StoreFiles::whileNoneWrites(const std::function<void()> &change)
+{
+    QMutexLocker lock(&m_writeMutex);
+    change();
 }
 } // namespace VASK

@@ -5,12 +5,13 @@
 // thread.
 #pragma once
 
+#include "framework/thread/errand.h"
+
 #include <QByteArray>
 #include <QMutex>
 #include <QString>
-#include <QThread>
 #include <atomic>
-#include <memory>
+#include <functional>
 
 namespace VASK
 {
@@ -18,7 +19,6 @@ class StoreFiles
 {
 public:
     StoreFiles() = default;
-    ~StoreFiles();
     StoreFiles(const StoreFiles &) = delete;
     StoreFiles &operator=(const StoreFiles &) = delete;
 
@@ -66,12 +66,12 @@ public:
     bool write();
     /// Waits until the last copy is on the disk and not only in its file.
     void endSync();
+    /// Does something to the files themselves: no write runs or begins meanwhile.
+    void whileNoneWrites(const std::function<void()> &change);
 
 private:
     bool writeConfig();
     void tellOutcome(bool isWritten);
-    void startSync();
-    void waitForSync();
 
     mutable QMutex m_waitingMutex; ///< for the next two members, for one access
     QByteArray m_waiting;
@@ -80,6 +80,10 @@ private:
     bool m_hasFailed = false; ///< told once, not with every repetition
     std::atomic<bool> m_isBackupDue{false};
     std::atomic<bool> m_isSyncDue{false};
-    std::unique_ptr<QThread> m_sync;
+    /// Asked for under the lock of the writers.
+    Errand m_sync{"sync", [this] {
+                      if (!sync())
+                          m_isSyncDue = true;
+                  }};
 };
 } // namespace VASK

@@ -4,8 +4,10 @@
 #include "fpd_hostlink.h"
 #include "platform/host/statefile.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QMutex>
+#include <QThread>
 #include <cerrno>
 #include <sys/file.h>
 #include <sys/wait.h>
@@ -40,6 +42,17 @@ void tearCopy(const QString &source, const QString &target)
         file.write(bytes.left(bytes.size() / 2));
 }
 
+/// A disk that is worn out or busy lets those wait who want to be sure, until it is told to be well again.
+int waitForSlowDisk(const QByteArray &call, qint64 ms)
+{
+    constexpr unsigned long lookMs = 5;
+    if (call == "fsync" || call == "copy" || call == "sync")
+        for (const QDeadlineTimer end(ms);
+             !end.hasExpired() && QFile::exists(stateFile(hostlink::diskFaultFile));)
+            QThread::msleep(lookMs);
+    return 0;
+}
+
 constexpr int shellFailure = 1 << 8; ///< as system(3) gives it: the command has ended with 1
 } // namespace
 
@@ -63,6 +76,10 @@ int takeDiskFault(const char *call)
         return 0;
     flock(file.handle(), LOCK_EX);
     QList<QByteArray> words = file.readAll().simplified().split(' ');
+    if (words.size() == 2 && words[0] == "slow") {
+        file.close();
+        return waitForSlowDisk(call, words[1].toLongLong());
+    }
     if (words.size() < 3 || (words[0] != call && words[0] != "any"))
         return 0;
     const int left = words[1].toInt();

@@ -1,9 +1,11 @@
 // The store's three files, damaged in every way that a power cut or a worn flash can think of: the next start
 // repairs them and keeps the values while one of them is whole.
+#include "fpd_hostlink.h"
 #include "testkit/procfs.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
+#include <QDir>
 #include <QFile>
 #include <sys/resource.h>
 
@@ -110,6 +112,31 @@ private slots:
         QVERIFY(waitUntilStored(brightnessItem, "81"));
         QVERIFY(m_panel.ask({"panel", "kill"}).ok && m_panel.start());
         QCOMPARE(m_panel.stored(brightnessItem), QString("81"));
+    }
+
+    /// A save that lasts: the keys are worked, shown and sent meanwhile, and are in the next one.
+    void noKeyWaitsForTheDisk()
+    {
+        for (const QString &name : allFiles)
+            write(name, m_whole);
+        QVERIFY(m_panel.start() && m_panel.ask({"wait", "ready"}).ok);
+        const QString fault = m_panel.file(hostlink::diskFaultFile);
+        QVERIFY(QDir().mkpath(QFileInfo(fault).path()));
+        QFile slow(fault);
+        QVERIFY(slow.open(QIODevice::WriteOnly) && slow.write("slow 600000") > 0);
+        slow.close();
+        m_walk.go({VASK::MENU_ScreenBrightness});
+        m_panel.mark();
+        m_walk.turn(Right, 1);
+        QVERIFY(m_panel.waitFor("78%"));
+        QVERIFY(m_panel.waitForLog("slot_updateXml")); // and stands still before its first fsync is over
+        for (int value = 79; value < 90; ++value) {
+            m_walk.turn(Right, 1);
+            QVERIFY(m_panel.waitFor(QString("%1%").arg(value)));
+        }
+        QCOMPARE(m_panel.stored(brightnessItem), ownValue);
+        QVERIFY(QFile::remove(fault));
+        QVERIFY(waitUntilStored(brightnessItem, "89"));
     }
 
 private:

@@ -143,11 +143,14 @@ void clearAllParameters(ParaChange &change)
     if (!claimReset())
         return;
     board::runCommand("cp -a /usr/vask/etc/logo/logo_vask.bmp /usr/vask/etc/logo/logo.bmp");
-    board::runCommand("cp /usr/vask/etc/fpd/config/config_factory.xml /usr/vask/etc/fpd/config/config.xml");
-    board::runCommand(removePictures);
-    board::runCommand("sync");
     // The file is what counts from now on: what memory still holds must not be written over it.
-    loadFactoryCopy(change);
+    change.store.replaceFiles([&change] {
+        board::runCommand(
+            "cp /usr/vask/etc/fpd/config/config_factory.xml /usr/vask/etc/fpd/config/config.xml");
+        board::runCommand(removePictures);
+        board::runCommand("sync");
+        loadFactoryCopy(change);
+    });
     set_pc_connect_priority(1);
     if (!change.fromUser()) {
         change.engine.raiseFactoryReset();
