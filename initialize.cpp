@@ -11,12 +11,12 @@
 #include "framework/protocol/link/proto4rd.h"
 #include "framework/protocol/snapshot/protomemory20m.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/ui/language.h"
+#include "framework/ui/textfile.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
-#include "widget/language.h"
 #include "widget/page/directoryengineer.h"
-#include "widget/textfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -2,6 +2,7 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/processdata.h"
 #include "menu/itemindex.h"
 
 namespace VASK

@@ -3,6 +3,7 @@
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
+#include "menuconfig_k2860.h"
 
 namespace VASK
 {
@@ -75,11 +76,26 @@ int DeviceView::outputRowRate() const
 int DeviceView::outputRate() const
 {
     if (workMode() == WORK_SENDER) {
-        const int rate = m_engine.OutputFrameAdj(input(followedInput()).rateCentiHz(), syncReference());
+        const int rate = followedRate(input(followedInput()).rateCentiHz(), syncReference());
         return FrameRateAdj(uint16_t(rate ? rate : unknownRate));
     }
     const int row = outputRowRate();
-    return syncOn() ? m_engine.OutputFrameAdj(input(syncInput()).measuredRateCentiHz(), row) : row;
+    return syncOn() ? followedRate(input(syncInput()).measuredRateCentiHz(), row) : row;
+}
+
+int DeviceView::followedRate(int rate, int outputRate) const
+{
+    constexpr double lower = 0.995;
+    constexpr double upper = 1.005;
+    const bool inReach = rate >= int(outputRate * lower) && rate <= int(outputRate * upper);
+    if (workMode() != WORK_SENDER && !inReach)
+        return outputRate;
+    const uint16_t shown = uint16_t(doublesRate() ? rate * 2 : rate);
+    const ProcessData &data = m_engine.processData();
+    const bool overload =
+        VideoBandwidthConstrain(uint16_t(data.value(PARA_OutputWidth)),
+                                uint16_t(data.value(PARA_OutputHeight)), shown, wholeOutputPixelRate, 1);
+    return overload ? outputRate : rate;
 }
 
 int DeviceView::syncReference() const
@@ -92,7 +108,7 @@ bool DeviceView::syncAgrees() const
     if (!syncOn())
         return true;
     const int rate = input(syncInput()).measuredRateCentiHz();
-    return rate != 0 && m_engine.OutputFrameAdj(rate, syncReference()) == rate;
+    return rate != 0 && followedRate(rate, syncReference()) == rate;
 }
 
 QString DeviceView::sizeText(int width, int height, bool interlaced, int rateCentiHz)

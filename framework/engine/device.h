@@ -45,6 +45,9 @@ public:
     bool syncAgrees() const;
     /// Rate to which the source of synchronisation is held, hundredths of a hertz.
     int syncReference() const;
+    /// The rate that the output takes for a source: the source's where it can follow, else its own.
+    /// Hundredths of a hertz.
+    int followedRate(int rate, int outputRate) const;
     /// What the home screen shows of the output, such as "1920x1080@59.94". The rate goes in without the
     /// doubling of 3D, hundredths of a hertz.
     QString resolutionText(int rateCentiHz) const;

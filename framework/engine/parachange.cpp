@@ -1,10 +1,10 @@
 #include "framework/engine/parachange.h"
 
 #include "framework/store/menuanalysis.h"
+#include "framework/ui/home.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 #include <QDialog>
 #include <algorithm>
@@ -54,9 +54,9 @@ ParaChange::ParaChange(ParaProcess &paraProcess, MenuAnalysis &menuStore, const 
 {
 }
 
-MainWindow *ParaChange::home() const
+HomeUpdater &ParaChange::home() const
 {
-    return engine.mainWindow();
+    return engine.home();
 }
 
 QString ParaChange::item(ENUM_MenuIndex item) const
@@ -117,7 +117,7 @@ void ParaChange::show(ENUM_MenuIndex item, const QString &newValue)
 void ParaChange::send(ENUM_MenuIndex item, const QString &newValue)
 {
     // A command to the device has no item and no row: the home screen is there for it.
-    VaskUiObject *widget = item >= PARA_END ? home() : widgetOf(item);
+    VaskUiObject *widget = item >= PARA_END ? home().screen() : widgetOf(item);
     if (widget)
         widget->CallProtocol(newValue, item);
 }
@@ -156,19 +156,12 @@ void ParaChange::enableRowsWithText(ENUM_MenuIndex list, const QString &text, bo
 
 void ParaChange::windowState(int layer, bool shown)
 {
-    const int state = shown ? 0 : 1;
-    if (fromDevice() && !ParaProcess::init_20m_flg)
-        home()->SetWindowState(ENUM_MainWindowWindowIndex(layer), ENUM_CommonState(state));
-    else
-        engine.raiseWindowState(layer, state);
+    home().setWindow(layer, shown, fromDevice());
 }
 
 void ParaChange::syncState(int state)
 {
-    if (fromDevice() && !ParaProcess::init_20m_flg)
-        home()->SetSynModeState(ENUM_MainWindowSynState(state));
-    else
-        engine.raiseSyncState(state);
+    home().setSyncState(state, fromDevice());
 }
 
 void ParaChange::lowLayerUpdate()
@@ -178,13 +171,7 @@ void ParaChange::lowLayerUpdate()
 
 void ParaChange::redoResolution(int rateCentiHz)
 {
-    showResolution(DeviceView(engine).resolutionText(rateCentiHz));
-}
-
-void ParaChange::showResolution(const QString &text)
-{
-    qDebug() << "----------------- Set Sres Res -----------------";
-    home()->SetScreenRes(text);
+    home().showResolution(DeviceView(engine).resolutionText(rateCentiHz));
 }
 
 void ParaChange::tail()

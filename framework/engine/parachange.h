@@ -4,9 +4,11 @@
 #pragma once
 
 #include "framework/engine/device.h"
+#include "framework/engine/homeupdater.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
+#include "menuconfig_k2860.h"
 
 #include <QVector>
 #include <functional>
@@ -32,7 +34,7 @@ struct ParaChange {
     bool fromUser() const { return mode == SET_XML_USER; }
     bool fromDevice() const { return mode == SET_XML_DEVICE; }
     bool changed() const { return value != oldValue; }
-    MainWindow *home() const;
+    HomeUpdater &home() const;
 
     // Readers
     QString item(ENUM_MenuIndex item) const;
@@ -71,7 +73,6 @@ struct ParaChange {
     /// Writes the home screen's resolution text for an output rate in hundredths of a hertz, which 3D may
     /// double.
     void redoResolution(int rateCentiHz);
-    void showResolution(const QString &text);
     /// Last step of a case: the value goes to the protocol, or a reported one to the widget.
     void tail();
 };

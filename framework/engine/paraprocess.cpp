@@ -1,22 +1,26 @@
-// The engine's data and its two operations on a value: what may be used, and what follows from it. The cases
-// of both stand by families in framework/engine/.
+// The doors of the engine. Behind each stands the class or the table of its subject.
 
 #include "framework/engine/paraprocess.h"
 
-#include "framework/engine/limits/bandwidth.h"
+#include "framework/engine/device.h"
+#include "framework/engine/displaymode.h"
+#include "framework/engine/homeupdater.h"
+#include "framework/engine/keyleds.h"
 #include "framework/engine/limits/limits.h"
 #include "framework/engine/parachange.h"
-#include "framework/input/keyevent.h"
+#include "framework/engine/portstates.h"
+#include "framework/engine/presets.h"
+#include "framework/engine/processdata.h"
+#include "framework/engine/sdichoice.h"
+#include "framework/engine/sourcenames.h"
+#include "framework/engine/start/servicestart.h"
+#include "framework/engine/start/snapshotstart.h"
+#include "framework/engine/start/startvalues.h"
 #include "framework/store/menuanalysis.h"
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
+#include "framework/ui/dialogs.h"
 
 #include <QCoreApplication>
 #include <QThread>
-#include <memory>
 
 namespace VASK
 {
@@ -26,26 +30,101 @@ std::atomic<bool> ParaProcess::bRelOnloadRegionStart{false};
 std::atomic<bool> ParaProcess::m_ResetFlg{false};
 int ParaProcess::m_CopySceneNum = -1;
 
-namespace
-{
-constexpr unsigned char noLayer = 255;
+struct ParaProcess::Parts {
+    explicit Parts(ParaProcess &engine)
+        : home(engine), ports(engine, home), presets(engine), services(engine), snapshot(engine)
+    {
+    }
 
-/// The picture of the home screen by the display mode of the process data.
-ENUM_MainWindowTESTMode pictureOf(int displayMode)
+    ProcessData data;
+    HomeUpdater home;
+    PortStates ports;
+    Presets presets;
+    ServiceStart services;
+    SnapshotStart snapshot;
+};
+
+ParaProcess::ParaProcess(ENUM_ObjectIndex index) : VaskObject(index), m_parts(std::make_unique<Parts>(*this))
 {
-    static constexpr ENUM_MainWindowTESTMode pictures[] = {TESTMODE_NORMAL, TESTMODE_FREEZE, TESTMODE_BLACK,
-                                                           TESTMODE_TEST};
-    return displayMode >= 0 && displayMode < int(std::size(pictures)) ? pictures[displayMode]
-                                                                      : TESTMODE_NORMAL;
 }
-} // namespace
 
-ParaProcess::ParaProcess(ENUM_ObjectIndex index) : VaskObject(index) {}
+ParaProcess::~ParaProcess() = default;
+
+const ProcessData &ParaProcess::processData() const
+{
+    return m_parts->data;
+}
+
+HomeUpdater &ParaProcess::home()
+{
+    return m_parts->home;
+}
+
+Presets &ParaProcess::presets()
+{
+    return m_parts->presets;
+}
+
+ServiceStart &ParaProcess::services()
+{
+    return m_parts->services;
+}
+
+MenuAnalysis *ParaProcess::neededStore()
+{
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    if (!store)
+        qDebug() << "pmenu is null";
+    return store;
+}
+
+bool ParaProcess::Initialize()
+{
+    qDebug() << "<- ParaProcess::Initialize start";
+    m_parts->home.find();
+    MenuAnalysis *store = neededStore();
+    if (!store)
+        return false;
+    askBeforeOtherConfiguration(*this);
+    m_parts->services.readRootVersion();
+    setStartValues(*this, *store);
+    m_parts->home.connectSignals();
+    m_parts->data.clear();
+    qDebug() << "<- ParaProcess::Initialize end";
+    return true;
+}
+
+void ParaProcess::InitReadParaFrom20M()
+{
+    m_parts->snapshot.read();
+}
+
+void ParaProcess::InitParaFrom20M()
+{
+    if (MenuAnalysis *store = neededStore())
+        m_parts->snapshot.push(*store);
+}
+
+void ParaProcess::InitializeMainWindow()
+{
+    if (!m_parts->home.needed() || !neededStore())
+        return;
+    InitParaFrom20M();
+    UpdataDevRename();
+    m_parts->home.showAll();
+    SaveProcessData(QString::number(GetLowLayerNum()), PARA_LowestLayer);
+    init_20m_flg = true;
+}
+
+void ParaProcess::InitdefaultValue()
+{
+    m_parts->home.showNothing();
+}
 
 QString ParaProcess::GetParaFromIndex(ENUM_MenuIndex index) const
 {
     if (index >= PARA_CabinetWidth && index < PARA_TextEnd)
-        return m_processData.text(index);
+        return m_parts->data.text(index);
     QString value;
     if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
         store->GetItemCurValue(index, value);
@@ -63,44 +142,22 @@ bool ParaProcess::GetInfoFromIndex(ENUM_MenuIndex index, ST_ItemInfo &item) cons
 
 bool ParaProcess::GetPortLinkStatus() const
 {
-    for (ENUM_MenuIndex first : {PARA_PortLink, PARA_OPT1PortLink, PARA_OPT2PortLink})
-        for (int port = 0; port < ProcessData::portCount; ++port)
-            if (m_processData.value(nth(first, port)) != 0)
-                return true;
-    return false;
+    return m_parts->ports.anyLink();
 }
 
 unsigned char ParaProcess::GetLowLayerNum()
 {
-    constexpr int absentMainPriority = 255;
-    unsigned char lowest = noLayer;
-    int lowestPriority = 0;
-    for (int layer = 0; layer < layerCount; ++layer) {
-        if (GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) != QLatin1String("1"))
-            continue;
-        const int priority = GetParaFromIndex(nth(MENU_MainLayer_Priority, layer, STRIDE_Layer)).toInt();
-        if (layer == 0 && priority >= absentMainPriority)
-            continue;
-        if (lowest == noLayer || priority < lowestPriority) {
-            lowest = static_cast<unsigned char>(layer);
-            lowestPriority = priority;
-        }
-    }
-    const bool fullScreen = lowest != noLayer && GetParaFromIndex(nth(MENU_MainLayer_ScalingMode, lowest,
-                                                                      STRIDE_Layer)) == QLatin1String("0");
-    KeyEvent::SendLedCommand(LED_SCALE, fullScreen ? LED_ON : LED_OFF);
-    return lowest;
+    return showScaleLed(*this);
 }
 
 QString ParaProcess::GetInputNameByIndex(const QString &key) const
 {
-    return m_inputNames.value(key);
+    return inputName(key);
 }
 
 QString ParaProcess::GetSourceNameByCode(unsigned char code) const
 {
-    const auto name = m_sourceNames.constFind(code & 0xF0);
-    return name == m_sourceNames.cend() ? QString() : *name + QString::number((code & 0x0F) + 1);
+    return sourceName(code);
 }
 
 void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SET_XML mode)
@@ -116,27 +173,12 @@ void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SE
     if (mode == SET_XML_STORE)
         return;
     qDebug() << "index ==" << int(index);
-    if (!neededHome())
+    if (!m_parts->home.needed())
         return;
     if (const ApplyCase *found = findApplyCase(index))
         found->apply(change);
     else
         change.tail();
-}
-
-MenuAnalysis *ParaProcess::neededStore()
-{
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
-    if (!store)
-        qDebug() << "pmenu is null";
-    return store;
-}
-
-MainWindow *ParaProcess::neededHome() const
-{
-    if (!m_pMainWindow)
-        qDebug() << "pmenu is null";
-    return m_pMainWindow;
 }
 
 QString ParaProcess::CalParaLimit(QString value, ENUM_MenuIndex index)
@@ -148,50 +190,86 @@ QString ParaProcess::CalParaLimit(QString value, ENUM_MenuIndex index)
 
 int ParaProcess::OutputFrameAdj(int rate, int outputRate) const
 {
-    constexpr double lower = 0.995;
-    constexpr double upper = 1.005;
-    const DeviceView device(*this);
-    const bool inReach = rate >= int(outputRate * lower) && rate <= int(outputRate * upper);
-    if (device.workMode() != WORK_SENDER && !inReach)
-        return outputRate;
-    const uint16_t shown = uint16_t(device.doublesRate() ? rate * 2 : rate);
-    const bool overload = VideoBandwidthConstrain(uint16_t(m_processData.value(PARA_OutputWidth)),
-                                                  uint16_t(m_processData.value(PARA_OutputHeight)), shown,
-                                                  wholeOutputPixelRate, 1);
-    return overload ? outputRate : rate;
+    return DeviceView(*this).followedRate(rate, outputRate);
 }
 
 void ParaProcess::SaveProcessData(QString value, ENUM_MenuIndex index)
 {
-    m_processData.set(index, value.toInt());
-    if (index == PARA_DisplayMode && m_pMainWindow)
-        m_pMainWindow->SetTestMode(pictureOf(value.toInt()));
+    m_parts->data.set(index, value.toInt());
+    if (index == PARA_DisplayMode)
+        m_parts->home.showDisplayMode(value.toInt());
+}
+
+QDialog *ParaProcess::CreateDialog(ENUM_MenuIndex index, QString text)
+{
+    return createMessage(this, index, text);
 }
 
 int ParaProcess::runMessage(ENUM_MenuIndex index)
 {
-    if (QThread::currentThread() != QCoreApplication::instance()->thread()) {
-        emit signal_popup_window(quint32(index));
-        return 0;
-    }
-    std::unique_ptr<QDialog> box(CreateDialog(index, QString()));
-    if (!box) {
-        qDebug() << "qDialog create faild! index:" << int(index);
-        return 0;
-    }
-    return box->exec();
+    if (QThread::currentThread() == QCoreApplication::instance()->thread())
+        return VASK::runMessage(this, index).value_or(0);
+    emit signal_popup_window(quint32(index));
+    return 0;
 }
 
-int ParaProcess::rightEyeStart(int format) const
+void ParaProcess::UpdateIp()
 {
-    return GetParaFromIndex(format == 0 ? MENU_RightEyeStartSide : MENU_RightEyeStartTop).toInt();
+    m_parts->snapshot.reloadAddress();
 }
 
-void ParaProcess::setRightEyeStart(int format, int pixels)
+void ParaProcess::UpdataDevRename()
+{
+    m_parts->home.showName();
+}
+
+void ParaProcess::QuickLoadScene(int preset)
 {
     if (MenuAnalysis *store = neededStore())
-        store->UpdataItemCurValue(format == 0 ? MENU_RightEyeStartSide : MENU_RightEyeStartTop,
-                                  QString::number(pixels));
+        quickLoadPreset(*this, *store, preset);
+}
+
+void ParaProcess::DeviceStartComplateHandle()
+{
+    m_parts->services.startComplete();
+}
+
+void ParaProcess::HdcpPoweronHandle()
+{
+    m_parts->services.switchHdcp();
+}
+
+void ParaProcess::SyncInit()
+{
+    m_parts->services.checkSync();
+}
+
+void ParaProcess::DhcpInit()
+{
+    m_parts->services.askForAddress();
+}
+
+void ParaProcess::UpdataDispMode(int code)
+{
+    if (MenuAnalysis *store = neededStore())
+        followDisplayMode(*this, *store, code);
+}
+
+void ParaProcess::HideSdiMenu(bool bHave)
+{
+    bHaveSDI = bHave;
+    if (MenuAnalysis *store = neededStore())
+        offerSdi(*this, *store, bHave);
+}
+
+void ParaProcess::SetLayerSrc_Res(int layer)
+{
+    m_parts->home.showSignalOf(layer);
+}
+
+void ParaProcess::ChangeLayerSrc()
+{
+    m_parts->home.showSources();
 }
 
 int ParaProcess::FindKeyByValue(int code) const
@@ -199,12 +277,28 @@ int ParaProcess::FindKeyByValue(int code) const
     return DeviceView(*this).inputOfCode(code);
 }
 
-void ParaProcess::SetLayerSrc_Res(int layer)
+void ParaProcess::UpdatePortState(int port)
 {
-    if (layer < 0 || layer >= layerCount)
-        return;
-    const int source = GetParaFromIndex(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer)).toInt();
-    const bool stable = m_processData.input(source).signalState == stableSignal;
-    emit signal_Layer_state(layer, stable ? 0 : 1);
+    m_parts->ports.show(port);
+}
+
+void ParaProcess::UpdataOPT1PortState(int port)
+{
+    m_parts->ports.showOfOpt1(port);
+}
+
+void ParaProcess::UpdateOPT1_PortLinkState()
+{
+    m_parts->ports.showAllOfOpt1();
+}
+
+void ParaProcess::UpdateOPTLinkState(int link)
+{
+    m_parts->ports.followLink(link);
+}
+
+void ParaProcess::UpdateOPT2PortBackUPState(int port)
+{
+    m_parts->ports.workOutOpt2Backup(port);
 }
 } // namespace VASK

@@ -3,33 +3,33 @@
 // protocol. Entered on the GUI thread by rows and pages, and on the report thread for device values.
 #pragma once
 
-#include "framework/engine/processdata.h"
-#include "framework/engine/start/snapshotmirror.h"
 #include "framework/object/vaskobject.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "menuconfig_k2860.h"
 
-#include <QByteArray>
 #include <QDialog>
-#include <QMap>
-#include <array>
 #include <atomic>
+#include <memory>
 
-class MainWindow;
 enum en_inout_test_index : int;
 enum en_item_state : int;
 
 namespace VASK
 {
+class HomeUpdater;
 class MenuAnalysis;
+class Presets;
+class ProcessData;
+class ServiceStart;
+struct ST_ItemInfo;
 
 class ParaProcess : public VaskObject
 {
     Q_OBJECT
 public:
     explicit ParaProcess(ENUM_ObjectIndex index);
+    ~ParaProcess() override;
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 
     /// Fills the name maps, resets the display-only items and connects the home screen. False without a
@@ -63,7 +63,6 @@ public:
     /// The rate that the output takes for a source: the source's where it can follow, else its own.
     /// Hundredths of a hertz.
     int OutputFrameAdj(int rate, int outputRate) const;
-    const ProcessData &processData() const { return m_processData; }
     /// Writes one process-data field; an index outside the block is ignored.
     void SaveProcessData(QString value, ENUM_MenuIndex index);
     /// The message of an item, or null if it has none. The caller runs and deletes it. GUI thread.
@@ -76,17 +75,15 @@ public:
     void UpdateIp();
     /// Reads the device's own name from the snapshot and shows it.
     void UpdataDevRename();
-    /// One of the device's two services has started; when both have, the start sequence runs.
-    void serviceStarted(ENUM_MenuIndex event);
-    bool videoServiceStarted() const { return videodStarted; }
-    /// Start of the right eye's picture in pixels as kept for a 3D format: 0 side by side, 1 top and bottom.
-    int rightEyeStart(int format) const;
-    void setRightEyeStart(int format, int pixels);
-    /// Does a preset, from 0, stand under a name that the device keeps? GUI thread.
-    bool presetNamed(int preset) const { return m_presetNamed[size_t(preset)]; }
-    void setPresetNamed(int preset, bool named) { m_presetNamed[size_t(preset)] = named; }
     /// Loads a preset, from 0, without its dialog; tells if it is empty. GUI thread.
     void QuickLoadScene(int preset);
+    /// When both services of the device run, the start sequence does; its steps.
+    /// @{
+    void DeviceStartComplateHandle();
+    void HdcpPoweronHandle();
+    void SyncInit();
+    void DhcpInit();
+    /// @}
 
     /// The device reports its display mode: 3 normal, 4 freeze, 5 black, 6 test pattern. Any thread.
     void UpdataDispMode(int code);
@@ -96,9 +93,6 @@ public:
     void SetLayerSrc_Res(int layer);
     /// The names of the layers' sources and, for the layers that are on, what those carry. Any thread.
     void ChangeLayerSrc();
-    /// The home screen shows what the source of a layer carries, at a rate in hundredths of a hertz, or that
-    /// it has no signal. Any thread.
-    void showLayerSignal(int layer, const InputRecord &input, int rateCentiHz);
     /// The number of the input with a source code, 255 if there is none. Any thread.
     int FindKeyByValue(int code) const;
 
@@ -114,6 +108,12 @@ public:
     /// Works out whether the backup of a port of the second optical link is in use. Any thread.
     void UpdateOPT2PortBackUPState(int port);
 
+    // The parts that do the work, for the cases of the engine.
+    const ProcessData &processData() const;
+    HomeUpdater &home();
+    Presets &presets();
+    ServiceStart &services();
+
     /// Set at the end of the first InitializeMainWindow: from then on the home screen is reached by queued
     /// signals.
     static std::atomic<bool> init_20m_flg;
@@ -123,7 +123,6 @@ public:
     static std::atomic<bool> m_ResetFlg;
     /// The preset that is being copied, 0 to 9; -1 for none.
     static int m_CopySceneNum;
-    static constexpr int presetCount = 10;
 
 signals:
     void signal_sync_state(qint8 state, QString text);
@@ -144,59 +143,13 @@ signals:
     /// The device has told the result of a self test.
     void signal_selfcheck_filled();
 
-public:
-    /// The home screen; null before Initialize.
-    MainWindow *mainWindow() const { return m_pMainWindow; }
-    // The signals of this object, raised by the cases of the engine.
-    void raiseWindowState(int layer, int state) { emit signal_window_state(layer, state); }
-    void raiseSyncState(int state) { emit signal_sync_state(state); }
-    void raiseSyncProblem(int signalState, const QString &text)
-    {
-        emit signal_sync_state(qint8(signalState), text);
-    }
-    void raisePopup(ENUM_MenuIndex index) { emit signal_popup_window(quint32(index)); }
-    void raiseFactoryReset() { emit signal_factory_reset(); }
-    void raiseCreateDialog() { emit signal_createdialog(); }
-    void raiseSoftCalibrate(bool on) { emit signal_soft_calibrate(on ? 1 : 0); }
-    void raiseReturnToMain(bool mode) { emit signal_return_main(mode); }
-    void raiseSourceLeds() { emit signal_Update_LedState(); }
-    void raiseTested(en_inout_test_index index, en_item_state state)
-    {
-        emit signal_update_menuitem(index, state);
-    }
-    void raiseSourceStable() { emit signal_Source_Stable(); }
-    void raiseSelfCheckFilled() { emit signal_selfcheck_filled(); }
-
 private:
-    /// Null, with a log line, while there is none.
-    /// @{
-    static MenuAnalysis *neededStore();
-    MainWindow *neededHome() const;
-    /// @}
-    void InitParaFrom20M();
-    void pushPresets();
-    QString readRootVersion();
-    void nameInputsAndSources();
-    void askBeforeQuickConfiguration();
-    void resetDisplayItems(MenuAnalysis &store);
-    void markFnFunction(MenuAnalysis &store);
-    void keepRightEyeStarts(MenuAnalysis &store);
-    void connectHomeScreen();
-    void showLayer(int layer);
-    void showSyncState();
-    void DeviceStartComplateHandle();
-    void HdcpPoweronHandle();
-    void SyncInit();
-    void DhcpInit();
+    struct Parts;
 
-    MainWindow *m_pMainWindow = nullptr;
-    ProcessData m_processData;
-    SnapshotMirror m_mirror;
-    /// Does the preset hold a decoded name?
-    std::array<bool, presetCount> m_presetNamed{};
-    std::atomic<bool> videodStarted{false};
-    std::atomic<bool> senderdStarted{true};
-    QMap<QString, QString> m_inputNames;
-    QMap<unsigned char, QString> m_sourceNames;
+    /// Null, with a log line, while there is none.
+    static MenuAnalysis *neededStore();
+    void InitParaFrom20M();
+
+    std::unique_ptr<Parts> m_parts;
 };
 } // namespace VASK

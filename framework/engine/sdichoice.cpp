@@ -1,4 +1,4 @@
-// What the engine does once it knows which inputs the device has.
+#include "framework/engine/sdichoice.h"
 
 #include "framework/engine/parachange.h"
 #include "framework/store/menuanalysis.h"
@@ -7,20 +7,16 @@
 
 namespace VASK
 {
-void ParaProcess::HideSdiMenu(bool bHave)
+void offerSdi(ParaProcess &engine, MenuAnalysis &store, bool has)
 {
-    bHaveSDI = bHave;
-    MenuAnalysis *store = neededStore();
-    if (!store)
-        return;
-    ParaChange change(*this, *store, QString(), MENU_SDI, SET_XML_DEVICE);
+    ParaChange change(engine, store, QString(), MENU_SDI, SET_XML_DEVICE);
     for (ENUM_MenuIndex item : {MENU_SDI, MENU_AudioInput_SDI}) {
-        change.enable(item, bHave);
+        change.enable(item, has);
         change.refresh(item);
     }
     constexpr int sdiRow = 3;
     for (ENUM_MenuIndex list :
          {MENU_MainLayer_InputSource, MENU_PIP1_InputSource, MENU_PIP2_InputSource, MENU_Sync_Source})
-        change.enableRow(list, sdiRow, bHave);
+        change.enableRow(list, sdiRow, has);
 }
 } // namespace VASK

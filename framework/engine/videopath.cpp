@@ -7,7 +7,6 @@
 #include "menu/itemindex.h"
 #include "menu/ledindex.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
@@ -113,7 +112,7 @@ void closePips(ParaChange &change)
         change.enable(status, true);
         showAndSend(change, status, "0");
     }
-    change.engine.raiseSourceLeds();
+    emit change.engine.signal_Update_LedState();
 }
 
 void dimLayerPages(ParaChange &change)
@@ -154,7 +153,7 @@ void dimFnOutput(ParaChange &change)
 void dimSynchronization(ParaChange &change)
 {
     enableRowsFrom(change, MENU_Sync_Source, 1, false);
-    change.home()->SetSynMode(change.info(MENU_Sync_Source).params.value("0"));
+    change.home().showSyncSource(change.info(MENU_Sync_Source).params.value("0"));
     change.syncState(SYN_OFF);
     showAndSend(change, MENU_Sync_Source, "0");
     showAndSend(change, MENU_Sync_Status, "0");

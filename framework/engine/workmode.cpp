@@ -2,31 +2,28 @@
 
 #include "framework/engine/workmode.h"
 
+#include "framework/engine/sourcenames.h"
 #include "framework/input/keyevent.h"
 #include "framework/object/globaltimer.h"
 #include "framework/store/menuanalysis.h"
-#include "framework/thread/handover.h"
+#include "framework/ui/home.h"
+#include "framework/ui/pages.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
-#include "widget/page/menudirectoty.h"
-
-#include <QApplication>
 
 namespace VASK
 {
 void leaveFiberMode(ParaChange &change)
 {
     KeyEvent::LightFiber(false);
-    MainWindow *home = change.home();
-    runOnGui(home, [home] {
-        GlobalTimer::getInstance()->ChangeMainWindow(home);
-        if (auto *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU))
-            menu->m_pparerentdirectory = home;
+    toHome(change.home().screen(), [](HomeScreen &home) {
+        GlobalTimer::getInstance()->ChangeMainWindow(&home);
+        if (auto *menu = poolObject<Page>(ENUM_MAIN_MENU))
+            menu->setParentScreen(&home);
         // A panel that has started as a fiber converter shows nothing; with no page in front the home screen
         // is the only way back.
-        const QWidget *active = QApplication::activeWindow();
-        home->setVisible(!active || active == home);
+        const QWidget *front = frontWindow();
+        home.setVisible(!front || front == &home);
     });
 }
 
@@ -34,8 +31,8 @@ void selectFallbackInput(ParaChange &change)
 {
     const QString row = QString::number(fallbackInput);
     const InputRecord input = DeviceView(change.engine).input(fallbackInput);
-    change.engine.showLayerSignal(0, input, input.rateCentiHz());
-    change.home()->SetLayerName(LAYER_MAIN, change.engine.GetInputNameByIndex(row));
+    change.home().showSignal(0, input, input.rateCentiHz());
+    change.home().showLayerName(LAYER_MAIN, inputName(row));
     showAndSend(change, MENU_MainLayer_InputSource, row);
 }
 

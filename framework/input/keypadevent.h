@@ -4,6 +4,7 @@
 
 #include "menu/keycodes.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 
 namespace VASK
@@ -42,5 +43,11 @@ private:
 inline KeypadEvent madeUpEsc()
 {
     return {KEY_RELEASED, KEY_ESC, 1, false};
+}
+
+/// The same, for a window that is to meet it after what runs now.
+inline void postEsc(QObject &window)
+{
+    QCoreApplication::postEvent(&window, new KeypadEvent(madeUpEsc()));
 }
 } // namespace VASK

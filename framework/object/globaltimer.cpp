@@ -2,14 +2,12 @@
 
 #include "framework/engine/brightnessedit.h"
 #include "framework/engine/paraprocess.h"
-#include "framework/input/keypadevent.h"
 #include "framework/productiontest/productiontest.h"
+#include "framework/ui/home.h"
+#include "framework/ui/pages.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
-#include "widget/page/menudirectoty.h"
 
-#include <QApplication>
 #include <QDebug>
 #include <QDialog>
 
@@ -30,7 +28,7 @@ GlobalTimer *GlobalTimer::getInstance()
     return instance;
 }
 
-void GlobalTimer::Initialize(MainWindow *mainWindow)
+void GlobalTimer::Initialize(HomeScreen *mainWindow)
 {
     m_paraProcess = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     m_pmainwindow = mainWindow;
@@ -55,7 +53,7 @@ bool GlobalTimer::ResetReturnToMain()
     return true;
 }
 
-bool GlobalTimer::ChangeMainWindow(MainWindow *mainWindow)
+bool GlobalTimer::ChangeMainWindow(HomeScreen *mainWindow)
 {
     m_pmainwindow = mainWindow;
     // A panel that has started as a fiber converter has no time to return until it gets a home screen.
@@ -67,22 +65,21 @@ bool GlobalTimer::ChangeMainWindow(MainWindow *mainWindow)
 void GlobalTimer::slot_ReturnToMain()
 {
     qDebug() << "framework/object/globaltimer.cpp" << __LINE__ << "slot_ReturnToMain!!!!!!";
-    if (!poolObject<MenuDirectory>(ENUM_MAIN_MENU) || ProductionTest::runs())
+    if (!poolObject<Page>(ENUM_MAIN_MENU) || ProductionTest::runs())
         return;
-    QWidget *active = QApplication::activeWindow();
-    if (active && (active == m_pmainwindow || active == m_presetPage))
+    const QWidget *front = frontWindow();
+    if (front && (front == m_pmainwindow || front == m_presetPage))
         return;
     qDebug() << "slot_ReturnToMain start!!!!!!";
-    if (qobject_cast<QDialog *>(active)) {
+    if (qobject_cast<const QDialog *>(front)) {
         qDebug() << "now in pDialog";
         return;
     }
-    leavePage(active);
-    BrightnessEdit::end();
     qDebug() << "m_pmainwindow:" << m_pmainwindow << "GlobalTimer::slot_ReturnToMain" << m_returnMainWindow
              << m_returnTimeMs;
-    if (m_pmainwindow)
-        m_pmainwindow->show();
+    if (m_pmainwindow && Pages::instance())
+        Pages::instance()->goHome(*m_pmainwindow);
+    BrightnessEdit::end();
 }
 
 int GlobalTimer::readReturnTime() const
@@ -90,21 +87,4 @@ int GlobalTimer::readReturnTime() const
     const int seconds = m_paraProcess ? m_paraProcess->GetParaFromIndex(MENU_ReturntoHome).toInt() : 0;
     return (seconds > 0 ? seconds : defaultReturnS) * msPerSecond;
 }
-
-/// As if the user had pressed ESC, and then away from whatever page that led to.
-void GlobalTimer::leavePage(QWidget *activeWindow)
-{
-    auto *page = qobject_cast<MenuDirectory *>(activeWindow);
-    if (!page)
-        return;
-    KeypadEvent escape = madeUpEsc();
-    page->keypadEScEvent(&escape);
-    MenuDirectory::setNoPage();
-    QWidget *now = QApplication::activeWindow();
-    if (now && now != m_pmainwindow)
-        now->hide();
-    // The window system tells of the page that ESC has brought up only later: it is not the active one yet.
-    MenuDirectory::hideAllPages();
-}
-
 } // namespace VASK

@@ -6,10 +6,9 @@
 
 #include <QTimer>
 
-class MainWindow;
-
 namespace VASK
 {
+class HomeScreen;
 class ParaProcess;
 
 class GlobalTimer : public VaskObject
@@ -21,12 +20,12 @@ public:
     int BuildHandshake(VaskObject const *, QMap<QString, QString>) override { return 0; }
 
     /// Starts the time, with the given window as home. Called once, by start-up.
-    void Initialize(MainWindow *mainWindow);
+    void Initialize(HomeScreen *mainWindow);
     /// Restarts the time, for every key. The item is read again, so a new setting counts from the next key.
     /// True.
     bool ResetReturnToMain();
     /// Another window counts as home from now on; the time starts if start-up has left it out. True.
-    bool ChangeMainWindow(MainWindow *mainWindow);
+    bool ChangeMainWindow(HomeScreen *mainWindow);
 
 public slots:
     void slot_ReturnToMain();
@@ -35,12 +34,11 @@ private:
     GlobalTimer();
 
     int readReturnTime() const;
-    void leavePage(QWidget *activeWindow);
 
     int m_returnTimeMs = 60;
     QTimer *m_returnMainWindow = nullptr;
     ParaProcess *m_paraProcess = nullptr;
-    MainWindow *m_pmainwindow = nullptr;
+    HomeScreen *m_pmainwindow = nullptr;
     VaskObject *m_presetPage = nullptr;
 };
 } // namespace VASK

@@ -2,10 +2,10 @@
 
 #include "framework/input/keydispatcher.h"
 #include "framework/input/keypadevent.h"
+#include "framework/ui/language.h"
 #include "menu/keycodes.h"
 #include "menu/menutypes.h"
 #include "widget/dialog/ui_dialog_msgbox.h"
-#include "widget/language.h"
 #include "widget/look.h"
 
 #include <QDebug>
@@ -122,7 +122,7 @@ int dialog_msgBox::exec()
 {
     if (m_type == MSGBOX_TIMED)
         // A timer of this length that is not precise comes up to a twentieth early.
-        QTimer::singleShot(int(m_timeMs), Qt::PreciseTimer, this, SLOT(slot_CloseDialog()));
+        QTimer::singleShot(int(m_timeMs), Qt::PreciseTimer, this, &dialog_msgBox::slot_CloseDialog);
     return KeyDialog::exec();
 }
 

@@ -1,10 +1,10 @@
 #include "widget/dialog/dialog_scene.h"
 
 #include "framework/input/keypadevent.h"
+#include "framework/ui/language.h"
 #include "menu/keycodes.h"
 #include "widget/dialog/ui_dialog_scene.h"
 #include "widget/elidinglabel.h"
-#include "widget/language.h"
 #include "widget/look.h"
 #include "widget/picturelabel.h"
 

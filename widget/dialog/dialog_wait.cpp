@@ -27,7 +27,7 @@ Dialog_Wait::Dialog_Wait(QWidget *parent, const QString &name, const QString &te
 
 int Dialog_Wait::exec()
 {
-    QTimer::singleShot(timeMs, this, SLOT(slot_CloseDialog()));
+    QTimer::singleShot(timeMs, this, &Dialog_Wait::slot_CloseDialog);
     return QDialog::exec();
 }
 

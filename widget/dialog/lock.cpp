@@ -1,9 +1,9 @@
 #include "widget/dialog/lock.h"
 
 #include "framework/object/transport.h"
+#include "framework/ui/language.h"
 #include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
-#include "widget/language.h"
 #include "widget/look.h"
 
 #include <QDebug>

@@ -3,10 +3,10 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keypadevent.h"
 #include "framework/productiontest/boardcheck.h"
+#include "framework/ui/language.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
-#include "widget/language.h"
 #include "widget/look.h"
 #include "widget/menulook.h"
 

@@ -91,15 +91,15 @@ void Factory::connectSources()
         return;
     }
     if (auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS)) {
-        connect(engine, SIGNAL(signal_update_menuitem(en_inout_test_index, en_item_state)), this,
-                SLOT(slot_UpdateMenuItem(en_inout_test_index, en_item_state)), Qt::QueuedConnection);
-        connect(engine, SIGNAL(signal_Source_Stable()), this, SLOT(slot_Start_CountDown()));
+        connect(engine, &ParaProcess::signal_update_menuitem, this, &Factory::slot_UpdateMenuItem,
+                Qt::QueuedConnection);
+        connect(engine, &ParaProcess::signal_Source_Stable, this, &Factory::slot_Start_CountDown);
     } else {
         qDebug() << "process init fail!";
     }
     if (auto *protocol = poolObject<Proto3rd>(ENUM_PROTOCOINTERFER_3RD))
-        connect(protocol, SIGNAL(signal_update_menuitem(en_inout_test_index, en_item_state)), this,
-                SLOT(slot_UpdateMenuItem(en_inout_test_index, en_item_state)), Qt::QueuedConnection);
+        connect(protocol, &Proto3rd::signal_update_menuitem, this, &Factory::slot_UpdateMenuItem,
+                Qt::QueuedConnection);
     else
         qDebug() << "ProtocolInterface init fail!";
 }

@@ -6,10 +6,10 @@
 #include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keypadevent.h"
+#include "framework/ui/homestates.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 #include "sysconf.h"
-#include "widget/home/mainwindowstates.h"
 
 #include <QDebug>
 #include <QDialog>

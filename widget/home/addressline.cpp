@@ -1,9 +1,6 @@
 #include "widget/home/addressline.h"
 
-#include "framework/thread/handover.h"
 #include "widget/home/mainwindowui.h"
-
-using namespace VASK;
 
 void AddressLine::setAddress(const QString &ip)
 {
@@ -11,7 +8,7 @@ void AddressLine::setAddress(const QString &ip)
         QMutexLocker lock(&m_mutex);
         m_strIp = ip;
     }
-    runOnGui(&m_window, [this, ip] { Ui_MainWindow::showKey(&m_label, ip); });
+    Ui_MainWindow::showKey(&m_label, ip);
 }
 
 void AddressLine::setName(const QString &name)
@@ -22,7 +19,7 @@ void AddressLine::setName(const QString &name)
     }
     // Without a name the address must not stay hidden behind the last one.
     if (name.isEmpty())
-        runOnGui(&m_window, [this] { Ui_MainWindow::showKey(&m_label, address()); });
+        Ui_MainWindow::showKey(&m_label, address());
 }
 
 QString AddressLine::address() const

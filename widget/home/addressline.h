@@ -1,17 +1,16 @@
 // The line of the home screen that shows the address and, if the user has given one, the device's name in
-// turn. Both may be set from any thread; all else is the GUI thread's.
+// turn. Both may be read from any thread; all else is the GUI thread's.
 #pragma once
 
 #include <QMutex>
 #include <QString>
 
 class QLabel;
-class QWidget;
 
 class AddressLine
 {
 public:
-    AddressLine(QWidget &window, QLabel &label) : m_window(window), m_label(label) {}
+    explicit AddressLine(QLabel &label) : m_label(label) {}
 
     /// The address, or the translation key of what is said while there is none.
     void setAddress(const QString &ip);
@@ -23,7 +22,6 @@ public:
     void tick();
 
 private:
-    QWidget &m_window;
     QLabel &m_label;
     mutable QMutex m_mutex;
     QString m_strIp;

@@ -102,7 +102,7 @@ void HomeKeys::open(ENUM_ObjectIndex object)
     auto *menu = poolObject<MenuDirectory>(object);
     if (!menu)
         return;
-    menu->m_pparerentdirectory = &m_home;
+    menu->setParentScreen(&m_home);
     menu->show();
     m_home.hide();
     OpenPage::set(object);

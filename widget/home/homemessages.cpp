@@ -2,9 +2,8 @@
 
 #include "framework/engine/paraprocess.h"
 #include "framework/productiontest/productiontest.h"
+#include "framework/ui/dialogs.h"
 #include "menu/objectindex.h"
-
-#include <memory>
 
 using namespace VASK;
 
@@ -28,29 +27,21 @@ constexpr quint8 updateEnds = 1;
 constexpr int backupSteps = 4;
 constexpr qint8 stableSignal = 3;
 
-QDialog *create(ENUM_MenuIndex index, const QString &text)
-{
-    auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    QDialog *message = engine ? engine->CreateDialog(index, text) : nullptr;
-    if (!message)
-        qDebug() << "qDialog create faild! index:" << int(index);
-    return message;
-}
 } // namespace
 
 void HomeMessages::run(ENUM_MenuIndex index)
 {
-    const std::unique_ptr<QDialog> message(create(index, QString()));
-    if (message)
-        message->exec();
+    runMessage(poolObject<ParaProcess>(ENUM_PARAPROCESS), index);
 }
 
 /// A message that stays until its owner or the user closes it.
 QDialog *HomeMessages::open(ENUM_MenuIndex index, const QString &text)
 {
-    QDialog *message = create(index, text);
-    if (!message)
+    QDialog *message = createMessage(poolObject<ParaProcess>(ENUM_PARAPROCESS), index, text);
+    if (!message) {
+        qDebug() << "qDialog create faild! index:" << int(index);
         return nullptr;
+    }
     message->setAttribute(Qt::WA_DeleteOnClose);
     message->show();
     return message;

@@ -1,7 +1,7 @@
 // The output ports on the home screen; those that run on their backup blink in step. GUI thread.
 #pragma once
 
-#include "widget/home/mainwindowstates.h"
+#include "framework/ui/homestates.h"
 
 #include <array>
 

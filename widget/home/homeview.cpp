@@ -1,10 +1,9 @@
 #include "widget/home/homeview.h"
 
+#include "framework/engine/keyleds.h"
 #include "framework/object/objectpool.h"
-#include "framework/thread/handover.h"
 #include "menu/objectindex.h"
 #include "widget/home/homepicture.h"
-#include "widget/page/keyleds.h"
 #include "widget/page/openpage.h"
 
 #include <QFile>
@@ -54,10 +53,7 @@ Ui_MainWindow setUp(QWidget &window)
 }
 } // namespace
 
-HomeView::HomeView(QWidget &window)
-    : m_window(window), m_ui(setUp(window)), m_address(window, *m_ui.labIp), m_ports(m_ui.labNet)
-{
-}
+HomeView::HomeView(QWidget &window) : m_ui(setUp(window)), m_address(*m_ui.labIp), m_ports(m_ui.labNet) {}
 
 bool HomeView::loadPictures()
 {
@@ -97,16 +93,11 @@ void HomeView::tick()
     m_ports.tick();
 }
 
-void HomeView::setText(QLabel *label, const QString &text)
-{
-    runOnGui(&m_window, [label, text] { label->setText(text); });
-}
-
 bool HomeView::setWindowName(int window, const QString &name)
 {
     if (!isLayer(window))
         return false;
-    setText(m_ui.labWindow[window], name);
+    m_ui.labWindow[window]->setText(name);
     return true;
 }
 
@@ -114,7 +105,7 @@ bool HomeView::setLayerName(int layer, const QString &name)
 {
     if (!isLayer(layer))
         return false;
-    runOnGui(&m_window, [this, layer, name] { Ui_MainWindow::showKey(m_ui.labLayerSrc_Name[layer], name); });
+    Ui_MainWindow::showKey(m_ui.labLayerSrc_Name[layer], name);
     return true;
 }
 
@@ -122,8 +113,7 @@ bool HomeView::setLayerRes(int layer, const QString &resolution)
 {
     if (!isLayer(layer))
         return false;
-    runOnGui(&m_window,
-             [this, layer, resolution] { Ui_MainWindow::showText(m_ui.labLayerSrc_Res[layer], resolution); });
+    Ui_MainWindow::showText(m_ui.labLayerSrc_Res[layer], resolution);
     return true;
 }
 
@@ -135,7 +125,7 @@ bool HomeView::setWindowState(int window, ENUM_CommonState state)
         qDebug() << "State is invalid:" << state;
         return false;
     }
-    runOnGui(&m_window, [this, window, state] { showWindowState(window, state == COMMON_ON); });
+    showWindowState(window, state == COMMON_ON);
     return true;
 }
 
@@ -158,7 +148,7 @@ bool HomeView::setLayerState(int layer, ENUM_MainWindowLayerState state)
         qDebug() << "layer state is invalid:" << state;
         return false;
     }
-    runOnGui(&m_window, [this, layer, state] { showLayerState(layer, state == LAYER_ON); });
+    showLayerState(layer, state == LAYER_ON);
     return true;
 }
 
@@ -179,7 +169,7 @@ void HomeView::showLayerState(int layer, bool on)
 
 bool HomeView::setSynMode(const QString &source)
 {
-    setText(m_ui.labSynName, source);
+    m_ui.labSynName->setText(source);
     return true;
 }
 
@@ -190,7 +180,7 @@ bool HomeView::setSynModeState(ENUM_MainWindowSynState state)
         qDebug() << "SynState is invalid:" << state;
         return false;
     }
-    runOnGui(&m_window, [this, state] { showSynState(state); });
+    showSynState(state);
     qDebug() << "SetSynModeState end!!!";
     return true;
 }
@@ -210,8 +200,7 @@ bool HomeView::setConnectState(ENUM_MainWindowConnectState state)
     const char *file = fileOf(files, state, "connect state is invalid:");
     if (!file)
         return false;
-    runOnGui(&m_window,
-             [this, file] { showHomePicture(m_ui.labConnectState, file, "load ICON fail, path:"); });
+    showHomePicture(m_ui.labConnectState, file, "load ICON fail, path:");
     return true;
 }
 
@@ -222,7 +211,7 @@ bool HomeView::setTestMode(ENUM_MainWindowTESTMode mode)
     const char *file = fileOf(files, mode, "No this test mode:");
     if (!file)
         return false;
-    runOnGui(&m_window, [this, file] { showHomePicture(m_ui.labTestMode, file, "load ICON fail, path:"); });
+    showHomePicture(m_ui.labTestMode, file, "load ICON fail, path:");
     return true;
 }
 
@@ -232,7 +221,7 @@ bool HomeView::setNetState(ENUM_MainWindowNetIndex port, ENUM_MainWindowNetState
         qDebug() << "net state is invalid:" << port << state;
         return false;
     }
-    runOnGui(&m_window, [this, port, state] { m_ports.show(port, state); });
+    m_ports.show(port, state);
     return true;
 }
 
@@ -245,18 +234,18 @@ bool HomeView::setOptWorkMode(ENUM_MainWindowOPTWorkMode mode) const
 
 bool HomeView::setDevNameState(ENUM_CommonState state)
 {
-    runOnGui(&m_window, [this, state] { m_ui.labDeviceName->setVisible(state != COMMON_OFF); });
+    m_ui.labDeviceName->setVisible(state != COMMON_OFF);
     return true;
 }
 
 bool HomeView::setScreenRes(const QString &resolution)
 {
-    setText(m_ui.labScreenRes, resolution);
+    m_ui.labScreenRes->setText(resolution);
     return true;
 }
 
 bool HomeView::setBrightness(const QString &brightness)
 {
-    setText(m_ui.labBright, brightness);
+    m_ui.labBright->setText(brightness);
     return true;
 }

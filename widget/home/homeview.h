@@ -1,10 +1,9 @@
-// What the home screen shows. A setter may come from any thread: it checks its arguments at once, false with
-// a log line for a bad one, and hands the drawing over to the GUI thread. All else is the GUI thread's.
+// What the home screen shows. A setter gives false, with a log line, for a bad argument. GUI thread.
 #pragma once
 
+#include "framework/ui/homestates.h"
 #include "widget/home/addressline.h"
 #include "widget/home/homeports.h"
-#include "widget/home/mainwindowstates.h"
 #include "widget/home/mainwindowui.h"
 
 #include <QPixmap>
@@ -45,12 +44,10 @@ public:
     void showLocked(bool locked) { m_ui.labLock->setVisible(locked); }
 
 private:
-    void setText(QLabel *label, const QString &text);
     void showWindowState(int window, bool on);
     void showLayerState(int layer, bool on);
     void showSynState(ENUM_MainWindowSynState state);
 
-    QWidget &m_window;
     Ui_MainWindow m_ui;
     AddressLine m_address;
     HomePorts m_ports;

@@ -1,12 +1,12 @@
 #include "widget/home/languagechoice.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/dialog/dialog_languageselect.h"
 #include "widget/dialog/dialog_wait.h"
-#include "widget/language.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -1,6 +1,7 @@
 #include "widget/home/mainwindow_k2860.h"
 
 #include "framework/engine/brightnessedit.h"
+#include "framework/engine/keyleds.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/object/transport.h"
 #include "framework/productiontest/productiontest.h"
@@ -12,18 +13,19 @@
 #include "widget/home/homeview.h"
 #include "widget/home/panellock.h"
 #include "widget/home/takeover.h"
-#include "widget/page/keyleds.h"
 #include "widget/page/menudirectoty.h"
 #include "widget/page/testwindows.h"
+#include "widget/panelui.h"
 
 using namespace VASK;
 
 MainWindow::MainWindow(ENUM_ObjectIndex index)
-    : VaskUiObject(index), m_view(std::make_unique<HomeView>(*this)),
+    : HomeScreen(index), m_view(std::make_unique<HomeView>(*this)),
       m_lock(std::make_unique<PanelLock>(*this, *m_view)), m_messages(std::make_unique<HomeMessages>()),
       m_keys(std::make_unique<HomeKeys>(*this, *m_lock)),
       m_takeOver(std::make_unique<TakeOver>(*this, *m_lock))
 {
+    enterWidgets();
 }
 
 MainWindow::~MainWindow() = default;

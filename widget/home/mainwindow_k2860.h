@@ -2,16 +2,14 @@
 // synchronisation, address and connection. It shows state and never edits it; its keys open the menus, switch
 // sources and layers, or lock the panel. What it does stands in the classes behind it: HomeView what it
 // shows, HomeKeys what the keys do, PanelLock the lock, HomeMessages what comes up by itself, TakeOver what a
-// PC does to it. It lives on the GUI thread. The setters may be called from the report thread too: a setter
-// checks its arguments at once and hands the drawing over. The slots are reached by queued signals.
+// PC does to it. It lives on the GUI thread; the slots are reached by queued signals.
 #pragma once
 
 #include "framework/input/keypadevent.h"
-#include "framework/object/vaskobject.h"
+#include "framework/ui/home.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindowstates.h"
 
 #include <atomic>
 #include <memory>
@@ -29,7 +27,7 @@ class MenuDirectory;
 class transport;
 } // namespace VASK
 
-class MainWindow : public VASK::VaskUiObject
+class MainWindow : public VASK::HomeScreen
 {
     Q_OBJECT
 public:
@@ -45,32 +43,30 @@ public:
     /// The language has changed. Any thread.
     void SetParaEntry(VASK::ENUM_MenuIndex, QString, VASK::ENUM_MODE_SET_XML) override;
 
-    /// Setters. False, with a log line and the screen as it was, for a bad argument.
+    // Of the home screen
+    bool SetLayerName(ENUM_MainWindowLayerIndex layer, QString name) override;
+    bool SetLayerRes(ENUM_MainWindowLayerIndex layer, QString resolution) override;
+    bool SetWindowState(ENUM_MainWindowWindowIndex window, ENUM_CommonState state) override;
+    bool SetLayerState(ENUM_MainWindowLayerIndex layer, ENUM_MainWindowLayerState state) override;
+    bool SetSynMode(QString source) override;
+    bool SetSynModeState(ENUM_MainWindowSynState state) override;
+    bool SetConnectState(ENUM_MainWindowConnectState state) override;
+    bool SetTestMode(ENUM_MainWindowTESTMode mode) override;
+    bool SetNetState(ENUM_MainWindowNetIndex port, ENUM_MainWindowNetState state) override;
+    bool SetIp(QString ip) override;
+    bool SetDeviceRename(QString name) override;
+    bool SetDevNameState(ENUM_CommonState state) override;
+    bool SetScreenRes(QString resolution) override;
+    bool SetBrightNess(QString brightness) override;
+    bool SetdeviceStartComplate() override;
+    QString ip() const override;
+
+    /// Setters like those.
     /// @{
     bool SetWindowName(ENUM_MainWindowWindowIndex window, QString name);
-    /// Source name of a layer; a translation key.
-    bool SetLayerName(ENUM_MainWindowLayerIndex layer, QString name);
-    bool SetLayerRes(ENUM_MainWindowLayerIndex layer, QString resolution);
-    /// A layer is open or shows "Inactive"; the LEDs of layers and sources follow.
-    bool SetWindowState(ENUM_MainWindowWindowIndex window, ENUM_CommonState state);
-    /// The source of a layer has a signal or not; the LEDs of the sources follow.
-    bool SetLayerState(ENUM_MainWindowLayerIndex layer, ENUM_MainWindowLayerState state);
-    bool SetSynMode(QString source);
-    bool SetSynModeState(ENUM_MainWindowSynState state);
-    bool SetConnectState(ENUM_MainWindowConnectState state);
-    bool SetTestMode(ENUM_MainWindowTESTMode mode);
-    bool SetNetState(ENUM_MainWindowNetIndex port, ENUM_MainWindowNetState state);
     bool SetOPTWorkMode(ENUM_MainWindowOPTWorkMode mode);
-    /// The address, or the translation key of what is said while there is none.
-    bool SetIp(QString ip);
-    /// The user's name of the device, shown in turn with the address; empty for none.
-    bool SetDeviceRename(QString name);
-    bool SetDevNameState(ENUM_CommonState state);
-    bool SetScreenRes(QString resolution);
-    bool SetBrightNess(QString brightness);
     /// Locks or unlocks the panel and stores it; with showDialog the lock window tells so for two seconds.
     bool SetLockState(ENUM_MainWindowLockState state, bool showDialog);
-    bool SetdeviceStartComplate();
     /// @}
 
     /// The chord of OK and ESC: locks an unlocked panel and unlocks a locked one.
@@ -78,11 +74,8 @@ public:
 
     bool event(QEvent *event) override;
 
-    /// The address that is shown and the user's name of the device. Any thread.
-    /// @{
-    QString ip() const;
+    /// The user's name of the device. Any thread.
     QString deviceName() const;
-    /// @}
     bool isLocked() const;
     /// A PC had the panel or has it: the next unlock reads the device state again.
     bool isTakenOver() const;
@@ -91,28 +84,22 @@ public:
     void logMenus() const;
 
 public slots:
-    void slot_SetWinodwState(qint32 window, qint32 state);
-    void slot_SetLayerState(qint32 layer, qint32 state);
-    void slot_SetResState(qint32 layer, QString resolution);
-    void slot_SetSynModeState(qint32 state);
-    /// The text "4" tells of a synchronisation problem, with the signal state of the source beside it; any
-    /// other text ends it.
-    void slot_SetSynModeState(qint8 signalState, QString text);
-    void slot_popup_window(quint32 index);
-    void slot_CreateDialog();
-    void slot_FactoryRest();
+    void slot_SetWinodwState(qint32 window, qint32 state) override;
+    void slot_SetLayerState(qint32 layer, qint32 state) override;
+    void slot_SetResState(qint32 layer, QString resolution) override;
+    void slot_SetSynModeState(qint32 state) override;
+    void slot_SetSynModeState(qint8 signalState, QString text) override;
+    void slot_popup_window(quint32 index) override;
+    void slot_CreateDialog() override;
+    void slot_FactoryRest() override;
     void slot_softDeviceBackup(quint8 step);
     void slot_softDeviceRestore(quint8 step);
-    /// 1: calibration from outside began, 0: it ended.
-    void slot_soft_calibrate(quint8 state);
-    /// Progress of a firmware update: mode 0 with hundredths of a per cent or an error code, mode 1 at the
-    /// end.
-    void slot_update(quint8 mode, quint16 count);
-    /// A host takes over (false) or has let go (true).
-    void slot_ReturnToMainSoft(bool mode);
+    void slot_soft_calibrate(quint8 state) override;
+    void slot_update(quint8 mode, quint16 count) override;
+    void slot_ReturnToMainSoft(bool mode) override;
     void slot_cancelLockDialog();
     void slot_Twinkledisplay();
-    void UpdateSourceLedStatus();
+    void UpdateSourceLedStatus() override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -1,7 +1,7 @@
 #include "widget/home/mainwindowui.h"
 
+#include "framework/ui/language.h"
 #include "widget/elidinglabel.h"
-#include "widget/language.h"
 
 #include <QStyle>
 #include <QVariant>

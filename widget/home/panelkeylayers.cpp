@@ -1,13 +1,14 @@
 // The keys of the layers and of the scaling.
 
+#include "menuconfig_k2860.h"
 #include "widget/home/panelkeys.h"
 
+#include "framework/engine/keyleds.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
-#include "widget/page/keyleds.h"
 #include "widget/page/openpage.h"
 
 namespace VASK

@@ -2,6 +2,7 @@
 
 #include "widget/home/panelkeys.h"
 
+#include "framework/engine/presets.h"
 #include "menu/objectindex.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/menudirectoty.h"
@@ -22,11 +23,11 @@ bool openMenuPath(QWidget *screen, std::initializer_list<ENUM_ObjectIndex> path)
     // The main menu starts over; a preset that waits for its copy is given back, as on the way out.
     if (pages.first()->isEditing())
         pages.first()->keypadEScEvent(nullptr);
-    OpenPage::enableCopiedPreset();
+    Presets::giveBackCopied();
 
     QWidget *above = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
     for (int i = 0; i < pages.size(); ++i) {
-        pages[i]->m_pparerentdirectory = above;
+        pages[i]->setParentScreen(above);
         above = pages[i];
         if (i + 1 < pages.size())
             pages[i]->setCurrentRow(pages[i]->rowOfPage(path.begin()[i + 1]));

@@ -1,5 +1,6 @@
 // The keys of the inputs.
 
+#include "menuconfig_k2860.h"
 #include "widget/home/panelkeys.h"
 
 #include "framework/engine/paraprocess.h"

@@ -7,16 +7,17 @@
 #include "menu/objectindex.h"
 #include "widget/dialog/lock.h"
 #include "widget/home/homeview.h"
+#include "widget/home/mainwindow_k2860.h"
 
 #include <utility>
 
 using namespace VASK;
 
-PanelLock::PanelLock(QWidget &home, HomeView &view) : m_home(home), m_view(view)
+PanelLock::PanelLock(MainWindow &home, HomeView &view) : m_home(home), m_view(view)
 {
     m_windowTime.setSingleShot(true);
     m_windowTime.setInterval(windowMs);
-    QObject::connect(&m_windowTime, SIGNAL(timeout()), &home, SLOT(slot_cancelLockDialog()));
+    QObject::connect(&m_windowTime, &QTimer::timeout, &home, &MainWindow::slot_cancelLockDialog);
 }
 
 bool PanelLock::set(ENUM_MainWindowLockState state, bool showing)

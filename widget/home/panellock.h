@@ -2,13 +2,13 @@
 // thread.
 #pragma once
 
-#include "widget/home/mainwindowstates.h"
+#include "framework/ui/homestates.h"
 
 #include <QTimer>
 
 class HomeView;
 class Lock;
-class QWidget;
+class MainWindow;
 
 class PanelLock
 {
@@ -16,7 +16,7 @@ public:
     /// How long the lock window stays, milliseconds.
     static constexpr int windowMs = 2000;
 
-    PanelLock(QWidget &home, HomeView &view);
+    PanelLock(MainWindow &home, HomeView &view);
 
     /// With showing the lock window tells so for two seconds. False, with a log line, for a state that
     /// there is not.
@@ -36,7 +36,7 @@ private:
     Lock &window();
     void showWindow();
 
-    QWidget &m_home;
+    MainWindow &m_home;
     HomeView &m_view;
     Lock *m_window = nullptr;
     QTimer m_windowTime;

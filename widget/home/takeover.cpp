@@ -1,10 +1,8 @@
 #include "widget/home/takeover.h"
 
-#include "framework/input/keypadevent.h"
 #include "widget/home/homemessages.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/home/panellock.h"
-#include "widget/page/menudirectoty.h"
 #include "widget/page/openpage.h"
 
 #include <QApplication>
@@ -33,13 +31,8 @@ void TakeOver::leaveForHome()
     qDebug() << "slot_ReturnToMain start!!!!!!";
     endDialogs();
     endDialogsLater(); // also one that the ESC brings up
-    KeypadEvent esc = madeUpEsc();
-    if (MenuDirectory *page = OpenPage::shown())
-        page->keypadEScEvent(&esc);
-    OpenPage::setNone();
-    OpenPage::hideAll();
+    OpenPage::goHome(m_home);
     qDebug() << "slot_ReturnToMain end!!!!!!";
-    m_home.show();
 }
 
 /// What a dialog has interrupted goes on when it is gone, and may have more to ask or to tell: until the last

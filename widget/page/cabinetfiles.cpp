@@ -3,6 +3,7 @@
 #include "boardio.h"
 #include "framework/protocol/link/cabinetnames.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/ui/dialogs.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
@@ -50,11 +51,24 @@ bool prepareCabinetFiles(MenuDirectory &above, MenuDirectory &page)
 {
     QStringList names;
     if (!cabinetFileNames(names)) {
-        above.runMessage(MSG_NoFiles);
+        runMessage(&above, MSG_NoFiles);
         return false;
     }
     showCabinetFiles(page, names);
     return true;
+}
+
+/// Without any file the page is left without rows.
+void reloadCabinetFiles(MenuDirectory &page)
+{
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
+    if (!store)
+        return;
+    QStringList names;
+    cabinetFileNames(names);
+    for (int row = 0; row < MenuDirectory::fileRowCount; ++row)
+        store->UpdataItemEnable(nth(MENU_CabinetFile1, row), row < names.size());
+    showCabinetFiles(page, names);
 }
 
 void showCabinetFiles(MenuDirectory &page, const QStringList &names)

@@ -11,6 +11,8 @@ class MenuDirectory;
 bool cabinetFileNames(QStringList &names);
 /// Shows the names in the page and hides the other rows.
 void showCabinetFiles(MenuDirectory &page, const QStringList &names);
+/// The same for a page that stands open while the device brings others.
+void reloadCabinetFiles(MenuDirectory &page);
 /// Brings the page up to date before it opens. False, and the page above has told so, if there are no files.
 bool prepareCabinetFiles(MenuDirectory &above, MenuDirectory &page);
 } // namespace VASK

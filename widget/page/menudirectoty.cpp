@@ -1,11 +1,10 @@
 #include "widget/page/menudirectoty.h"
 
-#include "framework/productiontest/productiontest.h"
+#include "framework/engine/keyleds.h"
 #include "framework/thread/handover.h"
-#include "widget/dialog/dialog_msgbox.h"
+#include "framework/ui/dialogs.h"
 #include "widget/menulook.h"
 #include "widget/page/cabinetfiles.h"
-#include "widget/page/keyleds.h"
 #include "widget/page/openpage.h"
 #include "widget/page/pagekeys.h"
 #include "widget/page/testwindows.h"
@@ -15,7 +14,7 @@
 namespace VASK
 {
 MenuDirectory::MenuDirectory(ENUM_ObjectIndex index)
-    : VaskUiObject(index), m_table(std::make_unique<PageTable>(this)),
+    : Page(index), m_table(std::make_unique<PageTable>(this)),
       m_cursor(std::make_unique<PageCursor>(*m_table)), m_keys(std::make_unique<PageKeys>(*this, *m_cursor))
 {
     setWindowFlags(Qt::FramelessWindowHint);
@@ -67,21 +66,7 @@ void MenuDirectory::SetParaEntry(ENUM_MenuIndex, QString, ENUM_MODE_SET_XML)
 
 QDialog *MenuDirectory::CreateDialog(ENUM_MenuIndex index)
 {
-    if (ProductionTest::runs())
-        return nullptr;
-    // A number without a row has a message that is off.
-    const ST_DialogInfo message = g_dialogConfig.value(index);
-    constexpr int messageType = 2;
-    if (!message.enabled || message.type != messageType)
-        return nullptr;
-    return new dialog_msgBox(this, message.text, message.buttonType, unsigned(message.timeMs), QString());
-}
-
-void MenuDirectory::runMessage(ENUM_MenuIndex index)
-{
-    const std::unique_ptr<QDialog> message(CreateDialog(index));
-    if (message)
-        message->exec();
+    return createMessage(this, index);
 }
 
 bool MenuDirectory::confirms(ENUM_MenuIndex index)
@@ -157,9 +142,9 @@ void MenuDirectory::setRowHidden(int row, bool hidden)
     m_table->setHidden(row, hidden);
 }
 
-void MenuDirectory::showFiles(const QStringList &names)
+void MenuDirectory::reloadFiles()
 {
-    showCabinetFiles(*this, names);
+    reloadCabinetFiles(*this);
 }
 
 bool MenuDirectory::GetCabCfgFileName(QStringList &names)
@@ -175,21 +160,6 @@ void MenuDirectory::UpdateLayerLedStatus(unsigned char layer)
 void MenuDirectory::UpdateSourceLedStatus()
 {
     showSourceLeds();
-}
-
-void MenuDirectory::setCurrentPage(ENUM_ObjectIndex page)
-{
-    OpenPage::set(page);
-}
-
-void MenuDirectory::setNoPage()
-{
-    OpenPage::setNone();
-}
-
-void MenuDirectory::hideAllPages()
-{
-    OpenPage::hideAll();
 }
 
 bool MenuDirectory::event(QEvent *event)

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "framework/input/keypadevent.h"
-#include "framework/object/vaskobject.h"
+#include "framework/ui/page.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
@@ -24,7 +24,7 @@ class PageCursor;
 class PageKeys;
 class PageTable;
 
-class MenuDirectory : public VaskUiObject
+class MenuDirectory : public Page
 {
     Q_OBJECT
 public:
@@ -49,8 +49,6 @@ public:
     void SetParaEntry(ENUM_MenuIndex index, QString value, ENUM_MODE_SET_XML mode) override;
     /// The message of an item with this page as parent, or null. The caller runs and destroys it.
     QDialog *CreateDialog(ENUM_MenuIndex index);
-    /// Runs the message of an item, if it has one.
-    void runMessage(ENUM_MenuIndex index);
     /// False if the user was asked for the item and did not say yes.
     bool confirms(ENUM_MenuIndex index);
 
@@ -59,8 +57,7 @@ public:
     void keypadRotateLeftEvent(KeypadEvent *event);
     void keypadRotateRightEvent(KeypadEvent *event);
     void keypadOkEvent(KeypadEvent *event);
-    /// Ends the edit of the row, or leaves the page for its parent.
-    void keypadEScEvent(KeypadEvent *event);
+    void keypadEScEvent(KeypadEvent *event) override;
     /// A key with a digit, while a row is edited: no row of this model takes digits.
     void keypadNumEvent(KeypadEvent *) {}
     /// Leaves the menu altogether.
@@ -72,8 +69,7 @@ public:
     int rowCount() const;
     void setRowCount(int count);
     int currentRow() const;
-    /// Puts the cursor on a row; a row outside the page changes nothing.
-    void setCurrentRow(int row);
+    void setCurrentRow(int row) override;
     /// The row of this page that leads to a page; -1 if none does.
     int rowOfPage(ENUM_ObjectIndex page) const;
     bool isEditing() const;
@@ -81,8 +77,7 @@ public:
     /// The page that was left to this one last.
     void noteChild(MenuDirectory *page) { m_child = page; }
 
-    /// Shows the names of the files in this page, the file list, and hides the other rows.
-    void showFiles(const QStringList &names);
+    void reloadFiles() override;
 
     /// The names of the cabinet files on the device; false if there are none.
     static bool GetCabCfgFileName(QStringList &names);
@@ -91,17 +86,10 @@ public:
     /// Every source shows its signal, and blinks while a layer that is on uses it. From any thread.
     static void UpdateSourceLedStatus();
 
-    /// Which page is open, as OpenPage has it.
-    /// @{
-    static void setCurrentPage(ENUM_ObjectIndex page);
-    static void setNoPage();
-    static void hideAllPages();
-    /// @}
-
     bool event(QEvent *event) override;
 
-    /// The screen to return to; set by whoever opens this page.
-    QWidget *m_pparerentdirectory = nullptr;
+    void setParentScreen(QWidget *screen) override { m_pparerentdirectory = screen; }
+    QWidget *parentScreen() const { return m_pparerentdirectory; }
 
 public slots:
     /// The self-check window was left by ESC: that ESC must not leave the page too.
@@ -115,5 +103,6 @@ private:
     std::unique_ptr<PageCursor> m_cursor;
     std::unique_ptr<PageKeys> m_keys;
     QPointer<MenuDirectory> m_child;
+    QWidget *m_pparerentdirectory = nullptr;
 };
 } // namespace VASK

@@ -1,12 +1,11 @@
 #include "widget/page/openpage.h"
 
-#include "framework/engine/paraprocess.h"
-#include "framework/store/menuanalysis.h"
+#include "framework/engine/keyleds.h"
+#include "framework/engine/presets.h"
+#include "framework/ui/home.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
-#include "widget/home/mainwindow_k2860.h"
 #include "widget/home/panellayers.h"
-#include "widget/page/keyleds.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QApplication>
@@ -50,30 +49,19 @@ void OpenPage::hideAll()
 
 void OpenPage::leaveMenu()
 {
-    enableCopiedPreset();
+    Presets::giveBackCopied();
+    if (auto *home = poolObject<HomeScreen>(ENUM_MAIN_WINDOW))
+        goHome(*home);
+}
+
+void OpenPage::goHome(QWidget &home)
+{
     KeypadEvent esc = madeUpEsc();
     if (MenuDirectory *page = shown())
         page->keypadEScEvent(&esc);
-    hideAll();
-    if (auto *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU)) {
-        menu->m_pparerentdirectory = poolObject<MainWindow>(ENUM_MAIN_WINDOW);
-        menu->keypadEScEvent(&esc);
-    }
     setNone();
-}
-
-void OpenPage::enableCopiedPreset()
-{
-    const int preset = ParaProcess::m_CopySceneNum;
-    if (preset < 0)
-        return;
-    if (auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS))
-        store->UpdataItemEnable(nth(MENU_Preset1, preset), true);
-    // Both pages have shown it as off.
-    for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1}) {
-        const auto object = nth(first, preset);
-        if (auto *row = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(object)))
-            row->UpdateALLUI(nth(MENU_Preset1, preset));
-    }
+    // The window system tells of the page that ESC has brought up only later: it is not the active one yet.
+    hideAll();
+    home.show();
 }
 } // namespace VASK

@@ -6,6 +6,8 @@
 
 #include <atomic>
 
+class QWidget;
+
 namespace VASK
 {
 class MenuDirectory;
@@ -30,8 +32,8 @@ public:
     static void hideAll();
     /// As ESC after ESC up to the home screen.
     static void leaveMenu();
-    /// Gives back the preset row that a copy had disabled.
-    static void enableCopiedPreset();
+    /// From wherever the panel is: an edit ends, the pages go and that home screen comes up.
+    static void goHome(QWidget &home);
 
 private:
     inline static ENUM_ObjectIndex m_currentObj = ENUM_MAIN_MENU;

@@ -1,5 +1,6 @@
 #include "widget/page/pagekeys.h"
 
+#include "framework/engine/presets.h"
 #include "framework/object/globaltimer.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/keycodes.h"
@@ -101,10 +102,10 @@ void PageKeys::esc()
 
 void PageKeys::leave()
 {
-    QWidget *parent = m_page.m_pparerentdirectory;
+    QWidget *parent = m_page.parentScreen();
     if (!parent)
         return;
-    OpenPage::enableCopiedPreset();
+    Presets::giveBackCopied();
     parent->show();
     m_page.hide();
     if (auto *above = dynamic_cast<MenuDirectory *>(parent)) {

@@ -1,7 +1,7 @@
 #include "widget/page/pagetable.h"
 
 #include "framework/object/vaskobject.h"
-#include "widget/language.h"
+#include "framework/ui/language.h"
 #include "widget/look.h"
 #include "widget/menulook.h"
 #include "widget/row/pagerow.h"

@@ -3,6 +3,7 @@
 #include "framework/engine/brightnessedit.h"
 #include "framework/input/knobturn.h"
 #include "framework/object/vaskobject.h"
+#include "framework/ui/dialogs.h"
 #include "widget/page/menudirectoty.h"
 #include "widget/row/pagerow.h"
 
@@ -91,6 +92,6 @@ void RowEdit::leave(const ShownRow &row)
 void RowEdit::saveBrightness() const
 {
     BrightnessEdit::end();
-    m_page.runMessage(MSG_SavingHardwareInformationShort);
+    runMessage(&m_page, MSG_SavingHardwareInformationShort);
 }
 } // namespace VASK

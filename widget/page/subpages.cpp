@@ -57,7 +57,7 @@ void openSubPage(MenuDirectory &above, const ShownRow &entry)
     if (!page || (number == ENUM_PAGE_LoadCabFiles && !prepareCabinetFiles(above, *page)))
         return;
 
-    page->m_pparerentdirectory = &above;
+    page->setParentScreen(&above);
     page->show();
     above.hide();
     const ShownRow first = page->table().row(page->currentRow());

@@ -21,8 +21,8 @@ DevCheckWin *TestWindows::newSelfCheck(QWidget &instead, bool test)
 
 void TestWindows::showSelfCheck(MenuDirectory &instead)
 {
-    QObject::connect(newSelfCheck(instead, false), SIGNAL(signal_devchk_end()), &instead,
-                     SLOT(slot_devchk_end()));
+    QObject::connect(newSelfCheck(instead, false), &DevCheckWin::signal_devchk_end, &instead,
+                     &MenuDirectory::slot_devchk_end);
 }
 
 void TestWindows::showSelfCheckOfTest(QWidget &instead)

@@ -1,10 +1,10 @@
 #include "widget/row/framedrow.h"
 
 #include "framework/thread/handover.h"
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "widget/elidinglabel.h"
-#include "widget/language.h"
 #include "widget/look.h"
 #include "widget/picturelabel.h"
 

@@ -1,10 +1,10 @@
 #include "widget/row/stringcomboxtable.h"
 
 #include "framework/thread/handover.h"
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/language.h"
 #include "widget/look.h"
 #include "widget/row/focusdelegate.h"
 

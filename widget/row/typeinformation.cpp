@@ -1,10 +1,10 @@
 #include "widget/row/typeinformation.h"
 
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
-#include "widget/language.h"
 #include "widget/look.h"
 #include "widget/picturelabel.h"
 #include "widget/row/framedrow.h"

@@ -1,11 +1,11 @@
 #include "widget/row/typeipadjust.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
-#include "widget/language.h"
 #include "widget/look.h"
 #include "widget/row/framedrow.h"
 

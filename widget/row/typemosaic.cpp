@@ -2,10 +2,10 @@
 
 #include "framework/engine/paraprocess.h"
 #include "framework/thread/handover.h"
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/language.h"
 #include "widget/look.h"
 
 #include <QDebug>

@@ -1,9 +1,9 @@
 #include "widget/row/typestringcombox.h"
 
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/language.h"
 
 #include <QDebug>
 #include <QLabel>

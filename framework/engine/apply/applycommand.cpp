@@ -4,7 +4,6 @@
 
 #include "menu/itemindex.h"
 #include "netstatus.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
@@ -12,7 +11,7 @@ namespace
 {
 void applyBrightness(ParaChange &change)
 {
-    change.home()->SetBrightNess(change.value + "%");
+    change.home().showBrightness(change.value + "%");
     change.tail();
 }
 

@@ -1,6 +1,7 @@
 // Display mode (normal, freeze, black, test pattern) and the assignment of the Fn key: two radio groups that
 // light the panel.
 
+#include "framework/engine/displaymode.h"
 #include "framework/engine/parachange.h"
 
 #include "framework/input/keyevent.h"
@@ -154,21 +155,19 @@ constexpr ApplyCase cases[] = {
 };
 } // namespace
 
-void ParaProcess::UpdataDispMode(int code)
+void followDisplayMode(ParaProcess &engine, MenuAnalysis &store, int code)
 {
     for (const ReportedMode &reported : reportedModes) {
         if (reported.code != code)
             continue;
         if (reported.mode != Testing) {
-            if (m_processData.value(PARA_DisplayMode) == reported.mode)
+            if (engine.processData().value(PARA_DisplayMode) == reported.mode)
                 return;
-            if (MenuAnalysis *store = neededStore()) {
-                ParaChange change(*this, *store, QString(), reported.item, SET_XML_DEVICE);
-                change.choice(reported.item, true);
-                change.refresh(reported.item);
-            }
+            ParaChange change(engine, store, QString(), reported.item, SET_XML_DEVICE);
+            change.choice(reported.item, true);
+            change.refresh(reported.item);
         }
-        SetParaToXml(QString(), reported.item, SET_XML_DEVICE);
+        engine.SetParaToXml(QString(), reported.item, SET_XML_DEVICE);
     }
 }
 

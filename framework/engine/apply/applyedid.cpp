@@ -2,7 +2,7 @@
 // page of its own in the same place.
 
 #include "framework/engine/layers.h"
-#include "framework/engine/pages.h"
+#include "framework/ui/pages.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
@@ -28,8 +28,7 @@ void applyChoice(ParaChange &change)
     if (!custom && change.value != QLatin1String("0"))
         return;
     const int input = inputOf(change.index);
-    swapPage(change.engine,
-             {nth(ENUM_PAGE_HDMI1_EDID, input, inputPages),
+    swapPage({nth(ENUM_PAGE_HDMI1_EDID, input, inputPages),
               nth(custom ? ENUM_PAGE_HDMI1_EDIDCustom : ENUM_PAGE_HDMI1_EDIDStandard, input, inputPages),
               nth(custom ? CONFIG_HDMI1_EDIDCustom : CONFIG_HDMI1_EDIDStandard, input, inputConfigs),
               parentPages[input]});

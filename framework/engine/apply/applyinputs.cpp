@@ -1,12 +1,12 @@
 // The device tells what its inputs carry: layers, output rate, LEDs and the production test follow.
 
+#include "framework/engine/keyleds.h"
 #include "framework/engine/layers.h"
 
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/productiontest/productiontest.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
-#include "widget/page/menudirectoty.h"
 
 namespace VASK
 {
@@ -69,7 +69,7 @@ void showSignal(ParaChange &change, const InputReport &input, int layer)
         qDebug() << "----------------- Set Sres Res -----------------";
     else
         qDebug() << "input_num+" << input.number << "input_stable+ ==" << input.record.signalState;
-    change.engine.showLayerSignal(layer, input.record, input.rate());
+    change.home().showSignal(layer, input.record, input.rate());
 }
 
 void followWithMainLayer(ParaChange &change, const InputReport &input, WorkMode mode)
@@ -135,9 +135,9 @@ void followWithTest(const ParaChange &change, const InputReport &input)
     if (ProductionTest::m_cur_step != FACTORY_STEP_IN_OUT || ProductionTest::InputTestNumCur != input.number)
         return;
     if (input.stable())
-        change.engine.raiseSourceStable();
+        emit change.engine.signal_Source_Stable();
     else if (last == stableSignal)
-        change.engine.raiseTested(en_inout_test_index(input.number), ITEM_FAILED);
+        emit change.engine.signal_update_menuitem(en_inout_test_index(input.number), ITEM_FAILED);
 }
 
 void applyInput(ParaChange &change)
@@ -154,7 +154,7 @@ void applyInput(ParaChange &change)
         followWithSenderOutput(change, input);
     else
         followWithOutput(change, input);
-    MenuDirectory::UpdateSourceLedStatus();
+    showSourceLeds();
     followWithTest(change, input);
 }
 

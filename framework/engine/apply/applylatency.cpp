@@ -4,8 +4,8 @@
 
 #include "framework/engine/advancedports.h"
 #include "framework/engine/layers.h"
+#include "framework/ui/homestates.h"
 #include "menu/itemindex.h"
-#include "widget/home/mainwindowstates.h"
 
 namespace VASK
 {

@@ -27,7 +27,7 @@ void refusePip(ParaChange &change)
     change.set(change.index, "0");
     change.refresh(change.index);
     if (change.fromDevice() && ParaProcess::init_20m_flg)
-        change.engine.raisePopup(MSG_MosaicIsUsing);
+        emit change.engine.signal_popup_window(MSG_MosaicIsUsing);
     else
         change.dialog(MSG_MosaicIsUsing);
 }

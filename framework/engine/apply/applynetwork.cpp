@@ -4,7 +4,6 @@
 
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 #include <array>
 
@@ -72,9 +71,9 @@ void applyMode(ParaChange &change)
     if (change.value == QLatin1String("1")) {
         enableAddress(change, false);
         change.set(MENU_DhcpDone, "0");
-        change.home()->SetIp("WaitIP");
+        change.home().showAddress("WaitIP");
     } else {
-        change.home()->SetIp(change.item(MENU_Net_IPAddress));
+        change.home().showAddress(change.item(MENU_Net_IPAddress));
         enableAddress(change, true);
     }
     change.tail();
@@ -83,7 +82,7 @@ void applyMode(ParaChange &change)
 void applyAddress(ParaChange &change)
 {
     if (change.fromDevice()) {
-        change.home()->SetIp(change.value);
+        change.home().showAddress(change.value);
         change.set(MENU_DhcpDone, "1");
     }
     change.tail();
@@ -133,7 +132,7 @@ void applySettings(ParaChange &change)
     }
     change.dialog(MSG_Waiting);
     change.dialog(MSG_NetParameterSetSucceed);
-    change.home()->SetIp(change.item(MENU_Net_IPAddress));
+    change.home().showAddress(change.item(MENU_Net_IPAddress));
     change.tail();
 }
 
@@ -156,7 +155,7 @@ void resetAddress(ParaChange &change)
         change.refresh(row.item);
     }
     change.send(MENU_Net_Apply, QString());
-    change.home()->SetIp(defaultAddress);
+    change.home().showAddress(defaultAddress);
 }
 
 constexpr ApplyCase cases[] = {

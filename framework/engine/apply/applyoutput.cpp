@@ -1,10 +1,10 @@
 // The picture output: HDMI output, its resolution and rate lists, synchronisation and the genlock report.
 
 #include "framework/engine/layers.h"
+#include "framework/engine/start/servicestart.h"
 
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
@@ -35,7 +35,7 @@ int centiHz(const QString &rate)
 void applySyncSource(ParaChange &change)
 {
     const ST_ItemInfo source = change.info(MENU_Sync_Source);
-    change.home()->SetSynMode(source.params.value(change.value));
+    change.home().showSyncSource(source.params.value(change.value));
     change.tail();
 }
 
@@ -127,7 +127,8 @@ void followChosenMode(ParaChange &change, const ChosenOutput &output)
     change.set(MENU_OutputMode, "1");
     change.set(PARA_OutputWidth, QString::number(output.width));
     change.set(PARA_OutputHeight, QString::number(output.height));
-    change.showResolution(DeviceView::sizeText(output.width, output.height, false, centiHz(output.rate)));
+    change.home().showResolution(
+        DeviceView::sizeText(output.width, output.height, false, centiHz(output.rate)));
     change.set(PARA_OutputRate, QString::number(centiHz(output.rate)));
     change.enable(MENU_Mode3D, false);
     change.refresh(MENU_Mode3D);
@@ -149,8 +150,8 @@ void applyOutput(ParaChange &change)
 {
     if (change.fromUser() || !ParaProcess::init_20m_flg)
         change.dialog(MSG_Waiting);
-    else if (change.engine.videoServiceStarted())
-        change.engine.raiseCreateDialog();
+    else if (change.engine.services().videoRuns())
+        emit change.engine.signal_createdialog();
     const ChosenOutput output(change);
     change.value = output.text();
     if (change.isOn(MENU_Output_Mode)) {
@@ -172,10 +173,10 @@ void applyGenlock(ParaChange &change)
     const int reported = change.value.toInt();
     if (reported < 0 || reported >= int(std::size(states)))
         return;
-    change.engine.raiseSyncState(states[reported]);
+    emit change.engine.signal_sync_state(qint32(states[reported]));
     const InputRecord source = device.input(device.syncInput());
     change.redoResolution(followedRate(change, source));
-    change.engine.raiseSyncProblem(source.signalState, change.value);
+    emit change.engine.signal_sync_state(qint8(source.signalState), change.value);
 }
 
 /// The device takes the rate itself, not its row; what it makes of it comes back as a report.

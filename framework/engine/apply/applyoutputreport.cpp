@@ -68,8 +68,8 @@ void applySenderOutput(ParaChange &change)
         rate = wholeRate(shown.measuredRateCentiHz());
     else
         rate = wholeRate(change.number(PARA_ReportedRate)) * (device.doublesRate() ? 2 : 1);
-    change.showResolution(DeviceView::sizeText(change.number(PARA_ReportedWidthAlias),
-                                               change.number(PARA_ReportedHeightAlias), false, rate));
+    change.home().showResolution(DeviceView::sizeText(change.number(PARA_ReportedWidthAlias),
+                                                      change.number(PARA_ReportedHeightAlias), false, rate));
 }
 
 constexpr ApplyCase cases[] = {

@@ -3,8 +3,8 @@
 #include "framework/engine/parachange.h"
 
 #include "framework/productiontest/productiontest.h"
+#include "framework/ui/homestates.h"
 #include "menu/itemindex.h"
-#include "widget/home/mainwindowstates.h"
 
 namespace VASK
 {
@@ -21,7 +21,7 @@ void applyPortLink(ParaChange &change)
     const int port = change.index - PARA_PortLink;
     change.engine.UpdatePortState(port);
     if (ProductionTest::m_cur_step == FACTORY_STEP_IN_OUT && change.number(change.index))
-        change.engine.raiseTested(en_inout_test_index(INOUT_NET1 + port), ITEM_PASSED);
+        emit change.engine.signal_update_menuitem(en_inout_test_index(INOUT_NET1 + port), ITEM_PASSED);
 }
 
 /// The device is primary or backup as a whole; while its ports differ the item stays.

@@ -6,9 +6,9 @@
 #include "boardio.h"
 #include "framework/productiontest/boardcheck.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "netstatus.h"
-#include "widget/language.h"
 
 namespace VASK
 {
@@ -130,7 +130,7 @@ void applyReset(ParaChange &change)
         set_pc_connect_priority(1);
     change.store.updateActivittyItem();
     if (!change.fromUser()) {
-        change.engine.raiseFactoryReset();
+        emit change.engine.signal_factory_reset();
         return;
     }
     change.send(change.index, QString());
@@ -153,7 +153,7 @@ void clearAllParameters(ParaChange &change)
     });
     set_pc_connect_priority(1);
     if (!change.fromUser()) {
-        change.engine.raiseFactoryReset();
+        emit change.engine.signal_factory_reset();
         return;
     }
     change.send(MENU_ResetAll, QString());

@@ -4,7 +4,6 @@
 
 #include "framework/engine/limits/bandwidth.h"
 #include "menu/itemindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
@@ -14,7 +13,7 @@ namespace
 void showSignal(ParaChange &change, const LayerItems &layer)
 {
     const InputRecord input = DeviceView(change.engine).input(change.value.toInt());
-    change.engine.showLayerSignal(layer.number, input, input.rateCentiHz());
+    change.home().showSignal(layer.number, input, input.rateCentiHz());
 }
 
 bool hasSignal(const ParaChange &change)
@@ -28,7 +27,7 @@ void showSourceName(ParaChange &change, const LayerItems &layer)
     QString name = change.engine.GetInputNameByIndex(change.value);
     if (name.isEmpty())
         name = change.chosenOption(layer.source);
-    change.home()->SetLayerName(ENUM_MainWindowLayerIndex(layer.number), name);
+    change.home().showLayerName(layer.number, name);
 }
 
 /// The mosaic leaves no room for the fixed layouts, which need all layers.

@@ -3,6 +3,7 @@
 #include "framework/engine/layers.h"
 
 #include "framework/engine/limits/bandwidth.h"
+#include "framework/engine/righteye.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 
@@ -36,8 +37,8 @@ OutputLoad currentLoad(const ParaChange &change)
 void showDoubled(ParaChange &change, bool doubles)
 {
     const OutputLoad load = currentLoad(change);
-    change.showResolution(DeviceView::sizeText(load.width, load.height, false,
-                                               doubles ? 2 * load.rateCentiHz : load.rateCentiHz));
+    change.home().showResolution(DeviceView::sizeText(load.width, load.height, false,
+                                                      doubles ? 2 * load.rateCentiHz : load.rateCentiHz));
 }
 
 bool overloads(const ParaChange &change)
@@ -104,7 +105,7 @@ void applyFormat(ParaChange &change)
     if (format == FrameSequential) {
         change.refresh(MENU_Mode3D_RightEyeStart);
     } else {
-        const QString start = QString::number(change.engine.rightEyeStart(format));
+        const QString start = QString::number(rightEyeStart(change.engine, format));
         change.show(MENU_Mode3D_RightEyeStart, start);
         if (change.fromUser())
             change.send(MENU_Mode3D_RightEyeStart, start);
@@ -116,7 +117,7 @@ void applyRightEyeStart(ParaChange &change)
 {
     const int format = change.number(MENU_Mode3D_Format);
     if (format == SideBySide || format == TopAndBottom)
-        change.engine.setRightEyeStart(format, change.value.toInt());
+        keepRightEyeStart(change.store, format, change.value.toInt());
     change.tail();
 }
 

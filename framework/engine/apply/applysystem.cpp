@@ -2,18 +2,17 @@
 // services.
 
 #include "framework/engine/parachange.h"
+#include "framework/engine/start/servicestart.h"
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
 #include "framework/thread/handover.h"
+#include "framework/ui/language.h"
+#include "framework/ui/pages.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
-#include "widget/language.h"
-#include "widget/page/menudirectoty.h"
 
-#include <QApplication>
 #include <QThread>
 
 namespace VASK
@@ -57,7 +56,7 @@ void applyLanguage(ParaChange &change)
     speakLanguage(change.engine, language.english);
     runOnGui(&change.engine, [] {
         // From elsewhere the page above, that it was opened from once, must not come up.
-        auto *page = poolObject<MenuDirectory>(ENUM_PAGE_Language);
+        auto *page = poolObject<Page>(ENUM_PAGE_Language);
         if (page && page->isVisible())
             page->keypadEScEvent(nullptr);
     });
@@ -76,7 +75,7 @@ void applyBootLogo(ParaChange &change)
 void applyMakerSign(ParaChange &change)
 {
     if (change.changed())
-        change.home()->SetDevNameState(change.value == QLatin1String("0") ? COMMON_OFF : COMMON_ON);
+        change.home().showMakerSign(change.value != QLatin1String("0"));
 }
 
 void loadCabinetFile(ParaChange &change)
@@ -95,19 +94,10 @@ void loadCabinetFile(ParaChange &change)
 /// The device has brought a list of cabinet files: the open page shows it.
 void showCabinetFiles(ParaChange &change)
 {
-    runOnGui(&change.engine, [engine = &change.engine, store = &change.store] {
-        auto *page = dynamic_cast<MenuDirectory *>(QApplication::activeWindow());
-        if (!page || page != ObjectPool::getInstance()->GetObject(ENUM_PAGE_LoadCabFiles))
-            return;
-        QStringList names;
-        MenuDirectory::GetCabCfgFileName(names); // without any, the page is left without rows
-        if (names.size() > MenuDirectory::fileRowCount) {
-            qDebug() << "too many file";
-            names = names.mid(0, MenuDirectory::fileRowCount);
-        }
-        for (int row = 0; row < MenuDirectory::fileRowCount; ++row)
-            store->UpdataItemEnable(nth(MENU_CabinetFile1, row), row < names.size());
-        page->showFiles(names);
+    runOnGui(&change.engine, [] {
+        auto *page = dynamic_cast<Page *>(frontWindow());
+        if (page && page == ObjectPool::getInstance()->GetObject(ENUM_PAGE_LoadCabFiles))
+            page->reloadFiles();
     });
 }
 
@@ -121,13 +111,13 @@ void applySoftCalibration(ParaChange &change)
 {
     if (!change.fromDevice() || !ParaProcess::init_20m_flg)
         return;
-    change.engine.raiseReturnToMain(true);
-    change.engine.raiseSoftCalibrate(change.value == QLatin1String("1"));
+    emit change.engine.signal_return_main(true);
+    emit change.engine.signal_soft_calibrate(change.value == QLatin1String("1") ? 1 : 0);
 }
 
 void applyServiceStarted(ParaChange &change)
 {
-    change.engine.serviceStarted(change.index);
+    change.engine.services().started(change.index);
 }
 
 constexpr int osdPictureCount = 8;

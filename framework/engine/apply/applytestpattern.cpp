@@ -1,17 +1,14 @@
 // The test pattern pages, which take each other's place, and the custom pictures.
 
-#include "framework/engine/pages.h"
 #include "framework/engine/parachange.h"
 #include "framework/thread/handover.h"
+#include "framework/ui/pages.h"
 
 #include "framework/input/keypadevent.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
-#include "widget/page/menudirectoty.h"
-
-#include <QApplication>
 
 namespace VASK
 {
@@ -31,8 +28,8 @@ void applyType(ParaChange &change)
     if (type < int(std::size(patterns)) && change.fromUser())
         change.send(patterns[type], change.item(patterns[type]));
     change.set(PARA_TestPatternFamily, QString::number(type));
-    swapPage(change.engine, {ENUM_PAGE_TestPattern, nth(ENUM_PAGE_TestPureColor, type),
-                             nth(CONFIG_TestPureColor, type), ENUM_PAGE_DisplayControl});
+    swapPage({ENUM_PAGE_TestPattern, nth(ENUM_PAGE_TestPureColor, type), nth(CONFIG_TestPureColor, type),
+              ENUM_PAGE_DisplayControl});
     change.tail();
 }
 
@@ -44,18 +41,18 @@ void applyPattern(ParaChange &change)
 
 void openSnapshotPage(ParaChange &change)
 {
-    runOnGui(&change.engine, [engine = &change.engine] {
-        MenuDirectory *page = pageOrBuild(*engine, ENUM_PAGE_SnapshotSlots, CONFIG_SnapshotSlots);
+    runOnGui(&change.engine, [] {
+        Page *page = pageOrBuild(ENUM_PAGE_SnapshotSlots, CONFIG_SnapshotSlots);
         if (page)
-            openBelow(page, poolObject<MenuDirectory>(ENUM_PAGE_CustomPictures));
+            openBelow(page, poolObject<Page>(ENUM_PAGE_CustomPictures));
     });
 }
 
 void leaveCustomPicture(ParaChange &change)
 {
     runOnGui(&change.engine, [] {
-        if (QWidget *active = QApplication::activeWindow())
-            QCoreApplication::postEvent(active, new KeypadEvent(KEY_RELEASED, KEY_ESC, 1, false));
+        if (QWidget *front = frontWindow())
+            postEsc(*front);
     });
 }
 

@@ -5,7 +5,6 @@
 
 #include "framework/input/keyevent.h"
 #include "menu/itemindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
@@ -63,7 +62,7 @@ void showLayers(ParaChange &change)
 {
     for (int layer = 1; layer < layerCount; ++layer) {
         if (change.item(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) == QLatin1String("0"))
-            change.home()->SetWindowState(ENUM_MainWindowWindowIndex(layer), COMMON_OFF);
+            change.home().closeWindow(layer);
         else
             change.engine.SetLayerSrc_Res(layer);
     }
@@ -93,7 +92,7 @@ void applyController(ParaChange &change)
     sendToOrigin(change);
     for (int row : {2, 3})
         change.enableRow(MENU_Audio_AudioOutput, row, true);
-    change.home()->SetDevNameState(change.isOn(MENU_MakerSign) ? COMMON_ON : COMMON_OFF);
+    change.home().showMakerSign(change.isOn(MENU_MakerSign));
     showLayers(change);
     change.tail();
 }

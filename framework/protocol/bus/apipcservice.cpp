@@ -2,6 +2,7 @@
 
 #include "framework/protocol/bus/apipcsocket.h"
 #include "framework/protocol/link/protocolinterface.h"
+#include "framework/ui/home.h"
 #include "menu/objectindex.h"
 
 namespace VASK
@@ -37,9 +38,8 @@ void APiPCService::ApipcInit()
     m_socket->setRoom([this] { return hasRoom(); });
     m_socket->Initialize();
     connect(m_socket, &ApipcSocket::receivedInfos, this, &APiPCService::slot_receiveMessage);
-    if (VaskObject *home = GetObjectFromPool(ENUM_MAIN_WINDOW))
-        connect(m_socket, SIGNAL(signal_update(quint8, quint16)), home, SLOT(slot_update(quint8, quint16)),
-                Qt::QueuedConnection);
+    if (auto *home = dynamic_cast<HomeScreen *>(GetObjectFromPool(ENUM_MAIN_WINDOW)))
+        connect(m_socket, &ApipcSocket::signal_update, home, &HomeScreen::slot_update, Qt::QueuedConnection);
 }
 
 int APiPCService::Initalize()

@@ -2,7 +2,7 @@
 // the panel may return home. GUI thread.
 #pragma once
 
-#include "widget/home/mainwindowstates.h"
+#include "framework/ui/homestates.h"
 
 #include <QObject>
 #include <QTimer>

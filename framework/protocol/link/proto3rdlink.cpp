@@ -6,9 +6,9 @@
 #include "framework/protocol/link/proto3rdsend.h"
 #include "framework/protocol/receive/packagehandler.h"
 #include "framework/protocol/receive/reportdispatch.h"
+#include "framework/ui/home.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
@@ -58,19 +58,19 @@ void Proto3rd::connectSupervision()
 
 void Proto3rd::connectHomeScreen()
 {
-    VaskObject *home = GetObjectFromPool(ENUM_MAIN_WINDOW);
+    auto *home = dynamic_cast<HomeScreen *>(GetObjectFromPool(ENUM_MAIN_WINDOW));
     if (!home)
         return;
-    connect(this, SIGNAL(signal_return_main(bool)), home, SLOT(slot_ReturnToMainSoft(bool)),
+    connect(this, &Proto3rd::signal_return_main, home, &HomeScreen::slot_ReturnToMainSoft,
             Qt::QueuedConnection);
-    connect(this, SIGNAL(signal_soft_calibrate(quint8)), home, SLOT(slot_soft_calibrate(quint8)),
+    connect(this, &Proto3rd::signal_soft_calibrate, home, &HomeScreen::slot_soft_calibrate,
             Qt::QueuedConnection);
 }
 
 void Proto3rd::showConnection(ENUM_MainWindowConnectState state)
 {
-    if (auto *home = poolObject<MainWindow>(ENUM_MAIN_WINDOW))
-        home->SetConnectState(state);
+    toHome(poolObject<HomeScreen>(ENUM_MAIN_WINDOW),
+           [state](HomeScreen &home) { home.SetConnectState(state); });
 }
 
 /// The production test looks at the sockets while it stands at its last step. A cable that is in before

@@ -2,10 +2,10 @@
 
 #include "framework/engine/paraprocess.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/ui/page.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/page/menudirectoty.h"
 
 #include <QDebug>
 
@@ -56,7 +56,7 @@ bool Proto3rdReceiveParse::findPeers()
         qDebug() << "Get ENUM_MENUANALYSIS obj is null";
         return false;
     }
-    pMenuDir = dynamic_cast<MenuDirectory *>(GetObjectFromPool(ENUM_MAIN_MENU));
+    pMenuDir = dynamic_cast<Page *>(GetObjectFromPool(ENUM_MAIN_MENU));
     if (!pMenuDir) {
         qDebug() << "Get ENUM_MAIN_MENU obj is null";
         return false;

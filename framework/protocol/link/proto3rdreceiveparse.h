@@ -16,7 +16,7 @@
 namespace VASK
 {
 class MenuAnalysis;
-class MenuDirectory;
+class Page;
 class ParaProcess;
 
 class Proto3rdReceiveParse : public VaskObject
@@ -71,7 +71,7 @@ private:
     std::map<unsigned int, Handler> m_mapMenuIndexAndHander;
     ParaProcess *pParaProcess = nullptr;
     MenuAnalysis *pMenu = nullptr;
-    MenuDirectory *pMenuDir = nullptr;
+    Page *pMenuDir = nullptr;
 
     bool BuildOverFlag = false;
     unsigned char inputSourceNum = 0;

@@ -5,9 +5,9 @@
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/send/sendrow.h"
+#include "framework/ui/page.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "widget/page/menudirectoty.h"
 
 #include <QDebug>
 #include <QThread>
@@ -103,7 +103,7 @@ void Proto3rdSend::lookForPeers()
     protocol();
     peer<ProtocolInterface>(ENUM_PROTOCOINTERFER_3RD, "Inter OBJ faild!");
     engine();
-    peer<MenuDirectory>(ENUM_MAIN_MENU, "MenuDir OBJ faild!");
+    peer<Page>(ENUM_MAIN_MENU, "MenuDir OBJ faild!");
 }
 
 bool Proto3rdSend::onGuiThread()

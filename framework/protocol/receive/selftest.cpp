@@ -84,7 +84,7 @@ int ParseSelfTestInfo(const Report &report)
     for (int i = 1; i < pieces.size(); ++i)
         if (!takeRecord(i - 1, pieces.at(i)))
             passed = false;
-    report.parse.engine().raiseSelfCheckFilled();
+    emit report.parse.engine().signal_selfcheck_filled();
     tellProductionTest(passed);
     return 0;
 }

@@ -1,6 +1,7 @@
 // The pages and messages as they come up in both languages: after a switch of the language nothing is left of
 // the other one, and no text is cut off. Each is kept as a picture under the build folder to look at.
 
+#include "framework/ui/language.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
@@ -9,7 +10,6 @@
 #include "tests/unit/widget/looks.h"
 #include "widget/dialog/dialog_msgbox.h"
 #include "widget/dialog/lock.h"
-#include "widget/language.h"
 #include "widget/row/stringcomboxtable.h"
 
 #include <QXmlStreamReader>
@@ -197,7 +197,7 @@ private slots:
         MenuDirectory *page = m_rig->pageOf(CONFIG_Language);
         ObjectPool::getInstance()->InsertData(ENUM_PAGE_Language, page);
         QWidget above;
-        page->m_pparerentdirectory = &above;
+        page->setParentScreen(&above);
         page->hide();
         m_rig->engine->SetParaToXml(QString(), MENU_LanguageZh, SET_XML_USER);
         QVERIFY(!above.isVisible());
@@ -205,7 +205,7 @@ private slots:
         m_rig->engine->SetParaToXml(QString(), MENU_LanguageEn, SET_XML_USER);
         QVERIFY(above.isVisible());
         QVERIFY(!page->isVisible());
-        page->m_pparerentdirectory = nullptr;
+        page->setParentScreen(nullptr);
     }
 
     void aResetSpeaksTheLanguageThatItBringsBack()

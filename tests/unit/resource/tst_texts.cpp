@@ -1,11 +1,11 @@
 // All texts of the screen: none is missing in a language and none is left over, and no damage to their files
 // hurts.
 
+#include "framework/ui/textfile.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menuconfig_k2860.h"
 #include "tests/testprogram.h"
-#include "widget/textfile.h"
 
 #include <QDirIterator>
 #include <QTemporaryDir>

@@ -20,6 +20,7 @@
 #include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"
 #include "widget/page/menuitemfactory.h"
+#include "widget/page/openpage.h"
 #include "widget/row/pagerow.h"
 
 #include <QApplication>
@@ -172,7 +173,7 @@ public:
             ST_ItemInfo factory = item.value();
             store->updataMenuItem(item.key(), factory);
         }
-        MenuDirectory::hideAllPages();
+        OpenPage::hideAll();
         for (ENUM_ConfigIndex config : builtPages()) {
             MenuDirectory *shown = page(g_config[config].object);
             if (shown->isEditing())
@@ -180,7 +181,7 @@ public:
             shown->setRowCount(g_config[config].rows);
             shown->setCurrentRow(0);
         }
-        MenuDirectory::setCurrentPage(ENUM_MAIN_MENU);
+        OpenPage::set(ENUM_MAIN_MENU);
         BrightnessEdit::end();
         home->show();
         notes().clear();
@@ -204,10 +205,10 @@ public:
     static MenuDirectory *open(ENUM_ObjectIndex object, QWidget *parent)
     {
         MenuDirectory *shown = page(object);
-        shown->m_pparerentdirectory = parent;
+        shown->setParentScreen(parent);
         parent->hide();
         shown->show();
-        MenuDirectory::setCurrentPage(object);
+        OpenPage::set(object);
         return shown;
     }
 

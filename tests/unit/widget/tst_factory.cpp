@@ -223,7 +223,7 @@ private slots:
         const int scrolled = list->verticalScrollBar()->value();
         SelfCheckList::setResult(20, "1.4.3", "error");
         SelfCheckList::setResult(rows + 1, "a row more", "error");
-        m_rig->engine->raiseSelfCheckFilled();
+        emit m_rig->engine->signal_selfcheck_filled();
         QCOMPARE(list->count(), rows + 1);
         QCOMPARE(list->currentRow(), 20);
         QCOMPARE(list->verticalScrollBar()->value(), scrolled);

@@ -1,6 +1,7 @@
 // The choice of the language: what its keys do, when the home screen asks for it, and what follows an answer.
 
 #include "framework/input/keypadevent.h"
+#include "framework/ui/language.h"
 #include "menu/keycodes.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
@@ -9,7 +10,6 @@
 #include "widget/dialog/dialog_languageselect.h"
 #include "widget/dialog/dialog_msgbox.h"
 #include "widget/dialog/dialog_wait.h"
-#include "widget/language.h"
 
 #include <QElapsedTimer>
 #include <QPushButton>

@@ -2,6 +2,7 @@
 // blinks, and a take-over by a PC.
 
 #include "framework/engine/brightnessedit.h"
+#include "framework/engine/homeupdater.h"
 #include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
@@ -98,14 +99,16 @@ private slots:
         QCOMPARE(home.findChildren<QTimer *>().size(), 0); // nothing blinks
     }
 
-    void settersFromTheReportThread()
+    void roadFromTheReportThread()
     {
         MainWindow &home = *m_rig->home;
         home.SetScreenRes("before");
-        std::unique_ptr<QThread> thread(QThread::create([&home] {
-            home.SetScreenRes("1280x720@50");
-            home.SetBrightNess("42%");
-            home.SetIp("10.0.0.7");
+        HomeUpdater road(*m_rig->engine);
+        road.find();
+        std::unique_ptr<QThread> thread(QThread::create([&road] {
+            road.showResolution("1280x720@50");
+            road.showBrightness("42%");
+            road.showAddress("10.0.0.7");
         }));
         thread->start();
         QVERIFY(thread->wait());

@@ -8,6 +8,7 @@
 #include "menu/pageindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/widget/pagerig.h"
+#include "widget/page/cabinetfiles.h"
 
 using namespace VASK;
 
@@ -119,7 +120,7 @@ private slots:
     void onlyFilesThatAreThereAreReached()
     {
         MenuDirectory *files = PageRig::open(ENUM_PAGE_LoadCabFiles, m_rig->home);
-        files->showFiles({"a", "b", "c"});
+        showCabinetFiles(*files, {"a", "b", "c"});
         for (int i = 0; i < 5; ++i)
             m_rig->turn(1);
         QCOMPARE(files->currentRow(), 2);

@@ -41,7 +41,7 @@ private slots:
         for (auto input = signalStates.cbegin(); input != signalStates.cend(); ++input)
             m_rig->set(ENUM_MenuIndex(PARA_InputRecordFirst + STRIDE_InputRecord * input.key() + 2),
                        QString::number(input.value()));
-        MenuDirectory::setCurrentPage(ENUM_PAGE_PIP1);
+        OpenPage::set(ENUM_PAGE_PIP1);
         m_rig->home->UpdateSourceLedStatus();
         const QMap<int, QString> shown = watch();
         QCOMPARE(shown[LED_MAIN], QString("lit"));

@@ -207,7 +207,7 @@ void TestApplyDisplay::patternPageTakesThePlace()
     QVERIFY(!page->isVisible());
     QVERIFY(pool->GetObject(ENUM_PAGE_TestPattern) == pool->GetObject(ENUM_PAGE_TestGradient));
     auto *gradient = dynamic_cast<MenuDirectory *>(pool->GetObject(ENUM_PAGE_TestGradient));
-    QVERIFY(gradient->m_pparerentdirectory == pool->GetObject(ENUM_PAGE_DisplayControl));
+    QVERIFY(gradient->parentScreen() == pool->GetObject(ENUM_PAGE_DisplayControl));
     gradient->hide();
 }
 

@@ -92,7 +92,7 @@ void TestApplyEdid::pagesTakeTurns()
         MenuDirectory *open = page(numbers.page);
         QVERIFY(open && open == page(numbers.page + 1 + custom));
         QVERIFY(open->isVisible() && !(last && last->isVisible()) && !(parent && parent->isVisible()));
-        QVERIFY(open->m_pparerentdirectory == parent);
+        QVERIFY(open->parentScreen() == parent);
         QCOMPARE(m_rig->value(choice), QString::number(custom));
         QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
         // The same choice again leaves its page open.

@@ -2,6 +2,7 @@
 // loading by number.
 
 #include "enginerig.h"
+#include "framework/engine/presets.h"
 #include "framework/input/keypadevent.h"
 #include "framework/object/globaltimer.h"
 #include "menu/itemindex.h"
@@ -9,6 +10,7 @@
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "widget/dialog/dialog_scene.h"
+#include "widget/page/openpage.h"
 
 using namespace VASK;
 
@@ -71,7 +73,7 @@ private:
 void TestApplyPresets::init()
 {
     m_rig->reset();
-    MenuDirectory::hideAllPages();
+    OpenPage::hideAll();
     ParaProcess::m_CopySceneNum = -1;
     m_rig->store->UpdataItemCurChoice(MENU_LanguageEn, UNSELECTED);
     m_rig->operate = [this](QDialog &dialog) {
@@ -88,7 +90,7 @@ void TestApplyPresets::fill()
     m_rig->set(itemOf(1), "Used");
     m_rig->process(PARA_PresetInUse, 0);
     m_rig->store->changeItem(itemOf(2), [](ST_ItemInfo &item) { item.tag = "News"; });
-    m_rig->engine->setPresetNamed(1, true);
+    m_rig->engine->presets().setNamed(1, true);
     m_rig->forget();
 }
 

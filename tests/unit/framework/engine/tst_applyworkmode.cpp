@@ -218,7 +218,7 @@ void TestApplyWorkMode::fiberGivesTheHomeScreenBack()
         for (bool pageOpen : {true, false}) {
             init();
             startIn(Fiber);
-            menu->m_pparerentdirectory = nullptr;
+            menu->setParentScreen(nullptr);
             if (pageOpen) {
                 m_rig->home->show();
                 menu->show();
@@ -226,7 +226,7 @@ void TestApplyWorkMode::fiberGivesTheHomeScreenBack()
             }
             m_rig->fromUser(modeItems[to], "1");
             QCOMPARE(m_rig->home->isVisible(), !pageOpen);
-            QVERIFY(menu->m_pparerentdirectory == m_rig->home);
+            QVERIFY(menu->parentScreen() == m_rig->home);
             menu->hide();
             m_rig->home->hide();
         }

@@ -2,6 +2,7 @@
 // the home screen makes of it.
 
 #include "enginerig.h"
+#include "framework/engine/presets.h"
 #include "menu/itemindex.h"
 #include "tests/testprogram.h"
 
@@ -196,7 +197,7 @@ void TestSnapshot::cutImageTakesNothingAway()
     m_rig->set(MENU_Net_IPAddress, "10.9.9.9");
     m_rig->engine->UpdateIp();
     QCOMPARE(m_rig->value(MENU_Preset1), preset);
-    QVERIFY(m_rig->engine->presetNamed(0));
+    QVERIFY(m_rig->engine->presets().isNamed(0));
     QCOMPARE(m_rig->value(MENU_Net_IPAddress), address);
     QCOMPARE(m_rig->home->deviceName(), QString("n"));
 }

@@ -1,17 +1,17 @@
-// What runs when the device's two services have started: HDCP, synchronisation, DHCP and the version.
+#include "framework/engine/start/servicestart.h"
 
 #include "framework/engine/device.h"
+#include "framework/engine/homeupdater.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "sysconf.h"
-#include "widget/home/mainwindow_k2860.h"
 
 namespace VASK
 {
-QString ParaProcess::readRootVersion()
+QString ServiceStart::readRootVersion()
 {
     QString version;
     if (sysconf_openenv() == 0) {
@@ -26,52 +26,51 @@ QString ParaProcess::readRootVersion()
     return version;
 }
 
-void ParaProcess::serviceStarted(ENUM_MenuIndex event)
+void ServiceStart::started(ENUM_MenuIndex event)
 {
     if (event == EVENT_VideoServiceStarted)
         videodStarted = true;
     else
         senderdStarted = true;
-    DeviceStartComplateHandle();
+    startComplete();
 }
 
-void ParaProcess::DeviceStartComplateHandle()
+void ServiceStart::startComplete()
 {
     qDebug() << "DeviceStartComplateHandle, videod:" << videodStarted << "senderd:" << senderdStarted;
     if (!videodStarted || !senderdStarted)
         return;
-    HdcpPoweronHandle();
-    SyncInit();
-    DhcpInit();
-    if (neededHome())
-        m_pMainWindow->SetdeviceStartComplate();
+    switchHdcp();
+    checkSync();
+    askForAddress();
+    m_engine.home().noteServicesRun();
     const QString version = readRootVersion();
     if (!version.isEmpty())
-        SetParaToXml(version, MENU_About_VersionValue, SET_XML_DEVICE);
+        m_engine.SetParaToXml(version, MENU_About_VersionValue, SET_XML_DEVICE);
 }
 
-void ParaProcess::HdcpPoweronHandle()
+void ServiceStart::switchHdcp()
 {
-    if (GetParaFromIndex(MENU_HDCPMemory) != QLatin1String("0"))
+    if (m_engine.GetParaFromIndex(MENU_HDCPMemory) != QLatin1String("0"))
         return;
     if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_HDCP))
         row->CallProtocol("0", MENU_HDCP);
 }
 
-void ParaProcess::SyncInit()
+void ServiceStart::checkSync()
 {
-    const DeviceView device(*this);
+    const DeviceView device(m_engine);
     if (!device.syncOn())
         return;
     const InputRecord source = device.input(device.syncInput());
     const int rate = source.measuredRateCentiHz();
-    if (OutputFrameAdj(rate, device.syncReference()) != rate || source.signalState == 0)
-        emit signal_sync_state(qint8(source.signalState), QString("4"));
+    if (m_engine.OutputFrameAdj(rate, device.syncReference()) != rate || source.signalState == 0)
+        emit m_engine.signal_sync_state(qint8(source.signalState), QString("4"));
 }
 
-void ParaProcess::DhcpInit()
+void ServiceStart::askForAddress()
 {
-    if (GetParaFromIndex(MENU_Net_NetMode) == QLatin1String("1"))
-        SetParaToXml("1", MENU_Net_NetMode, SET_XML_USER);
+    if (m_engine.GetParaFromIndex(MENU_Net_NetMode) == QLatin1String("1"))
+        m_engine.SetParaToXml("1", MENU_Net_NetMode, SET_XML_USER);
 }
 } // namespace VASK

@@ -1,10 +1,10 @@
-#include "widget/language.h"
+#include "framework/ui/language.h"
 
 #include "boardio.h"
 #include "framework/store/menuanalysis.h"
+#include "framework/ui/textfile.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "widget/textfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>

@@ -1,16 +1,15 @@
-// What the flash snapshot says of the device goes into the menu: as reported values, in a fixed order.
+#include "framework/engine/start/snapshotstart.h"
 
 #include "framework/engine/device.h"
 #include "framework/engine/parachange.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/presets.h"
+#include "framework/engine/righteye.h"
 #include "framework/engine/start/snapshotmirror.h"
-#include "framework/protocol/snapshot/driverutil.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-
-#include <QTextCodec>
 
 namespace VASK
 {
@@ -20,7 +19,10 @@ namespace
 class SnapshotPush
 {
 public:
-    SnapshotPush(ParaProcess &engine, const SnapshotMirror &mirror) : m_engine(engine), m_mirror(mirror) {}
+    SnapshotPush(ParaProcess &engine, MenuAnalysis &store, const SnapshotMirror &mirror)
+        : m_engine(engine), m_store(store), m_mirror(mirror)
+    {
+    }
 
     void transition();
     void testPattern();
@@ -43,7 +45,9 @@ private:
     void report(ENUM_MenuIndex item, int value) { report(item, QString::number(value)); }
     void reportRate(ENUM_MenuIndex list, int rateCentiHz);
     void choose(ENUM_MenuIndex list, int row);
+
     ParaProcess &m_engine;
+    MenuAnalysis &m_store;
     const SnapshotMirror &m_mirror;
 };
 
@@ -123,12 +127,11 @@ void SnapshotPush::pictures()
 /// Stores and shows a row of a list, if the list has it.
 void SnapshotPush::choose(ENUM_MenuIndex list, int row)
 {
-    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
     ST_ItemInfo item;
     m_engine.GetInfoFromIndex(list, item);
     const QString value = QString::number(row);
-    if (store && item.params.contains(value))
-        ParaChange(m_engine, *store, value, list, SET_XML_STORE).show(list, value);
+    if (item.params.contains(value))
+        ParaChange(m_engine, m_store, value, list, SET_XML_STORE).show(list, value);
 }
 
 /// What the home screen shows of the layers, until the device reports them with all that depends on them.
@@ -203,9 +206,9 @@ void SnapshotPush::stereo()
     report(MENU_Mode3D_Status, block.u8(STEREO_Switch) == deviceOn ? 1 : 0);
     // Both are kept, as the device is told of both: an erased snapshot tells nothing.
     if (block.u16(STEREO_StartSide))
-        m_engine.setRightEyeStart(0, block.u16(STEREO_StartSide));
+        keepRightEyeStart(m_store, 0, block.u16(STEREO_StartSide));
     if (block.u16(STEREO_StartTop))
-        m_engine.setRightEyeStart(1, block.u16(STEREO_StartTop));
+        keepRightEyeStart(m_store, 1, block.u16(STEREO_StartTop));
     switch (block.u8(STEREO_Format)) {
     case STEREO_SideBySide:
         report(MENU_Mode3D_Format, 0);
@@ -277,33 +280,25 @@ void SnapshotPush::hdcpAndInputAudio()
     }
 }
 
-/// Name and state of a preset, from 0, as its record tells them. True if the device keeps the preset.
-bool decodePreset(const SnapshotBlock &record, int preset, ST_ItemInfo &item)
-{
-    static QTextCodec *const codec = QTextCodec::codecForName("GB2312");
-    const bool stored = record.u8(PRESET_Stored) == deviceOn;
-    item.tag = QString("Preset%1").arg(preset + 1);
-    item.value = stored ? "Saved" : "Blank";
-    if (stored) {
-        const QByteArray name = record.bytes(PRESET_Name, presetNameLength);
-        const QString text = codec->toUnicode(name.left(int(qstrnlen(name.constData(), uint(name.size())))));
-        if (!text.isEmpty())
-            item.tag = text;
-    }
-    return stored;
-}
 } // namespace
 
-void ParaProcess::InitReadParaFrom20M()
+SnapshotStart::SnapshotStart(ParaProcess &engine)
+    : m_engine(engine), m_mirror(std::make_unique<SnapshotMirror>())
+{
+}
+
+SnapshotStart::~SnapshotStart() = default;
+
+void SnapshotStart::read()
 {
     qDebug() << "<- InitReadParaFrom20M start";
-    m_mirror.read();
+    m_mirror->read();
     qDebug() << "<- InitReadParaFrom20M end";
 }
 
-void ParaProcess::InitParaFrom20M()
+void SnapshotStart::push(MenuAnalysis &store)
 {
-    SnapshotPush push(*this, m_mirror);
+    SnapshotPush push(m_engine, store, *m_mirror);
     push.transition();
     push.testPattern();
     push.network();
@@ -314,44 +309,15 @@ void ParaProcess::InitParaFrom20M()
     push.splicing();
     push.stereo();
     push.rates();
-    pushPresets();
+    m_engine.presets().load(store, m_mirror->presetInUse.u8(0));
     push.inputBackup();
     push.hdcpAndInputAudio();
 }
 
-void ParaProcess::pushPresets()
+void SnapshotStart::reloadAddress()
 {
-    MenuAnalysis *store = neededStore();
-    if (!store)
-        return;
-    const int inUse = m_mirror.presetInUse.u8(0);
-    for (int preset = 0; preset < presetCount; ++preset) {
-        const ENUM_MenuIndex index = nth(MENU_Preset1, preset);
-        ST_ItemInfo item;
-        store->GetMenuItem(index, item);
-        // The panel may have gone off while a copy had the preset as its source.
-        item.enable = true;
-        SnapshotBlock record(SNAPSHOT_FirstPreset + unsigned(preset) * LENGTH_Preset, LENGTH_Preset);
-        if (record.read())
-            m_presetNamed[size_t(preset)] = decodePreset(record, preset, item);
-        else if (item.value == "Used")
-            item.value = "Saved"; // which one is in use now is known
-        item.icon =
-            imgPath + (preset == inUse ? "sceneSetting/sceneused.png" : "sceneSetting/sceneunused.png");
-        if (preset == inUse)
-            item.value = "Used";
-        store->updataMenuItem(index, item);
-        for (ENUM_ObjectIndex first : {ENUM_ROW_PresetCopy1, ENUM_ROW_Preset1})
-            if (auto *row = poolObject<VaskUiObject>(nth(first, preset)))
-                row->UpdateALLUI(index);
-    }
-    SaveProcessData(QString::number(inUse), PARA_PresetInUse);
-}
-
-void ParaProcess::UpdateIp()
-{
-    SnapshotBlock device = m_mirror.device; // what the start found, should the flash fail now
-    MenuAnalysis *store = neededStore();
+    SnapshotBlock device = m_mirror->device; // what the start found, should the flash fail now
+    auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
     if (!store || !device.read() || device.u8(DEVICE_Dhcp) == deviceOn)
         return;
     struct Field {

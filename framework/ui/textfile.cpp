@@ -1,4 +1,4 @@
-#include "widget/textfile.h"
+#include "framework/ui/textfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>
