@@ -1,9 +1,9 @@
 // The emulator's console client: one command, its output on stdout. Without Qt, since scripts call it in
 // loops.
 #include "emulator/console/wordlist.h"
-#include "emulator/host/defaultstate.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
+#include "fpd_hoststate.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 // What the kernel tells of a process: CPU time, memory, and the CPU time of each of its threads.
 #pragma once
 
-#include "emulator/host/threads.h"
+#include "fpd_hostthreads.h"
 
 #include <QDir>
 #include <QMap>

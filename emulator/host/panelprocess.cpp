@@ -1,6 +1,6 @@
 #include "emulator/host/panelprocess.h"
 
-#include "emulator/host/threads.h"
+#include "fpd_hostthreads.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -2,9 +2,9 @@
 
 #include "emulator/host/bootflag.h"
 #include "emulator/host/cabinetfiles.h"
-#include "emulator/host/defaultstate.h"
 #include "emulator/host/diskimage.h"
 #include "fpd_hostlink.h"
+#include "fpd_hoststate.h"
 #include "fpd_hostvalues.h"
 
 #include <QCoreApplication>

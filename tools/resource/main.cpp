@@ -1,8 +1,8 @@
 // The REST service of the device by hand, with the panel's own client. Exit status 0, 1 with a one-line
 // reason on stderr, 2 when no service answers.
 #include "boardio.h"
-#include "emulator/host/defaultstate.h"
 #include "fpd_hostlink.h"
+#include "fpd_hoststate.h"
 #include "tools/resource/commands.h"
 
 #include <QCommandLineParser>
