@@ -3,7 +3,6 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/cabinetnames.h"
 #include "framework/protocol/link/proto3rdsend.h"
-#include "framework/protocol/packet/notifystruct.h"
 #include "framework/protocol/packet/packageframe.h"
 #include "framework/protocol/packet/packagerequestreaddata3rd.h"
 #include "framework/protocol/packet/packagerequestwritedata.h"
@@ -28,7 +27,6 @@ Proto3rd::~Proto3rd()
         m_notifyThread->setStop(true);
         m_notifyThread->wait();
     }
-    qDeleteAll(m_notifyList);
 }
 
 void Proto3rd::ResetTimer()
@@ -51,15 +49,15 @@ int Proto3rd::waiting() const
     return m_waiting + (m_pMessageHandler ? m_pMessageHandler->waiting() : 0);
 }
 
-int Proto3rd::InsertPackToRequestList(PackageRequestWriteData *package)
+int Proto3rd::InsertPackToRequestList(std::unique_ptr<PackageRequestWriteData> package)
 {
-    m_requests.insert(package);
+    m_requests.insert(std::move(package));
     return 1;
 }
 
-int Proto3rd::InsertReadPackToRequestList(PackageRequestReadData3rd *package)
+int Proto3rd::InsertReadPackToRequestList(std::unique_ptr<PackageRequestReadData3rd> package)
 {
-    m_requests.insert(package);
+    m_requests.insert(std::move(package));
     return 1;
 }
 
@@ -76,9 +74,7 @@ void Proto3rd::slot_SendData()
     if (!Proto3rdSend::mSendFlg)
         return;
     Proto3rdSend::mSendFlg = false;
-    PackageRequestWriteData *held = Proto3rdSend::mSendDate;
-    Proto3rdSend::mSendDate = nullptr;
-    if (Proto3rdSend::SendMsgFromCommunication(held) != 0)
+    if (Proto3rdSend::SendMsgFromCommunication(std::move(Proto3rdSend::mSendDate)) != 0)
         qDebug() << "SendMsg Faild!";
 }
 
@@ -120,12 +116,11 @@ void Proto3rd::heartbeatArrived()
 
 void Proto3rd::queueNotify(const QByteArray &packet)
 {
-    auto *notify = new NotifyStruct;
-    notify->setByteArrayInfo(packet);
     {
         QMutexLocker lock(&m_notifyMutex);
-        m_notifyList.append(notify);
-        m_waiting = m_notifyList.size();
+        m_notifyList.emplace_back();
+        m_notifyList.back().setByteArrayInfo(packet);
+        m_waiting = int(m_notifyList.size());
     }
     m_notifyGate.wake();
 }
@@ -135,11 +130,11 @@ void Proto3rd::slot_notifyThreadFun(bool)
     if (m_waiting == 0 || m_exit)
         return;
     QMutexLocker lock(&m_notifyMutex);
-    while (!m_notifyList.isEmpty() && !m_exit) {
-        const std::unique_ptr<NotifyStruct> notify(m_notifyList.takeFirst());
-        handleNotify(*notify);
+    while (!m_notifyList.empty() && !m_exit) {
+        handleNotify(m_notifyList.front());
+        m_notifyList.pop_front();
     }
-    m_waiting = m_notifyList.size();
+    m_waiting = int(m_notifyList.size());
 }
 
 void Proto3rd::handleNotify(const NotifyStruct &notify)
@@ -151,7 +146,7 @@ void Proto3rd::handleNotify(const NotifyStruct &notify)
     }
     auto reply = std::make_unique<PackageRequestProto3rd>();
     if (reply->unPackageReply(packet))
-        handleReply(reply.release());
+        handleReply(std::move(reply));
 }
 
 /// A write that the device pushes is never applied: it only says that something changed without the panel.
@@ -163,17 +158,16 @@ void Proto3rd::handlePushedWrite(const QByteArray &packet)
     returnMain(false);
 }
 
-void Proto3rd::handleReply(PackageRequestProto3rd *reply)
+void Proto3rd::handleReply(std::unique_ptr<PackageRequestProto3rd> reply)
 {
-    std::unique_ptr<PackageRequestProto3rd> owned(reply);
     const int place = matchRequest(reply->getSerialNum());
     if (reply->getProtoType() == PROTO_Read) {
         if (m_pMessageHandler)
-            m_pMessageHandler->AddMessage(owned.release(), false);
+            m_pMessageHandler->AddMessage(std::move(reply), false);
     } else if (reply->getProtoType() == PROTO_Write && place >= 0 && m_pMessageHandler) {
-        PackageBase *request = m_requests.takePackage(place);
+        std::unique_ptr<PackageBase> request = m_requests.takePackage(place);
         request->setAckCode(reply->getAckCode());
-        m_pMessageHandler->AddMessage(request);
+        m_pMessageHandler->AddMessage(std::move(request));
     }
     if (place >= 0)
         m_requests.retire(place);

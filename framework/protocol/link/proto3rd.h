@@ -9,18 +9,18 @@
 #include "framework/protocol/link/linksupervision.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/protocol/link/requestlist.h"
+#include "framework/protocol/packet/notifystruct.h"
 #include "framework/thread/tickgate.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 
-#include <QList>
 #include <QMutex>
 #include <QTimer>
+#include <deque>
 #include <memory>
 
 namespace VASK
 {
-class NotifyStruct;
 class PackageHandler;
 class PackageRequestProto3rd;
 class PackageRequestReadData3rd;
@@ -44,10 +44,10 @@ public:
     int GetValueByIndexSYN(ENUM_MenuIndex index, QString *value) override;
     int waiting() const override;
 
-    /// A request that waits for an answer; the package is owned from here on. Returns 1.
+    /// A request that waits for an answer. Returns 1.
     /// @{
-    int InsertPackToRequestList(PackageRequestWriteData *package);
-    int InsertReadPackToRequestList(PackageRequestReadData3rd *package);
+    int InsertPackToRequestList(std::unique_ptr<PackageRequestWriteData> package);
+    int InsertReadPackToRequestList(std::unique_ptr<PackageRequestReadData3rd> package);
     /// @}
     /// Place of the first request with that serial number, -1 for none.
     int matchRequest(unsigned short serialNumber) const { return m_requests.matchRequest(serialNumber); }
@@ -82,7 +82,7 @@ private:
     void queueNotify(const QByteArray &packet);
     void handleNotify(const NotifyStruct &notify);
     void handlePushedWrite(const QByteArray &packet);
-    void handleReply(PackageRequestProto3rd *reply);
+    void handleReply(std::unique_ptr<PackageRequestProto3rd> reply);
 
     std::atomic<bool> m_exit{false};
     std::unique_ptr<MsgThread> m_notifyThread;
@@ -90,7 +90,7 @@ private:
     std::unique_ptr<PackageHandler> m_pMessageHandler;
     RequestList m_requests;
     QMutex m_notifyMutex; ///< guards the list; taken before the lock of the requests
-    QList<NotifyStruct *> m_notifyList;
+    std::deque<NotifyStruct> m_notifyList;
     std::atomic<int> m_waiting{0}; ///< length of the list, for the ticker's thread
     QTimer m_sendTimer;
     LinkSupervision m_link;

@@ -18,7 +18,7 @@ namespace VASK
 std::atomic<Proto3rdSend *> Proto3rdSend::m_pInstance{nullptr};
 QMutex Proto3rdSend::m_mutex;
 bool Proto3rdSend::mSendFlg = false;
-PackageRequestWriteData *Proto3rdSend::mSendDate = nullptr;
+std::unique_ptr<PackageRequestWriteData> Proto3rdSend::mSendDate;
 ENUM_MenuIndex Proto3rdSend::mSendIndexCur = MENU_OWN;
 ENUM_MenuIndex Proto3rdSend::mSendIndexLast = MENU_OWN;
 std::atomic<MosaicType> Proto3rdSend::m_enFlag{MOSAIC_Off};
@@ -63,10 +63,8 @@ Proto3rdSend::Proto3rdSend() : VaskObject(ENUM_PROTO3RD_SEND)
 Proto3rdSend::~Proto3rdSend()
 {
     ObjectPool::getInstance()->RemoveByIndex(ENUM_PROTO3RD_SEND);
-    if (mSendFlg)
-        delete mSendDate;
     mSendFlg = false;
-    mSendDate = nullptr;
+    mSendDate.reset();
     mSendIndexCur = mSendIndexLast = MENU_OWN;
 }
 
@@ -126,9 +124,8 @@ int Proto3rdSend::HandleMenuValueChanged(ENUM_MenuIndex index, const QString &va
     return entry.row->handler({index, value, *entry.row, entry.member, entry.place});
 }
 
-template <class Package> int Proto3rdSend::queueFrame(Package *package)
+int Proto3rdSend::queueFrame(std::unique_ptr<PackageRequestProto3rd> package)
 {
-    const std::unique_ptr<Package> released(package);
     CommunicationClientInterface *client = communication();
     if (!package || !client)
         return SEND_Failed;
@@ -139,35 +136,33 @@ template <class Package> int Proto3rdSend::queueFrame(Package *package)
     return SEND_Failed;
 }
 
-int Proto3rdSend::SendMsgFromCommunication(PackageRequestWriteData *package)
+int Proto3rdSend::SendMsgFromCommunication(std::unique_ptr<PackageRequestWriteData> package)
 {
-    return queueFrame(package);
+    return queueFrame(std::move(package));
 }
 
-int Proto3rdSend::SendRequstMsgFromCommunication(PackageRequestReadData3rd *package)
+int Proto3rdSend::SendRequstMsgFromCommunication(std::unique_ptr<PackageRequestReadData3rd> package)
 {
-    return queueFrame(package);
+    return queueFrame(std::move(package));
 }
 
-int Proto3rdSend::SendHeldBack(const SendChange &change, PackageRequestWriteData *package)
+int Proto3rdSend::SendHeldBack(const SendChange &change, std::unique_ptr<PackageRequestWriteData> package)
 {
     // The knob turns on the GUI thread only. What the report thread sends leaves at once and lets a turn go
     // on undisturbed.
     if (!onGuiThread())
-        return change.send(package);
+        return change.send(std::move(package));
 
     Proto3rd *timerOwner = protocol();
     if (timerOwner && KnobTurn::runs() && mSendIndexCur == mSendIndexLast) {
         qDebug() << "mSendFlg == " << mSendFlg;
-        if (mSendFlg) {
-            delete mSendDate;
-        } else {
+        if (!mSendFlg) {
             mSendFlg = true;
             timerOwner->ResetTimer();
         }
-        mSendDate = package;
+        mSendDate = std::move(package);
     } else {
-        if (change.send(package) != SEND_Done)
+        if (change.send(std::move(package)) != SEND_Done)
             return SEND_Failed;
         if (timerOwner)
             timerOwner->slot_SendData();

@@ -11,10 +11,12 @@
 #include <QMutex>
 #include <atomic>
 #include <map>
+#include <memory>
 
 namespace VASK
 {
 class CommunicationClientInterface;
+class PackageRequestProto3rd;
 class PackageRequestReadData3rd;
 class PackageRequestWriteData;
 class ParaProcess;
@@ -59,12 +61,12 @@ public:
 
     /// Queue the frame of a package and release the package, accepted or not. SEND_Done or SEND_Failed.
     /// @{
-    static int SendMsgFromCommunication(PackageRequestWriteData *package);
-    static int SendRequstMsgFromCommunication(PackageRequestReadData3rd *package);
+    static int SendMsgFromCommunication(std::unique_ptr<PackageRequestWriteData> package);
+    static int SendRequstMsgFromCommunication(std::unique_ptr<PackageRequestReadData3rd> package);
     /// @}
     /// The same for a value that the knob can turn: while it turns on one item, the newest package waits for
     /// the send timer or for the next change of another kind.
-    static int SendHeldBack(const SendChange &change, PackageRequestWriteData *package);
+    static int SendHeldBack(const SendChange &change, std::unique_ptr<PackageRequestWriteData> package);
 
     /// Loads a preset, 0 to 9. A SendResult.
     static int PresetLoad(unsigned char preset);
@@ -79,7 +81,7 @@ public:
     /// The package held back, valid while mSendFlg is set. GUI thread only.
     /// @{
     static bool mSendFlg;
-    static PackageRequestWriteData *mSendDate;
+    static std::unique_ptr<PackageRequestWriteData> mSendDate;
     /// @}
     /// The change being handled and the one before it, of those that came from the GUI thread.
     /// @{
@@ -96,7 +98,7 @@ private:
 
     void addRows(const SendFamily &family);
 
-    template <class Package> static int queueFrame(Package *package);
+    static int queueFrame(std::unique_ptr<PackageRequestProto3rd> package);
     static CommunicationClientInterface *communication();
     static Proto3rd *protocol();
     static void lookForPeers();

@@ -1,58 +1,45 @@
 #include "framework/protocol/link/requestlist.h"
 
+#include <algorithm>
+
 namespace VASK
 {
-RequestList::~RequestList()
-{
-    qDeleteAll(m_list);
-}
-
-void RequestList::insert(PackageBase *package)
+void RequestList::insert(std::unique_ptr<PackageBase> package)
 {
     constexpr int noWindow = 0;
     QMutexLocker lock(&m_mutex);
-    m_list.append(new WndPackageBase(noWindow, package));
+    m_list.push_back(std::make_unique<WndPackageBase>(noWindow, package.release()));
 }
 
 int RequestList::matchRequest(unsigned short serialNumber) const
 {
     QMutexLocker lock(&m_mutex);
-    for (int i = 0; i < m_list.size(); ++i) {
-        const PackageBase *package = m_list[i]->package();
-        if (package && package->getSerialNum() == serialNumber)
-            return i;
-    }
-    return -1;
+    const auto found = std::find_if(m_list.begin(), m_list.end(), [serialNumber](const auto &request) {
+        return request->package() && request->package()->getSerialNum() == serialNumber;
+    });
+    return found == m_list.end() ? -1 : int(found - m_list.begin());
 }
 
-PackageBase *RequestList::package(int place) const
+std::unique_ptr<PackageBase> RequestList::takePackage(int place)
 {
     QMutexLocker lock(&m_mutex);
-    const WndPackageBase *request = m_list.value(place);
-    return request ? request->package() : nullptr;
-}
-
-PackageBase *RequestList::takePackage(int place)
-{
-    QMutexLocker lock(&m_mutex);
-    WndPackageBase *request = m_list.value(place);
-    if (!request)
+    if (place < 0 || place >= int(m_list.size()))
         return nullptr;
-    PackageBase *package = request->package();
-    request->setPackage(nullptr);
+    WndPackageBase &request = *m_list[size_t(place)];
+    std::unique_ptr<PackageBase> package(request.package());
+    request.setPackage(nullptr);
     return package;
 }
 
 void RequestList::retire(int place)
 {
     QMutexLocker lock(&m_mutex);
-    for (int i = qMin(place, m_list.size() - 1); i >= 0; --i)
-        delete m_list.takeAt(i);
+    m_list.erase(m_list.begin(), m_list.begin() + qBound(0, place + 1, int(m_list.size())));
 }
 
 int RequestList::size() const
 {
     QMutexLocker lock(&m_mutex);
-    return m_list.size();
+    return int(m_list.size());
 }
 } // namespace VASK

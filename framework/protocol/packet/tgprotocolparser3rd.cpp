@@ -31,22 +31,22 @@ Route toAll(const QString &tag)
     return {DESPORTNAME, firstDestination, allPorts, allBoards, usualTimeOut, false, tag};
 }
 
-PackageRequestWriteData *write(const Route &to, DeviceType device, unsigned int address,
-                               const QByteArray &data, int length)
+WritePackage write(const Route &to, DeviceType device, unsigned int address, const QByteArray &data,
+                   int length)
 {
     const int bytes = length == lengthOfData ? data.size() : length;
-    return new PackageRequestWriteData(to.portName, panelSource, to.destination, device, to.port,
-                                       to.boardIndex, static_cast<unsigned short>(address >> 16),
-                                       static_cast<unsigned short>(address), plainPackage, to.timeOut, to.tag,
-                                       COMM_Success, to.flag, data, static_cast<unsigned short>(bytes));
+    return std::make_unique<PackageRequestWriteData>(
+        to.portName, panelSource, to.destination, device, to.port, to.boardIndex,
+        static_cast<unsigned short>(address >> 16), static_cast<unsigned short>(address), plainPackage,
+        to.timeOut, to.tag, COMM_Success, to.flag, data, static_cast<unsigned short>(bytes));
 }
 
-PackageRequestReadData3rd *read(const Route &to, DeviceType device, unsigned int address, unsigned int length)
+ReadPackage read(const Route &to, DeviceType device, unsigned int address, unsigned int length)
 {
-    return new PackageRequestReadData3rd(to.portName, panelSource, to.destination, device, to.port,
-                                         to.boardIndex, static_cast<unsigned short>(address >> 16),
-                                         static_cast<unsigned short>(address), plainPackage, to.timeOut,
-                                         to.tag, COMM_Success, static_cast<unsigned short>(length));
+    return std::make_unique<PackageRequestReadData3rd>(
+        to.portName, panelSource, to.destination, device, to.port, to.boardIndex,
+        static_cast<unsigned short>(address >> 16), static_cast<unsigned short>(address), plainPackage,
+        to.timeOut, to.tag, COMM_Success, static_cast<unsigned short>(length));
 }
 } // namespace
 
@@ -55,23 +55,22 @@ PackageRequestReadData3rd *read(const Route &to, DeviceType device, unsigned int
         portName, destination, port, boardIndex, timeOut, flag, tag                                          \
     }
 #define FPD_WRITE(name, address, bytes, device)                                                              \
-    PackageRequestWriteData *TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS)                                  \
+    WritePackage TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS)                                              \
     {                                                                                                        \
         return write(FPD_ROUTE, device, address, data, bytes);                                               \
     }
 #define FPD_WRITE_EACH(name, address, stride, bytes, device)                                                 \
-    PackageRequestWriteData *TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS, unsigned char n)                 \
+    WritePackage TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS, unsigned char n)                             \
     {                                                                                                        \
         return write(FPD_ROUTE, device, address + stride * n, data, bytes);                                  \
     }
 #define FPD_WRITE_PAIR(name, address, stride, stride2, bytes, device)                                        \
-    PackageRequestWriteData *TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS, unsigned char n,                 \
-                                                       unsigned char m)                                      \
+    WritePackage TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS, unsigned char n, unsigned char m)            \
     {                                                                                                        \
         return write(FPD_ROUTE, device, address + stride * n + stride2 * m, data, bytes);                    \
     }
 #define FPD_READ(name, address, bytes)                                                                       \
-    PackageRequestReadData3rd *TGProtocolParser3rd::name(FPD_READ_ARGUMENTS)                                 \
+    ReadPackage TGProtocolParser3rd::name(FPD_READ_ARGUMENTS)                                                \
     {                                                                                                        \
         constexpr bool flag = false;                                                                         \
         return read(FPD_ROUTE, TARGET_Sender, address, bytes);                                               \
@@ -79,7 +78,7 @@ PackageRequestReadData3rd *read(const Route &to, DeviceType device, unsigned int
 #include "framework/protocol/packet/registercatalogue.def"
 
 #define FPD_ALIAS(name, target)                                                                              \
-    PackageRequestWriteData *TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS)                                  \
+    WritePackage TGProtocolParser3rd::name(FPD_WRITE_ARGUMENTS)                                              \
     {                                                                                                        \
         return target(portName, destination, port, boardIndex, timeOut, flag, tag, data);                    \
     }
@@ -91,48 +90,45 @@ FPD_ALIAS(Set_OsdPriority, Set_OSD_Priority)
 FPD_ALIAS(Set_OsdHStartPos, Set_OSD_HorStart)
 FPD_ALIAS(Set_OsdVStartPos, Set_OSD_VerStart)
 
-PackageRequestWriteData *TGProtocolParser3rd::Set_SenderFormsSizeData(FPD_WRITE_ARGUMENTS, unsigned char n)
+WritePackage TGProtocolParser3rd::Set_SenderFormsSizeData(FPD_WRITE_ARGUMENTS, unsigned char n)
 {
     return Set_SenderFormsHorStartData(portName, destination, port, boardIndex, timeOut, flag, tag, data, n);
 }
 
-PackageRequestWriteData *TGProtocolParser3rd::Set_CommonWrite(FPD_WRITE_ARGUMENTS, unsigned int address)
+WritePackage TGProtocolParser3rd::Set_CommonWrite(FPD_WRITE_ARGUMENTS, unsigned int address)
 {
     return write(FPD_ROUTE, TARGET_Sender, address, data, lengthOfData);
 }
 
-PackageRequestWriteData *TGProtocolParser3rd::Set_CommonWrite(QByteArray data, unsigned int address,
-                                                              QString tag)
+WritePackage TGProtocolParser3rd::Set_CommonWrite(QByteArray data, unsigned int address, QString tag)
 {
     return write(toAll(tag), TARGET_Sender, address, data, lengthOfData);
 }
 
-PackageRequestReadData3rd *TGProtocolParser3rd::Get_CommonRead(unsigned int address, unsigned int length)
+ReadPackage TGProtocolParser3rd::Get_CommonRead(unsigned int address, unsigned int length)
 {
     return read(toAll(QString()), TARGET_Sender, address, length);
 }
 
-PackageRequestWriteData *TGProtocolParser3rd::Set_ScannerCommonWrite(QByteArray data, int length,
-                                                                     unsigned int address)
+WritePackage TGProtocolParser3rd::Set_ScannerCommonWrite(QByteArray data, int length, unsigned int address)
 {
     return write(toAll(generalTag), TARGET_Scanner, address, data, qMax(length, 0));
 }
 
-PackageRequestReadData3rd *TGProtocolParser3rd::Get_ScannerParam(unsigned int address, unsigned int length,
-                                                                 unsigned char port)
+ReadPackage TGProtocolParser3rd::Get_ScannerParam(unsigned int address, unsigned int length,
+                                                  unsigned char port)
 {
     return read({DESPORTNAME, firstDestination, port, firstBoard, usualTimeOut, false, QString()},
                 TARGET_Scanner, address, length);
 }
 
-PackageRequestReadData3rd *TGProtocolParser3rd::Get_ScannerCommonRead(unsigned int address,
-                                                                      unsigned int length, unsigned char port)
+ReadPackage TGProtocolParser3rd::Get_ScannerCommonRead(unsigned int address, unsigned int length,
+                                                       unsigned char port)
 {
     return Get_ScannerParam(address, length, port);
 }
 
-PackageRequestWriteData *TGProtocolParser3rd::Set_ResetWrite(unsigned int address, unsigned int length,
-                                                             QByteArray data)
+WritePackage TGProtocolParser3rd::Set_ResetWrite(unsigned int address, unsigned int length, QByteArray data)
 {
     return write(toAll(generalTag), TARGET_Sender, address, data, static_cast<int>(length));
 }

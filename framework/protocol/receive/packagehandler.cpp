@@ -1,13 +1,9 @@
 #include "framework/protocol/receive/packagehandler.h"
 
-#include <memory>
+#include <algorithm>
 
 namespace VASK
 {
-QList<ThirdProtoInfo> PackageHandler::m_listMessage;
-QMutex PackageHandler::m_MessageMutex;
-QWaitCondition PackageHandler::m_added;
-
 namespace
 {
 /// Records of the inputs: their order says which inputs there are.
@@ -36,40 +32,37 @@ PackageHandler::~PackageHandler()
 {
     setExit(true);
     wait();
-    QMutexLocker lock(&m_MessageMutex);
-    for (const ThirdProtoInfo &entry : qAsConst(m_listMessage))
-        delete entry.package;
-    m_listMessage.clear();
 }
 
-/// All that waits are packages of the third generation: AddMessage takes no others.
 void PackageHandler::foldOlder(const PackageRequestProto3rd &newest)
 {
     if (newest.getHighAddr() == inputRecordsHigh || isPicturePiece(newest))
         return;
-    for (int i = m_listMessage.size() - 1; i >= 0; --i) {
-        if (sameRegister(static_cast<const PackageRequestProto3rd &>(*m_listMessage[i].package), newest))
-            delete m_listMessage.takeAt(i).package;
-    }
+    const auto folded =
+        std::remove_if(m_listMessage.begin(), m_listMessage.end(),
+                       [&newest](const ThirdProtoInfo &old) { return sameRegister(*old.package, newest); });
+    m_listMessage.erase(folded, m_listMessage.end());
 }
 
-int PackageHandler::AddMessage(PackageBase *package, bool flag)
+/// Others than packages of the third generation say nothing.
+int PackageHandler::AddMessage(std::unique_ptr<PackageBase> package, bool flag)
 {
+    auto *report = dynamic_cast<PackageRequestProto3rd *>(package.get());
+    if (!report)
+        return 0;
+    package.release();
+    ThirdProtoInfo entry{std::unique_ptr<PackageRequestProto3rd>(report), flag};
     QMutexLocker lock(&m_MessageMutex);
-    if (const auto *report = dynamic_cast<PackageRequestProto3rd *>(package)) {
-        foldOlder(*report);
-        m_listMessage.append({package, flag});
-        m_added.wakeOne();
-    } else {
-        delete package;
-    }
+    foldOlder(*report);
+    m_listMessage.push_back(std::move(entry));
+    m_added.wakeOne();
     return 0;
 }
 
 int PackageHandler::waiting() const
 {
     QMutexLocker lock(&m_MessageMutex);
-    return m_listMessage.size();
+    return int(m_listMessage.size());
 }
 
 void PackageHandler::setExit(bool exit)
@@ -84,9 +77,8 @@ void PackageHandler::run()
     ThirdProtoInfo entry;
     while (takeOldest(entry)) {
         // A refused report says nothing about the register.
-        const std::unique_ptr<PackageBase> package(entry.package);
-        if (package->getAckCode() == ACK_Success && m_reader)
-            m_reader(static_cast<const PackageRequestProto3rd &>(*package), entry.flag);
+        if (entry.package->getAckCode() == ACK_Success && m_reader)
+            m_reader(*entry.package, entry.flag);
     }
 }
 
@@ -94,11 +86,12 @@ void PackageHandler::run()
 bool PackageHandler::takeOldest(ThirdProtoInfo &entry)
 {
     QMutexLocker lock(&m_MessageMutex);
-    while (m_listMessage.isEmpty() && !m_exit)
+    while (m_listMessage.empty() && !m_exit)
         m_added.wait(&m_MessageMutex);
     if (m_exit)
         return false;
-    entry = m_listMessage.takeFirst();
+    entry = std::move(m_listMessage.front());
+    m_listMessage.pop_front();
     return true;
 }
 } // namespace VASK

@@ -6,18 +6,19 @@
 
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 
-#include <QList>
 #include <QMutex>
 #include <QThread>
 #include <QWaitCondition>
 #include <atomic>
+#include <deque>
 #include <functional>
+#include <memory>
 
 namespace VASK
 {
 /// One entry of the queue.
 struct ThirdProtoInfo {
-    PackageBase *package = nullptr;
+    std::unique_ptr<PackageRequestProto3rd> package;
     bool flag = false; ///< passed along as it came
 };
 
@@ -32,9 +33,9 @@ public:
     /// Ends the thread, without waiting for what is still in the queue.
     ~PackageHandler() override;
 
-    /// Queues a package, which is the handler's from here on. Of the reports of one register only the newest
-    /// waits, at the newest place; input records and the moving picture registers all stay. Returns 0.
-    int AddMessage(PackageBase *package, bool flag = false);
+    /// Queues a package. Of the reports of one register only the newest waits, at the newest place; input
+    /// records and the moving picture registers all stay. Returns 0.
+    int AddMessage(std::unique_ptr<PackageBase> package, bool flag = false);
     /// Reports in the queue. Any thread.
     int waiting() const;
     /// With true the thread ends after the report in hand.
@@ -44,12 +45,12 @@ protected:
     void run() override;
 
 private:
-    static void foldOlder(const PackageRequestProto3rd &newest);
+    void foldOlder(const PackageRequestProto3rd &newest);
     bool takeOldest(ThirdProtoInfo &entry);
 
-    static QList<ThirdProtoInfo> m_listMessage;
-    static QMutex m_MessageMutex;
-    static QWaitCondition m_added;
+    std::deque<ThirdProtoInfo> m_listMessage;
+    mutable QMutex m_MessageMutex;
+    QWaitCondition m_added;
 
     Reader m_reader;
     std::atomic<bool> m_exit{false};

@@ -18,14 +18,14 @@ void SendChange::log(const QByteArray &data) const
     qDebug() << "inputstr:" << value << "--parsedata:" << data.toHex(' ');
 }
 
-PackageRequestWriteData *SendChange::package(const QByteArray &data, int number) const
+WritePackage SendChange::package(const QByteArray &data, int number) const
 {
     return row.builder.package(data, number, tag());
 }
 
-int SendChange::send(PackageRequestWriteData *package) const
+int SendChange::send(WritePackage package) const
 {
-    const int result = Proto3rdSend::SendMsgFromCommunication(package);
+    const int result = Proto3rdSend::SendMsgFromCommunication(std::move(package));
     if (result != SEND_Done)
         qDebug() << row.failText;
     return result;

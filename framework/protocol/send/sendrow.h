@@ -14,8 +14,7 @@ namespace VASK
 /// The package of a builder, to all ports and boards behind the device; the numbers are those of an indexed
 /// register.
 template <class Builder, class... Numbers>
-PackageRequestWriteData *toAllBoards(Builder builder, const QByteArray &data, const QString &tag,
-                                     Numbers... numbers)
+WritePackage toAllBoards(Builder builder, const QByteArray &data, const QString &tag, Numbers... numbers)
 {
     constexpr unsigned char destination = 0;
     constexpr int timeOut = 10;
@@ -25,17 +24,17 @@ PackageRequestWriteData *toAllBoards(Builder builder, const QByteArray &data, co
 
 /// A builder of the register catalogue, for one register or for a row of registers with a number each.
 struct RegisterBuilder {
-    using Plain = PackageRequestWriteData *(*)(QString, unsigned char, unsigned char, unsigned short, int,
-                                               bool, QString, QByteArray);
-    using Indexed = PackageRequestWriteData *(*)(QString, unsigned char, unsigned char, unsigned short, int,
-                                                 bool, QString, QByteArray, unsigned char);
+    using Plain = WritePackage (*)(QString, unsigned char, unsigned char, unsigned short, int, bool, QString,
+                                   QByteArray);
+    using Indexed = WritePackage (*)(QString, unsigned char, unsigned char, unsigned short, int, bool,
+                                     QString, QByteArray, unsigned char);
 
     constexpr RegisterBuilder() = default;
     constexpr RegisterBuilder(Plain builder) : plain(builder) {}
     constexpr RegisterBuilder(Indexed builder) : indexed(builder) {}
 
     /// The package for these bytes. The number counts for a row of registers only.
-    PackageRequestWriteData *package(const QByteArray &data, int number, const QString &tag) const
+    WritePackage package(const QByteArray &data, int number, const QString &tag) const
     {
         return indexed ? toAllBoards(indexed, data, tag, number) : toAllBoards(plain, data, tag);
     }
@@ -74,10 +73,10 @@ struct SendChange {
     void log(const QByteArray &data) const;
 
     /// The package that the row's builder makes of these bytes.
-    PackageRequestWriteData *package(const QByteArray &data, int number) const;
-    PackageRequestWriteData *package(const QByteArray &data) const { return package(data, member); }
+    WritePackage package(const QByteArray &data, int number) const;
+    WritePackage package(const QByteArray &data) const { return package(data, member); }
     /// Queues a package and releases it; SEND_Done or SEND_Failed.
-    int send(PackageRequestWriteData *package) const;
+    int send(WritePackage package) const;
     /// Logs the bytes and queues them through the row's builder.
     int sendBytes(const QByteArray &data) const;
 };

@@ -116,7 +116,7 @@ void TestPackages::commonBuilders()
 {
     using P = TGProtocolParser3rd;
     struct Expected {
-        PackageRequestProto3rd *package;
+        std::unique_ptr<PackageRequestProto3rd> package;
         int protoType, deviceType, port, board, length;
         QByteArray payload;
         QString tag;
@@ -133,9 +133,8 @@ void TestPackages::commonBuilders()
         {P::Set_ResetWrite(0x12345678, 3, three), 1, 0, 255, 0xFFFF, 3, three, "2800"},
     };
     for (const Expected &e : all) {
-        const std::unique_ptr<PackageRequestProto3rd> package(e.package);
         frames::Fields f;
-        f.serial = package->getSerialNum();
+        f.serial = e.package->getSerialNum();
         f.protoType = e.protoType;
         f.deviceType = e.deviceType;
         f.port = e.port;
@@ -143,8 +142,8 @@ void TestPackages::commonBuilders()
         f.address = 0x12345678;
         f.length = e.length;
         f.payload = e.payload;
-        QCOMPARE(package->ParseSendRequest().toHex(' '), frames::frame(f).toHex(' '));
-        QCOMPARE(package->getTag(), e.tag);
+        QCOMPARE(e.package->ParseSendRequest().toHex(' '), frames::frame(f).toHex(' '));
+        QCOMPARE(e.package->getTag(), e.tag);
     }
 }
 

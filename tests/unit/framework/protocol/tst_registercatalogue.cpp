@@ -28,9 +28,8 @@ void TestRegisterCatalogue::forms()
     f.port = 5;
     f.board = 0x0708;
     const QByteArray data = QByteArray::fromHex("0102030405060708090a0b0c0d0e0f"); // more than fits
-    const auto becomes = [&f, &data](PackageRequestProto3rd *built, quint32 address, int bytes,
-                                     int deviceType = 0, int protoType = 1) {
-        const std::unique_ptr<PackageRequestProto3rd> package(built);
+    const auto becomes = [&f, &data](const std::unique_ptr<PackageRequestProto3rd> &package, quint32 address,
+                                     int bytes, int deviceType = 0, int protoType = 1) {
         f.serial = package->getSerialNum();
         f.deviceType = deviceType;
         f.protoType = protoType;

@@ -9,14 +9,16 @@
 #include <QElapsedTimer>
 #include <QSemaphore>
 #include <QtTest>
+#include <memory>
+#include <vector>
 
 using namespace VASK;
 
 namespace
 {
-PackageRequestProto3rd *report(quint32 address, const QByteArray &payload, int serial = 0)
+std::unique_ptr<PackageRequestProto3rd> report(quint32 address, const QByteArray &payload, int serial = 0)
 {
-    auto *package = new PackageRequestProto3rd;
+    auto package = std::make_unique<PackageRequestProto3rd>();
     package->unPackageReply(frames::report(address, payload, 0, serial));
     return package;
 }
@@ -28,10 +30,10 @@ public:
     NotingHandler() : handler([this](const PackageRequestProto3rd &r, bool) { read(r); }) {}
 
     /// Queues everything before the thread starts, then has it read.
-    QStringList readAll(const QList<PackageRequestProto3rd *> &reports)
+    QStringList readAll(std::vector<std::unique_ptr<PackageRequestProto3rd>> reports)
     {
-        for (PackageRequestProto3rd *r : reports)
-            handler.AddMessage(r);
+        for (auto &r : reports)
+            handler.AddMessage(std::move(r));
         handler.start();
         handler.AddMessage(report(0x7FFFFFFF, "end"));
         done.tryAcquire(1, 5000);
@@ -82,18 +84,19 @@ void TestReports::folding_data()
 void TestReports::folding()
 {
     QFETCH(QString, queued);
-    QList<PackageRequestProto3rd *> reports;
+    std::vector<std::unique_ptr<PackageRequestProto3rd>> reports;
     for (const QString &one : queued.split(' '))
-        reports += report(one.section(':', 0, 0).toUInt(nullptr, 16), one.section(':', 1).toLatin1());
-    QTEST(NotingHandler().readAll(reports).join(' '), "read");
+        reports.push_back(report(one.section(':', 0, 0).toUInt(nullptr, 16), one.section(':', 1).toLatin1()));
+    QTEST(NotingHandler().readAll(std::move(reports)).join(' '), "read");
 }
 
 void TestReports::refusedReportIsNotRead()
 {
-    PackageRequestProto3rd *refused = report(0x13000002, "b");
-    refused->setAckCode(AckResults(1));
-    QCOMPARE(NotingHandler().readAll({report(0x13000001, "a"), refused, report(0x13000003, "c")}),
-             QStringList({"13000001:a", "13000003:c"}));
+    std::vector<std::unique_ptr<PackageRequestProto3rd>> reports;
+    for (const char *payload : {"a", "b", "c"})
+        reports.push_back(report(quint32(0x13000001 + reports.size()), payload));
+    reports[1]->setAckCode(AckResults(1));
+    QCOMPARE(NotingHandler().readAll(std::move(reports)), QStringList({"13000001:a", "13000003:c"}));
 }
 
 void TestReports::readerSeesTheFlag()
@@ -145,7 +148,7 @@ void TestReports::answerRetiresOlderRequests()
         requests.insert(report(0x13000000, "x", serial));
     QCOMPARE(requests.matchRequest(10), -1);
     QCOMPARE(requests.matchRequest(8), 1);
-    const std::unique_ptr<PackageBase> answered(requests.takePackage(1));
+    const auto answered = requests.takePackage(1);
     QCOMPARE(int(answered->getSerialNum()), 8);
     requests.retire(1);
     QCOMPARE(requests.size(), 2);
