@@ -346,6 +346,13 @@ Items secondLevelItems()
         check(MENU_FTB, "FTB", "0", ""),
         number(MENU_FTBDuration, "FTBDuration", "0.0", "2.0", "0.1", "0"),
         entry(MENU_TestPattern, "TestPattern"),
+    };
+}
+
+/// The pages below the main menu from the presets on.
+Items deviceItems()
+{
+    return {
         question(MENU_Preset1, "Preset1", "Blank"),
         question(MENU_Preset2, "Preset2", "Blank"),
         question(MENU_Preset3, "Preset3", "Blank"),
@@ -602,6 +609,7 @@ QVector<ST_ItemInfo> menuItemRows()
     std::vector<Items> groups{
         mainMenuItems(),
         secondLevelItems(),
+        deviceItems(),
         screenItems(),
         layerItems(0, "1", "0", "0", "0"),
         layerItems(1, "0", "100", "50", "1"),

@@ -32,9 +32,11 @@ Dialog timed(ENUM_MenuIndex index, const QString &text, int timeMs)
 {
     return {index, {2, text, {}, MSGBOX_TIMED, true, timeMs}};
 }
-} // namespace
 
-QVector<QPair<ENUM_MenuIndex, ST_DialogInfo>> menuDialogRows()
+using Dialogs = QVector<Dialog>;
+
+/// Asked before an item acts.
+Dialogs questions()
 {
     return {
         question(MENU_QuickConfiguration, "OPENQuickConfigurationWaring", false),
@@ -53,6 +55,13 @@ QVector<QPair<ENUM_MenuIndex, ST_DialogInfo>> menuDialogRows()
         question(MENU_DVI2_ColorReset, "IfResetToDefaultColor"),
         question(MENU_SDI_ColorReset, "IfResetToDefaultColor"),
         question(MENU_ClearAllParameters, "ConformClearAllParam"),
+    };
+}
+
+/// Of the screen, the cabinets, the presets and the picture.
+Dialogs pictureMessages()
+{
+    return {
         timed(MSG_CheckReceiveCard, "CheckReceiveCard", 2000),
         timed(MSG_SavingHardwareInformation, "SaveingHardwareInfomation", 6000),
         timed(MSG_SaveHardwareInformationSucceed, "SaveHardWareInformationSucceed", 2000),
@@ -85,6 +94,13 @@ QVector<QPair<ENUM_MenuIndex, ST_DialogInfo>> menuDialogRows()
         timed(MSG_OpenLowLatencyNeedsSyncOff, "OpenLowLatencyNeedToCloseSyn", 2000),
         timed(MSG_Open3DOnlyMainLayer, "Open3DOnlyMainLayerEffectTip", 2000),
         timed(MSG_OverLoad, "OverLoad", 2000),
+    };
+}
+
+/// Of the device: test, reset, update, network.
+Dialogs deviceMessages()
+{
+    return {
         timed(MSG_SelfTesting, "SelfTesting", 5000),
         timed(MSG_NetParameterSetSucceed, "NetParameSetSucceed", 2000),
         timed(MSG_IsResetting, "IsResting", 5000),
@@ -108,6 +124,12 @@ QVector<QPair<ENUM_MenuIndex, ST_DialogInfo>> menuDialogRows()
         notice(MSG_UpdateErrorNotComplete, "UpdateErrNotComplete"),
         notice(MSG_UpdateErrorNotSupported, "UpdateErrNotSupport"),
     };
+}
+} // namespace
+
+QVector<QPair<ENUM_MenuIndex, ST_DialogInfo>> menuDialogRows()
+{
+    return questions() + pictureMessages() + deviceMessages();
 }
 
 QMap<ENUM_MenuIndex, ST_DialogInfo> menuDialogs()

@@ -132,6 +132,11 @@ void addMainPages(Pages &pages)
                                          row(ENUM_ROW_OSDInitialY, TYPE_INTADJUST, MENU_OSDInitialY),
                                          row(ENUM_ROW_OSDPriority, TYPE_STRINGCOMBOX, MENU_OSDPriority),
                                      }));
+}
+
+/// The pages of the presets, of the image mosaic and of the picture.
+void addPicturePages(Pages &pages)
+{
     pages[CONFIG_PresetSettings] = page(ENUM_PAGE_PresetSettings, "PresetSettings",
                                         numbered({
                                             row(ENUM_ROW_Preset1, TYPE_BUTTON, MENU_Preset1),
@@ -181,6 +186,11 @@ void addMainPages(Pages &pages)
                  row(ENUM_ROW_TransitionDuration, TYPE_FLOATADJUST, MENU_TransitionDuration),
                  row(ENUM_ROW_FTBDuration, TYPE_FLOATADJUST, MENU_FTBDuration),
              }));
+}
+
+/// The pages below the main menu that set the device itself.
+void addDevicePages(Pages &pages)
+{
     pages[CONFIG_AdvancedSetting] =
         page(ENUM_PAGE_AdvancedSetting, "AdvancedSetting",
              numbered({
@@ -501,6 +511,11 @@ void addTestPages(Pages &pages)
                  row(ENUM_ROW_TestVaskImage_Spacing, TYPE_INTADJUST, MENU_Test_Spacing),
                  row(ENUM_ROW_TestVaskImage_Speed, TYPE_INTADJUST, MENU_Test_Speed),
              }));
+}
+
+/// The pictures of the user as test patterns.
+void addCustomPicturePages(Pages &pages)
+{
     pages[CONFIG_TestCustom] = page(
         ENUM_PAGE_TestCustom, "TestPattern",
         numbered({
@@ -588,6 +603,11 @@ void addFunctionPages(Pages &pages)
                  row(ENUM_ROW_AudioInput_DVI, TYPE_STRINGCOMBOX, MENU_AudioInput_DVI),
                  row(ENUM_ROW_AudioInput_SDI, TYPE_STRINGCOMBOX, MENU_AudioInput_SDI),
              }));
+}
+
+/// 3D and the network.
+void addStereoAndNetworkPages(Pages &pages)
+{
     pages[CONFIG_Mode3D] =
         page(ENUM_PAGE_Mode3D, "Mode3D",
              numbered({
@@ -656,6 +676,11 @@ void addSystemPages(Pages &pages)
             row(ENUM_ROW_SelfTestMCU_ARM, TYPE_INFORMATION, MENU_SelfTest_ARM),
             row(ENUM_ROW_SelfTestMCU_MCU, TYPE_INFORMATION, MENU_SelfTest_MCU),
         }));
+}
+
+/// What is told of the device, and the hidden menus.
+void addLastPages(Pages &pages)
+{
     pages[CONFIG_AboutUs] =
         page(ENUM_PAGE_AboutUs, "AboutUs",
              numbered({
@@ -687,13 +712,18 @@ QMap<ENUM_ConfigIndex, ST_MenuConfig> menuPages()
 {
     Pages pages;
     addMainPages(pages);
+    addPicturePages(pages);
+    addDevicePages(pages);
     addScreenPages(pages);
     addLayerPages(pages);
     addInputPages(pages);
     addTestPages(pages);
+    addCustomPicturePages(pages);
     addMosaicPages(pages);
     addFunctionPages(pages);
+    addStereoAndNetworkPages(pages);
     addSystemPages(pages);
+    addLastPages(pages);
     return pages;
 }
 } // namespace VASK
