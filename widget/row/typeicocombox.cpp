@@ -25,7 +25,7 @@ bool hasPreview(ENUM_MenuIndex index)
 } // namespace
 
 typeicocombox::typeicocombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : FramedRow(menuIndex, objectIndex)
+    : ListRow(menuIndex, objectIndex)
 {
     m_picture = createRowIcon(this, pictureWidth, pictureHeight);
     CreatEntry(m_picture, 0);
@@ -73,7 +73,7 @@ void typeicocombox::EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned cha
 
 void typeicocombox::EscEntry(ENUM_MenuIndex index)
 {
-    m_dropDown.close();
+    ListRow::EscEntry(index);
     if (index == MENU_Quick_FlowWay && m_item.value != m_oldValue)
         use(index, m_oldValue);
 }
@@ -86,21 +86,19 @@ void typeicocombox::preview(ENUM_MenuIndex index)
 
 void typeicocombox::UpEntry(ENUM_MenuIndex index)
 {
-    m_dropDown.up(index);
+    ListRow::UpEntry(index);
     preview(index);
 }
 
 void typeicocombox::DownEntry(ENUM_MenuIndex index)
 {
-    m_dropDown.down(index);
+    ListRow::DownEntry(index);
     preview(index);
 }
 
 void typeicocombox::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
 {
-    if (!value.isEmpty())
-        takeOption(index, value, mode, m_dropDown.table());
+    ListRow::takeValue(index, value, mode);
     qDebug() << "mapParams.value(strCurValue): " << m_item.params.value(m_item.value);
-    redraw();
 }
 } // namespace VASK

@@ -4,24 +4,22 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/row/dropdown.h"
 #include "widget/row/framedrow.h"
 #include "widget/row/icocomboxtable.h"
+#include "widget/row/listrow.h"
 
 namespace VASK
 {
-class typeicocombox : public FramedRow
+class typeicocombox : public ListRow<FramedRow, icocomboxtable>
 {
     Q_OBJECT
 public:
     typeicocombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
-    OkKind okKind() const override { return OkKind::ChoosesFromList; }
-    bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
-    using VaskUiObject::DownEntry;
-    using VaskUiObject::EnterEntry;
-    using VaskUiObject::EscEntry;
-    using VaskUiObject::UpEntry;
+    using ListRow::DownEntry;
+    using ListRow::EnterEntry;
+    using ListRow::EscEntry;
+    using ListRow::UpEntry;
     void EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char) override;
     /// Gives the flow way back what it was before the list opened; other lists keep what was shown last.
     void EscEntry(ENUM_MenuIndex index) override;
@@ -38,7 +36,6 @@ private:
     void drawPicture();
 
     QLabel *m_picture = nullptr;
-    DropDown<icocomboxtable> m_dropDown;
     QString m_oldValue; ///< before the list opened
 };
 } // namespace VASK

@@ -11,7 +11,7 @@
 namespace VASK
 {
 typestringcombox::typestringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : FramedRow(menuIndex, objectIndex)
+    : ListRow(menuIndex, objectIndex)
 {
     CreatEntry(createValueLabel());
     showValue(valueText());
@@ -50,12 +50,5 @@ void typestringcombox::takeChoice(ENUM_MenuIndex index)
     }
     m_dropDown.close();
     showValue(valueText());
-}
-
-void typestringcombox::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
-{
-    if (!value.isEmpty())
-        takeOption(index, value, mode, m_dropDown.table());
-    redraw();
 }
 } // namespace VASK

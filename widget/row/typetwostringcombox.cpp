@@ -20,7 +20,7 @@ constexpr int rightPart = 2;
 }
 
 typetwostringcombox::typetwostringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : PartsRow(menuIndex, objectIndex)
+    : ListRow(menuIndex, objectIndex)
 {
     CreatEntry();
     setParts({m_left, m_right});
@@ -141,13 +141,6 @@ void typetwostringcombox::EnterEntry(ENUM_MenuIndex index, QWidget *page, unsign
     m_item.value = value;
     apply(value, index);
     m_dropDown.close();
-    redraw();
-}
-
-void typetwostringcombox::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
-{
-    if (!value.isEmpty())
-        takeOption(index, value, mode, m_dropDown.table());
     redraw();
 }
 } // namespace VASK

@@ -5,7 +5,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/row/dropdown.h"
+#include "widget/row/listrow.h"
 #include "widget/row/partsrow.h"
 #include "widget/row/stringcomboxtable.h"
 
@@ -14,33 +14,25 @@ class QPushButton;
 
 namespace VASK
 {
-class typetwostringcombox : public PartsRow
+class typetwostringcombox : public ListRow<PartsRow, stringcomboxtable>
 {
     Q_OBJECT
 public:
     typetwostringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
 
-    OkKind okKind() const override { return OkKind::ChoosesFromList; }
-
     /// Shows the picture of a backup that is available, or the plain one. From any thread.
     void setTwoArrow(bool available) override;
     /// From any thread.
     void SetRightTextEnable(bool enabled) override;
-    bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
 
-    using VaskUiObject::DownEntry;
-    using VaskUiObject::EnterEntry;
-    using VaskUiObject::EscEntry;
-    using VaskUiObject::UpEntry;
+    using ListRow::DownEntry;
+    using ListRow::EnterEntry;
+    using ListRow::UpEntry;
     void EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char) override;
-    void EscEntry(ENUM_MenuIndex) override { m_dropDown.close(); }
-    void UpEntry(ENUM_MenuIndex index) override { m_dropDown.up(index); }
-    void DownEntry(ENUM_MenuIndex index) override { m_dropDown.down(index); }
     void UpEntry(ENUM_MenuIndex index, unsigned char &speed, bool first) override;
     void DownEntry(ENUM_MenuIndex index, unsigned char &speed, bool last) override;
 
 protected:
-    void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
     void redraw() override;
 
 private:
@@ -56,6 +48,5 @@ private:
     QLabel *m_picture = nullptr;
     QLabel *m_rightText = nullptr;
     QLabel *m_rightIcon = nullptr;
-    DropDown<stringcomboxtable> m_dropDown;
 };
 } // namespace VASK
