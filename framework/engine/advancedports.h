@@ -2,6 +2,8 @@
 // Any thread; an object is used where it was made.
 #pragma once
 
+#include "menu/itemfamilies.h"
+
 #include <array>
 
 namespace VASK
@@ -12,7 +14,7 @@ class AdvancedPorts
 {
 public:
     enum Field { Rows, Columns, X, Y, FieldCount };
-    static constexpr int count = 10;
+    static constexpr int count = FAMILY_AdvancedPort.count;
 
     explicit AdvancedPorts(const ParaProcess &engine);
 

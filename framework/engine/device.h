@@ -4,7 +4,7 @@
 
 #include "framework/engine/processdata.h"
 #include "framework/protocol/inputcodes.h"
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 
 #include <QString>
 
@@ -12,7 +12,7 @@ namespace VASK
 {
 class ParaProcess;
 
-constexpr int layerCount = 3; ///< main, PIP 1, PIP 2
+constexpr int layerCount = FAMILY_Layer.count;
 
 constexpr int noInput = 255;
 constexpr int stableSignal = 3;   ///< signal state of an input record

@@ -58,12 +58,10 @@ constexpr LayerItems itemsOfLayer(int layer)
 
 inline constexpr std::array<LayerItems, layerCount> layers{itemsOfLayer(0), itemsOfLayer(1), itemsOfLayer(2)};
 
-/// The layer to which an item of its page or of its crop page belongs.
-inline const LayerItems &layerOf(ENUM_MenuIndex item)
+/// The layer whose item has changed.
+inline const LayerItems &layerOf(const ParaChange &change)
 {
-    const bool crop = item >= MENU_MainLayerCrop_Status;
-    return layers[size_t(crop ? (item - MENU_MainLayerCrop_Status) / STRIDE_Crop
-                              : (item - MENU_MainLayer_Status) / STRIDE_Layer)];
+    return layers[size_t(change.member)];
 }
 
 /// Rows of the scaling lists.

@@ -7,7 +7,6 @@
 #include "menu/objectindex.h"
 
 #include <QDialog>
-#include <algorithm>
 
 namespace VASK
 {
@@ -184,29 +183,19 @@ void ParaChange::tail()
     }
 }
 
-const QVector<ApplyFamily> &applyFamilies()
+const QVector<Table<ApplyCase>> &applyFamilies()
 {
-    static const QVector<ApplyFamily> families{
-        keptFamily(),     commandFamily(),       displayFamily(),      testPatternFamily(), outputFamily(),
-        stereoFamily(),   networkFamily(),       colourFamily(),       resetFamily(),       systemFamily(),
-        workModeFamily(), inputFamily(),         outputReportFamily(), portFamily(),        layersFamily(),
-        sourceFamily(),   geometryFamily(),      layoutFamily(),       cropFamily(),        splicingFamily(),
-        presetFamily(),   configurationFamily(), latencyFamily(),      advancedFamily(),    mosaicFamily(),
-        backupFamily(),   edidFamily(),
+    static const QVector<Table<ApplyCase>> families{
+#define FPD_FAMILY(name) name##Cases(),
+#include "framework/engine/apply/families.def"
+#undef FPD_FAMILY
     };
     return families;
 }
 
-const ApplyCase *findApplyCase(ENUM_MenuIndex index)
+TableEntry<ApplyCase> findApplyCase(ENUM_MenuIndex index)
 {
-    for (const ApplyFamily &family : applyFamilies()) {
-        const ApplyCase *end = family.cases + family.count;
-        const ApplyCase *found = std::find_if(family.cases, end, [index](const ApplyCase &row) {
-            return index >= row.first && index <= row.last;
-        });
-        if (found != end)
-            return found;
-    }
-    return nullptr;
+    static const TableIndex<ENUM_MenuIndex, ApplyCase> cases(applyFamilies());
+    return cases.find(index);
 }
 } // namespace VASK

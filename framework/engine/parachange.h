@@ -6,6 +6,8 @@
 #include "framework/engine/device.h"
 #include "framework/engine/homeupdater.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/table.h"
+#include "menu/itemfamilies.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menuconfig_k2860.h"
@@ -30,6 +32,7 @@ struct ParaChange {
     QString oldValue; ///< what the item held before the call
     ENUM_MenuIndex index;
     ENUM_MODE_SET_XML mode;
+    int member = 0; ///< number of the layer, input or port that the item belongs to, as its case counts them
 
     bool fromUser() const { return mode == SET_XML_USER; }
     bool fromDevice() const { return mode == SET_XML_DEVICE; }
@@ -82,47 +85,16 @@ void speakLanguage(ParaProcess &engine, bool english);
 
 /// A case of the engine: the items that it serves and what it does.
 struct ApplyCase {
-    ENUM_MenuIndex first;
-    ENUM_MenuIndex last;
+    ItemSpan span;
     void (*apply)(ParaChange &change);
 };
 
-/// The case of an item, null for a plain one, which has nothing but a tail.
-const ApplyCase *findApplyCase(ENUM_MenuIndex index);
-
-struct ApplyFamily {
-    const ApplyCase *cases;
-    int count;
-};
+/// The case of an item, without a row for a plain one, which has nothing but a tail.
+TableEntry<ApplyCase> findApplyCase(ENUM_MenuIndex index);
 /// All of them; no item stands in two.
-const QVector<ApplyFamily> &applyFamilies();
+const QVector<Table<ApplyCase>> &applyFamilies();
 
-// The families, each a table in a file of its own.
-ApplyFamily keptFamily();
-ApplyFamily commandFamily();
-ApplyFamily displayFamily();
-ApplyFamily testPatternFamily();
-ApplyFamily outputFamily();
-ApplyFamily stereoFamily();
-ApplyFamily networkFamily();
-ApplyFamily colourFamily();
-ApplyFamily resetFamily();
-ApplyFamily systemFamily();
-ApplyFamily workModeFamily();
-ApplyFamily inputFamily();
-ApplyFamily outputReportFamily();
-ApplyFamily portFamily();
-ApplyFamily layersFamily();
-ApplyFamily sourceFamily();
-ApplyFamily geometryFamily();
-ApplyFamily layoutFamily();
-ApplyFamily cropFamily();
-ApplyFamily splicingFamily();
-ApplyFamily presetFamily();
-ApplyFamily mosaicFamily();
-ApplyFamily backupFamily();
-ApplyFamily configurationFamily();
-ApplyFamily latencyFamily();
-ApplyFamily advancedFamily();
-ApplyFamily edidFamily();
+#define FPD_FAMILY(name) Table<ApplyCase> name##Cases();
+#include "framework/engine/apply/families.def"
+#undef FPD_FAMILY
 } // namespace VASK

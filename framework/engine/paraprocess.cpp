@@ -175,8 +175,10 @@ void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SE
     qDebug() << "index ==" << int(index);
     if (!m_parts->home.needed())
         return;
-    if (const ApplyCase *found = findApplyCase(index))
-        found->apply(change);
+    const TableEntry<ApplyCase> found = findApplyCase(index);
+    change.member = found.member;
+    if (found.row)
+        found.row->apply(change);
     else
         change.tail();
 }
@@ -184,8 +186,8 @@ void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SE
 QString ParaProcess::CalParaLimit(QString value, ENUM_MenuIndex index)
 {
     qDebug() << "CalParaLimit index ==" << int(index);
-    const LimitCase *found = findLimitCase(index);
-    return found ? found->apply(*this, value, index) : value;
+    const TableEntry<LimitCase> found = findLimitCase(index);
+    return found.row ? found.row->apply({*this, value, index, found.member}) : value;
 }
 
 int ParaProcess::OutputFrameAdj(int rate, int outputRate) const

@@ -1,6 +1,8 @@
 // The ten presets as the device keeps them. GUI thread.
 #pragma once
 
+#include "menu/itemfamilies.h"
+
 #include <array>
 #include <cstddef>
 
@@ -12,7 +14,7 @@ class ParaProcess;
 class Presets
 {
 public:
-    static constexpr int count = 10;
+    static constexpr int count = FAMILY_Preset.count;
     static bool exists(int preset) { return preset >= 0 && preset < count; }
 
     explicit Presets(ParaProcess &engine) : m_engine(engine) {}

@@ -3,7 +3,7 @@
 // GUI thread and the report thread; each access takes a short lock of its own.
 #pragma once
 
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 
 #include <QMutex>
 #include <QString>
@@ -31,8 +31,8 @@ struct InputRecord {
 class ProcessData
 {
 public:
-    static constexpr int inputCount = 9;
-    static constexpr int portCount = 10;
+    static constexpr int inputCount = FAMILY_InputRecord.count;
+    static constexpr int portCount = FAMILY_PortState.count;
 
     /// Does the block have a field of that number?
     static bool contains(ENUM_MenuIndex index);

@@ -116,41 +116,26 @@ void resetForm(ParaChange &change)
 }
 
 /// The flow way is the last of a record: with it the record is complete.
-template <int Port> void applyRecord(ParaChange &change)
+void applyRecord(ParaChange &change)
 {
-    if (portOnPage(change) == Port)
-        showPort(change, Port);
-}
-
-template <int Port> constexpr ApplyCase recordCase()
-{
-    constexpr auto flowWay = nth(MENU_AdvancedPort1_FlowWay, Port, STRIDE_AdvancedPort);
-    return {flowWay, flowWay, applyRecord<Port>};
+    if (portOnPage(change) == change.member)
+        showPort(change, change.member);
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Advanced_Status, MENU_Advanced_Status, applyStatus},
-    {MENU_Advanced_EthernetPort, MENU_Advanced_EthernetPort, applyPort},
-    {MENU_Advanced_CabinetRow, MENU_Advanced_CabinetCol, applyCount},
-    {MENU_Advanced_HorOffset, MENU_Advanced_VerOffset, applyStart},
-    {MENU_Advanced_FlowWay, MENU_Advanced_FlowWay, applyFlowWay},
-    {MENU_Advanced_Apply, MENU_Advanced_Apply, applyForm},
-    {MENU_Advanced_Reset, MENU_Advanced_Reset, resetForm},
-    recordCase<0>(),
-    recordCase<1>(),
-    recordCase<2>(),
-    recordCase<3>(),
-    recordCase<4>(),
-    recordCase<5>(),
-    recordCase<6>(),
-    recordCase<7>(),
-    recordCase<8>(),
-    recordCase<9>(),
+    {MENU_Advanced_Status, applyStatus},
+    {MENU_Advanced_EthernetPort, applyPort},
+    {range(MENU_Advanced_CabinetRow, MENU_Advanced_CabinetCol), applyCount},
+    {range(MENU_Advanced_HorOffset, MENU_Advanced_VerOffset), applyStart},
+    {MENU_Advanced_FlowWay, applyFlowWay},
+    {MENU_Advanced_Apply, applyForm},
+    {MENU_Advanced_Reset, resetForm},
+    {each(FAMILY_AdvancedPort, MENU_AdvancedPort1_FlowWay), applyRecord},
 };
 } // namespace
 
-ApplyFamily advancedFamily()
+Table<ApplyCase> advancedCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

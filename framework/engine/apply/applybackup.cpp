@@ -59,13 +59,13 @@ void resetBackup(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_InputBackup_HDMI1, MENU_InputBackup_Mosaic, applyPair},
-    {MENU_InputBackup_Reset, MENU_InputBackup_Reset, resetBackup},
+    {range(MENU_InputBackup_HDMI1, MENU_InputBackup_Mosaic), applyPair},
+    {MENU_InputBackup_Reset, resetBackup},
 };
 } // namespace
 
-ApplyFamily backupFamily()
+Table<ApplyCase> backupCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -67,18 +67,15 @@ void resetPicture(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Color_ColorTemp, MENU_Color_ColorTemp, applyTemperature},
-    {MENU_Color_Reset, MENU_Color_Reset, resetColour},
-    {MENU_HDMI1_ColorReset, MENU_HDMI1_ColorReset, resetPicture},
-    {MENU_HDMI2_ColorReset, MENU_HDMI2_ColorReset, resetPicture},
-    {MENU_DVI_ColorReset, MENU_DVI_ColorReset, resetPicture},
-    {MENU_DVI2_ColorReset, MENU_DVI2_ColorReset, resetPicture},
-    {MENU_SDI_ColorReset, MENU_SDI_ColorReset, resetPicture},
+    {MENU_Color_ColorTemp, applyTemperature},
+    {MENU_Color_Reset, resetColour},
+    {each(FAMILY_InputPicture, MENU_HDMI1_ColorReset), resetPicture},
+    {MENU_SDI_ColorReset, resetPicture},
 };
 } // namespace
 
-ApplyFamily colourFamily()
+Table<ApplyCase> colourCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -39,15 +39,15 @@ void applyCommunicationMode(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_ScreenBrightness, MENU_ScreenBrightness, applyBrightness},
-    {MENU_SavetoRVCard, MENU_SavetoRVCard, saveToReceivingCard},
-    {MENU_SelfTest, MENU_SelfTest, startSelfTest},
-    {MENU_CommunicationMode, MENU_CommunicationMode, applyCommunicationMode},
+    {MENU_ScreenBrightness, applyBrightness},
+    {MENU_SavetoRVCard, saveToReceivingCard},
+    {MENU_SelfTest, startSelfTest},
+    {MENU_CommunicationMode, applyCommunicationMode},
 };
 } // namespace
 
-ApplyFamily commandFamily()
+Table<ApplyCase> commandCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

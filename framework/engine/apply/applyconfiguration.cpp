@@ -81,15 +81,15 @@ void applyFlowWay(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_QuickConfiguration, MENU_QuickConfiguration, openQuickConfiguration},
-    {MENU_AdvancedCfg, MENU_AdvancedCfg, checkLink},
-    {MENU_Quick_CabinetRow, MENU_Quick_PortOneCab, applyForm},
-    {MENU_Quick_FlowWay, MENU_Quick_FlowWay, applyFlowWay},
+    {MENU_QuickConfiguration, openQuickConfiguration},
+    {MENU_AdvancedCfg, checkLink},
+    {range(MENU_Quick_CabinetRow, MENU_Quick_PortOneCab), applyForm},
+    {MENU_Quick_FlowWay, applyFlowWay},
 };
 } // namespace
 
-ApplyFamily configurationFamily()
+Table<ApplyCase> configurationCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -16,7 +16,7 @@ void followCrop(ParaChange &change, const LayerItems &layer)
 
 void applyCropStatus(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     followCrop(change, layer);
     offerPixelToPixel(change, layer);
     change.tail();
@@ -24,7 +24,7 @@ void applyCropStatus(ParaChange &change)
 
 void applyCropSize(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     if (change.fromUser() && change.item(layer.scaling) == pixelToPixel && change.isOn(layer.cropStatus))
         showAndSend(change, change.index == layer.cropWidth ? layer.width : layer.height, change.value);
     offerPixelToPixel(change, layer);
@@ -34,7 +34,7 @@ void applyCropSize(ParaChange &change)
 /// The last number of a crop that the device tells.
 void applyCropY(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     if (change.fromDevice()) {
         followCrop(change, layer);
         offerPixelToPixel(change, layer);
@@ -44,7 +44,7 @@ void applyCropY(ParaChange &change)
 
 void applyCropReset(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     const PictureSize input = inputSize(change, layer);
     const QString height = QString::number(input.height);
     change.show(layer.cropX, "0");
@@ -58,23 +58,15 @@ void applyCropReset(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_MainLayerCrop_Status, MENU_MainLayerCrop_Status, applyCropStatus},
-    {MENU_MainLayerCrop_HorWidth, MENU_MainLayerCrop_VerHeight, applyCropSize},
-    {MENU_MainLayerCrop_InitialY, MENU_MainLayerCrop_InitialY, applyCropY},
-    {MENU_MainLayerCrop_Reset, MENU_MainLayerCrop_Reset, applyCropReset},
-    {MENU_PIP1Crop_Status, MENU_PIP1Crop_Status, applyCropStatus},
-    {MENU_PIP1Crop_HorWidth, MENU_PIP1Crop_VerHeight, applyCropSize},
-    {MENU_PIP1Crop_InitialY, MENU_PIP1Crop_InitialY, applyCropY},
-    {MENU_PIP1Crop_Reset, MENU_PIP1Crop_Reset, applyCropReset},
-    {MENU_PIP2Crop_Status, MENU_PIP2Crop_Status, applyCropStatus},
-    {MENU_PIP2Crop_HorWidth, MENU_PIP2Crop_VerHeight, applyCropSize},
-    {MENU_PIP2Crop_InitialY, MENU_PIP2Crop_InitialY, applyCropY},
-    {MENU_PIP2Crop_Reset, MENU_PIP2Crop_Reset, applyCropReset},
+    {each(FAMILY_Crop, MENU_MainLayerCrop_Status), applyCropStatus},
+    {each(FAMILY_Crop, MENU_MainLayerCrop_HorWidth, MENU_MainLayerCrop_VerHeight), applyCropSize},
+    {each(FAMILY_Crop, MENU_MainLayerCrop_InitialY), applyCropY},
+    {each(FAMILY_Crop, MENU_MainLayerCrop_Reset), applyCropReset},
 };
 } // namespace
 
-ApplyFamily cropFamily()
+Table<ApplyCase> cropCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -147,11 +147,11 @@ constexpr ReportedMode reportedModes[] = {
 };
 
 constexpr ApplyCase cases[] = {
-    {MENU_Normal, MENU_Normal, applyNormal},
-    {MENU_Freeze, MENU_Freeze, applyFreeze},
-    {MENU_FTB, MENU_FTB, applyBlack},
-    {MENU_TestPattern, MENU_TestPattern, applyTestPattern},
-    {MENU_Fn_Synchronization, MENU_Fn_TestPattern, applyFnFunction},
+    {MENU_Normal, applyNormal},
+    {MENU_Freeze, applyFreeze},
+    {MENU_FTB, applyBlack},
+    {MENU_TestPattern, applyTestPattern},
+    {range(MENU_Fn_Synchronization, MENU_Fn_TestPattern), applyFnFunction},
 };
 } // namespace
 
@@ -171,8 +171,8 @@ void followDisplayMode(ParaProcess &engine, MenuAnalysis &store, int code)
     }
 }
 
-ApplyFamily displayFamily()
+Table<ApplyCase> displayCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

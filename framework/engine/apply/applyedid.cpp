@@ -16,18 +16,12 @@ constexpr int inputConfigs = CONFIG_HDMI2_EDID - CONFIG_HDMI1_EDID;
 
 constexpr ENUM_ObjectIndex parentPages[] = {ENUM_PAGE_HDMI1, ENUM_PAGE_HDMI2, ENUM_PAGE_DVI, ENUM_PAGE_DVI2};
 
-/// Input of an EDID item, counted from 0.
-int inputOf(ENUM_MenuIndex item)
-{
-    return (item - MENU_HDMI1_EDIDChoice) / STRIDE_InputPicture;
-}
-
 void applyChoice(ParaChange &change)
 {
     const bool custom = change.value == QLatin1String("1");
     if (!custom && change.value != QLatin1String("0"))
         return;
-    const int input = inputOf(change.index);
+    const int input = change.member;
     swapPage({nth(ENUM_PAGE_HDMI1_EDID, input, inputPages),
               nth(custom ? ENUM_PAGE_HDMI1_EDIDCustom : ENUM_PAGE_HDMI1_EDIDStandard, input, inputPages),
               nth(custom ? CONFIG_HDMI1_EDIDCustom : CONFIG_HDMI1_EDIDStandard, input, inputConfigs),
@@ -55,7 +49,7 @@ void applyEdid(ParaChange &change)
 {
     if (!change.fromUser())
         return;
-    const int input = inputOf(change.index);
+    const int input = change.member;
     change.value = change.isOn(nth(MENU_HDMI1_EDIDChoice, input, STRIDE_InputPicture))
                        ? customMode(change, input)
                        : standardMode(change, input);
@@ -64,19 +58,13 @@ void applyEdid(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_HDMI1_EDIDChoice, MENU_HDMI1_EDIDChoice, applyChoice},
-    {MENU_HDMI2_EDIDChoice, MENU_HDMI2_EDIDChoice, applyChoice},
-    {MENU_DVI_EDIDChoice, MENU_DVI_EDIDChoice, applyChoice},
-    {MENU_DVI2_EDIDChoice, MENU_DVI2_EDIDChoice, applyChoice},
-    {MENU_HDMI1_EDIDApply, MENU_HDMI1_EDIDApply, applyEdid},
-    {MENU_HDMI2_EDIDApply, MENU_HDMI2_EDIDApply, applyEdid},
-    {MENU_DVI_EDIDApply, MENU_DVI_EDIDApply, applyEdid},
-    {MENU_DVI2_EDIDApply, MENU_DVI2_EDIDApply, applyEdid},
+    {each(FAMILY_InputPicture, MENU_HDMI1_EDIDChoice), applyChoice},
+    {each(FAMILY_InputPicture, MENU_HDMI1_EDIDApply), applyEdid},
 };
 } // namespace
 
-ApplyFamily edidFamily()
+Table<ApplyCase> edidCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

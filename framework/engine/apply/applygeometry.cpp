@@ -45,7 +45,7 @@ void scaleToCustom(ParaChange &change, const LayerItems &layer)
 
 void applyScaling(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     if (!change.fromUser())
         freeGeometry(change, layer);
     else if (change.value == pixelToPixel)
@@ -87,7 +87,7 @@ void followMainGeometry(ParaChange &change)
 
 void applyGeometry(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     if (change.fromDevice())
         leaveScalingRule(change, layer);
     if (change.item(layer.scaling) == customScaling)
@@ -99,17 +99,13 @@ void applyGeometry(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_MainLayer_ScalingMode, MENU_MainLayer_ScalingMode, applyScaling},
-    {MENU_PIP1_ScalingMode, MENU_PIP1_ScalingMode, applyScaling},
-    {MENU_PIP2_ScalingMode, MENU_PIP2_ScalingMode, applyScaling},
-    {MENU_MainLayer_HorWidth, MENU_MainLayer_InitialY, applyGeometry},
-    {MENU_PIP1_HorWidth, MENU_PIP1_InitialY, applyGeometry},
-    {MENU_PIP2_HorWidth, MENU_PIP2_InitialY, applyGeometry},
+    {each(FAMILY_Layer, MENU_MainLayer_ScalingMode), applyScaling},
+    {each(FAMILY_Layer, MENU_MainLayer_HorWidth, MENU_MainLayer_InitialY), applyGeometry},
 };
 } // namespace
 
-ApplyFamily geometryFamily()
+Table<ApplyCase> geometryCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

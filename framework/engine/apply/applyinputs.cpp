@@ -37,10 +37,9 @@ InputReport reportOf(const ParaChange &change)
 {
     constexpr int usualWidth = 1920;
     constexpr int usualHeight = 1080;
-    const int number = (change.index - PARA_InputRecordFirst) / STRIDE_InputRecord;
-    const InputRecord record = DeviceView(change.engine).input(number);
+    const InputRecord record = DeviceView(change.engine).input(change.member);
     const bool stable = record.signalState == stableSignal;
-    return {number, record, stable ? record.width : usualWidth, stable ? record.height : usualHeight};
+    return {change.member, record, stable ? record.width : usualWidth, stable ? record.height : usualHeight};
 }
 
 bool isShownBy(const ParaChange &change, const InputReport &input, int layer)
@@ -171,41 +170,29 @@ constexpr SamplingRow samplingRows[] = {
     {INPUT_SDI, MENU_SDI_ColorSample},
 };
 constexpr const char *samplings[] = {"RGB 4:4:4", "YCbCr 4:2:2", "YCbCr 4:4:4"};
-constexpr int sampledInputs = 5; ///< inputs of which the sampling is shown
 
 void applySampling(ParaChange &change)
 {
-    const int input = (change.index - PARA_InputRecordFirst) / STRIDE_InputRecord;
     qDebug() << "CSC para ==" << change.value;
     const int sampling = change.number(change.index);
     const QString text = sampling < int(std::size(samplings)) ? samplings[sampling] : "";
-    const int code = DeviceView(change.engine).input(input).sourceCode;
+    const int code = DeviceView(change.engine).input(change.member).sourceCode;
     for (const SamplingRow &row : samplingRows)
         if (row.code == code || otherCode(row.code) == code)
             change.show(row.item, text);
 }
 
-/// One row an input and field: the records lie too far apart for a range.
-const QVector<ApplyCase> &inputCases()
-{
-    static const QVector<ApplyCase> cases = [] {
-        QVector<ApplyCase> rows;
-        for (int input = 0; input < ProcessData::inputCount; ++input) {
-            const ENUM_MenuIndex period = recordField(input, FieldPeriod);
-            rows << ApplyCase{period, period, applyInput};
-        }
-        for (int input = 0; input < sampledInputs; ++input) {
-            const ENUM_MenuIndex sampling = recordField(input, FieldSampling);
-            rows << ApplyCase{sampling, sampling, applySampling};
-        }
-        return rows;
-    }();
-    return cases;
-}
+/// Those of which the sampling is shown.
+constexpr Family sampledInputs{STRIDE_InputRecord, 5};
+
+constexpr ApplyCase cases[] = {
+    {each(FAMILY_InputRecord, recordField(0, FieldPeriod)), applyInput},
+    {each(sampledInputs, recordField(0, FieldSampling)), applySampling},
+};
 } // namespace
 
-ApplyFamily inputFamily()
+Table<ApplyCase> inputCases()
 {
-    return {inputCases().constData(), inputCases().size()};
+    return cases;
 }
 } // namespace VASK

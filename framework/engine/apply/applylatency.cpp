@@ -88,12 +88,12 @@ void applyLowLatency(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_LowLatency, MENU_LowLatency, applyLowLatency},
+    {MENU_LowLatency, applyLowLatency},
 };
 } // namespace
 
-ApplyFamily latencyFamily()
+Table<ApplyCase> latencyCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

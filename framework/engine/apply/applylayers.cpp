@@ -34,7 +34,7 @@ void refusePip(ParaChange &change)
 
 void applyPipStatus(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     const bool on = change.value == QLatin1String("1");
     if (on && mainShowsMosaic(change)) {
         refusePip(change);
@@ -85,17 +85,14 @@ void applyPriority(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_MainLayer_Status, MENU_MainLayer_Status, applyMainStatus},
-    {MENU_PIP1_Status, MENU_PIP1_Status, applyPipStatus},
-    {MENU_PIP2_Status, MENU_PIP2_Status, applyPipStatus},
-    {MENU_MainLayer_Priority, MENU_MainLayer_Priority, applyPriority},
-    {MENU_PIP1_Priority, MENU_PIP1_Priority, applyPriority},
-    {MENU_PIP2_Priority, MENU_PIP2_Priority, applyPriority},
+    {MENU_MainLayer_Status, applyMainStatus},
+    {each(FAMILY_Pip, MENU_PIP1_Status), applyPipStatus},
+    {each(FAMILY_Layer, MENU_MainLayer_Priority), applyPriority},
 };
 } // namespace
 
-ApplyFamily layersFamily()
+Table<ApplyCase> layersCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -59,12 +59,12 @@ void applyLayout(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Layout, MENU_Layout, applyLayout},
+    {MENU_Layout, applyLayout},
 };
 } // namespace
 
-ApplyFamily layoutFamily()
+Table<ApplyCase> layoutCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

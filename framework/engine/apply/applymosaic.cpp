@@ -158,17 +158,14 @@ void resetMosaic(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Mosaic_Layout, MENU_Mosaic_Layout, applyLayout},
-    {MENU_Mosaic_Width, MENU_Mosaic_Width, applyWidth},
-    {MENU_Mosaic_Height, MENU_Mosaic_Height, applyHeight},
-    {MENU_Mosaic_Arrangement, MENU_Mosaic_Arrangement, applyArrangement},
-    {MENU_Mosaic_Apply, MENU_Mosaic_Apply, applyMosaic},
-    {MENU_Mosaic_Reset, MENU_Mosaic_Reset, resetMosaic},
+    {MENU_Mosaic_Layout, applyLayout}, {MENU_Mosaic_Width, applyWidth},
+    {MENU_Mosaic_Height, applyHeight}, {MENU_Mosaic_Arrangement, applyArrangement},
+    {MENU_Mosaic_Apply, applyMosaic},  {MENU_Mosaic_Reset, resetMosaic},
 };
 } // namespace
 
-ApplyFamily mosaicFamily()
+Table<ApplyCase> mosaicCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

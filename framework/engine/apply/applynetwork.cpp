@@ -159,15 +159,15 @@ void resetAddress(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Net_NetMode, MENU_Net_NetMode, applyMode},
-    {MENU_Net_IPAddress, MENU_Net_IPAddress, applyAddress},
-    {MENU_Net_Apply, MENU_Net_Apply, applySettings},
-    {MENU_Net_Reset, MENU_Net_Reset, resetAddress},
+    {MENU_Net_NetMode, applyMode},
+    {MENU_Net_IPAddress, applyAddress},
+    {MENU_Net_Apply, applySettings},
+    {MENU_Net_Reset, resetAddress},
 };
 } // namespace
 
-ApplyFamily networkFamily()
+Table<ApplyCase> networkCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

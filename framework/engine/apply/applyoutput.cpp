@@ -42,9 +42,9 @@ void applySyncSource(ParaChange &change)
 /// The list of rates follows the resolution that was chosen.
 void applyResolution(ParaChange &change)
 {
-    ENUM_MenuIndex rateList = MENU_Output_FrameRate;
-    if (change.index != MENU_Output_Resolution)
-        rateList = nth(change.index, MENU_HDMI1_EDIDFrameRate - MENU_HDMI1_EDIDResolution);
+    const bool ofInput = change.index != MENU_Output_Resolution;
+    const ENUM_MenuIndex rateList =
+        ofInput ? nth(MENU_HDMI1_EDIDFrameRate, change.member, STRIDE_InputPicture) : MENU_Output_FrameRate;
     const ST_ItemInfo allowed = change.info(nth(MENU_Rates_1024x768, change.value.toInt()));
     change.store.changeItem(rateList, [&allowed](ST_ItemInfo &rates) {
         rates.params = allowed.params;
@@ -189,22 +189,19 @@ void applyOutputRate(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_OutputFrameRate, MENU_OutputFrameRate, applyOutputRate},
-    {MENU_Sync_Status, MENU_Sync_Status, applySync},
-    {MENU_Sync_Source, MENU_Sync_Source, applySyncSource},
-    {MENU_Output_Mode, MENU_Output_Mode, applyOutputMode},
-    {MENU_Output_Resolution, MENU_Output_Resolution, applyResolution},
-    {MENU_HDMI1_EDIDResolution, MENU_HDMI1_EDIDResolution, applyResolution},
-    {MENU_HDMI2_EDIDResolution, MENU_HDMI2_EDIDResolution, applyResolution},
-    {MENU_DVI_EDIDResolution, MENU_DVI_EDIDResolution, applyResolution},
-    {MENU_DVI2_EDIDResolution, MENU_DVI2_EDIDResolution, applyResolution},
-    {MENU_Output_Apply, MENU_Output_Apply, applyOutput},
-    {PARA_GenlockState, PARA_GenlockState, applyGenlock},
+    {MENU_OutputFrameRate, applyOutputRate},
+    {MENU_Sync_Status, applySync},
+    {MENU_Sync_Source, applySyncSource},
+    {MENU_Output_Mode, applyOutputMode},
+    {MENU_Output_Resolution, applyResolution},
+    {each(FAMILY_InputPicture, MENU_HDMI1_EDIDResolution), applyResolution},
+    {MENU_Output_Apply, applyOutput},
+    {PARA_GenlockState, applyGenlock},
 };
 } // namespace
 
-ApplyFamily outputFamily()
+Table<ApplyCase> outputCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

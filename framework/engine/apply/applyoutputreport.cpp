@@ -73,13 +73,13 @@ void applySenderOutput(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {PARA_ReportedHeight, PARA_ReportedHeight, applyOutputSize},
-    {PARA_ReportedHeightAlias, PARA_ReportedHeightAlias, applySenderOutput},
+    {PARA_ReportedHeight, applyOutputSize},
+    {PARA_ReportedHeightAlias, applySenderOutput},
 };
 } // namespace
 
-ApplyFamily outputReportFamily()
+Table<ApplyCase> outputReportCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

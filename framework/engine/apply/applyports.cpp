@@ -10,24 +10,21 @@ namespace VASK
 {
 namespace
 {
-/// The row of the table that serves the six ports of this model.
-constexpr ApplyCase shownPorts(ENUM_MenuIndex first, void (*apply)(ParaChange &))
-{
-    return {first, nth(first, NET_PORT_COUNT - 1), apply};
-}
+/// The ports that this model has, of those that the device tells.
+constexpr Family shownPorts{1, NET_PORT_COUNT};
+constexpr Family opticalLinks{1, 2};
 
 void applyPortLink(ParaChange &change)
 {
-    const int port = change.index - PARA_PortLink;
-    change.engine.UpdatePortState(port);
+    change.engine.UpdatePortState(change.member);
     if (ProductionTest::m_cur_step == FACTORY_STEP_IN_OUT && change.number(change.index))
-        emit change.engine.signal_update_menuitem(en_inout_test_index(INOUT_NET1 + port), ITEM_PASSED);
+        emit change.engine.signal_update_menuitem(en_inout_test_index(INOUT_NET1 + change.member), ITEM_PASSED);
 }
 
 /// The device is primary or backup as a whole; while its ports differ the item stays.
 void applyPortBackup(ParaChange &change)
 {
-    change.engine.UpdatePortState(change.index - PARA_PortBackup);
+    change.engine.UpdatePortState(change.member);
     if (!change.fromDevice())
         return;
     int backups = 0;
@@ -43,12 +40,12 @@ void applyPortBackup(ParaChange &change)
 void applyBackupEngaged(ParaChange &change)
 {
     if (change.number(change.index) != change.oldValue.toInt())
-        change.engine.UpdatePortState(change.index - PARA_PortBackupEngaged);
+        change.engine.UpdatePortState(change.member);
 }
 
 void applyOpt1BackupEngaged(ParaChange &change)
 {
-    change.engine.UpdataOPT1PortState(change.index - PARA_OPT1BackupEngaged);
+    change.engine.UpdataOPT1PortState(change.member);
 }
 
 /// The second optical link has no ports on the home screen.
@@ -56,20 +53,19 @@ void applyOpt2BackupEngaged(ParaChange &) {}
 
 void applyOpt1PortLink(ParaChange &change)
 {
-    change.engine.UpdataOPT1PortState(change.index - PARA_OPT1PortLink);
+    change.engine.UpdataOPT1PortState(change.member);
 }
 
 void applyOpt2PortLink(ParaChange &change)
 {
-    const int port = change.index - PARA_OPT2PortLink;
-    qDebug() << "device" << port << "opt2" << change.value;
-    change.engine.UpdateOPT2PortBackUPState(port);
+    qDebug() << "device" << change.member << "opt2" << change.value;
+    change.engine.UpdateOPT2PortBackUPState(change.member);
 }
 
 void applyOptLink(ParaChange &change)
 {
     if (change.number(change.index) != change.oldValue.toInt())
-        change.engine.UpdateOPTLinkState(change.index - PARA_OPT1Link);
+        change.engine.UpdateOPTLinkState(change.member);
 }
 
 void applyOpticalBackup(ParaChange &change)
@@ -80,21 +76,21 @@ void applyOpticalBackup(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_DeviceBackup, MENU_DeviceBackup, applyOpticalBackup},
-    {MENU_OPT2Mode, MENU_OPT2Mode, applyOpticalBackup},
-    shownPorts(PARA_PortLink, applyPortLink),
-    shownPorts(PARA_PortBackup, applyPortBackup),
-    shownPorts(PARA_PortBackupEngaged, applyBackupEngaged),
-    shownPorts(PARA_OPT1BackupEngaged, applyOpt1BackupEngaged),
-    shownPorts(PARA_OPT2BackupEngaged, applyOpt2BackupEngaged),
-    {PARA_OPT1PortLink, nth(PARA_OPT1PortLink, ProcessData::portCount - 1), applyOpt1PortLink},
-    {PARA_OPT2PortLink, nth(PARA_OPT2PortLink, ProcessData::portCount - 1), applyOpt2PortLink},
-    {PARA_OPT1Link, PARA_OPT2Link, applyOptLink},
+    {MENU_DeviceBackup, applyOpticalBackup},
+    {MENU_OPT2Mode, applyOpticalBackup},
+    {each(shownPorts, PARA_PortLink), applyPortLink},
+    {each(shownPorts, PARA_PortBackup), applyPortBackup},
+    {each(shownPorts, PARA_PortBackupEngaged), applyBackupEngaged},
+    {each(shownPorts, PARA_OPT1BackupEngaged), applyOpt1BackupEngaged},
+    {each(shownPorts, PARA_OPT2BackupEngaged), applyOpt2BackupEngaged},
+    {each(FAMILY_PortState, PARA_OPT1PortLink), applyOpt1PortLink},
+    {each(FAMILY_PortState, PARA_OPT2PortLink), applyOpt2PortLink},
+    {each(opticalLinks, PARA_OPT1Link), applyOptLink},
 };
 } // namespace
 
-ApplyFamily portFamily()
+Table<ApplyCase> portCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -184,7 +184,7 @@ void applyPreset(ParaChange &change)
 {
     if (!change.fromUser())
         return change.tail();
-    const Preset preset(change, change.index - MENU_Preset1);
+    const Preset preset(change, change.member);
     const auto *targets = poolObject<Page>(ENUM_PAGE_PresetCopyTo);
     if (targets && frontWindow() == targets)
         copyTo(change, preset);
@@ -193,13 +193,13 @@ void applyPreset(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Preset1, MENU_Preset10, applyPreset},
+    {each(FAMILY_Preset, MENU_Preset1), applyPreset},
 };
 } // namespace
 
-ApplyFamily presetFamily()
+Table<ApplyCase> presetCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 
 void quickLoadPreset(ParaProcess &engine, MenuAnalysis &store, int number)

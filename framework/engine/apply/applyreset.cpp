@@ -162,13 +162,13 @@ void clearAllParameters(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_SaveIP, MENU_ResetAll, applyReset},
-    {MENU_ClearAllParameters, MENU_ClearAllParameters, clearAllParameters},
+    {range(MENU_SaveIP, MENU_ResetAll), applyReset},
+    {MENU_ClearAllParameters, clearAllParameters},
 };
 } // namespace
 
-ApplyFamily resetFamily()
+Table<ApplyCase> resetCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

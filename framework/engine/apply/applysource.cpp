@@ -74,7 +74,7 @@ void applyMainSource(ParaChange &change)
 
 void applyPipSource(ParaChange &change)
 {
-    const LayerItems &layer = layerOf(change.index);
+    const LayerItems &layer = layerOf(change);
     const bool sender = isSendingCard(change);
     setEnabled(change, layer.cropPage, hasSignal(change));
     if (!sender || !hasSignal(change))
@@ -85,14 +85,13 @@ void applyPipSource(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_MainLayer_InputSource, MENU_MainLayer_InputSource, applyMainSource},
-    {MENU_PIP1_InputSource, MENU_PIP1_InputSource, applyPipSource},
-    {MENU_PIP2_InputSource, MENU_PIP2_InputSource, applyPipSource},
+    {MENU_MainLayer_InputSource, applyMainSource},
+    {each(FAMILY_Pip, MENU_PIP1_InputSource), applyPipSource},
 };
 } // namespace
 
-ApplyFamily sourceFamily()
+Table<ApplyCase> sourceCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -163,15 +163,15 @@ void applySplicingReset(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_ImageMosaic_Status, MENU_ImageMosaic_Status, applySplicing},
-    {MENU_ImageMosaic_TotalHPixels, MENU_ImageMosaic_TotalVPixels, applyTotal},
-    {MENU_ImageMosaic_LoadAreaWidth, MENU_ImageMosaic_LoadAreaHeight, applyLoadAreaSize},
-    {MENU_ImageMosaic_Reset, MENU_ImageMosaic_Reset, applySplicingReset},
+    {MENU_ImageMosaic_Status, applySplicing},
+    {range(MENU_ImageMosaic_TotalHPixels, MENU_ImageMosaic_TotalVPixels), applyTotal},
+    {range(MENU_ImageMosaic_LoadAreaWidth, MENU_ImageMosaic_LoadAreaHeight), applyLoadAreaSize},
+    {MENU_ImageMosaic_Reset, applySplicingReset},
 };
 } // namespace
 
-ApplyFamily splicingFamily()
+Table<ApplyCase> splicingCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -131,15 +131,15 @@ void applyEmitter(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Mode3D_Status, MENU_Mode3D_Status, applyStereo},
-    {MENU_Mode3D_Format, MENU_Mode3D_Format, applyFormat},
-    {MENU_Mode3D_RightEyeStart, MENU_Mode3D_RightEyeStart, applyRightEyeStart},
-    {MENU_Mode3D_SignalDelayTime, MENU_Mode3D_ThirdPartyEmitter, applyEmitter},
+    {MENU_Mode3D_Status, applyStereo},
+    {MENU_Mode3D_Format, applyFormat},
+    {MENU_Mode3D_RightEyeStart, applyRightEyeStart},
+    {range(MENU_Mode3D_SignalDelayTime, MENU_Mode3D_ThirdPartyEmitter), applyEmitter},
 };
 } // namespace
 
-ApplyFamily stereoFamily()
+Table<ApplyCase> stereoCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -103,8 +103,7 @@ void showCabinetFiles(ParaChange &change)
 
 void applyOsdPicture(ParaChange &change)
 {
-    change.enableRow(MENU_OSDChoice, change.index - EVENT_OSDPictureFirst,
-                     change.value == QLatin1String("1"));
+    change.enableRow(MENU_OSDChoice, change.member, change.value == QLatin1String("1"));
 }
 
 void applySoftCalibration(ParaChange &change)
@@ -120,17 +119,15 @@ void applyServiceStarted(ParaChange &change)
     change.engine.services().started(change.index);
 }
 
-constexpr int osdPictureCount = 8;
-
 constexpr ApplyCase cases[] = {
-    {MENU_LanguageEn, MENU_LanguageZh, applyLanguage},
-    {MENU_BootLogo, MENU_BootLogo, applyBootLogo},
-    {MENU_MakerSign, MENU_MakerSign, applyMakerSign},
-    {MENU_CabinetFile1, MENU_CabinetFile8, loadCabinetFile},
-    {EVENT_OSDPictureFirst, nth(EVENT_OSDPictureFirst, osdPictureCount - 1), applyOsdPicture},
-    {EVENT_CabinetListLoaded, EVENT_CabinetListLoaded, showCabinetFiles},
-    {EVENT_SoftCalibrate, EVENT_SoftCalibrate, applySoftCalibration},
-    {EVENT_VideoServiceStarted, EVENT_SenderServiceStarted, applyServiceStarted},
+    {range(MENU_LanguageEn, MENU_LanguageZh), applyLanguage},
+    {MENU_BootLogo, applyBootLogo},
+    {MENU_MakerSign, applyMakerSign},
+    {range(MENU_CabinetFile1, MENU_CabinetFile8), loadCabinetFile},
+    {each(FAMILY_OSDPicture, EVENT_OSDPictureFirst), applyOsdPicture},
+    {EVENT_CabinetListLoaded, showCabinetFiles},
+    {EVENT_SoftCalibrate, applySoftCalibration},
+    {range(EVENT_VideoServiceStarted, EVENT_SenderServiceStarted), applyServiceStarted},
 };
 } // namespace
 
@@ -142,8 +139,8 @@ void speakLanguage(ParaProcess &engine, bool english)
     });
 }
 
-ApplyFamily systemFamily()
+Table<ApplyCase> systemCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -57,15 +57,15 @@ void leaveCustomPicture(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_Test_Type, MENU_Test_Type, applyType},
-    {MENU_Test_PureColor, MENU_Test_Grid, applyPattern},
-    {MENU_Test_Snapshot, MENU_Test_Snapshot, openSnapshotPage},
-    {MENU_Test_CustomPicture1, MENU_Test_CustomPicture4, leaveCustomPicture},
+    {MENU_Test_Type, applyType},
+    {range(MENU_Test_PureColor, MENU_Test_Grid), applyPattern},
+    {MENU_Test_Snapshot, openSnapshotPage},
+    {range(MENU_Test_CustomPicture1, MENU_Test_CustomPicture4), leaveCustomPicture},
 };
 } // namespace
 
-ApplyFamily testPatternFamily()
+Table<ApplyCase> testPatternCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -144,14 +144,14 @@ void applySender(ParaChange &change)
 }
 
 constexpr ApplyCase cases[] = {
-    {MENU_VideoController, MENU_VideoController, applyController},
-    {MENU_FiberConverter, MENU_FiberConverter, applyFiber},
-    {MENU_SendingCard, MENU_SendingCard, applySender},
+    {MENU_VideoController, applyController},
+    {MENU_FiberConverter, applyFiber},
+    {MENU_SendingCard, applySender},
 };
 } // namespace
 
-ApplyFamily workModeFamily()
+Table<ApplyCase> workModeCases()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

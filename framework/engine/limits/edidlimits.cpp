@@ -23,10 +23,7 @@ constexpr uint64_t frameStoreBits = 0x10000000;
 
 /// The three items of one input's custom EDID.
 struct CustomEdid {
-    explicit CustomEdid(const ParaProcess &paraProcess, ENUM_MenuIndex index)
-        : engine(paraProcess), input((index - MENU_HDMI1_EDIDWidth) / STRIDE_InputPicture)
-    {
-    }
+    explicit CustomEdid(const ParaLimit &asked) : engine(asked.engine), input(asked.member) {}
     ENUM_MenuIndex of(ENUM_MenuIndex ofHdmi1) const { return nth(ofHdmi1, input, STRIDE_InputPicture); }
     int width() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDWidth)).toInt()); }
     int height() const { return uint16_t(engine.GetParaFromIndex(of(MENU_HDMI1_EDIDHeight)).toInt()); }
@@ -51,17 +48,17 @@ bool fitsFrameStore(int width, int height)
     return units * uint64_t(height) * 512 <= frameStoreBits;
 }
 
-QString limitWidth(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+QString limitWidth(const ParaLimit &asked)
 {
-    const CustomEdid edid(engine, index);
+    const CustomEdid edid(asked);
     const int height = edid.height();
     const int rate = edid.rateCentiHz();
     if (rate == 0)
-        return value;
+        return asked.value;
     int max = _CVT_GetWidthMaxValue(highClock, height, rate);
     max = max > maxSize ? maxSize : max & ~1;
     const int min = qMax(_CVT_GetWidthMinValue(lowClock, height, rate), minWidth);
-    int width = qMin(int(uint16_t(value.toInt())), max);
+    int width = qMin(int(uint16_t(asked.value.toInt())), max);
     while (width > 0 && !fitsFrameStore(width, height))
         width -= 2;
     return QString::number(qMax(width, min));
@@ -74,16 +71,16 @@ bool hasTooManyLines(int width, int height, int rateCentiHz)
     return mode.totalLines >= maxTotalLines;
 }
 
-QString limitHeight(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+QString limitHeight(const ParaLimit &asked)
 {
-    const CustomEdid edid(engine, index);
+    const CustomEdid edid(asked);
     const int width = edid.width();
     const int rate = edid.rateCentiHz();
     if (rate == 0)
-        return value;
+        return asked.value;
     const int max = qMin(_CVT_GetHeightMaxValue(highClock, width, rate), maxSize);
     const int min = qMax(_CVT_GetHeightMinValue(lowClock, width, rate), minHeight);
-    int height = qMin(int(uint16_t(value.toInt())), max);
+    int height = qMin(int(uint16_t(asked.value.toInt())), max);
     while (height > 0 && !fitsFrameStore(width, height))
         --height;
     while (height > 0 && hasTooManyLines(width, height, rate))
@@ -92,46 +89,37 @@ QString limitHeight(ParaProcess &engine, const QString &value, ENUM_MenuIndex in
 }
 
 /// The value stays; rates outside what the clocks allow are switched off in the list.
-QString limitRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+QString limitRate(const ParaLimit &asked)
 {
-    const CustomEdid edid(engine, index);
+    const CustomEdid edid(asked);
     auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
     if (!store)
-        return value;
+        return asked.value;
     const float highest =
         float(qMin(_CVT_GetframeRateMaxValue(highClock, edid.width(), edid.height()), maxRateCentiHz)) /
         100.f;
     const int lowestCenti = _CVT_GetframeRateMinValue(lowClock, edid.width(), edid.height());
     const float lowest = lowestCenti >= minRateCentiHz ? float(lowestCenti) / 100.f : 23.f;
-    store->changeItem(index, [lowest, highest](ST_ItemInfo &item) {
+    store->changeItem(asked.index, [lowest, highest](ST_ItemInfo &item) {
         for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
             const float rate = option.value().toFloat();
             item.params1[option.key()] = rate >= lowest && rate <= highest ? optionEnable : optionDisable;
         }
     });
     constexpr int stride = ENUM_ROW_HDMI2_EDIDCustomRate - ENUM_ROW_HDMI1_EDIDCustomRate;
-    repaintList(nth(ENUM_ROW_HDMI1_EDIDCustomRate, edid.input, stride), index);
-    return value;
+    repaintList(nth(ENUM_ROW_HDMI1_EDIDCustomRate, asked.member, stride), asked.index);
+    return asked.value;
 }
 
 constexpr LimitCase cases[] = {
-    {MENU_HDMI1_EDIDWidth, MENU_HDMI1_EDIDWidth, limitWidth},
-    {MENU_HDMI1_EDIDHeight, MENU_HDMI1_EDIDHeight, limitHeight},
-    {MENU_HDMI1_EDIDCustomRate, MENU_HDMI1_EDIDCustomRate, limitRate},
-    {MENU_HDMI2_EDIDWidth, MENU_HDMI2_EDIDWidth, limitWidth},
-    {MENU_HDMI2_EDIDHeight, MENU_HDMI2_EDIDHeight, limitHeight},
-    {MENU_HDMI2_EDIDCustomRate, MENU_HDMI2_EDIDCustomRate, limitRate},
-    {MENU_DVI_EDIDWidth, MENU_DVI_EDIDWidth, limitWidth},
-    {MENU_DVI_EDIDHeight, MENU_DVI_EDIDHeight, limitHeight},
-    {MENU_DVI_EDIDCustomRate, MENU_DVI_EDIDCustomRate, limitRate},
-    {MENU_DVI2_EDIDWidth, MENU_DVI2_EDIDWidth, limitWidth},
-    {MENU_DVI2_EDIDHeight, MENU_DVI2_EDIDHeight, limitHeight},
-    {MENU_DVI2_EDIDCustomRate, MENU_DVI2_EDIDCustomRate, limitRate},
+    {each(FAMILY_InputPicture, MENU_HDMI1_EDIDWidth), limitWidth},
+    {each(FAMILY_InputPicture, MENU_HDMI1_EDIDHeight), limitHeight},
+    {each(FAMILY_InputPicture, MENU_HDMI1_EDIDCustomRate), limitRate},
 };
 } // namespace
 
-LimitFamily edidLimits()
+Table<LimitCase> edidLimits()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

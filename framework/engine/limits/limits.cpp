@@ -5,9 +5,6 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 
-#include <algorithm>
-#include <array>
-
 namespace VASK
 {
 void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list)
@@ -16,17 +13,14 @@ void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list)
         widget->SetParaEntry(list, QString(), SET_XML_STORE);
 }
 
-const LimitCase *findLimitCase(ENUM_MenuIndex index)
+TableEntry<LimitCase> findLimitCase(ENUM_MenuIndex index)
 {
-    static const std::array<LimitFamily, 3> families{screenLimits(), layerLimits(), edidLimits()};
-    for (const LimitFamily &family : families) {
-        const LimitCase *end = family.cases + family.count;
-        const LimitCase *found = std::find_if(family.cases, end, [index](const LimitCase &row) {
-            return index >= row.first && index <= row.last;
-        });
-        if (found != end)
-            return found;
-    }
-    return nullptr;
+    static const Table<LimitCase> families[] = {
+#define FPD_FAMILY(name) name##Limits(),
+#include "framework/engine/limits/families.def"
+#undef FPD_FAMILY
+    };
+    static const TableIndex<ENUM_MenuIndex, LimitCase> cases(families);
+    return cases.find(index);
 }
 } // namespace VASK

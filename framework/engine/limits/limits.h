@@ -3,7 +3,8 @@
 // Any thread.
 #pragma once
 
-#include "menu/itemindex.h"
+#include "framework/table.h"
+#include "menu/itemfamilies.h"
 #include "menu/objectindex.h"
 
 #include <QString>
@@ -12,14 +13,21 @@ namespace VASK
 {
 class ParaProcess;
 
-struct LimitCase {
-    ENUM_MenuIndex first;
-    ENUM_MenuIndex last;
-    QString (*apply)(ParaProcess &engine, const QString &value, ENUM_MenuIndex index);
+/// A value that is asked for.
+struct ParaLimit {
+    ParaProcess &engine;
+    const QString &value;
+    ENUM_MenuIndex index;
+    int member; ///< number of the layer or input that the item belongs to
 };
 
-/// The case of an item, null if nothing but its own limits holds it.
-const LimitCase *findLimitCase(ENUM_MenuIndex index);
+struct LimitCase {
+    ItemSpan span;
+    QString (*apply)(const ParaLimit &asked);
+};
+
+/// The case of an item, without a row if nothing but its own limits holds it.
+TableEntry<LimitCase> findLimitCase(ENUM_MenuIndex index);
 
 /// A list has other options available: its row, if its page is built, shows them.
 void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list);
@@ -28,11 +36,7 @@ void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list);
 /// the first port carries.
 bool firstPortOverloads(const ParaProcess &engine, int cabinets);
 
-struct LimitFamily {
-    const LimitCase *cases;
-    int count;
-};
-LimitFamily screenLimits();
-LimitFamily layerLimits();
-LimitFamily edidLimits();
+#define FPD_FAMILY(name) Table<LimitCase> name##Limits();
+#include "framework/engine/limits/families.def"
+#undef FPD_FAMILY
 } // namespace VASK

@@ -55,22 +55,22 @@ template <class Fits> int lowerUntil(int count, int floor, Fits fits)
     return count < floor ? floor : count;
 }
 
-QString limitQuickRows(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
+QString limitQuickRows(const ParaLimit &asked)
 {
-    const Screen screen(engine);
+    const Screen screen(asked.engine);
     const int columns = screen.number(MENU_Quick_CabinetCol);
-    const int rows = lowerUntil(uint16_t(value.toInt()), 1, [&](int count) {
+    const int rows = lowerUntil(uint16_t(asked.value.toInt()), 1, [&](int count) {
         return screen.heightOf(count) <= maxScreenHeight &&
                !screen.outputOverloads(screen.widthOf(columns), screen.heightOf(count));
     });
     return QString::number(rows);
 }
 
-QString limitQuickColumns(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
+QString limitQuickColumns(const ParaLimit &asked)
 {
-    const Screen screen(engine);
+    const Screen screen(asked.engine);
     const int rows = screen.number(MENU_Quick_CabinetRow);
-    const int columns = lowerUntil(uint16_t(value.toInt()), 1, [&](int count) {
+    const int columns = lowerUntil(uint16_t(asked.value.toInt()), 1, [&](int count) {
         return screen.widthOf(count) <= maxScreenWidth &&
                !screen.outputOverloads(screen.widthOf(count), screen.heightOf(rows));
     });
@@ -89,33 +89,33 @@ int wholeLines(const Screen &screen, int cabinets)
     return qMax(1, (cabinets + line - 1) / line) * line;
 }
 
-QString limitPortOne(ParaProcess &engine, const QString &value, ENUM_MenuIndex)
+QString limitPortOne(const ParaLimit &asked)
 {
-    const Screen screen(engine);
+    const Screen screen(asked.engine);
     const int rows = screen.number(MENU_Quick_CabinetRow);
     const int columns = screen.number(MENU_Quick_CabinetCol);
-    int cabinets = lowerUntil(uint16_t(value.toInt()), 1, [&](int count) {
+    int cabinets = lowerUntil(uint16_t(asked.value.toInt()), 1, [&](int count) {
         return !screen.portOverloads(screen.widthOf(count), screen.cabinetHeight);
     });
     const int total = uint16_t(int64_t(rows) * columns);
     cabinets = cabinets > total ? total : qMax(cabinets, (total + quickPorts - 1) / quickPorts);
-    if (firstPortOverloads(engine, cabinets))
-        engine.runMessage(MSG_OverLoad);
+    if (firstPortOverloads(asked.engine, cabinets))
+        asked.engine.runMessage(MSG_OverLoad);
     return QString::number(cabinets);
 }
 
 /// Rows or columns of one port in the advanced configuration.
-QString limitAdvancedCount(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+QString limitAdvancedCount(const ParaLimit &asked)
 {
-    const Screen screen(engine);
-    const bool isRows = index == MENU_Advanced_CabinetRow;
+    const Screen screen(asked.engine);
+    const bool isRows = asked.index == MENU_Advanced_CabinetRow;
     const int other = screen.number(isRows ? MENU_Advanced_CabinetCol : MENU_Advanced_CabinetRow);
     const int offset = screen.number(isRows ? MENU_Advanced_VerOffset : MENU_Advanced_HorOffset);
     const int limit = isRows ? maxScreenHeight : maxScreenWidth;
-    const AdvancedPorts ports(engine);
+    const AdvancedPorts ports(asked.engine);
     const int port = ports.chosen();
 
-    int count = lowerUntil(uint16_t(value.toInt()), 1, [&](int candidate) {
+    int count = lowerUntil(uint16_t(asked.value.toInt()), 1, [&](int candidate) {
         const int64_t width = screen.widthOf(isRows ? other : candidate);
         const int64_t height = screen.heightOf(isRows ? candidate : other);
         return !screen.portOverloads(width, height) && (isRows ? height : width) + offset <= limit;
@@ -130,17 +130,17 @@ QString limitAdvancedCount(ParaProcess &engine, const QString &value, ENUM_MenuI
 }
 
 /// Start of one port in the advanced configuration.
-QString limitAdvancedStart(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+QString limitAdvancedStart(const ParaLimit &asked)
 {
-    const Screen screen(engine);
-    const bool isX = index == MENU_Advanced_HorOffset;
+    const Screen screen(asked.engine);
+    const bool isX = asked.index == MENU_Advanced_HorOffset;
     const int64_t width = screen.widthOf(screen.number(MENU_Advanced_CabinetCol));
     const int64_t height = screen.heightOf(screen.number(MENU_Advanced_CabinetRow));
     const int other = screen.number(isX ? MENU_Advanced_VerOffset : MENU_Advanced_HorOffset);
-    const AdvancedPorts ports(engine);
+    const AdvancedPorts ports(asked.engine);
     const int port = ports.chosen();
 
-    int start = lowerUntil(uint16_t(value.toInt()), 0, [&](int candidate) {
+    int start = lowerUntil(uint16_t(asked.value.toInt()), 0, [&](int candidate) {
         return isX ? candidate + width <= maxScreenWidth : candidate + height <= maxScreenHeight;
     });
     start = lowerUntil(start, 0, [&](int candidate) {
@@ -153,33 +153,33 @@ QString limitAdvancedStart(ParaProcess &engine, const QString &value, ENUM_MenuI
 }
 
 /// The value stays; rates that the output cannot carry are switched off in the list.
-QString limitOutputRate(ParaProcess &engine, const QString &value, ENUM_MenuIndex index)
+QString limitOutputRate(const ParaLimit &asked)
 {
     constexpr float horizontalBlank = 33;
     constexpr float verticalBlank = 20;
     auto *store = poolObject<MenuAnalysis>(ENUM_MENUANALYSIS);
     if (!store)
-        return value;
-    const float pixels = (float(engine.processData().value(PARA_OutputWidth)) + horizontalBlank) *
-                         (float(engine.processData().value(PARA_OutputHeight)) + verticalBlank);
-    const float factor = DeviceView(engine).doublesRate() ? 2.f : 1.f;
-    store->changeItem(index, [pixels, factor](ST_ItemInfo &item) {
+        return asked.value;
+    const float pixels = (float(asked.engine.processData().value(PARA_OutputWidth)) + horizontalBlank) *
+                         (float(asked.engine.processData().value(PARA_OutputHeight)) + verticalBlank);
+    const float factor = DeviceView(asked.engine).doublesRate() ? 2.f : 1.f;
+    store->changeItem(asked.index, [pixels, factor](ST_ItemInfo &item) {
         for (auto option = item.params.cbegin(); option != item.params.cend(); ++option) {
             const bool overload = pixels * option.value().toFloat() * factor > float(wholeOutputPixelRate);
             item.params1[option.key()] = overload ? optionDisable : optionEnable;
         }
     });
-    repaintList(ENUM_ROW_OutputFrameRate, index);
-    return value;
+    repaintList(ENUM_ROW_OutputFrameRate, asked.index);
+    return asked.value;
 }
 
 constexpr LimitCase cases[] = {
-    {MENU_Quick_CabinetRow, MENU_Quick_CabinetRow, limitQuickRows},
-    {MENU_Quick_CabinetCol, MENU_Quick_CabinetCol, limitQuickColumns},
-    {MENU_Quick_PortOneCab, MENU_Quick_PortOneCab, limitPortOne},
-    {MENU_Advanced_CabinetRow, MENU_Advanced_CabinetCol, limitAdvancedCount},
-    {MENU_Advanced_HorOffset, MENU_Advanced_VerOffset, limitAdvancedStart},
-    {MENU_OutputFrameRate, MENU_OutputFrameRate, limitOutputRate},
+    {MENU_Quick_CabinetRow, limitQuickRows},
+    {MENU_Quick_CabinetCol, limitQuickColumns},
+    {MENU_Quick_PortOneCab, limitPortOne},
+    {range(MENU_Advanced_CabinetRow, MENU_Advanced_CabinetCol), limitAdvancedCount},
+    {range(MENU_Advanced_HorOffset, MENU_Advanced_VerOffset), limitAdvancedStart},
+    {MENU_OutputFrameRate, limitOutputRate},
 };
 } // namespace
 
@@ -191,8 +191,8 @@ bool firstPortOverloads(const ParaProcess &engine, int cabinets)
     return screen.portOverloads(screen.widthOf(loaded), screen.cabinetHeight);
 }
 
-LimitFamily screenLimits()
+Table<LimitCase> screenLimits()
 {
-    return {cases, int(std::size(cases))};
+    return cases;
 }
 } // namespace VASK

@@ -52,10 +52,8 @@ void Proto3rdSend::deleteInstance()
     delete m_pInstance.exchange(nullptr);
 }
 
-Proto3rdSend::Proto3rdSend() : VaskObject(ENUM_PROTO3RD_SEND)
+Proto3rdSend::Proto3rdSend() : VaskObject(ENUM_PROTO3RD_SEND), m_mapMenuIndexAndHander(sendFamilies())
 {
-    for (const SendFamily &family : sendFamilies())
-        addRows(family);
     CreateObjectToPool(ENUM_PROTO3RD_SEND, this);
     lookForPeers();
 }
@@ -66,17 +64,6 @@ Proto3rdSend::~Proto3rdSend()
     mSendFlg = false;
     mSendDate.reset();
     mSendIndexCur = mSendIndexLast = MENU_OWN;
-}
-
-void Proto3rdSend::addRows(const SendFamily &family)
-{
-    for (int r = 0; r < family.count; ++r) {
-        const SendRow &row = family.rows[r];
-        for (int member = 0; member < row.members; ++member)
-            for (int place = 0; place <= row.last - row.first; ++place)
-                m_mapMenuIndexAndHander.insert({nth(nth(row.first, member, row.stride), place),
-                                                SendEntry{&row, row.firstMember + member, place}});
-    }
 }
 
 ParaProcess *Proto3rdSend::engine()
@@ -113,12 +100,11 @@ int Proto3rdSend::HandleMenuValueChanged(ENUM_MenuIndex index, const QString &va
 {
     if (onGuiThread())
         mSendIndexCur = index;
-    const auto found = m_mapMenuIndexAndHander.find(index);
-    if (found == m_mapMenuIndexAndHander.end()) {
+    const TableEntry<SendRow> entry = m_mapMenuIndexAndHander.find(index);
+    if (!entry.row) {
         qDebug() << "No Hander! enMenuIndex:" << int(index);
         return SEND_NoHandler;
     }
-    const SendEntry &entry = found->second;
     if (!entry.row->handler)
         return SEND_Done;
     return entry.row->handler({index, value, *entry.row, entry.member, entry.place});

@@ -6,11 +6,11 @@
 
 #include "framework/object/vaskobject.h"
 #include "framework/protocol/send/gammacurve.h"
+#include "framework/table.h"
 #include "menu/itemindex.h"
 
 #include <QMutex>
 #include <atomic>
-#include <map>
 #include <memory>
 
 namespace VASK
@@ -22,18 +22,10 @@ class PackageRequestWriteData;
 class ParaProcess;
 class Proto3rd;
 struct SendChange;
-struct SendFamily;
 struct SendRow;
 
 /// Results of a change on its way to the device.
 enum SendResult : int { SEND_Done = 0, SEND_NoHandler = 1, SEND_BadValue = 2, SEND_Failed = 3 };
-
-/// The row of the send table that an item belongs to, and the item's place in it.
-struct SendEntry {
-    const SendRow *row = nullptr;
-    int member = 0; ///< number of the layer, input or port
-    int place = 0;  ///< in the block of that member
-};
 
 enum MosaicType : int { MOSAIC_On = 1, MOSAIC_Off = 2 };
 
@@ -96,8 +88,6 @@ private:
     Proto3rdSend();
     ~Proto3rdSend() override;
 
-    void addRows(const SendFamily &family);
-
     static int queueFrame(std::unique_ptr<PackageRequestProto3rd> package);
     static CommunicationClientInterface *communication();
     static Proto3rd *protocol();
@@ -108,6 +98,6 @@ private:
     static QMutex m_mutex;
     static std::atomic<MosaicType> m_enFlag;
 
-    std::map<ENUM_MenuIndex, SendEntry> m_mapMenuIndexAndHander;
+    const TableIndex<ENUM_MenuIndex, SendRow> m_mapMenuIndexAndHander;
 };
 } // namespace VASK

@@ -76,8 +76,8 @@ constexpr SendRow rows[] = {
 };
 } // namespace
 
-SendFamily displayRows()
+Table<SendRow> displayRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

@@ -88,8 +88,8 @@ constexpr SendRow rows[] = {
 };
 } // namespace
 
-SendFamily gammaRows()
+Table<SendRow> gammaRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

@@ -24,7 +24,7 @@ enum EnInputSourceCardNo : int {
     CARD_SDI,
     CARD_END,
 };
-constexpr int stridedCards = CARD_SDI; ///< their pages are twins with item numbers a stride apart
+static_assert(CARD_SDI == FAMILY_InputPicture.count);
 
 /// The codes by which the device knows them in picture and EDID registers.
 constexpr quint8 cardCodes[CARD_END] = {INPUT_HDMI1, INPUT_HDMI2, INPUT_DVI1, INPUT_DVI2, INPUT_SDI};
@@ -131,52 +131,42 @@ int InputMosaicParaChanged(const SendChange &change)
     return change.sendBytes(data);
 }
 
-/// A value of the picture page: a row for the twins and one for SDI.
-constexpr SendRow twins(ENUM_MenuIndex ofHdmi1, int stride, int (*handler)(const SendChange &),
-                        RegisterBuilder builder, ValueForm form = {})
-{
-    return family(ofHdmi1, ofHdmi1, stride, stridedCards, handler, builder, form);
-}
-constexpr SendRow sdi(ENUM_MenuIndex index, int (*handler)(const SendChange &), RegisterBuilder builder,
-                      ValueForm form = {})
-{
-    return family(index, index, 0, 1, handler, builder, form, CARD_SDI);
-}
+constexpr Family sdi{0, 1, CARD_SDI};
+constexpr Family hdmiInputs{1, 2};
+constexpr Family silentInputs{1, 6, hdmiInputs.count}; ///< without sound of their own
+constexpr Family backupPairs{1, 3};
 
 constexpr SendRow rows[] = {
-    twins(MENU_HDMI1_Brightness, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulityLightness),
-    sdi(MENU_SDI_Brightness, pictureValueChanged, P::Set_ScreenQulityLightness),
-    twins(MENU_HDMI1_Contrast, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulityContrast),
-    sdi(MENU_SDI_Contrast, pictureValueChanged, P::Set_ScreenQulityContrast),
-    twins(MENU_HDMI1_Saturation, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulitySaturation),
-    sdi(MENU_SDI_Saturation, pictureValueChanged, P::Set_ScreenQulitySaturation),
-    twins(MENU_HDMI1_Hue, STRIDE_InputPicture, pictureValueChanged, P::Set_ScreenQulityHue, number(2)),
-    sdi(MENU_SDI_Hue, pictureValueChanged, P::Set_ScreenQulityHue, number(2)),
-    twins(MENU_HDMI1_ColorReset, STRIDE_InputPicture, InQualityReset, P::Set_ScreenQulityReset),
-    sdi(MENU_SDI_ColorReset, InQualityReset, P::Set_ScreenQulityReset),
+    // The pages of the inputs are twins; SDI has one of its own.
+    own(each(FAMILY_InputPicture, MENU_HDMI1_Brightness), pictureValueChanged, P::Set_ScreenQulityLightness),
+    own(each(sdi, MENU_SDI_Brightness), pictureValueChanged, P::Set_ScreenQulityLightness),
+    own(each(FAMILY_InputPicture, MENU_HDMI1_Contrast), pictureValueChanged, P::Set_ScreenQulityContrast),
+    own(each(sdi, MENU_SDI_Contrast), pictureValueChanged, P::Set_ScreenQulityContrast),
+    own(each(FAMILY_InputPicture, MENU_HDMI1_Saturation), pictureValueChanged, P::Set_ScreenQulitySaturation),
+    own(each(sdi, MENU_SDI_Saturation), pictureValueChanged, P::Set_ScreenQulitySaturation),
+    own(each(FAMILY_InputPicture, MENU_HDMI1_Hue), pictureValueChanged, P::Set_ScreenQulityHue, number(2)),
+    own(each(sdi, MENU_SDI_Hue), pictureValueChanged, P::Set_ScreenQulityHue, number(2)),
+    own(each(FAMILY_InputPicture, MENU_HDMI1_ColorReset), InQualityReset, P::Set_ScreenQulityReset),
+    own(each(sdi, MENU_SDI_ColorReset), InQualityReset, P::Set_ScreenQulityReset),
 
-    twins(MENU_HDMI1_LimitedtoFull, STRIDE_Input, sendPlain, P::Set_ScreenColorRange, zeroOneElse(0, 1, 0)),
-    twins(MENU_HDMI1_EDIDApply, STRIDE_InputPicture, EDIDApplySubmit,
-          P::Set_InResolutionRatioAndRefreshRateResource),
+    plain(each(FAMILY_Input, MENU_HDMI1_LimitedtoFull), zeroOneElse(0, 1, 0), P::Set_ScreenColorRange),
+    own(each(FAMILY_InputPicture, MENU_HDMI1_EDIDApply), EDIDApplySubmit,
+        P::Set_InResolutionRatioAndRefreshRateResource),
 
-    // HDMI can bring sound of its own, the other inputs can not.
-    family(MENU_AudioInput_HDMI1, MENU_AudioInput_HDMI1, 1, 2, sendPlain, P::Set_AudioSettingInputsource,
-           zeroElse(1, 2)),
-    family(MENU_AudioInput_DVI, MENU_AudioInput_DVI, 1, 6, sendPlain, P::Set_AudioSettingInputsource,
-           zeroElse(0, 2), 2),
+    plain(each(hdmiInputs, MENU_AudioInput_HDMI1), zeroElse(1, 2), P::Set_AudioSettingInputsource),
+    plain(each(silentInputs, MENU_AudioInput_DVI), zeroElse(0, 2), P::Set_AudioSettingInputsource),
 
     own(MENU_HDCP, HdcpSwitchChanged, P::Set_HdcpStatus),
 
     plain(MENU_InputBackup_Status, onOff(backupOn, 255), P::Set_InputSourceHotBackUpSwitch),
-    family(MENU_InputBackup_HDMI1, MENU_InputBackup_HDMI1, 1, 3, inputBackupChanged,
-           P::Set_InputSourceHotBackUpSource),
+    own(each(backupPairs, MENU_InputBackup_HDMI1), inputBackupChanged, P::Set_InputSourceHotBackUpSource),
 
     own(MENU_Mosaic_Apply, InputMosaicParaChanged, P::Set_InputMosaicPara),
 };
 } // namespace
 
-SendFamily inputRows()
+Table<SendRow> inputRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

@@ -13,8 +13,6 @@ namespace
 {
 using P = TGProtocolParser3rd;
 
-constexpr int layerCount = 3;
-
 /// The value is the number of the input among all inputs.
 int InputSourceValueChanged(const SendChange &change)
 {
@@ -77,27 +75,21 @@ int InterceptionValueChanged(const SendChange &change)
         change, toAllBoards(P::Set_SenderInterception, data, change.tag(), layer, source.index));
 }
 
-constexpr SendRow eachLayer(ENUM_MenuIndex index, ValueForm form, RegisterBuilder builder)
-{
-    return family(index, index, STRIDE_Layer, layerCount, sendPlain, builder, form);
-}
-
 constexpr SendRow rows[] = {
-    eachLayer(MENU_MainLayer_Status, zeroElse(0, 1), P::Set_SenderFormsStatusData),
-    family(MENU_MainLayer_InputSource, MENU_MainLayer_InputSource, STRIDE_Layer, layerCount,
-           InputSourceValueChanged, P::Set_SenderFormsRosourceCard),
-    family(MENU_MainLayer_HorWidth, MENU_MainLayer_InitialY, STRIDE_Layer, layerCount, WindowValueChanged,
-           P::Set_SenderFormsHorStartData),
-    eachLayer(MENU_MainLayer_Priority, number(), P::Set_SenderFormsPriorityData),
-    eachLayer(MENU_MainLayer_Opacity, number(), P::Set_SenderFormsTransparent),
-    family(MENU_MainLayerCrop_Status, MENU_MainLayerCrop_InitialY, STRIDE_Crop, layerCount,
-           InterceptionValueChanged),
-    family(EVENT_SendingCardX, EVENT_SendingCardY, 0, 1, MAINWindowChangedtoSend, P::Set_HorStartDataToSend),
+    plain(each(FAMILY_Layer, MENU_MainLayer_Status), zeroElse(0, 1), P::Set_SenderFormsStatusData),
+    own(each(FAMILY_Layer, MENU_MainLayer_InputSource), InputSourceValueChanged,
+        P::Set_SenderFormsRosourceCard),
+    own(each(FAMILY_Layer, MENU_MainLayer_HorWidth, MENU_MainLayer_InitialY), WindowValueChanged,
+        P::Set_SenderFormsHorStartData),
+    plain(each(FAMILY_Layer, MENU_MainLayer_Priority), number(), P::Set_SenderFormsPriorityData),
+    plain(each(FAMILY_Layer, MENU_MainLayer_Opacity), number(), P::Set_SenderFormsTransparent),
+    own(each(FAMILY_Crop, MENU_MainLayerCrop_Status, MENU_MainLayerCrop_InitialY), InterceptionValueChanged),
+    own(range(EVENT_SendingCardX, EVENT_SendingCardY), MAINWindowChangedtoSend, P::Set_HorStartDataToSend),
 };
 } // namespace
 
-SendFamily layerRows()
+Table<SendRow> layerRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

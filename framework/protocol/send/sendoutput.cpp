@@ -59,8 +59,8 @@ constexpr SendRow rows[] = {
 };
 } // namespace
 
-SendFamily outputRows()
+Table<SendRow> outputRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

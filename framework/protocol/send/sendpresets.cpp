@@ -57,15 +57,15 @@ constexpr SendRow rows[] = {
     own(EVENT_PresetCopy, SceneCopyItem, P::CopySence),
 
     own(MENU_ImageMosaic_Status, MosaicSwitchChanged, P::Set_MosaicSwitch, onOff(deviceOn, 0)),
-    family(MENU_ImageMosaic_LoadAreaWidth, MENU_ImageMosaic_LoadAreaInitialY, 0, 1, MosaicScreenChanged,
-           P::Set_MosaicScreenPara),
+    own(range(MENU_ImageMosaic_LoadAreaWidth, MENU_ImageMosaic_LoadAreaInitialY), MosaicScreenChanged,
+        P::Set_MosaicScreenPara),
     own(MENU_ImageMosaic_Reset, MosaicResetClick),
 };
 } // namespace
 
-SendFamily presetRows()
+Table<SendRow> presetRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 
 int Proto3rdSend::PresetLoad(unsigned char preset)

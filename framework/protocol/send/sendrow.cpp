@@ -37,10 +37,13 @@ int SendChange::sendBytes(const QByteArray &data) const
     return send(package(data));
 }
 
-const QVector<SendFamily> &sendFamilies()
+const QVector<Table<SendRow>> &sendFamilies()
 {
-    static const QVector<SendFamily> families{screenRows(), displayRows(), outputRows(), systemRows(),
-                                              presetRows(), layerRows(),   inputRows(),  gammaRows()};
+    static const QVector<Table<SendRow>> families{
+#define FPD_FAMILY(name) name##Rows(),
+#include "framework/protocol/send/families.def"
+#undef FPD_FAMILY
+    };
     return families;
 }
 

@@ -6,7 +6,8 @@
 #include "framework/protocol/link/proto3rdsend.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
 #include "framework/protocol/send/valueform.h"
-#include "menu/itemindex.h"
+#include "framework/table.h"
+#include "menu/itemfamilies.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK
@@ -46,11 +47,7 @@ struct RegisterBuilder {
 struct SendChange;
 
 struct SendRow {
-    ENUM_MenuIndex first;
-    ENUM_MenuIndex last;
-    int stride = 0;      ///< distance between the members of a family
-    int members = 1;     ///< layers, inputs, ports ...
-    int firstMember = 0; ///< number of the first of them
+    ItemSpan span;
     int (*handler)(const SendChange &change) = nullptr;
     RegisterBuilder builder = {};
     ValueForm form = {};
@@ -84,37 +81,20 @@ struct SendChange {
 /// Puts the value into the row's form and sends it to the row's register.
 int sendPlain(const SendChange &change);
 
-constexpr SendRow plain(ENUM_MenuIndex index, ValueForm form, RegisterBuilder builder)
+constexpr SendRow plain(ItemSpan items, ValueForm form, RegisterBuilder builder)
 {
-    return {index, index, 0, 1, 0, sendPlain, builder, form};
+    return {items, sendPlain, builder, form};
 }
-constexpr SendRow own(ENUM_MenuIndex index, int (*handler)(const SendChange &), RegisterBuilder builder = {},
+constexpr SendRow own(ItemSpan items, int (*handler)(const SendChange &), RegisterBuilder builder = {},
                       ValueForm form = {})
 {
-    return {index, index, 0, 1, 0, handler, builder, form};
-}
-/// Items of several members; the items of one member start a stride behind those of the member before.
-constexpr SendRow family(ENUM_MenuIndex first, ENUM_MenuIndex last, int stride, int members,
-                         int (*handler)(const SendChange &), RegisterBuilder builder = {},
-                         ValueForm form = {}, int firstMember = 0)
-{
-    return {first, last, stride, members, firstMember, handler, builder, form};
+    return {items, handler, builder, form};
 }
 
-/// The rows of one subject, a table in a file of its own.
-struct SendFamily {
-    const SendRow *rows;
-    int count;
-};
 /// All of them; no item stands in two.
-const QVector<SendFamily> &sendFamilies();
+const QVector<Table<SendRow>> &sendFamilies();
 
-SendFamily screenRows();
-SendFamily displayRows();
-SendFamily outputRows();
-SendFamily systemRows();
-SendFamily presetRows();
-SendFamily layerRows();
-SendFamily inputRows();
-SendFamily gammaRows();
+#define FPD_FAMILY(name) Table<SendRow> name##Rows();
+#include "framework/protocol/send/families.def"
+#undef FPD_FAMILY
 } // namespace VASK

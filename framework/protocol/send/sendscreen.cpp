@@ -13,7 +13,6 @@ namespace
 using P = TGProtocolParser3rd;
 
 constexpr unsigned int mappingAddress = 0x01000088;
-constexpr int portCount = 10;
 constexpr int routeWayCount = 8;
 /// Takes over what was written for the ports.
 constexpr quint8 applyAdvanced = 185;
@@ -54,7 +53,7 @@ int LoadBoxCFGFile(const SendChange &change)
 int AdvancedTurnOnNetPortValueChanged(const SendChange &change)
 {
     const int port = QString(change.value).remove(QStringLiteral("Port")).toInt();
-    if (port < 1 || port > portCount)
+    if (port < 1 || port > FAMILY_AdvancedPort.count)
         return SEND_BadValue;
     Proto3rdSend::m_usNetPortIndex = static_cast<unsigned short>(port);
     return SEND_Done;
@@ -90,7 +89,7 @@ int ChangeAdvancedPostion(const SendChange &change, const PortArea &area, int po
 
 int AdvancedTurnOnApply(const SendChange &change)
 {
-    for (int port = 1; port <= portCount; ++port) {
+    for (int port = 1; port <= FAMILY_AdvancedPort.count; ++port) {
         const PortArea area = readPort(change, port);
         int result = ChangeAdvancedPostion(change, area, port);
         if (result == SEND_Done)
@@ -109,7 +108,7 @@ constexpr SendRow rows[] = {
     plain(MENU_Quick_CabinetCol, number(), P::Set_SettingScreenColsValue),
     plain(MENU_Quick_PortOneCab, number(2), P::Set_QuickSettingScreenContainerCapacityValue),
     own(MENU_Quick_FlowWay, ScreenLineValueChanged),
-    family(MENU_CabinetFile1, MENU_CabinetFile8, 0, 1, LoadBoxCFGFile, P::Set_LoadBoxCFGFile),
+    own(range(MENU_CabinetFile1, MENU_CabinetFile8), LoadBoxCFGFile, P::Set_LoadBoxCFGFile),
     own(MENU_Mapping, ScannerMapping),
 
     plain(MENU_Advanced_Status, onOff(deviceOn, 184), P::Set_AdvancedSettingScreenSwitchValue),
@@ -122,8 +121,8 @@ constexpr SendRow rows[] = {
 };
 } // namespace
 
-SendFamily screenRows()
+Table<SendRow> screenRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

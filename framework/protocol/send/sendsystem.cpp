@@ -105,8 +105,8 @@ constexpr SendRow rows[] = {
 };
 } // namespace
 
-SendFamily systemRows()
+Table<SendRow> systemRows()
 {
-    return {rows, int(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

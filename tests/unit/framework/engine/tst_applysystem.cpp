@@ -54,11 +54,11 @@ bool changesItsItem(ENUM_ControlType type)
 void TestApplySystem::noItemHasTwoCases()
 {
     QMap<int, int> seen;
-    for (const ApplyFamily &family : applyFamilies())
-        for (int i = 0; i < family.count; ++i) {
-            QVERIFY(family.cases[i].first <= family.cases[i].last);
-            for (int index = family.cases[i].first; index <= family.cases[i].last; ++index)
-                QVERIFY2(++seen[index] == 1, QByteArray::number(index));
+    for (const Table<ApplyCase> &family : applyFamilies())
+        for (const ApplyCase &row : family) {
+            QVERIFY(row.span.first <= row.span.last);
+            row.span.forEach(
+                [&seen](int index, int, int) { QVERIFY2(++seen[index] == 1, QByteArray::number(index)); });
         }
 }
 
@@ -66,12 +66,11 @@ void TestApplySystem::noItemHasTwoCases()
 void TestApplySystem::plainItemsPassThrough()
 {
     const auto isKept = [](const ApplyCase *found) {
-        const ApplyFamily kept = keptFamily();
-        return found && found >= kept.cases && found < kept.cases + kept.count;
+        return found && found >= keptCases().begin() && found < keptCases().end();
     };
     int plain = 0;
     for (ENUM_MenuIndex index : itemsOfBuiltPages()) {
-        const ApplyCase *found = findApplyCase(index);
+        const ApplyCase *found = findApplyCase(index).row;
         if (found && !isKept(found))
             continue;
         plain += found ? 0 : 1;
@@ -97,16 +96,14 @@ void TestApplySystem::changedItemsGoSomewhere()
 {
     // These go out with their apply row, though the device tells them one by one.
     QSet<int> sent{MENU_Output_FrameRate, MENU_Net_SubnetMask, MENU_Net_Gateway};
-    for (const SendFamily &family : sendFamilies())
-        for (int r = 0; r < family.count; ++r)
-            for (int member = 0; member < family.rows[r].members; ++member)
-                for (int index = family.rows[r].first; index <= family.rows[r].last; ++index)
-                    sent << index + member * family.rows[r].stride;
+    for (const Table<SendRow> &family : sendFamilies())
+        for (const SendRow &row : family)
+            row.span.forEach([&sent](int index, int, int) { sent << index; });
     QStringList lost;
     for (const ST_MenuConfig &page : qAsConst(g_config))
         for (const st_MenuItemInfo &row : page.rowsMap)
             if (changesItsItem(row.controlType) && !sent.contains(row.menuIndex) &&
-                !findApplyCase(row.menuIndex))
+                !findApplyCase(row.menuIndex).row)
                 lost << QString("%1 on %2").arg(row.menuIndex).arg(page.title);
     QCOMPARE(lost.join(", "), QString());
 }
