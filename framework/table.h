@@ -31,6 +31,7 @@ template <class Row> struct TableEntry {
 template <class Index, class Row> class TableIndex
 {
 public:
+    TableIndex() = default;
     template <class Tables> explicit TableIndex(const Tables &tables)
     {
         for (const Table<Row> &table : tables)

@@ -25,7 +25,7 @@ template <class Index> struct Span {
     template <class Work> void forEach(Work work) const
     {
         for (int n = 0; n < family.count; ++n)
-            for (int place = 0; place <= last - first; ++place)
+            for (int place = 0; place <= int(last - first); ++place)
                 work(nth(nth(first, place), n, family.stride), family.firstMember + n, place);
     }
 };

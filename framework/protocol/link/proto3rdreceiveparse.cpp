@@ -39,9 +39,9 @@ Proto3rdReceiveParse::Proto3rdReceiveParse(ENUM_ObjectIndex index) : VaskObject(
 {
     if (!findPeers())
         return;
-    for (const ReportFamily &family : {inputReports(), outputReports(), layerReports(), portReports(),
-                                       settingReports(), networkReports(), stereoReports(), deviceReports()})
-        addRows(family);
+#define FPD_FAMILY(name) m_mapMenuIndexAndHander.add(name##Reports());
+#include "framework/protocol/receive/families.def"
+#undef FPD_FAMILY
 }
 
 bool Proto3rdReceiveParse::findPeers()
@@ -64,31 +64,20 @@ bool Proto3rdReceiveParse::findPeers()
     return true;
 }
 
-void Proto3rdReceiveParse::addRows(const ReportFamily &family)
-{
-    for (int i = 0; i < family.count; ++i) {
-        const ReportRow &row = family.rows[i];
-        for (int k = 0; k < row.count; ++k)
-            m_mapMenuIndexAndHander.insert(
-                {row.address + static_cast<unsigned int>(k) * row.stride, {&row, row.firstMember + k}});
-    }
-}
-
 int Proto3rdReceiveParse::Parse3rdToDisplay(const stMessageHandle *message)
 {
     qDebug().noquote() << QString::asprintf("Proto3rd addr:[%#x], len:[%lu]", message->address,
                                             static_cast<unsigned long>(message->length));
-    const auto found = m_mapMenuIndexAndHander.find(message->address);
-    if (found == m_mapMenuIndexAndHander.end()) {
+    const auto found = m_mapMenuIndexAndHander.find(RegisterAddress(message->address));
+    if (!found.row) {
         qDebug() << "No Hander! enMenuIndex:" << message->address;
         return 1;
     }
-    const Handler &handler = found->second;
-    if (message->data.size() < handler.row->needs) {
+    if (message->data.size() < found.row->bytesNeeded) {
         qDebug() << "Report too short, addr:" << message->address << "bytes:" << message->data.size();
         return 2;
     }
-    return handler.row->handle(Report{*message, *this, handler.member});
+    return found.row->handle(Report{*message, *this, found.member});
 }
 
 int Proto3rdReceiveParse::ReportMsgToParaProcess(ENUM_MenuIndex index, const QString &value)

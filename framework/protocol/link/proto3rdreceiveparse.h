@@ -11,7 +11,6 @@
 
 #include <QMutex>
 #include <atomic>
-#include <map>
 
 namespace VASK
 {
@@ -56,19 +55,14 @@ public:
 private:
     explicit Proto3rdReceiveParse(ENUM_ObjectIndex index);
 
-    void addRows(const ReportFamily &family);
     bool findPeers();
     void closeInputTables();
-
-    struct Handler {
-        const ReportRow *row;
-        int member;
-    };
 
     static std::atomic<Proto3rdReceiveParse *> m_pInstance;
     static QMutex m_lock;
 
-    std::map<unsigned int, Handler> m_mapMenuIndexAndHander;
+    /// Stays empty without the peers.
+    TableIndex<RegisterAddress, ReportRow> m_mapMenuIndexAndHander;
     ParaProcess *pParaProcess = nullptr;
     MenuAnalysis *pMenu = nullptr;
     Page *pMenuDir = nullptr;

@@ -1,4 +1,5 @@
-// Addresses of the 32-bit register space that are spoken of beside the builders' own, and who takes a packet.
+// The 32-bit register space by name: the registers of the catalogue, those that are spoken of by a name of
+// their own, and who takes a packet.
 #pragma once
 
 namespace VASK
@@ -10,7 +11,15 @@ enum DeviceType : unsigned char {
     TARGET_Stereo = 4,  ///< the 3D emitter
 };
 
+#define FPD_WRITE(name, address, bytes, device) REG_##name = address,
+#define FPD_WRITE_EACH(name, address, stride, bytes, device) REG_##name = address,
+#define FPD_WRITE_PAIR(name, address, stride, stride2, bytes, device) REG_##name = address,
+#define FPD_READ(name, address, bytes) REG_##name = address,
+#define FPD_REGISTER(name, address) REG_##name = address,
+#define FPD_REGISTER_EACH(name, address, stride) REG_##name = address,
 enum RegisterAddress : unsigned int {
+#include "framework/protocol/packet/registercatalogue.def"
+
     HeartbeatAddr = 0x13001004,  ///< written by a host once a second while it holds the device
     SyncSilentAddr = 0x0200003F, ///< pushed without anybody having changed a setting
 
@@ -24,7 +33,7 @@ enum RegisterAddress : unsigned int {
     SendPicDataType = 0x13410000,
     BkgOnPgmAddr = 0x135100F0,
     TelepOnPgmAddr = 0x13600040,
-    Sender_DeviceDiagnosticsBase = 0x13800000,
+    Sender_DeviceDiagnosticsBase = REG_Set_SelfTest,
     ReloadParam = 0x010000FF,
     ScreenRouteWayOutLimitAddr = 0x02810008,
     HDEnableAddr = 0x03100109,
@@ -34,13 +43,22 @@ enum RegisterAddress : unsigned int {
     ScannerGrayRealizeTypeAddr = 0x02000026,
     ScannerGrayQueryAddr = 0x020000B3,
 
-    ScannerSolidifyAddr = 0x01000011,
+    ScannerSolidifyAddr = REG_Set_SolidifyScanner,
     MappingAddr = 0x01000088,
-    ScannerGammaAddr = 0x02000000,
-    ScannerLightnessAddr = 0x02000001,
-    ScannerRedLightnessAddr = 0x02000002,
-    ScannerGreenLightnessAddr = 0x02000003,
-    ScannerBlueLightnessAddr = 0x02000004,
-    ScannerCabinetWidth = 0x02000017,
+    ScannerGammaAddr = REG_Set_AcceptCardGammaData,
+    ScannerLightnessAddr = REG_Set_AcceptCardLightnessData,
+    ScannerRedLightnessAddr = REG_Set_AcceptCardRedLightnessData,
+    ScannerGreenLightnessAddr = REG_Set_AcceptCardGreenLightnessData,
+    ScannerBlueLightnessAddr = REG_Set_AcceptCardBlueLightnessData,
+    ScannerCabinetWidth = REG_Set_AcceptOnLoadWidthAndHeight,
+};
+
+/// Distances in the rows of registers; of a pair from layer to layer, and from input to input.
+enum RegisterStride : int {
+#define FPD_WRITE_EACH(name, address, stride, bytes, device) STEP_##name = stride,
+#define FPD_WRITE_PAIR(name, address, stride, stride2, bytes, device)                                        \
+    STEP_##name = stride, STEP2_##name = stride2,
+#define FPD_REGISTER_EACH(name, address, stride) STEP_##name = stride,
+#include "framework/protocol/packet/registercatalogue.def"
 };
 } // namespace VASK

@@ -37,10 +37,6 @@ public:
     static WritePackage name(FPD_WRITE_ARGUMENTS, unsigned char n, unsigned char m);
 #define FPD_READ(name, address, bytes) static ReadPackage name(FPD_READ_ARGUMENTS);
 #include "framework/protocol/packet/registercatalogue.def"
-#undef FPD_WRITE
-#undef FPD_WRITE_EACH
-#undef FPD_WRITE_PAIR
-#undef FPD_READ
 
     // Further names of the same registers.
     static WritePackage Set_TestScreenData(FPD_WRITE_ARGUMENTS);

@@ -1,5 +1,7 @@
 #include "framework/protocol/receive/packagehandler.h"
 
+#include "framework/protocol/packet/registeraddress.h"
+
 #include <algorithm>
 
 namespace VASK
@@ -7,12 +9,12 @@ namespace VASK
 namespace
 {
 /// Records of the inputs: their order says which inputs there are.
-constexpr unsigned short inputRecordsHigh = 0x1301;
+constexpr unsigned short inputRecordsHigh = REG_InputRecord >> 16;
 
 /// Pictures come in pieces through the first registers of each row.
 bool isPicturePiece(const PackageRequestProto3rd &report)
 {
-    constexpr unsigned short picturesHigh = 0x1340;
+    constexpr unsigned short picturesHigh = REG_MovingPictures >> 16;
     constexpr int pieceRegisters = 7;
     return report.getHighAddr() == picturesHigh && (report.getLowAddr() & 0xF) < pieceRegisters;
 }

@@ -7,7 +7,6 @@
 #include "menu/itemindex.h"
 
 #include <QDebug>
-#include <iterator>
 
 namespace VASK
 {
@@ -82,15 +81,19 @@ int SoftCalibrate(const Report &report)
 }
 
 constexpr ReportRow rows[] = {
-    {0x13800000, 0, 1, 0, 0, ParseSelfTestInfo}, {0x01000002, 0, 1, 0, 1, FactoryReset},
-    {0x0FF00001, 0, 1, 0, 0, DeviceRename},      {0x0FF00000, 0, 1, 0, 1, Prase_LoadCabCfgOver},
-    {0x0200004A, 0, 1, 0, 0, SoftConfigLfg},     {0x1300002C, 0, 1, 0, 1, ChangeWorkMode},
-    {0x0200009C, 0, 1, 0, 1, SoftCalibrate},     {0x14000000, 0, 1, 0, 1, StartComplate},
+    report(REG_Set_SelfTest, ParseSelfTestInfo),
+    report(REG_Set_ReturnFactoryData, FactoryReset).needs(1),
+    report(REG_DeviceRenamed, DeviceRename),
+    report(REG_CabinetFilesListed, Prase_LoadCabCfgOver).needs(1),
+    report(REG_SoftwareConfigured, SoftConfigLfg),
+    report(REG_Set_SendcardModeValue, ChangeWorkMode).needs(1),
+    report(REG_SoftCalibration, SoftCalibrate).needs(1),
+    report(REG_ServiceStarted, StartComplate).needs(1),
 };
 } // namespace
 
-ReportFamily deviceReports()
+Table<ReportRow> deviceReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

@@ -1,6 +1,6 @@
 // Reports about the inputs: what they carry, their picture, their sound, and the mosaic of two of them.
 #include "framework/protocol/link/proto3rdreceiveparse.h"
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 
 #include <QDebug>
 #include <iterator>
@@ -9,8 +9,6 @@ namespace VASK
 {
 namespace
 {
-constexpr int inputCount = 9;
-
 /// Input records: source code, interlace, signal state, size, frame period, colour sampling.
 int ParseEDIDSourceCode(const Report &report)
 {
@@ -86,16 +84,20 @@ int ParseInputMosaicInfo(const Report &report)
     return 0;
 }
 
+constexpr Family inputRecords{STEP_InputRecord, FAMILY_InputRecord.count};
+constexpr Family sounds{STEP_InputAudio, 8};
+constexpr Family pictures{STEP_Set_ScreenQulityReset, 8};
+
 constexpr ReportRow rows[] = {
-    {0x13010001, 32, inputCount, 0, 0, ParseEDIDSourceCode},
-    {0x13019015, 16, 8, 0, 1, ParseAudioInputInfo},
-    {0x13050000, 20, 8, 0, 0, ParseInputQualityInfo},
-    {0x13060000, 0, 1, 0, 33, ParseInputMosaicInfo},
+    report(each(inputRecords, REG_InputRecord), ParseEDIDSourceCode),
+    report(each(sounds, REG_InputAudio), ParseAudioInputInfo).needs(1),
+    report(each(pictures, REG_Set_ScreenQulityReset), ParseInputQualityInfo),
+    report(REG_Set_InputMosaicPara, ParseInputMosaicInfo).needs(33),
 };
 } // namespace
 
-ReportFamily inputReports()
+Table<ReportRow> inputReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

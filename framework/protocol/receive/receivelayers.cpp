@@ -2,7 +2,7 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/store/menuanalysis.h"
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 #include "menu/objectindex.h"
 
 #include <QDebug>
@@ -12,9 +12,6 @@ namespace VASK
 {
 namespace
 {
-constexpr unsigned int cropAddress = 0x13024014;
-constexpr unsigned int cropStride = 132; ///< from one layer to the next
-
 int ParseLayerInfo(const Report &report)
 {
     struct Field {
@@ -35,7 +32,8 @@ int ParseLayerInfo(const Report &report)
 /// The crop of any source of a layer: the last one that is told counts.
 int ParseInterceptReceiveParse(const Report &report)
 {
-    const int layer = static_cast<int>((report.message.address - cropAddress) / cropStride);
+    const int layer =
+        static_cast<int>(report.message.address - REG_Set_SenderInterception) / STEP_Set_SenderInterception;
     qDebug() << "winNum:" << layer << ", sourceNum:" << report.member;
     const ENUM_MenuIndex first = nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop);
     const QString values[] = {
@@ -88,18 +86,27 @@ int Prase_VerHerStart_Video(const Report &report)
     return 0;
 }
 
+constexpr Family windows{STEP_Set_SenderFormsStatusData, FAMILY_Layer.count};
+
+/// The crops of the inputs in one layer.
+constexpr ReportRow cropsOf(int layer, int inputs)
+{
+    const RegisterAddress first = nth(REG_Set_SenderInterception, layer, STEP_Set_SenderInterception);
+    return report(each({STEP2_Set_SenderInterception, inputs}, first), ParseInterceptReceiveParse).needs(11);
+}
+
 constexpr ReportRow rows[] = {
-    {0x13020010, 48, 3, 0, 0, ParseLayerInfo},
-    {cropAddress, 16, 9, 0, 11, ParseInterceptReceiveParse},
-    {cropAddress + cropStride, 16, 6, 0, 11, ParseInterceptReceiveParse},
-    {cropAddress + 2 * cropStride, 16, 6, 0, 11, ParseInterceptReceiveParse},
-    {0x13030000, 0, 1, 0, 0, ParseScreenInfo},
-    {0x020001F0, 0, 1, 0, 8, Prase_VerHerStart_Video},
+    report(each(windows, REG_Set_SenderFormsStatusData), ParseLayerInfo),
+    cropsOf(0, 9),
+    cropsOf(1, 6),
+    cropsOf(2, 6),
+    report(REG_ScreenRecord, ParseScreenInfo),
+    report(REG_Set_HorStartDataToSend, Prase_VerHerStart_Video).needs(8),
 };
 } // namespace
 
-ReportFamily layerReports()
+Table<ReportRow> layerReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

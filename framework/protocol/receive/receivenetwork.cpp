@@ -5,7 +5,6 @@
 
 #include <QDebug>
 #include <QStringList>
-#include <iterator>
 
 namespace VASK
 {
@@ -48,13 +47,13 @@ int ParseIPMode(const Report &report)
 }
 
 constexpr ReportRow rows[] = {
-    {0x13000006, 0, 1, 0, 20, ParseIPAddress},
-    {0x1300001A, 0, 1, 0, 1, ParseIPMode},
+    report(REG_Set_NetCommunicateData, ParseIPAddress).needs(20),
+    report(REG_Set_DHCPSwitchData, ParseIPMode).needs(1),
 };
 } // namespace
 
-ReportFamily networkReports()
+Table<ReportRow> networkReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

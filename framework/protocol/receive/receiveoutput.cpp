@@ -7,7 +7,6 @@
 
 #include <QDebug>
 #include <QStringList>
-#include <iterator>
 
 namespace VASK
 {
@@ -122,16 +121,21 @@ int ParseGenlockInfo(const Report &report)
 }
 
 constexpr ReportRow rows[] = {
-    {0x13040003, 0, 1, 0, 6, OutputResolution},    {0x13040010, 0, 1, 0, 9, OutputResolutionBpMode},
-    {0x13041401, 0, 1, 0, 6, MvrResolution},       {0x02000001, 0, 1, 0, 1, BrightNessPara},
-    {0x02100006, 0, 1, 0, 4, ParseScreenWidth},    {0x01000088, 0, 1, 0, 1, ParseMapping},
-    {0x13000004, 0, 1, 0, 1, ParseDispModeInfo},   {0x1300002A, 0, 1, 0, 0, ParseSyncInfo},
-    {0x13042007, 0, 1, 0, 0, ParseHdmiOutputMode}, {0x1300009D, 0, 1, 0, 0, ParseGenlockInfo},
+    report(REG_OutputResolution, OutputResolution).needs(6),
+    report(REG_SenderOutput, OutputResolutionBpMode).needs(9),
+    report(REG_Set_HdmiOutputRes, MvrResolution).needs(6),
+    report(REG_Set_AcceptCardLightnessData, BrightNessPara).needs(1),
+    report(CabinetWidthAddr, ParseScreenWidth).needs(4),
+    report(MappingAddr, ParseMapping).needs(1),
+    report(REG_Set_ScreenDisplayModeData, ParseDispModeInfo).needs(1),
+    report(REG_Set_SyncStatusData, ParseSyncInfo),
+    report(REG_Set_HdmiOutputMode, ParseHdmiOutputMode),
+    report(REG_GenlockState, ParseGenlockInfo),
 };
 } // namespace
 
-ReportFamily outputReports()
+Table<ReportRow> outputReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

@@ -100,20 +100,30 @@ int ParsePortACTState(const Report &report)
     return 0;
 }
 
+constexpr Family groups{1, int(std::size(portsOfGroup))};
+constexpr Family bytes{1, int(std::size(portsOfByte))};
+
 constexpr ReportRow rows[] = {
-    {0x0200001F, 0, 1, 0, 1, ParseNetLinkState},         {0x0200009F, 0, 1, 1, 1, ParseNetLinkState},
-    {0x02000126, 0, 1, 2, 1, ParseNetLinkState},         {0x02000018, 0, 1, 0, 4, ParseNetBackupState},
-    {0x02000098, 0, 1, 1, 4, ParseNetBackupState},       {0x02000100, 0, 1, 2, 2, ParseNetBackupState},
-    {0x0200001E, 0, 1, 0, 1, ParseNetBackupOnState},     {0x0200009E, 0, 1, 1, 1, ParseNetBackupOnState},
-    {0x02000120, 0, 1, 2, 1, ParseNetBackupOnState},     {0x020001F6, 1, 3, 0, 1, ParseOPT1NetBackupOnState},
-    {0x020001F9, 1, 3, 0, 1, ParseOPT2NetBackupOnState}, {0x020001D7, 0, 1, 0, 1, ParseOPTLinkState},
-    {0x020001F2, 1, 2, 0, 1, ParseOPT1PortLinkState},    {0x020001F4, 1, 2, 0, 1, ParseOPT2PortLinkState},
-    {0x020001E0, 1, 2, 0, 1, ParsePortACTState},
+    report(REG_PortLink_Group1, 0, ParseNetLinkState).needs(1),
+    report(REG_PortLink_Group2, 1, ParseNetLinkState).needs(1),
+    report(REG_PortLink_Group3, 2, ParseNetLinkState).needs(1),
+    report(REG_PortBackup_Group1, 0, ParseNetBackupState).needs(4),
+    report(REG_PortBackup_Group2, 1, ParseNetBackupState).needs(4),
+    report(REG_PortBackup_Group3, 2, ParseNetBackupState).needs(2),
+    report(REG_PortBackupEngaged_Group1, 0, ParseNetBackupOnState).needs(1),
+    report(REG_PortBackupEngaged_Group2, 1, ParseNetBackupOnState).needs(1),
+    report(REG_PortBackupEngaged_Group3, 2, ParseNetBackupOnState).needs(1),
+    report(each(groups, REG_OPT1BackupEngaged), ParseOPT1NetBackupOnState).needs(1),
+    report(each(groups, REG_OPT2BackupEngaged), ParseOPT2NetBackupOnState).needs(1),
+    report(REG_OPTLink, ParseOPTLinkState).needs(1),
+    report(each(bytes, REG_OPT1PortLink), ParseOPT1PortLinkState).needs(1),
+    report(each(bytes, REG_OPT2PortLink), ParseOPT2PortLinkState).needs(1),
+    report(each(bytes, REG_PortActive), ParsePortACTState).needs(1),
 };
 } // namespace
 
-ReportFamily portReports()
+Table<ReportRow> portReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

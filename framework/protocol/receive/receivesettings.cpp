@@ -1,10 +1,9 @@
 // Reports about audio, on-screen display and latency.
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 
 #include <QDebug>
-#include <iterator>
 
 namespace VASK
 {
@@ -56,14 +55,16 @@ int ParseLowLatencyInfo(const Report &report)
 }
 
 constexpr ReportRow rows[] = {
-    {0x1300009E, 0, 1, 0, 0, ParseAudioSelect},    {0x1300009F, 0, 1, 0, 0, ParseAudioSize},
-    {0x13411000, 0, 1, 0, 0, ParseOSDInfo},        {0x13412000, 1, 8, 0, 0, ParseOSDPictureState},
-    {0x02000074, 0, 1, 0, 0, ParseLowLatencyInfo},
+    report(REG_Set_AudioSettingSelect, ParseAudioSelect),
+    report(REG_Set_AudioSettingVolume, ParseAudioSize),
+    report(REG_Set_OSD_Switch, ParseOSDInfo),
+    report(each(FAMILY_OSDPicture, REG_OSDPictureState), ParseOSDPictureState),
+    report(REG_Set_LowLatency, ParseLowLatencyInfo),
 };
 } // namespace
 
-ReportFamily settingReports()
+Table<ReportRow> settingReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

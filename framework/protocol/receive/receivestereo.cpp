@@ -4,7 +4,6 @@
 #include "menu/itemindex.h"
 
 #include <QDebug>
-#include <iterator>
 
 namespace VASK
 {
@@ -54,15 +53,21 @@ int Prase_3DRightEyeStart(const Report &report)
     return 0;
 }
 
+/// Side by side, top and bottom.
+constexpr Family formats{STEP_RightEyeStart, 2};
+
 constexpr ReportRow rows[] = {
-    {0x02002001, 0, 1, 0, 1, Parse_3DState},        {0x02002002, 0, 1, 0, 3, Parse_3DDelayTime},
-    {0x02000039, 0, 1, 0, 1, Prase_3DStatus},       {0x02000041, 0, 1, 0, 1, Prase_3DPriorityOffset},
-    {0x02000042, 0, 1, 0, 1, Prase_3DSourceFormat}, {0x02000089, 2, 2, 0, 2, Prase_3DRightEyeStart},
+    report(REG_StereoEmitter, Parse_3DState).needs(1),
+    report(REG_StereoDelay, Parse_3DDelayTime).needs(3),
+    report(REG_Set_3DStatusChanged, Prase_3DStatus).needs(1),
+    report(REG_Set_3DEyePriorChanged, Prase_3DPriorityOffset).needs(1),
+    report(REG_Set_3DSourceFormatChanged, Prase_3DSourceFormat).needs(1),
+    report(each(formats, REG_RightEyeStart), Prase_3DRightEyeStart).needs(2),
 };
 } // namespace
 
-ReportFamily stereoReports()
+Table<ReportRow> stereoReports()
 {
-    return {rows, static_cast<int>(std::size(rows))};
+    return rows;
 }
 } // namespace VASK

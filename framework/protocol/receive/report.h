@@ -4,6 +4,9 @@
 
 #include "framework/protocol/packet/bytes.h"
 #include "framework/protocol/packet/packagebase.h"
+#include "framework/protocol/packet/registeraddress.h"
+#include "framework/table.h"
+#include "menu/span.h"
 
 #include <QByteArray>
 #include <QString>
@@ -37,29 +40,29 @@ struct Report {
     ByteView bytes() const { return ByteView(message.data); }
 };
 
-/// A register, or a family of registers at equal distances, and what is done with its reports.
+/// Registers, and what is done with their reports.
 struct ReportRow {
-    unsigned int address;
-    unsigned int stride; ///< distance of the family's registers, 0 for a single one
-    int count;
-    int firstMember; ///< number of the family's first register
-    int needs;       ///< bytes without which the report says nothing; a shorter one is dropped
+    Span<RegisterAddress> span;
     /// 0 done, 1 nothing to do with it, 2 bad value, 3 failed; only for the eye.
     int (*handle)(const Report &report);
+    int bytesNeeded = 0;
+
+    /// Without so many bytes a report says nothing: a shorter one is dropped.
+    constexpr ReportRow needs(int bytes) const { return {span, handle, bytes}; }
 };
 
-struct ReportFamily {
-    const ReportRow *rows;
-    int count;
-};
+/// One register, or each of a family of registers.
+constexpr ReportRow report(Span<RegisterAddress> registers, int (*handle)(const Report &))
+{
+    return {registers, handle};
+}
+/// The register of one member, where those of the others lie elsewhere.
+constexpr ReportRow report(RegisterAddress address, int member, int (*handle)(const Report &))
+{
+    return {{address, address, {0, 1, member}}, handle};
+}
 
-// The families, each a table in a file of its own.
-ReportFamily inputReports();
-ReportFamily outputReports();
-ReportFamily layerReports();
-ReportFamily portReports();
-ReportFamily settingReports();
-ReportFamily networkReports();
-ReportFamily stereoReports();
-ReportFamily deviceReports();
+#define FPD_FAMILY(name) Table<ReportRow> name##Reports();
+#include "framework/protocol/receive/families.def"
+#undef FPD_FAMILY
 } // namespace VASK

@@ -11,21 +11,21 @@ namespace
 {
 using P = TGProtocolParser3rd;
 
-constexpr unsigned int scannerTableAddress = 0x05000000;
 constexpr int exponentScale = 10; ///< the register holds tenths
 
 /// The sending side's table, a copy for each colour.
 int writeSenderTable(const SendChange &change, const QByteArray &table, unsigned int lowAddress)
 {
     struct Channel {
-        unsigned int highAddress;
+        RegisterAddress address;
         const char *name;
     };
-    static constexpr Channel channels[] = {
-        {0x0E00, "redGamma"}, {0x0E10, "greenGamma"}, {0x0E20, "blueGamma"}};
+    static constexpr Channel channels[] = {{REG_SenderGammaRed, "redGamma"},
+                                           {REG_SenderGammaGreen, "greenGamma"},
+                                           {REG_SenderGammaBlue, "blueGamma"}};
     for (const Channel &channel : channels) {
-        const unsigned int address = channel.highAddress << 16 | lowAddress;
-        if (change.send(P::Set_CommonWrite(table, address, QString(channel.name))) != SEND_Done)
+        const QString name(channel.name);
+        if (change.send(P::Set_CommonWrite(table, channel.address + lowAddress, name)) != SEND_Done)
             return SEND_Failed;
     }
     return SEND_Done;
@@ -66,7 +66,7 @@ QVector<int> getGammaTable(int gamma)
 
 int SendGammaTable(const SendChange &change, const QByteArray &table)
 {
-    return change.send(P::Set_ScannerCommonWrite(table, table.size(), scannerTableAddress));
+    return change.send(P::Set_ScannerCommonWrite(table, table.size(), REG_ReceivingCardGamma));
 }
 
 int ScannerGammaChanged(const SendChange &change)

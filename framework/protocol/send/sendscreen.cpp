@@ -12,7 +12,6 @@ namespace
 {
 using P = TGProtocolParser3rd;
 
-constexpr unsigned int mappingAddress = 0x01000088;
 constexpr int routeWayCount = 8;
 /// Takes over what was written for the ports.
 constexpr quint8 applyAdvanced = 185;
@@ -21,7 +20,7 @@ int ScannerMapping(const SendChange &change)
 {
     const QByteArray data = littleEndian(change.value == QLatin1String("0") ? 255 : mappingOn, 1);
     change.log(data);
-    return change.send(P::Set_ScannerCommonWrite(data, data.size(), mappingAddress));
+    return change.send(P::Set_ScannerCommonWrite(data, data.size(), MappingAddr));
 }
 
 /// The value is the path of the picture that shows the way, or its bare number.

@@ -17,17 +17,17 @@ using P = TGProtocolParser3rd;
 /// A device in reserve listens on the word's ports and takes over by the byte.
 int HotBackupChanged(const SendChange &change)
 {
-    static constexpr unsigned int portRegisters[] = {0x02000018, 0x02000098, 0x02000100, 0x02000104};
-    constexpr unsigned int roleRegister = 0x0200009D;
+    static constexpr RegisterAddress portRegisters[] = {REG_PortBackup_Group1, REG_PortBackup_Group2,
+                                                        REG_PortBackup_Group3, REG_PortBackup_Group4};
     const bool primary = change.value == QLatin1String("0");
     const QByteArray word(4, primary ? '\0' : char(0x80));
     const QByteArray role = littleEndian(change.value == QLatin1String("1") ? 0xA5 : 0x5A, 1);
 
     change.log(word + role);
-    for (unsigned int address : portRegisters)
+    for (RegisterAddress address : portRegisters)
         if (change.send(P::Set_CommonWrite(word, address, change.tag())) != SEND_Done)
             return SEND_Failed;
-    return change.send(P::Set_CommonWrite(role, roleRegister, change.tag()));
+    return change.send(P::Set_CommonWrite(role, REG_BackupRole, change.tag()));
 }
 
 /// The four numbers of a dotted address, each a byte that starts a field of that width. False for a text

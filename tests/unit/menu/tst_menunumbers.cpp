@@ -5,6 +5,7 @@
 #include "menu/tables.h"
 #include "tests/testprogram.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QtTest>
@@ -13,13 +14,13 @@ using namespace VASK;
 
 namespace
 {
-/// A file of the sources without its comments.
+/// A file of the sources without its comments and what it includes.
 QString source(const QString &name)
 {
     QFile file(qEnvironmentVariable("FPD_SOURCES") + '/' + name);
     if (!file.open(QIODevice::ReadOnly))
         return QString();
-    return QString::fromUtf8(file.readAll()).remove(QRegularExpression("//[^\n]*"));
+    return QString::fromUtf8(file.readAll()).remove(QRegularExpression("//[^\n]*|#[^\n]*\n"));
 }
 
 /// The entries "NAME = VALUE" of an enumeration.
@@ -100,11 +101,37 @@ private slots:
         auto found = row.globalMatch(source("framework/protocol/packet/registercatalogue.def"));
         while (found.hasNext()) {
             const QRegularExpressionMatch match = found.next();
-            if (match.captured(3) != "address" && match.captured(3).startsWith("0x"))
+            if (match.captured(3).startsWith("0x"))
                 places.take(match.captured(1) + ' ' + match.captured(3), match.captured(2));
         }
         QVERIFY(!places.isEmpty());
         QCOMPARE(places.doubled(), QString());
+    }
+
+    /// A register's number stands in the catalogue or, with a name of its own, beside it, and nowhere else.
+    void registersStandInTheCatalogue()
+    {
+        static const QRegularExpression number("0x(0[1-9A-F]|1[3-9])[0-9A-F]{6}\\b",
+                                               QRegularExpression::CaseInsensitiveOption);
+        const QDir sources(qEnvironmentVariable("FPD_SOURCES"));
+        QMap<QString, QSet<QString>> files; // by the number
+        for (const char *folder : {"framework", "widget", "menu"}) {
+            QDirIterator file(sources.filePath(folder), QDir::Files, QDirIterator::Subdirectories);
+            while (file.hasNext()) {
+                const QString name = sources.relativeFilePath(file.next());
+                auto found = number.globalMatch(source(name));
+                while (found.hasNext())
+                    files[found.next().captured().toUpper()] << name;
+            }
+        }
+        const QString catalogue = "framework/protocol/packet/registercatalogue.def";
+        const QString beside = "framework/protocol/packet/registeraddress.h";
+        QStringList strays;
+        for (auto one = files.cbegin(); one != files.cend(); ++one)
+            if (one->size() > 1 || !(one->contains(catalogue) || one->contains(beside)))
+                strays << one.key() + " in " + QStringList(one->values()).join(", ");
+        QVERIFY(files.size() > 200);
+        QCOMPARE(strays.join('\n'), QString());
     }
 
     void rowsStandOnce()

@@ -70,10 +70,6 @@ void TestRegisterCatalogue::rowsFitAndDiffer()
     {#name, address, stride, stride2, bytes, device},
 #define FPD_READ(name, address, bytes) {#name, address, 0, 0, bytes, asked},
 #include "framework/protocol/packet/registercatalogue.def"
-#undef FPD_WRITE
-#undef FPD_WRITE_EACH
-#undef FPD_WRITE_PAIR
-#undef FPD_READ
     };
     QMap<QString, QString> taken;
     for (const Row &row : catalogue) {
