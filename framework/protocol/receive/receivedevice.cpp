@@ -21,7 +21,7 @@ struct Event {
 template <size_t count> int press(const Report &report, const Event (&events)[count])
 {
     for (const Event &event : events)
-        if (event.code == report.u8(0)) {
+        if (event.code == report.u8()) {
             report.parse.ReportMsgToParaProcess(event.item, QString());
             return 0;
         }
@@ -30,7 +30,7 @@ template <size_t count> int press(const Report &report, const Event (&events)[co
 
 int StartComplate(const Report &report)
 {
-    const int service = report.u8(0);
+    const int service = report.u8();
     qDebug() << "StartComplate:" << service;
     if (service != 1 && service != 2) {
         qDebug() << "StartComplate param invalid!";
@@ -74,9 +74,9 @@ int SoftCalibrate(const Report &report)
 {
     constexpr int began = deviceOn;
     constexpr int ended = 0;
-    if (report.u8(0) != began && report.u8(0) != ended)
+    if (report.u8() != began && report.u8() != ended)
         return 2;
-    report.parse.report(EVENT_SoftCalibrate, report.u8(0) == began ? 1 : 0);
+    report.parse.report(EVENT_SoftCalibrate, report.u8() == began ? 1 : 0);
     return 0;
 }
 

@@ -1,5 +1,6 @@
 // Reports about the inputs: what they carry, their picture, their sound, and the mosaic of two of them.
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/snapshot/snapshotmap.h"
 #include "menu/itemfamilies.h"
 
 #include <QDebug>
@@ -9,12 +10,24 @@ namespace VASK
 {
 namespace
 {
-/// Input records: source code, interlace, signal state, size, frame period, colour sampling.
+/// Offsets in the record of an input.
+enum InputOffset {
+    INPUTRECORD_Code = 0,       ///< u8
+    INPUTRECORD_Interlaced = 1, ///< u8
+    INPUTRECORD_Signal = 2,     ///< u8
+    INPUTRECORD_Width = 3,      ///< u16
+    INPUTRECORD_Height = 5,     ///< u16
+    INPUTRECORD_Period = 7,     ///< u16, microseconds
+    INPUTRECORD_Sampling = 26,  ///< u8
+};
+
 int ParseEDIDSourceCode(const Report &report)
 {
     const ENUM_MenuIndex first = nth(PARA_InputRecordFirst, report.member, STRIDE_InputRecord);
-    const int values[] = {report.u8(0),  report.u8(1),  report.u8(2), report.u16(3),
-                          report.u16(5), report.u16(7), report.u8(26)};
+    const int values[] = {report.u8(INPUTRECORD_Code),    report.u8(INPUTRECORD_Interlaced),
+                          report.u8(INPUTRECORD_Signal),  report.u16(INPUTRECORD_Width),
+                          report.u16(INPUTRECORD_Height), report.u16(INPUTRECORD_Period),
+                          report.u8(INPUTRECORD_Sampling)};
     report.parse.BuildMap(first, static_cast<unsigned char>(values[0]));
     for (int i = 0; i < STRIDE_InputRecord; ++i)
         report.parse.report(nth(first, i), values[i]);
@@ -31,7 +44,8 @@ int ParseInputQualityInfo(const Report &report)
         return 2;
     }
     // The hue goes out as a signed number and comes back as one.
-    const int values[] = {report.u8(1), report.u8(2), report.u8(4), static_cast<qint16>(report.u16(5))};
+    const int values[] = {report.u8(PICTURE_Brightness), report.u8(PICTURE_Contrast),
+                          report.u8(PICTURE_Saturation), static_cast<qint16>(report.u16(PICTURE_Hue))};
     for (int i = 0; i < static_cast<int>(std::size(values)); ++i)
         report.parse.report(nth(first[report.member], i), values[i]);
     return 0;
@@ -42,7 +56,7 @@ int ParseAudioInputInfo(const Report &report)
 {
     constexpr int hdmiInputs = 2;
     constexpr int firstInvalid = 3;
-    const int mode = report.u8(0);
+    const int mode = report.u8();
     if (mode >= firstInvalid) {
         qDebug() << "##############Error data:" << mode;
         return 2;
@@ -51,6 +65,17 @@ int ParseAudioInputInfo(const Report &report)
     report.parse.report(nth(MENU_AudioInput_HDMI1, report.member), off ? 0 : 1);
     return 0;
 }
+
+/// Offsets in the record of a mosaic: its head, then a part for each of the two inputs.
+enum MosaicOffset {
+    MOSAIC_Rows = 2,
+    MOSAIC_Columns = 3,
+    MOSAIC_Code1 = 16,
+    MOSAIC_Width = 22,  ///< u16, of either part
+    MOSAIC_Height = 24, ///< u16
+    MOSAIC_Code2 = 32,
+    MOSAIC_End = 33, ///< behind the last byte that is read
+};
 
 QString mosaicLayout(int first, int second)
 {
@@ -63,8 +88,8 @@ QString mosaicLayout(int first, int second)
 
 int ParseInputMosaicInfo(const Report &report)
 {
-    const int code1 = report.u8(16);
-    const int code2 = report.u8(32);
+    const int code1 = report.u8(MOSAIC_Code1);
+    const int code2 = report.u8(MOSAIC_Code2);
     qDebug() << receiveLogOrigin << __LINE__ << "input1sourceCode" << code1 << "input2SourceCode" << code2;
     int index1 = 0;
     int index2 = 0;
@@ -76,9 +101,10 @@ int ParseInputMosaicInfo(const Report &report)
             index2 = source.index;
     }
     qDebug() << receiveLogOrigin << __LINE__ << "index1" << index1 << "index2" << index2;
-    report.parse.ReportMsgToParaProcess(MENU_Mosaic_Layout, mosaicLayout(report.u8(2), report.u8(3)));
-    report.parse.report(MENU_Mosaic_Width, report.u16(22));
-    report.parse.report(MENU_Mosaic_Height, report.u16(24));
+    report.parse.ReportMsgToParaProcess(MENU_Mosaic_Layout,
+                                        mosaicLayout(report.u8(MOSAIC_Rows), report.u8(MOSAIC_Columns)));
+    report.parse.report(MENU_Mosaic_Width, report.u16(MOSAIC_Width));
+    report.parse.report(MENU_Mosaic_Height, report.u16(MOSAIC_Height));
     report.parse.ReportMsgToParaProcess(MENU_Mosaic_Arrangement,
                                         QStringLiteral("%1/%2").arg(index1).arg(index2));
     return 0;
@@ -92,7 +118,7 @@ constexpr ReportRow rows[] = {
     report(each(inputRecords, REG_InputRecord), ParseEDIDSourceCode),
     report(each(sounds, REG_InputAudio), ParseAudioInputInfo).needs(1),
     report(each(pictures, REG_Set_ScreenQulityReset), ParseInputQualityInfo),
-    report(REG_Set_InputMosaicPara, ParseInputMosaicInfo).needs(33),
+    report(REG_Set_InputMosaicPara, ParseInputMosaicInfo).needs(MOSAIC_End),
 };
 } // namespace
 

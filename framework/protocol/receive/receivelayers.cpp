@@ -1,6 +1,7 @@
 // Reports about the layers: their windows, what they cut out of their source, and the area of the wall.
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/snapshot/snapshotmap.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemfamilies.h"
 #include "menu/objectindex.h"
@@ -19,10 +20,14 @@ int ParseLayerInfo(const Report &report)
         int value;
     };
     const Field fields[] = {
-        {MENU_MainLayer_Status, report.u8(0)},     {MENU_MainLayer_InputSource, report.u8(2)},
-        {MENU_MainLayer_InitialX, report.i32(5)},  {MENU_MainLayer_InitialY, report.i32(9)},
-        {MENU_MainLayer_HorWidth, report.i32(13)}, {MENU_MainLayer_VerHeight, report.i32(17)},
-        {MENU_MainLayer_Priority, report.u8(3)},   {MENU_MainLayer_Opacity, report.u8(47)},
+        {MENU_MainLayer_Status, report.u8(WINDOW_Status)},
+        {MENU_MainLayer_InputSource, report.u8(WINDOW_Input)},
+        {MENU_MainLayer_InitialX, report.i32(WINDOW_X)},
+        {MENU_MainLayer_InitialY, report.i32(WINDOW_Y)},
+        {MENU_MainLayer_HorWidth, report.i32(WINDOW_Width)},
+        {MENU_MainLayer_VerHeight, report.i32(WINDOW_Height)},
+        {MENU_MainLayer_Priority, report.u8(WINDOW_Priority)},
+        {MENU_MainLayer_Opacity, report.u8(WINDOW_Opacity)},
     };
     for (const Field &field : fields)
         report.parse.report(nth(field.item, report.member, STRIDE_Layer), field.value);
@@ -37,8 +42,9 @@ int ParseInterceptReceiveParse(const Report &report)
     qDebug() << "winNum:" << layer << ", sourceNum:" << report.member;
     const ENUM_MenuIndex first = nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop);
     const QString values[] = {
-        QString::number(report.u8(2)),  QString::number(report.u16(7)), QString::number(report.u16(9)),
-        QString::number(report.u16(3)), QString::number(report.u16(5)),
+        QString::number(report.u8(CROP_Status)),  QString::number(report.u16(CROP_Width)),
+        QString::number(report.u16(CROP_Height)), QString::number(report.u16(CROP_X)),
+        QString::number(report.u16(CROP_Y)),
     };
     qDebug() << "strStable:" << values[0] << "strWidth:" << values[1] << "strHeight" << values[2]
              << "strXStart" << values[3] << "strYStart" << values[4];
@@ -55,14 +61,17 @@ int ParseScreenInfo(const Report &report)
 {
     if (report.parse.engine().GetParaFromIndex(MENU_ImageMosaic_Status) != SELECTED)
         return 1;
-    report.parse.report(MENU_ImageMosaic_TotalHPixels, 2 * report.u16(24));
-    report.parse.report(MENU_ImageMosaic_TotalVPixels, 2 * report.u16(26));
-    report.parse.report(MENU_ImageMosaic_LoadAreaWidth, report.u16(24));
-    report.parse.report(MENU_ImageMosaic_LoadAreaHeight, report.u16(26));
-    report.parse.report(MENU_ImageMosaic_LoadAreaInitialX, report.i32(16));
-    report.parse.report(MENU_ImageMosaic_LoadAreaInitialY, report.i32(20));
+    report.parse.report(MENU_ImageMosaic_TotalHPixels, 2 * report.u16(LOADAREA_Width));
+    report.parse.report(MENU_ImageMosaic_TotalVPixels, 2 * report.u16(LOADAREA_Height));
+    report.parse.report(MENU_ImageMosaic_LoadAreaWidth, report.u16(LOADAREA_Width));
+    report.parse.report(MENU_ImageMosaic_LoadAreaHeight, report.u16(LOADAREA_Height));
+    report.parse.report(MENU_ImageMosaic_LoadAreaInitialX, report.i32(LOADAREA_X));
+    report.parse.report(MENU_ImageMosaic_LoadAreaInitialY, report.i32(LOADAREA_Y));
     return 0;
 }
+
+/// Start of a picture that moves as a whole.
+enum StartOffset { START_X = 0, START_Y = 4, START_End = 8 };
 
 void echo(const Report &report, ENUM_ObjectIndex row, ENUM_MenuIndex index, int value)
 {
@@ -73,8 +82,8 @@ void echo(const Report &report, ENUM_ObjectIndex row, ENUM_MenuIndex index, int 
 /// The device has moved its picture: the main layer follows, and its window is written back.
 int Prase_VerHerStart_Video(const Report &report)
 {
-    const int x = report.i32(0);
-    const int y = report.i32(4);
+    const int x = report.i32(START_X);
+    const int y = report.i32(START_Y);
     report.parse.report(MENU_MainLayer_InitialX, x);
     report.parse.report(MENU_MainLayer_InitialY, y);
     if (!report.parse.GetObjectFromPool(ENUM_TRANSPORT)) {
@@ -92,7 +101,8 @@ constexpr Family windows{STEP_Set_SenderFormsStatusData, FAMILY_Layer.count};
 constexpr ReportRow cropsOf(int layer, int inputs)
 {
     const RegisterAddress first = nth(REG_Set_SenderInterception, layer, STEP_Set_SenderInterception);
-    return report(each({STEP2_Set_SenderInterception, inputs}, first), ParseInterceptReceiveParse).needs(11);
+    return report(each({STEP2_Set_SenderInterception, inputs}, first), ParseInterceptReceiveParse)
+        .needs(CROP_End);
 }
 
 constexpr ReportRow rows[] = {
@@ -101,7 +111,7 @@ constexpr ReportRow rows[] = {
     cropsOf(1, 6),
     cropsOf(2, 6),
     report(REG_ScreenRecord, ParseScreenInfo),
-    report(REG_Set_HorStartDataToSend, Prase_VerHerStart_Video).needs(8),
+    report(REG_Set_HorStartDataToSend, Prase_VerHerStart_Video).needs(START_End),
 };
 } // namespace
 

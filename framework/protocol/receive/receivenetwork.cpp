@@ -1,6 +1,7 @@
 // Reports about the device's address.
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/snapshot/snapshotmap.h"
 #include "menu/itemindex.h"
 
 #include <QDebug>
@@ -29,9 +30,10 @@ QString narrowQuad(const Report &report, int offset)
 
 int ParseIPAddress(const Report &report)
 {
-    const QString address = wideQuad(report, 0);
-    const QString mask = wideQuad(report, 8);
-    const QString gateway = narrowQuad(report, 16);
+    constexpr int first = DEVICE_IpAddress; // the report is that part of the device block
+    const QString address = wideQuad(report, DEVICE_IpAddress - first);
+    const QString mask = wideQuad(report, DEVICE_SubnetMask - first);
+    const QString gateway = narrowQuad(report, DEVICE_Gateway - first);
     qDebug() << "Proto3rdReceiveParse::ParseIPAddress###: IP:" << address << " strMask:" << mask
              << " strGw:" << gateway;
     report.parse.ReportMsgToParaProcess(MENU_Net_IPAddress, address);
@@ -42,7 +44,7 @@ int ParseIPAddress(const Report &report)
 
 int ParseIPMode(const Report &report)
 {
-    report.parse.report(MENU_Net_NetMode, report.u8(0) == deviceOn ? 1 : 0);
+    report.parse.report(MENU_Net_NetMode, report.u8() == deviceOn ? 1 : 0);
     return 0;
 }
 

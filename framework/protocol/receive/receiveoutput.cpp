@@ -2,6 +2,7 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
+#include "framework/protocol/snapshot/snapshotmap.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 
@@ -12,20 +13,31 @@ namespace VASK
 {
 namespace
 {
+/// Offsets in a mode as it is told by itself.
+enum ModeOffset {
+    VIDEOMODE_Width = 0,  ///< u16
+    VIDEOMODE_Height = 2, ///< u16
+    VIDEOMODE_Rate = 4,   ///< u16, hundredths of a hertz
+    VIDEOMODE_End = 6,    ///< behind the last byte
+};
+enum CabinetOffset { CABINET_Width = 0, CABINET_Height = 2, CABINET_End = 4 };
+constexpr int syncSource = REG_Set_SyncSourceData - REG_Set_SyncStatusData;
+
 int OutputResolution(const Report &report)
 {
-    qDebug() << "width:" << report.u16(0) << "heigth:" << report.u16(2) << "actual:" << report.u16(4);
-    report.parse.report(PARA_OutputRate, report.u16(4));
-    report.parse.report(PARA_ReportedWidth, report.u16(0));
-    report.parse.report(PARA_ReportedHeight, report.u16(2));
+    qDebug() << "width:" << report.u16(VIDEOMODE_Width) << "heigth:" << report.u16(VIDEOMODE_Height)
+             << "actual:" << report.u16(VIDEOMODE_Rate);
+    report.parse.report(PARA_OutputRate, report.u16(VIDEOMODE_Rate));
+    report.parse.report(PARA_ReportedWidth, report.u16(VIDEOMODE_Width));
+    report.parse.report(PARA_ReportedHeight, report.u16(VIDEOMODE_Height));
     return 0;
 }
 
 int OutputResolutionBpMode(const Report &report)
 {
-    report.parse.report(PARA_ReportedRate, report.u16(7));
-    report.parse.report(PARA_ReportedWidthAlias, report.u16(3));
-    report.parse.report(PARA_ReportedHeightAlias, report.u16(5));
+    report.parse.report(PARA_ReportedRate, report.u16(OUTPUT_Rate));
+    report.parse.report(PARA_ReportedWidthAlias, report.u16(OUTPUT_Width));
+    report.parse.report(PARA_ReportedHeightAlias, report.u16(OUTPUT_Height));
     return 0;
 }
 
@@ -44,9 +56,9 @@ template <class Test> int rowOf(const Report &report, ENUM_MenuIndex list, Test 
 /// The host has chosen size and rate of the output: both lists follow, and the engine takes the pair over.
 int MvrResolution(const Report &report)
 {
-    const int width = report.u16(0);
-    const int height = report.u16(2);
-    const int rate = report.u16(4);
+    const int width = report.u16(VIDEOMODE_Width);
+    const int height = report.u16(VIDEOMODE_Height);
+    const int rate = report.u16(VIDEOMODE_Rate);
     const int sizeRow = rowOf(report, MENU_Output_Resolution, [width, height](const QString &text) {
         const QStringList size = text.split(QLatin1Char('*'));
         return size.size() == 2 && size.at(0).toInt() == width && size.at(1).toInt() == height;
@@ -65,7 +77,7 @@ int MvrResolution(const Report &report)
 /// The register's 255 steps as per cent.
 int BrightNessPara(const Report &report)
 {
-    const int percent = static_cast<int>(report.u8(0) / 2.55 + 0.5) & 0xFF;
+    const int percent = static_cast<int>(report.u8() / 2.55 + 0.5) & 0xFF;
     qDebug() << "BrightNessPara:" << percent;
     report.parse.report(MENU_ScreenBrightness, percent);
     return 0;
@@ -73,23 +85,23 @@ int BrightNessPara(const Report &report)
 
 int ParseScreenWidth(const Report &report)
 {
-    qDebug() << "strWidth" << report.u16(0) << "strHeight" << report.u16(2);
-    report.parse.report(PARA_CabinetWidth, report.u16(0));
-    report.parse.report(PARA_CabinetHeight, report.u16(2));
+    qDebug() << "strWidth" << report.u16(CABINET_Width) << "strHeight" << report.u16(CABINET_Height);
+    report.parse.report(PARA_CabinetWidth, report.u16(CABINET_Width));
+    report.parse.report(PARA_CabinetHeight, report.u16(CABINET_Height));
     return 0;
 }
 
 int ParseMapping(const Report &report)
 {
-    report.parse.report(MENU_Mapping, report.u8(0) == mappingOn ? 1 : 0);
+    report.parse.report(MENU_Mapping, report.u8() == mappingOn ? 1 : 0);
     return 0;
 }
 
 int ParseDispModeInfo(const Report &report)
 {
-    const QString mode = QString::number(report.u8(0) - DISPLAY_Normal);
+    const QString mode = QString::number(report.u8() - DISPLAY_Normal);
     if (mode != report.parse.engine().GetParaFromIndex(PARA_DisplayMode))
-        report.parse.engine().UpdataDispMode(report.u8(0));
+        report.parse.engine().UpdataDispMode(report.u8());
     return 0;
 }
 
@@ -102,30 +114,30 @@ int reportIfNew(const Report &report, ENUM_MenuIndex index, int value)
 
 int ParseSyncInfo(const Report &report)
 {
-    reportIfNew(report, MENU_Sync_Source, (report.u8(1) - 1) & 0xFF);
-    return reportIfNew(report, MENU_Sync_Status, report.u8(0));
+    reportIfNew(report, MENU_Sync_Source, (report.u8(syncSource) - 1) & 0xFF);
+    return reportIfNew(report, MENU_Sync_Status, report.u8());
 }
 
 int ParseHdmiOutputMode(const Report &report)
 {
-    return reportIfNew(report, MENU_Output_Mode, report.u8(0));
+    return reportIfNew(report, MENU_Output_Mode, report.u8());
 }
 
 int ParseGenlockInfo(const Report &report)
 {
     constexpr int lastState = 4;
-    if (report.u8(0) > lastState)
+    if (report.u8() > lastState)
         return 2;
-    report.parse.report(PARA_GenlockState, report.u8(0));
+    report.parse.report(PARA_GenlockState, report.u8());
     return 0;
 }
 
 constexpr ReportRow rows[] = {
-    report(REG_OutputResolution, OutputResolution).needs(6),
-    report(REG_SenderOutput, OutputResolutionBpMode).needs(9),
-    report(REG_Set_HdmiOutputRes, MvrResolution).needs(6),
+    report(REG_OutputResolution, OutputResolution).needs(VIDEOMODE_End),
+    report(REG_SenderOutput, OutputResolutionBpMode).needs(OUTPUT_Rate + 2),
+    report(REG_Set_HdmiOutputRes, MvrResolution).needs(VIDEOMODE_End),
     report(REG_Set_AcceptCardLightnessData, BrightNessPara).needs(1),
-    report(CabinetWidthAddr, ParseScreenWidth).needs(4),
+    report(CabinetWidthAddr, ParseScreenWidth).needs(CABINET_End),
     report(MappingAddr, ParseMapping).needs(1),
     report(REG_Set_ScreenDisplayModeData, ParseDispModeInfo).needs(1),
     report(REG_Set_SyncStatusData, ParseSyncInfo),

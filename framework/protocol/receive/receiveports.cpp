@@ -23,7 +23,7 @@ bool bit(int byte, int number)
 int ParseNetLinkState(const Report &report)
 {
     for (int i = 0; i < portsOfGroup[report.member]; ++i)
-        report.parse.report(nth(PARA_PortLink, groupSize * report.member + i), bit(report.u8(0), i));
+        report.parse.report(nth(PARA_PortLink, groupSize * report.member + i), bit(report.u8(), i));
     return 0;
 }
 
@@ -42,7 +42,7 @@ int ParseNetBackupState(const Report &report)
 int backupEngaged(const Report &report, ENUM_MenuIndex first)
 {
     for (int i = 0; i < portsOfGroup[report.member]; ++i) {
-        const bool on = bit(report.u8(0), 2 * i + 1);
+        const bool on = bit(report.u8(), 2 * i + 1);
         qDebug() << "BackupOn == " << on;
         report.parse.report(nth(first, groupSize * report.member + i), on);
     }
@@ -66,9 +66,9 @@ int ParseOPT2NetBackupOnState(const Report &report)
 
 int ParseOPTLinkState(const Report &report)
 {
-    qDebug() << "netState:" << report.u8(0);
-    report.parse.report(PARA_OPT1Link, bit(report.u8(0), 0));
-    report.parse.report(PARA_OPT2Link, bit(report.u8(0), 1));
+    qDebug() << "netState:" << report.u8();
+    report.parse.report(PARA_OPT1Link, bit(report.u8(), 0));
+    report.parse.report(PARA_OPT2Link, bit(report.u8(), 1));
     return 0;
 }
 
@@ -76,8 +76,8 @@ int opticalPortLink(const Report &report, ENUM_MenuIndex first)
 {
     for (int i = 0; i < portsOfByte[report.member]; ++i) {
         const int port = byteSize * report.member + i;
-        qDebug() << "network" << port << ", netState" << bit(report.u8(0), i);
-        report.parse.report(nth(first, port), bit(report.u8(0), i));
+        qDebug() << "network" << port << ", netState" << bit(report.u8(), i);
+        report.parse.report(nth(first, port), bit(report.u8(), i));
     }
     return 0;
 }
@@ -96,7 +96,7 @@ int ParseOPT2PortLinkState(const Report &report)
 int ParsePortACTState(const Report &report)
 {
     for (int i = 0; i < portsOfByte[report.member]; ++i)
-        report.parse.report(nth(PARA_PortActive, byteSize * report.member + i), !bit(report.u8(0), i));
+        report.parse.report(nth(PARA_PortActive, byteSize * report.member + i), !bit(report.u8(), i));
     return 0;
 }
 

@@ -20,37 +20,39 @@ QString audioOutput(int code)
 
 int ParseAudioSelect(const Report &report)
 {
-    report.parse.ReportMsgToParaProcess(MENU_Audio_AudioOutput, audioOutput(report.u8(0)));
-    report.parse.report(MENU_Audio_Volume, report.u8(1));
+    report.parse.ReportMsgToParaProcess(MENU_Audio_AudioOutput, audioOutput(report.u8()));
+    report.parse.report(MENU_Audio_Volume,
+                        report.u8(REG_Set_AudioSettingVolume - REG_Set_AudioSettingSelect));
     return 0;
 }
 
 int ParseAudioSize(const Report &report)
 {
-    report.parse.report(MENU_Audio_Volume, report.u8(0));
+    report.parse.report(MENU_Audio_Volume, report.u8());
     return 0;
 }
 
 int ParseOSDInfo(const Report &report)
 {
     constexpr int inFront = 14;
-    report.parse.report(MENU_OSDState, report.u8(0));
-    report.parse.report(MENU_OSDChoice, report.u8(3));
-    report.parse.report(MENU_OSDInitialX, report.i32(32));
-    report.parse.report(MENU_OSDInitialY, report.i32(36));
-    report.parse.report(MENU_OSDPriority, report.u8(1) == inFront ? 1 : 0);
+    constexpr unsigned int first = REG_Set_OSD_Switch; // one report of all its registers
+    report.parse.report(MENU_OSDState, report.u8());
+    report.parse.report(MENU_OSDChoice, report.u8(REG_Set_OSD_Choice - first));
+    report.parse.report(MENU_OSDInitialX, report.i32(REG_Set_OSD_HorStart - first));
+    report.parse.report(MENU_OSDInitialY, report.i32(REG_Set_OSD_VerStart - first));
+    report.parse.report(MENU_OSDPriority, report.u8(REG_Set_OSD_Priority - first) == inFront ? 1 : 0);
     return 0;
 }
 
 int ParseOSDPictureState(const Report &report)
 {
-    report.parse.report(nth(EVENT_OSDPictureFirst, report.member), report.u8(0));
+    report.parse.report(nth(EVENT_OSDPictureFirst, report.member), report.u8());
     return 0;
 }
 
 int ParseLowLatencyInfo(const Report &report)
 {
-    report.parse.report(MENU_LowLatency, report.u8(0) == lowLatencyOn ? 1 : 0);
+    report.parse.report(MENU_LowLatency, report.u8() == lowLatencyOn ? 1 : 0);
     return 0;
 }
 

@@ -11,14 +11,14 @@ namespace
 {
 int Parse_3DState(const Report &report)
 {
-    qDebug() << receiveLogOrigin << __LINE__ << "strValue" << report.u8(0);
-    report.parse.report(MENU_Mode3D_ThirdPartyEmitter, report.u8(0));
+    qDebug() << receiveLogOrigin << __LINE__ << "strValue" << report.u8();
+    report.parse.report(MENU_Mode3D_ThirdPartyEmitter, report.u8());
     return 0;
 }
 
 int Parse_3DDelayTime(const Report &report)
 {
-    const int delay = report.u24(0) / delayStepsPerMicrosecond;
+    const int delay = report.u24() / delayStepsPerMicrosecond;
     qDebug() << "Delay time" << delay;
     report.parse.report(MENU_Mode3D_SignalDelayTime, delay);
     return 0;
@@ -26,21 +26,21 @@ int Parse_3DDelayTime(const Report &report)
 
 int Prase_3DStatus(const Report &report)
 {
-    report.parse.report(MENU_Mode3D_Status, report.u8(0) == deviceOn ? 1 : 0);
+    report.parse.report(MENU_Mode3D_Status, report.u8() == deviceOn ? 1 : 0);
     return 0;
 }
 
 int Prase_3DPriorityOffset(const Report &report)
 {
-    if (report.u8(0) != EYE_LeftFirst && report.u8(0) != EYE_RightFirst)
+    if (report.u8() != EYE_LeftFirst && report.u8() != EYE_RightFirst)
         return 2;
-    report.parse.report(MENU_Mode3D_EyePriority, report.u8(0) == EYE_LeftFirst ? 0 : 1);
+    report.parse.report(MENU_Mode3D_EyePriority, report.u8() == EYE_LeftFirst ? 0 : 1);
     return 0;
 }
 
 int Prase_3DSourceFormat(const Report &report)
 {
-    const int code = report.u8(0);
+    const int code = report.u8();
     report.parse.report(MENU_Mode3D_Format, code == STEREO_SideBySide     ? 0
                                             : code == STEREO_TopAndBottom ? 1
                                                                           : 2);
@@ -49,7 +49,7 @@ int Prase_3DSourceFormat(const Report &report)
 
 int Prase_3DRightEyeStart(const Report &report)
 {
-    report.parse.report(MENU_Mode3D_RightEyeStart, report.u16(0));
+    report.parse.report(MENU_Mode3D_RightEyeStart, report.u16());
     return 0;
 }
 

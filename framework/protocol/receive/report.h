@@ -26,16 +26,16 @@ struct stMessageHandle {
 
 class Proto3rdReceiveParse;
 
-/// A report with the place of its register in the family, and readers that give 0 for bytes beyond the data.
-/// All numbers are little-endian.
+/// A report with the place of its register in the family, and readers that give 0 for bytes beyond the data;
+/// without an offset the one number of which it consists. All numbers are little-endian.
 struct Report {
     const stMessageHandle &message;
     Proto3rdReceiveParse &parse;
     int member; ///< number of the layer, input or port group, as the row counts them
 
-    int u8(int offset) const { return bytes().u8(offset); }
-    int u16(int offset) const { return bytes().u16(offset); }
-    int u24(int offset) const { return bytes().u24(offset); }
+    int u8(int offset = 0) const { return bytes().u8(offset); }
+    int u16(int offset = 0) const { return bytes().u16(offset); }
+    int u24(int offset = 0) const { return bytes().u24(offset); }
     int i32(int offset) const { return bytes().i32(offset); }
     ByteView bytes() const { return ByteView(message.data); }
 };

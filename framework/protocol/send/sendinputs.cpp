@@ -5,6 +5,7 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
 #include "framework/protocol/send/videomode.h"
+#include "framework/protocol/snapshot/snapshotmap.h"
 #include "menu/itemindex.h"
 
 #include <QDebug>
@@ -48,17 +49,16 @@ int pictureValueChanged(const SendChange &change)
 
 int InQualityReset(const SendChange &change)
 {
-    constexpr int recordSize = 20;
     const int card = change.member;
     qDebug() << "InQualityReset,Index:" << card;
     const int hue = change.number(ofCard(MENU_HDMI1_Hue, card));
-    QByteArray data(recordSize, '\0');
+    QByteArray data(PICTURE_Stride, '\0');
     data[0] = char(cardCodes[card]);
-    data[1] = char(change.number(ofCard(MENU_HDMI1_Brightness, card)));
-    data[2] = char(change.number(ofCard(MENU_HDMI1_Contrast, card)));
-    data[4] = char(change.number(ofCard(MENU_HDMI1_Saturation, card)));
-    data[5] = char(hue & 0x0F);
-    data[6] = char(hue >> 8 & 0x0F);
+    data[PICTURE_Brightness] = char(change.number(ofCard(MENU_HDMI1_Brightness, card)));
+    data[PICTURE_Contrast] = char(change.number(ofCard(MENU_HDMI1_Contrast, card)));
+    data[PICTURE_Saturation] = char(change.number(ofCard(MENU_HDMI1_Saturation, card)));
+    data[PICTURE_Hue] = char(hue & 0x0F);
+    data[PICTURE_Hue + 1] = char(hue >> 8 & 0x0F);
     return change.sendBytes(data);
 }
 

@@ -1,8 +1,10 @@
-// The flash snapshot as the panel reads it: where each block lies and what its bytes mean. All numbers are
-// little-endian; offsets are bytes from the start of their block.
+// The flash snapshot as the panel reads it: where each block lies and what its bytes mean. The device reports
+// many of its records in the same form. All numbers are little-endian; offsets are bytes from the start of
+// their block or record.
 #pragma once
 
 #include "framework/protocol/devicecodes.h"
+#include "framework/protocol/packet/registeraddress.h"
 
 namespace VASK
 {
@@ -89,17 +91,20 @@ enum LiveOffset : int {
 /// Offsets in the window table of the live record; one record a layer.
 enum WindowOffset : int {
     WINDOW_First = 0x10,
-    WINDOW_Stride = 48,
+    WINDOW_Stride = STEP_Set_SenderFormsStatusData,
     WINDOW_Status = 0,   ///< u8
     WINDOW_Input = 2,    ///< u8
     WINDOW_Priority = 3, ///< u8
+    WINDOW_X = 5,        ///< i32
+    WINDOW_Y = 9,        ///< i32
     WINDOW_Width = 13,   ///< i32
     WINDOW_Height = 17,  ///< i32
+    WINDOW_Opacity = 47, ///< u8
 };
 
 /// Offsets in the picture table of the live record; one record an input.
 enum PictureOffset : int {
-    PICTURE_Stride = 20,
+    PICTURE_Stride = STEP_Set_ScreenQulityReset,
     PICTURE_Brightness = 1, ///< u8
     PICTURE_Contrast = 2,   ///< u8
     PICTURE_Saturation = 4, ///< u8
@@ -110,13 +115,14 @@ enum PictureOffset : int {
 /// Offsets in the crop table of the live record; a record for every input in every layer.
 enum CropOffset : int {
     CROP_First = 0x14,
-    CROP_LayerStride = 132,
-    CROP_InputStride = 16,
+    CROP_LayerStride = STEP_Set_SenderInterception,
+    CROP_InputStride = STEP2_Set_SenderInterception,
     CROP_Status = 2, ///< u8
     CROP_X = 3,      ///< u16
     CROP_Y = 5,      ///< u16
     CROP_Width = 7,  ///< u16
     CROP_Height = 9, ///< u16
+    CROP_End = 11,   ///< behind the last byte
 };
 
 /// Offsets in the output block.
