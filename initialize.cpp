@@ -2,6 +2,7 @@
 
 #include "boardio.h"
 #include "framework/communication/http/httpservice.h"
+#include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keyevent.h"
 #include "framework/object/globaltimer.h"
@@ -36,7 +37,6 @@ const QString panelFlag = "/etc/init.d/flag_fpdspi";
 /// The FPGA link is up.
 const QString deviceFlag = "/etc/init.d/flag_fpgaspi";
 constexpr unsigned long deviceFlagPollUs = 50000;
-const QString workModeFiber = "1";
 
 /// The service objects and the state that one step leaves to a later one. The objects live until the process
 /// ends.
@@ -90,7 +90,7 @@ private:
     Proto4rd *m_proto4rd = nullptr;
     MainWindow *m_mainWindow = nullptr;
     ST_ItemInfo m_screenLock;
-    QString m_workMode;
+    WorkMode m_workMode = WORK_CONTROLLER;
 };
 
 // The order is fixed: each step leans on those before it.
@@ -295,14 +295,14 @@ bool StartUp::showStartValues()
 bool StartUp::readStartState()
 {
     m_store->GetMenuItem(MENU_ScreenLock, m_screenLock);
-    m_workMode = m_paraProcess->GetParaFromIndex(MENU_WorkMode);
+    m_workMode = DeviceView(*m_paraProcess).workMode();
     return true;
 }
 
 /// A fiber converter shows no home screen, so it has no way home and no lock either.
 bool StartUp::showHomeScreen()
 {
-    if (m_workMode == workModeFiber)
+    if (m_workMode == WORK_FIBER)
         return true;
     m_mainWindow->show();
     if (m_screenLock.value == SELECTED)
@@ -330,7 +330,7 @@ bool StartUp::startProto4rd()
 bool StartUp::finish()
 {
     qDebug() << "init OK!";
-    if (m_workMode == workModeFiber)
+    if (m_workMode == WORK_FIBER)
         KeyEvent::LightFiber(true);
     return true;
 }

@@ -3,6 +3,7 @@
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menuconfig_k2860.h"
 
 namespace VASK
@@ -14,18 +15,18 @@ WorkMode DeviceView::workMode() const
 
 bool DeviceView::followsSoftware() const
 {
-    return m_engine.GetParaFromIndex(MENU_OutputMode) == QLatin1String("1");
+    return isOn(m_engine.GetParaFromIndex(MENU_OutputMode));
 }
 
 bool DeviceView::syncOn() const
 {
-    return m_engine.GetParaFromIndex(MENU_Sync_Status) == QLatin1String("1");
+    return isOn(m_engine.GetParaFromIndex(MENU_Sync_Status));
 }
 
 bool DeviceView::doublesRate() const
 {
-    return m_engine.GetParaFromIndex(MENU_Mode3D_Status) == QLatin1String("1") &&
-           m_engine.GetParaFromIndex(MENU_Mode3D_Format) != QLatin1String("2");
+    return isOn(m_engine.GetParaFromIndex(MENU_Mode3D_Status)) &&
+           m_engine.GetParaFromIndex(MENU_Mode3D_Format).toInt() != FrameSequential;
 }
 
 InputRecord DeviceView::input(int number) const

@@ -2,9 +2,11 @@
 // text. Any thread: each read takes its own short lock.
 #pragma once
 
+#include "framework/engine/layeritems.h"
+#include "framework/engine/modes.h"
 #include "framework/engine/processdata.h"
 #include "framework/protocol/inputcodes.h"
-#include "menu/itemfamilies.h"
+#include "menu/itemindex.h"
 
 #include <QString>
 
@@ -12,13 +14,7 @@ namespace VASK
 {
 class ParaProcess;
 
-constexpr int layerCount = FAMILY_Layer.count;
-
 constexpr int noInput = 255;
-constexpr int stableSignal = 3;   ///< signal state of an input record
-constexpr int unknownRate = 6000; ///< stands for a rate that nobody knows, hundredths of a hertz
-
-enum WorkMode : int { WORK_CONTROLLER = 0, WORK_FIBER = 1, WORK_SENDER = 2 };
 
 class DeviceView
 {

@@ -7,6 +7,7 @@
 #include "framework/engine/start/snapshotmirror.h"
 #include "framework/ui/home.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/objectindex.h"
 #include "menuconfig_k2860.h"
 
@@ -17,10 +18,15 @@ namespace
 /// The picture of the home screen by the display mode of the process data.
 ENUM_MainWindowTESTMode pictureOf(int displayMode)
 {
-    static constexpr ENUM_MainWindowTESTMode pictures[] = {TESTMODE_NORMAL, TESTMODE_FREEZE, TESTMODE_BLACK,
-                                                           TESTMODE_TEST};
-    return displayMode >= 0 && displayMode < int(std::size(pictures)) ? pictures[displayMode]
-                                                                      : TESTMODE_NORMAL;
+    switch (displayMode) {
+    case MODE_Frozen:
+        return TESTMODE_FREEZE;
+    case MODE_Black:
+        return TESTMODE_BLACK;
+    case MODE_Testing:
+        return TESTMODE_TEST;
+    }
+    return TESTMODE_NORMAL;
 }
 } // namespace
 
@@ -166,7 +172,7 @@ void HomeUpdater::showSource(int layer)
 {
     const QString source = m_engine.GetParaFromIndex(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer));
     showLayerName(layer, inputName(source));
-    if (m_engine.GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) == QLatin1String("0"))
+    if (isOff(m_engine.GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer))))
         return;
     const InputRecord input = m_engine.processData().input(source.toInt());
     showSignal(layer, input, input.rateCentiHz());
@@ -182,8 +188,7 @@ void HomeUpdater::showSources()
 
 void HomeUpdater::showLayer(int layer)
 {
-    const bool on =
-        m_engine.GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) != QLatin1String("0");
+    const bool on = !isOff(m_engine.GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)));
     setWindow(layer, on, true);
     showSource(layer);
 }

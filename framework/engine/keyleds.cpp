@@ -4,6 +4,7 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/input/keyevent.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/ledindex.h"
 #include "menu/objectindex.h"
 
@@ -17,16 +18,16 @@ constexpr ENUM_LedIndex sourceLeds[] = {LED_INPUT1, LED_INPUT2, LED_INPUT3, LED_
 constexpr ENUM_LedIndex layerLeds[layerCount] = {LED_MAIN, LED_PIP1, LED_PIP2};
 constexpr unsigned char noLayer = 255;
 
-bool isOn(const ParaProcess &engine, int layer)
+/// Of the layers: one whose state nobody knows counts as on.
+bool mayBeOn(const ParaProcess &engine, const LayerItems &layer)
 {
-    return engine.GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) != QLatin1String("0");
+    return !isOff(engine.GetParaFromIndex(layer.status));
 }
 
 bool isUsed(const ParaProcess &engine, const QString &source)
 {
-    for (int layer = 0; layer < layerCount; ++layer)
-        if (isOn(engine, layer) &&
-            engine.GetParaFromIndex(nth(MENU_MainLayer_InputSource, layer, STRIDE_Layer)) == source)
+    for (const LayerItems &layer : layers)
+        if (mayBeOn(engine, layer) && engine.GetParaFromIndex(layer.source) == source)
             return true;
     return false;
 }
@@ -37,15 +38,14 @@ unsigned char lowestLayer(const ParaProcess &engine)
     constexpr int absentMainPriority = 255;
     unsigned char lowest = noLayer;
     int lowestPriority = 0;
-    for (int layer = 0; layer < layerCount; ++layer) {
-        if (engine.GetParaFromIndex(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) != QLatin1String("1"))
+    for (const LayerItems &layer : layers) {
+        if (!isOn(engine.GetParaFromIndex(layer.status)))
             continue;
-        const int priority =
-            engine.GetParaFromIndex(nth(MENU_MainLayer_Priority, layer, STRIDE_Layer)).toInt();
-        if (layer == 0 && priority >= absentMainPriority)
+        const int priority = engine.GetParaFromIndex(layer.priority).toInt();
+        if (layer.isMain() && priority >= absentMainPriority)
             continue;
         if (lowest == noLayer || priority < lowestPriority) {
-            lowest = static_cast<unsigned char>(layer);
+            lowest = static_cast<unsigned char>(layer.number);
             lowestPriority = priority;
         }
     }
@@ -58,9 +58,9 @@ void showLayerLeds(unsigned char layer)
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
     if (!engine)
         return;
-    for (int i = 0; i < layerCount; ++i) {
-        const enLedStatus steady = isOn(*engine, i) ? LED_ON : LED_OFF;
-        KeyEvent::SendLedCommand(layerLeds[i], i == layer ? LED_BLINK : steady);
+    for (const LayerItems &each : layers) {
+        const enLedStatus steady = mayBeOn(*engine, each) ? LED_ON : LED_OFF;
+        KeyEvent::SendLedCommand(layerLeds[each.number], each.number == layer ? LED_BLINK : steady);
     }
 }
 
@@ -81,10 +81,8 @@ void showSourceLeds()
 unsigned char showScaleLed(const ParaProcess &engine)
 {
     const unsigned char lowest = lowestLayer(engine);
-    const bool fullScreen =
-        lowest != noLayer &&
-        engine.GetParaFromIndex(nth(MENU_MainLayer_ScalingMode, lowest, STRIDE_Layer)) == QLatin1String("0");
-    KeyEvent::SendLedCommand(LED_SCALE, fullScreen ? LED_ON : LED_OFF);
+    const bool fills = lowest != noLayer && engine.GetParaFromIndex(layers[lowest].scaling) == fullScreen;
+    KeyEvent::SendLedCommand(LED_SCALE, fills ? LED_ON : LED_OFF);
     return lowest;
 }
 } // namespace VASK

@@ -36,13 +36,12 @@ bool isSendingCard(const ParaChange &change)
 
 bool bothPipsOff(const ParaChange &change)
 {
-    return change.item(MENU_PIP1_Status) == QLatin1String("0") &&
-           change.item(MENU_PIP2_Status) == QLatin1String("0");
+    return change.isOff(MENU_PIP1_Status) && change.isOff(MENU_PIP2_Status);
 }
 
 bool stereoIsOff(const ParaChange &change)
 {
-    return change.item(MENU_Mode3D_Status) == QLatin1String("0");
+    return change.isOff(MENU_Mode3D_Status);
 }
 
 void offerMosaic(ParaChange &change, bool on)

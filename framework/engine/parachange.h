@@ -9,6 +9,7 @@
 #include "framework/table.h"
 #include "menu/itemfamilies.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 #include "menuconfig_k2860.h"
 
@@ -18,9 +19,6 @@
 namespace VASK
 {
 class MenuAnalysis;
-
-/// Text of the options of a source list that select the input mosaic.
-inline const QString mosaicOption = QStringLiteral("MOSAIC");
 
 struct ParaChange {
     ParaChange(ParaProcess &paraProcess, MenuAnalysis &menuStore, const QString &newValue,
@@ -36,13 +34,16 @@ struct ParaChange {
 
     bool fromUser() const { return mode == SET_XML_USER; }
     bool fromDevice() const { return mode == SET_XML_DEVICE; }
+    bool turnsOn() const { return VASK::isOn(value); }
+    bool turnsOff() const { return VASK::isOff(value); }
     bool changed() const { return value != oldValue; }
     HomeUpdater &home() const;
 
     // Readers
     QString item(ENUM_MenuIndex item) const;
     int number(ENUM_MenuIndex item) const;
-    bool isOn(ENUM_MenuIndex item) const { return this->item(item) == QLatin1String("1"); }
+    bool isOn(ENUM_MenuIndex item) const { return VASK::isOn(this->item(item)); }
+    bool isOff(ENUM_MenuIndex item) const { return VASK::isOff(this->item(item)); }
     ST_ItemInfo info(ENUM_MenuIndex item) const;
     /// The text of the option that a list has chosen.
     QString chosenOption(ENUM_MenuIndex list) const;

@@ -4,6 +4,7 @@
 #include "framework/engine/homeupdater.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 namespace VASK
 {
@@ -73,7 +74,7 @@ void PortStates::workOutOpt2Backup(int port)
     if (port < 0 || port >= ProcessData::portCount)
         return;
     const int backup = m_engine.processData().value(nth(PARA_PortBackup, port));
-    const bool copies = m_engine.GetParaFromIndex(MENU_OPT2Mode) == QLatin1String("1");
+    const bool copies = isOn(m_engine.GetParaFromIndex(MENU_OPT2Mode));
     m_engine.SaveProcessData(QString::number(copies ? backup : !backup), nth(PARA_OPT2BackupEngaged, port));
 }
 

@@ -5,18 +5,6 @@ namespace VASK
 {
 namespace
 {
-/// Fields of an input record in their order; the record repeats for every input.
-enum InputField {
-    SourceCode,
-    Interlaced,
-    SignalState,
-    Width,
-    Height,
-    FramePeriod,
-    ColourSampling,
-    FieldCount
-};
-
 /// The number under which the block keeps a field: the second names of the reported output size are aliases.
 ENUM_MenuIndex canonical(ENUM_MenuIndex index)
 {
@@ -33,8 +21,8 @@ bool isWide(ENUM_MenuIndex index)
         return true;
     if (index >= PARA_PortLink)
         return false;
-    const int field = (index - PARA_InputRecordFirst) % FieldCount;
-    return field >= Width && field <= FramePeriod;
+    const int field = (index - PARA_InputRecordFirst) % FIELD_Count;
+    return field >= FIELD_Width && field <= FIELD_FramePeriod;
 }
 } // namespace
 
@@ -46,7 +34,6 @@ int InputRecord::measuredRateCentiHz() const
 
 int InputRecord::rateCentiHz() const
 {
-    constexpr int unknownRate = 6000;
     const int rate = measuredRateCentiHz();
     return rate ? rate : unknownRate;
 }
@@ -83,14 +70,14 @@ InputRecord ProcessData::input(int number) const
     if (number < 0 || number >= inputCount)
         return record;
     QMutexLocker lock(&m_mutex);
-    const uint16_t *fields = &m_fields[PARA_InputRecordFirst - PARA_CabinetWidth + number * FieldCount];
-    record.sourceCode = uint8_t(fields[SourceCode]);
-    record.interlaced = uint8_t(fields[Interlaced]);
-    record.signalState = uint8_t(fields[SignalState]);
-    record.width = fields[Width];
-    record.height = fields[Height];
-    record.framePeriodUs = fields[FramePeriod];
-    record.colourSampling = uint8_t(fields[ColourSampling]);
+    const uint16_t *fields = &m_fields[PARA_InputRecordFirst - PARA_CabinetWidth + number * FIELD_Count];
+    record.sourceCode = uint8_t(fields[FIELD_SourceCode]);
+    record.interlaced = uint8_t(fields[FIELD_Interlaced]);
+    record.signalState = uint8_t(fields[FIELD_SignalState]);
+    record.width = fields[FIELD_Width];
+    record.height = fields[FIELD_Height];
+    record.framePeriodUs = fields[FIELD_FramePeriod];
+    record.colourSampling = uint8_t(fields[FIELD_ColourSampling]);
     return record;
 }
 

@@ -12,6 +12,30 @@
 
 namespace VASK
 {
+/// Stands for a rate that nobody knows, hundredths of a hertz.
+constexpr int unknownRate = 6000;
+
+/// Fields of an input record, in their order behind PARA_InputRecordFirst.
+enum InputField : int {
+    FIELD_SourceCode,
+    FIELD_Interlaced,
+    FIELD_SignalState,
+    FIELD_Width,
+    FIELD_Height,
+    FIELD_FramePeriod,
+    FIELD_ColourSampling,
+    FIELD_Count
+};
+static_assert(FIELD_Count == int(STRIDE_InputRecord));
+
+/// The item of an input that holds a field.
+constexpr ENUM_MenuIndex inputItem(int input, InputField field)
+{
+    return nth(nth(PARA_InputRecordFirst, input, STRIDE_InputRecord), field);
+}
+
+constexpr int stableSignal = 3; ///< signal state of an input record
+
 /// What the device last told of one input.
 struct InputRecord {
     uint8_t sourceCode = 0;
@@ -22,7 +46,7 @@ struct InputRecord {
     uint16_t framePeriodUs = 0; ///< microseconds, 0: unknown
     uint8_t colourSampling = 0; ///< 0 RGB 4:4:4, 1 YCbCr 4:2:2, 2 YCbCr 4:4:4
 
-    /// Frame rate in hundredths of a hertz; 6000 when the period is unknown.
+    /// Frame rate in hundredths of a hertz; unknownRate when the period is unknown.
     int rateCentiHz() const;
     /// The same, but 0 when the period is unknown.
     int measuredRateCentiHz() const;

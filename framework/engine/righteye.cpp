@@ -1,5 +1,6 @@
 #include "framework/engine/righteye.h"
 
+#include "framework/engine/modes.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
@@ -12,7 +13,7 @@ namespace
 {
 ENUM_MenuIndex keptItem(int format)
 {
-    return format == 0 ? MENU_RightEyeStartSide : MENU_RightEyeStartTop;
+    return format == SideBySide ? MENU_RightEyeStartSide : MENU_RightEyeStartTop;
 }
 } // namespace
 

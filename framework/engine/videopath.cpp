@@ -40,7 +40,7 @@ void giveBackMainLayer(ParaChange &change, WorkMode nextMode)
                               !pipIsOn(change, 1) && !pipIsOn(change, 2));
     selectFallbackInput(change);
     change.enable(MENU_MainLayer_ScalingMode, true);
-    change.show(MENU_MainLayer_ScalingMode, "2");
+    change.show(MENU_MainLayer_ScalingMode, customScaling);
     for (const StartGeometry &start : startGeometry) {
         if (start.dimmed)
             change.enable(start.item, true);
@@ -74,7 +74,7 @@ void dimMainLayer(ParaChange &change)
 {
     const InputRecord input = DeviceView(change.engine).input(fallbackInput);
     change.enable(MENU_MainLayer_ScalingMode, false);
-    change.show(MENU_MainLayer_ScalingMode, "1");
+    change.show(MENU_MainLayer_ScalingMode, pixelToPixel);
     enableAll(change, {MENU_MainLayer_InitialX, MENU_MainLayer_InitialY}, true);
     change.enable(MENU_MainLayer_HorWidth, false);
     showAndSend(change, MENU_MainLayer_HorWidth, QString::number(input.width));
@@ -125,7 +125,7 @@ void dimLayerPages(ParaChange &change)
         change.windowState(pip + 1, false);
     }
     change.enable(MENU_Layout, false);
-    change.show(MENU_Layout, "2");
+    change.show(MENU_Layout, customLayout);
     enableAll(change, {MENU_MosaicInput, MENU_PresetSettings, MENU_ImageMosaic}, false);
     change.enable(MENU_MainLayerTransition, false);
     showAndSend(change, MENU_MainLayerTransition, "1");
@@ -136,8 +136,7 @@ void dimLayerPages(ParaChange &change)
 /// synchronisation.
 void dimFnOutput(ParaChange &change)
 {
-    constexpr const char *synchronization = "0";
-    const bool wasChosen = change.isOn(MENU_FnMode);
+    const bool wasChosen = change.number(MENU_FnMode) == FN_Output;
     if (wasChosen)
         change.choice(MENU_Fn_HDMIOutput, false);
     enableAll(change, {MENU_Fn_HDMIOutput}, false);
@@ -145,7 +144,7 @@ void dimFnOutput(ParaChange &change)
         return;
     change.choice(MENU_Fn_Synchronization, true);
     change.refresh(MENU_Fn_Synchronization);
-    change.set(MENU_FnMode, synchronization);
+    change.set(MENU_FnMode, QString::number(FN_Synchronization));
     change.choice(MENU_Fn_FTB, false);
     change.refresh(MENU_Fn_FTB);
 }

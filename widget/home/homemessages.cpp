@@ -25,7 +25,6 @@ constexpr quint8 updateRuns = 0;
 constexpr quint8 updateEnds = 1;
 
 constexpr int backupSteps = 4;
-constexpr qint8 stableSignal = 3;
 
 } // namespace
 
@@ -49,7 +48,8 @@ QDialog *HomeMessages::open(ENUM_MenuIndex index, const QString &text)
 
 void HomeMessages::syncState(qint8 signalState, const QString &text)
 {
-    const bool problem = text == QLatin1String("4");
+    constexpr int outOfStep = 4; ///< state of the genlock
+    const bool problem = text.toInt() == outOfStep;
     if (problem && !m_syncProblem && !m_syncDialog)
         m_syncDialog = open(signalState == stableSignal ? MSG_SyncMismatchTip : MSG_SyncNoSignalTip);
     if (!problem && m_syncDialog) {

@@ -7,6 +7,7 @@
 #include "framework/productiontest/productiontest.h"
 #include "framework/thread/handover.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/objectindex.h"
 #include "widget/home/homekeys.h"
 #include "widget/home/homemessages.h"
@@ -43,7 +44,7 @@ bool MainWindow::Init()
         return false;
     }
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    const bool signOff = engine && engine->GetParaFromIndex(MENU_MakerSign) == QLatin1String("0");
+    const bool signOff = engine && isOff(engine->GetParaFromIndex(MENU_MakerSign));
     SetDevNameState(signOff ? COMMON_OFF : COMMON_ON);
     for (int port = 0; port < NET_PORT_COUNT; ++port)
         SetNetState(ENUM_MainWindowNetIndex(port), NET_DISABLED);

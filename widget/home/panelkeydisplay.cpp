@@ -14,19 +14,15 @@ namespace VASK
 {
 namespace
 {
-/// The display mode, as the process data hold it.
-const QString modeNormal = QStringLiteral("0");
-const QString modeFrozen = QStringLiteral("1");
-const QString modeBlack = QStringLiteral("2");
-const QString modeTest = QStringLiteral("3");
-
 /// How long a key's LED flashes when its page opens, milliseconds.
 constexpr int flashMs = 100;
 
-QString displayMode()
+/// None of the modes as long as there is no engine.
+int displayMode()
 {
+    constexpr int noMode = -1;
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    return engine ? engine->GetParaFromIndex(PARA_DisplayMode) : QString();
+    return engine ? engine->processData().value(PARA_DisplayMode) : noMode;
 }
 
 void press(ENUM_ObjectIndex row, ENUM_MenuIndex item)
@@ -60,15 +56,23 @@ void fnOutput(QWidget *screen, unsigned char)
 
 void fnBlack(QWidget *, unsigned char)
 {
-    if (displayMode() == modeBlack)
+    if (displayMode() == MODE_Black)
         showNormal();
     else
         press(ENUM_ROW_FTB, MENU_FTB);
 }
 
-/// By the value of the Fn item.
-constexpr void (*fnFunctions[])(QWidget *, unsigned char) = {
-    fnSynchronization, fnOutput, fnBlack, keypadFreezeEvent, keypadTestEvent,
+struct FnKey {
+    FnFunction function;
+    void (*press)(QWidget *, unsigned char);
+};
+constexpr FnKey fnKeys[] = {
+    {FN_Synchronization, fnSynchronization},
+    {FN_Output, fnOutput},
+    {FN_Black, fnBlack},
+    // These have keys of their own, too.
+    {FN_Freeze, keypadFreezeEvent},
+    {FN_Test, keypadTestEvent},
 };
 } // namespace
 
@@ -80,17 +84,18 @@ void keypadFnEvent(QWidget *screen, unsigned char key)
     const QString function = engine->GetParaFromIndex(MENU_FnMode);
     qDebug() << "###MenuDirectory::keypadFnEvent:fn_mode=" << function;
     bool isNumber = false;
-    const size_t number = function.toUInt(&isNumber);
-    if (isNumber && number < std::size(fnFunctions))
-        fnFunctions[number](screen, key);
+    const int number = function.toInt(&isNumber);
+    for (const FnKey &fn : fnKeys)
+        if (isNumber && fn.function == number)
+            fn.press(screen, key);
 }
 
 void keypadFreezeEvent(QWidget *, unsigned char)
 {
-    const QString mode = displayMode();
-    if (mode == modeTest)
+    const int mode = displayMode();
+    if (mode == MODE_Testing)
         return;
-    if (mode == modeFrozen)
+    if (mode == MODE_Frozen)
         showNormal();
     else
         press(ENUM_ROW_Freeze, MENU_Freeze);
@@ -98,14 +103,14 @@ void keypadFreezeEvent(QWidget *, unsigned char)
 
 void keypadTestEvent(QWidget *screen, unsigned char)
 {
-    const QString mode = displayMode();
-    qDebug() << "disp_mode == " << mode;
-    if (mode == modeTest) {
+    const int mode = displayMode();
+    qDebug() << "disp_mode == " << QString::number(mode);
+    if (mode == MODE_Testing) {
         showNormal();
         return;
     }
     // As OK on the row of the page: it starts the pattern, unless a held picture disables the row.
-    if (mode == modeNormal)
+    if (mode == MODE_Normal)
         press(ENUM_ROW_TestPattern, MENU_TestPattern);
     openMenuPath(screen, {ENUM_MAIN_MENU, ENUM_PAGE_DisplayControl, ENUM_PAGE_TestPattern});
 }

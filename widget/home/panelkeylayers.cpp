@@ -6,6 +6,7 @@
 #include "framework/engine/keyleds.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/home/panellayers.h"
@@ -17,9 +18,6 @@ namespace
 {
 const QString on = QStringLiteral("1");
 const QString off = QStringLiteral("0");
-const QString fullScreen = QStringLiteral("0");
-const QString customSize = QStringLiteral("2");
-const QString mosaicSource = QStringLiteral("MOSAIC");
 
 int layerOfKey(unsigned char key)
 {
@@ -31,7 +29,7 @@ int layerOfKey(unsigned char key)
 
 bool isOn(const ParaProcess &engine, const PanelLayer &layer)
 {
-    return engine.GetParaFromIndex(layer.status) != off;
+    return !isOff(engine.GetParaFromIndex(layer.items.status));
 }
 
 void setRow(ENUM_ObjectIndex row, ENUM_MenuIndex item, const QString &value)
@@ -44,8 +42,8 @@ void setRow(ENUM_ObjectIndex row, ENUM_MenuIndex item, const QString &value)
 bool mainLayerShowsMosaic(const ParaProcess &engine)
 {
     ST_ItemInfo source;
-    engine.GetInfoFromIndex(panelLayers[mainLayer].source, source);
-    return source.params.value(source.value) == mosaicSource;
+    engine.GetInfoFromIndex(panelLayers[mainLayer].items.source, source);
+    return source.params.value(source.value) == mosaicOption;
 }
 } // namespace
 
@@ -56,11 +54,11 @@ void keypadLayerEvent(QWidget *screen, unsigned char key)
     if (number < 0 || !engine)
         return;
     // A sending card has one layer only.
-    if (number != mainLayer && currentWorkMode() == workModeSendingCard)
+    if (number != mainLayer && currentWorkMode() == WORK_SENDER)
         return;
     const PanelLayer &layer = panelLayers[size_t(number)];
     if (!isOn(*engine, layer) && (number == mainLayer || !mainLayerShowsMosaic(*engine)))
-        setRow(layer.statusRow, layer.status, on);
+        setRow(layer.statusRow, layer.items.status, on);
     openMenuPath(screen, {ENUM_MAIN_MENU, ENUM_PAGE_LayerSettings, layer.page});
 }
 
@@ -73,24 +71,24 @@ void keypadLayerLongEvent(QWidget *, unsigned char key)
     const PanelLayer &layer = panelLayers[size_t(number)];
     if (!isOn(*engine, layer))
         return;
-    setRow(layer.statusRow, layer.status, off);
+    setRow(layer.statusRow, layer.items.status, off);
     showLayerLeds(OpenPage::layer());
 }
 
 void keypadScaleEvent(QWidget *, unsigned char)
 {
     auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    if (!engine || engine->GetParaFromIndex(MENU_ImageMosaic_Status) == on)
+    if (!engine || isOn(engine->GetParaFromIndex(MENU_ImageMosaic_Status)))
         return;
     const size_t lowest = engine->GetParaFromIndex(PARA_LowestLayer).toUInt();
     if (lowest >= panelLayers.size())
         return;
     const PanelLayer &layer = panelLayers[lowest];
     ST_ItemInfo scaling;
-    engine->GetInfoFromIndex(layer.scaling, scaling);
-    const QString next = scaling.value == fullScreen ? customSize : fullScreen;
+    engine->GetInfoFromIndex(layer.items.scaling, scaling);
+    const QString next = scaling.value == fullScreen ? customScaling : fullScreen;
     if (next == fullScreen && scaling.params1.value(fullScreen) == optionDisable)
         return;
-    setRow(layer.scalingRow, layer.scaling, next);
+    setRow(layer.scalingRow, layer.items.scaling, next);
 }
 } // namespace VASK

@@ -1,5 +1,6 @@
 #include "widget/home/panelkeys.h"
 
+#include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
@@ -61,11 +62,11 @@ constexpr PanelKey panelKeys[] = {
 /// From the first input key upward.
 constexpr unsigned char digits[] = {1, 2, 3, 6, noDigit, 9, 7, noDigit, 0, 8, noDigit, 5};
 
-unsigned modeBit(const QString &workMode)
+unsigned modeBit(WorkMode workMode)
 {
-    if (workMode == workModeConverter)
+    if (workMode == WORK_FIBER)
         return InConverter;
-    return workMode == workModeSendingCard ? InSendingCard : InController;
+    return workMode == WORK_SENDER ? InSendingCard : InController;
 }
 } // namespace
 
@@ -75,10 +76,10 @@ unsigned char GetkeypadNum(unsigned char key)
     return place >= 0 && place < int(std::size(digits)) ? digits[place] : noDigit;
 }
 
-QString currentWorkMode()
+WorkMode currentWorkMode()
 {
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    return engine ? engine->GetParaFromIndex(MENU_WorkMode) : workModeController;
+    return engine ? DeviceView(*engine).workMode() : WORK_CONTROLLER;
 }
 
 bool runPanelKey(QWidget *screen, PanelScreen kind, const KeypadEvent &event)

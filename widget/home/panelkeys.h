@@ -2,6 +2,7 @@
 // home screen and from every page of the menu; only the work modes in which they count differ. GUI thread.
 #pragma once
 
+#include "framework/engine/modes.h"
 #include "framework/input/keypadevent.h"
 #include "menu/objectindex.h"
 
@@ -17,11 +18,8 @@ class ParaProcess;
 /// Where a key was pressed.
 enum class PanelScreen { Home, Page };
 
-/// The work mode of the device, as the item holds it.
-inline const QString workModeController = QStringLiteral("0");
-inline const QString workModeConverter = QStringLiteral("1");
-inline const QString workModeSendingCard = QStringLiteral("2");
-QString currentWorkMode();
+/// A video controller's, as long as there is no engine.
+WorkMode currentWorkMode();
 
 /// Does the work of a dedicated key. False if the key has none on that screen or in the present work mode.
 bool runPanelKey(QWidget *screen, PanelScreen kind, const KeypadEvent &event);

@@ -30,7 +30,7 @@ constexpr SourceKey sourceKeys[] = {
 };
 
 constexpr unsigned char sdiSource = 3;
-constexpr ENUM_MenuIndex sdiSourceCode = nth(PARA_InputRecordFirst, sdiSource, STRIDE_InputRecord);
+constexpr ENUM_MenuIndex sdiSourceCode = inputItem(sdiSource, FIELD_SourceCode);
 const QString noSuchInput = QStringLiteral("255");
 
 const SourceKey *findSource(unsigned char key)
@@ -44,11 +44,11 @@ const SourceKey *findSource(unsigned char key)
 void setSource(const ParaProcess &engine, const PanelLayer &layer, const QString &source)
 {
     ST_ItemInfo item;
-    engine.GetInfoFromIndex(layer.source, item);
+    engine.GetInfoFromIndex(layer.items.source, item);
     if (!item.params1.contains(source) || item.params1.value(source) == optionDisable)
         return;
     if (auto *row = poolObject<VaskUiObject>(layer.sourceRow))
-        row->SetParaEntry(layer.source, source, SET_XML_USER);
+        row->SetParaEntry(layer.items.source, source, SET_XML_USER);
 }
 } // namespace
 
@@ -77,13 +77,13 @@ void keypadSourceEvent(QWidget *, unsigned char key)
             row->SetParaEntry(MENU_Mosaic_Arrangement, source, SET_XML_USER);
         return;
     }
-    const bool toOpenLayer = open < panelLayers.size() && currentWorkMode() != workModeSendingCard;
+    const bool toOpenLayer = open < panelLayers.size() && currentWorkMode() != WORK_SENDER;
     setSource(*engine, panelLayers[toOpenLayer ? open : size_t(mainLayer)], source);
 }
 
 void keypadSourceLongEvent(QWidget *screen, unsigned char key)
 {
-    if (currentWorkMode() == workModeSendingCard) {
+    if (currentWorkMode() == WORK_SENDER) {
         openMenuPath(screen, {ENUM_MAIN_MENU, ENUM_PAGE_InputSettings});
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
@@ -41,7 +42,7 @@ MenuDirectory *DirectoryEngineer::buildMenu(ENUM_ConfigIndex config)
         return nullptr;
     ST_MenuConfig info = m_config.value(config);
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    const bool signOff = engine && engine->GetParaFromIndex(MENU_MakerSign) == QLatin1String("0");
+    const bool signOff = engine && isOff(engine->GetParaFromIndex(MENU_MakerSign));
     // Without the maker's sign only the versions are shown.
     constexpr signed char versionRows = 2;
     if (config == CONFIG_AboutUs && signOff)

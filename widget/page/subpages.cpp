@@ -2,6 +2,7 @@
 
 #include "framework/engine/paraprocess.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/pageindex.h"
 #include "widget/page/cabinetfiles.h"
 #include "widget/page/directoryengineer.h"
@@ -26,7 +27,7 @@ MenuDirectory *aboutPage()
     static Variant full = {ENUM_DYNAMIC_PAGE_2, CONFIG_AboutUsFull, nullptr};
 
     const auto *engine = poolObject<ParaProcess>(ENUM_PARAPROCESS);
-    const bool signOff = engine && engine->GetParaFromIndex(MENU_MakerSign) == QLatin1String("0");
+    const bool signOff = engine && isOff(engine->GetParaFromIndex(MENU_MakerSign));
     Variant &variant = signOff ? brief : full;
     if (ObjectPool::getInstance()->IsExist(variant.object))
         return poolObject<MenuDirectory>(variant.object);

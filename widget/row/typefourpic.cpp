@@ -1,6 +1,7 @@
 #include "widget/row/typefourpic.h"
 
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/look.h"
@@ -43,7 +44,7 @@ typefourpic::typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
 void typefourpic::redraw()
 {
     for (int i = 0; i < pictureCount; ++i) {
-        const bool on = m_item.pixValue.mid(i, 1) == QLatin1String("1");
+        const bool on = isOn(m_item.pixValue.mid(i, 1));
         m_pictures[i]->setPixmap(QPixmap(QStringLiteral("%1imageControl/custom/custom%2_%3.png")
                                              .arg(imgPath)
                                              .arg(i + 1)

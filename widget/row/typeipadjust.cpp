@@ -1,5 +1,6 @@
 #include "widget/row/typeipadjust.h"
 
+#include "framework/engine/modes.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/ui/language.h"
 #include "menu/itemindex.h"
@@ -290,7 +291,7 @@ void typeipadjust::redraw()
     if (m_styledEnabled != m_item.enable)
         setTypeStyleSheet();
     const auto *engine = dynamic_cast<ParaProcess *>(GetObjectFromPool(ENUM_PARAPROCESS));
-    const bool automatic = engine && engine->GetParaFromIndex(MENU_Net_NetMode) == QLatin1String("1");
+    const bool automatic = engine && engine->GetParaFromIndex(MENU_Net_NetMode) == automaticAddress;
     if (automatic && m_item.value.isEmpty())
         showParts(QStringLiteral(" . . . "));
     else

@@ -1,5 +1,6 @@
 #include "widget/row/typemosaic.h"
 
+#include "framework/engine/modes.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/thread/handover.h"
 #include "framework/ui/language.h"
@@ -16,8 +17,6 @@ namespace VASK
 {
 namespace
 {
-const QString stackedLayout = QStringLiteral("0");
-
 QString rowStyle()
 {
     return look::sheet(
@@ -38,7 +37,7 @@ typemosaic::typemosaic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
 {
     CreatEntry();
     const auto *engine = dynamic_cast<ParaProcess *>(GetObjectFromPool(ENUM_PARAPROCESS));
-    arrange(engine && engine->GetParaFromIndex(MENU_Mosaic_Layout) == stackedLayout);
+    arrange(engine && engine->GetParaFromIndex(MENU_Mosaic_Layout) == mosaicAbove);
     redraw();
 }
 
@@ -83,7 +82,7 @@ void typemosaic::arrange(bool stacked)
 
 void typemosaic::updateSplite(QString value)
 {
-    runOnGui(this, [=] { arrange(value == stackedLayout); });
+    runOnGui(this, [=] { arrange(value == mosaicAbove); });
 }
 
 void typemosaic::showSize(const QString &text)

@@ -41,7 +41,7 @@ void showPort(ParaChange &change, int port)
 
 void applyStatus(ParaChange &change)
 {
-    const bool on = change.value == QLatin1String("1");
+    const bool on = change.turnsOn();
     askBeforeOpening(change, on ? MENU_QuickConfiguration : MENU_AdvancedCfg);
     change.set(MENU_ScreenConfigKind, on ? "1" : "0");
     freeStereo(change);

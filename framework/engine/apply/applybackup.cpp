@@ -44,7 +44,7 @@ void showArrows(ENUM_MenuIndex row, bool both)
 
 void applyPair(ParaChange &change)
 {
-    showArrows(change.index, change.value == QLatin1String("1") && allStable(change));
+    showArrows(change.index, change.turnsOn() && allStable(change));
     change.tail();
 }
 

@@ -35,7 +35,8 @@ void startSelfTest(ParaChange &change)
 
 void applyCommunicationMode(ParaChange &change)
 {
-    set_pc_connect_priority(change.value == QLatin1String("0") ? 1 : 0);
+    const bool usbFirst = change.turnsOff();
+    set_pc_connect_priority(usbFirst ? 1 : 0);
 }
 
 constexpr ApplyCase cases[] = {

@@ -15,12 +15,6 @@ namespace VASK
 {
 namespace
 {
-/// The display mode's numbers in PARA_DisplayMode.
-enum DisplayMode { Normal, Frozen, Black, Testing };
-
-/// The Fn key's functions in MENU_FnMode.
-enum FnFunction { FnSync, FnOutput, FnBlack, FnFreeze, FnTest };
-
 void light(ENUM_LedIndex led, bool on)
 {
     KeyEvent::SendLedCommand(led, on ? LED_ON : LED_OFF);
@@ -30,20 +24,20 @@ void light(ENUM_LedIndex led, bool on)
 bool fnStandsFor(int function, int displayMode)
 {
     switch (function) {
-    case FnBlack:
-        return displayMode == Black;
-    case FnFreeze:
-        return displayMode == Frozen;
-    case FnTest:
-        return displayMode == Testing;
+    case FN_Black:
+        return displayMode == MODE_Black;
+    case FN_Freeze:
+        return displayMode == MODE_Frozen;
+    case FN_Test:
+        return displayMode == MODE_Testing;
     }
     return false;
 }
 
 void lightMode(ParaChange &change, int displayMode)
 {
-    light(LED_FREEZE, displayMode == Frozen);
-    light(LED_TEST, displayMode == Testing);
+    light(LED_FREEZE, displayMode == MODE_Frozen);
+    light(LED_TEST, displayMode == MODE_Testing);
     light(LED_FN, fnStandsFor(change.number(MENU_FnMode), displayMode));
 }
 
@@ -62,14 +56,14 @@ void applyNormal(ParaChange &change)
 {
     qDebug() << "ENUM_MENUINDEX_SCREEN_CONTROL_NORMAL_DISPLAY_MENU::: testMode="
              << change.item(PARA_DisplayMode);
-    lightMode(change, Normal);
+    lightMode(change, MODE_Normal);
     for (ENUM_MenuIndex item : {MENU_Freeze, MENU_FTB, MENU_TestPattern})
         change.enable(item, true);
     change.choice(MENU_Normal, true);
     change.choice(MENU_Freeze, false);
     change.choice(MENU_FTB, false);
     refreshDisplayRows(change);
-    enterMode(change, Normal);
+    enterMode(change, MODE_Normal);
     change.tail();
 }
 
@@ -91,19 +85,19 @@ void applyHeldPicture(ParaChange &change, DisplayMode mode, ENUM_MenuIndex other
 void applyFreeze(ParaChange &change)
 {
     qDebug() << "ENUM_MENUINDEX_SCREEN_CONTROL_PIC_FROZEN_MENU::: testMode=" << change.item(PARA_DisplayMode);
-    applyHeldPicture(change, Frozen, MENU_FTB);
+    applyHeldPicture(change, MODE_Frozen, MENU_FTB);
 }
 
 void applyBlack(ParaChange &change)
 {
     qDebug() << "ENUM_MENUINDEX_SCREEN_CONTROL_PIC_BLACK_MENU::: testMode=" << change.item(PARA_DisplayMode);
-    applyHeldPicture(change, Black, MENU_Freeze);
+    applyHeldPicture(change, MODE_Black, MENU_Freeze);
 }
 
 void applyTestPattern(ParaChange &change)
 {
-    lightMode(change, Testing);
-    if (change.number(PARA_DisplayMode) == Testing)
+    lightMode(change, MODE_Testing);
+    if (change.number(PARA_DisplayMode) == MODE_Testing)
         return;
     if (change.fromUser()) {
         static const ENUM_MenuIndex patterns[] = {MENU_Test_PureColor, MENU_Test_Gradient, MENU_Test_Grid};
@@ -118,7 +112,7 @@ void applyTestPattern(ParaChange &change)
     change.enable(MENU_Freeze, false);
     change.enable(MENU_FTB, false);
     refreshDisplayRows(change);
-    enterMode(change, Testing);
+    enterMode(change, MODE_Testing);
 }
 
 void applyFnFunction(ParaChange &change)
@@ -140,10 +134,10 @@ struct ReportedMode {
     DisplayMode mode;
 };
 constexpr ReportedMode reportedModes[] = {
-    {DISPLAY_Normal, MENU_Normal, Normal},
-    {DISPLAY_Freeze, MENU_Freeze, Frozen},
-    {DISPLAY_Black, MENU_FTB, Black},
-    {DISPLAY_Test, MENU_TestPattern, Testing},
+    {DISPLAY_Normal, MENU_Normal, MODE_Normal},
+    {DISPLAY_Freeze, MENU_Freeze, MODE_Frozen},
+    {DISPLAY_Black, MENU_FTB, MODE_Black},
+    {DISPLAY_Test, MENU_TestPattern, MODE_Testing},
 };
 
 constexpr ApplyCase cases[] = {
@@ -160,7 +154,7 @@ void followDisplayMode(ParaProcess &engine, MenuAnalysis &store, int code)
     for (const ReportedMode &reported : reportedModes) {
         if (reported.code != code)
             continue;
-        if (reported.mode != Testing) {
+        if (reported.mode != MODE_Testing) {
             if (engine.processData().value(PARA_DisplayMode) == reported.mode)
                 return;
             ParaChange change(engine, store, QString(), reported.item, SET_XML_DEVICE);

@@ -16,10 +16,13 @@ constexpr int inputConfigs = CONFIG_HDMI2_EDID - CONFIG_HDMI1_EDID;
 
 constexpr ENUM_ObjectIndex parentPages[] = {ENUM_PAGE_HDMI1, ENUM_PAGE_HDMI2, ENUM_PAGE_DVI, ENUM_PAGE_DVI2};
 
+const QString standardEdid = QStringLiteral("0");
+const QString customEdid = QStringLiteral("1");
+
 void applyChoice(ParaChange &change)
 {
-    const bool custom = change.value == QLatin1String("1");
-    if (!custom && change.value != QLatin1String("0"))
+    const bool custom = change.value == customEdid;
+    if (!custom && change.value != standardEdid)
         return;
     const int input = change.member;
     swapPage({nth(ENUM_PAGE_HDMI1_EDID, input, inputPages),

@@ -12,15 +12,6 @@ namespace VASK
 {
 namespace
 {
-/// Fields of an input record, from its first number on. The device tells a record in their order, so that
-/// its period stands for the whole.
-enum RecordField { FieldPeriod = 5, FieldSampling = 6 };
-
-constexpr ENUM_MenuIndex recordField(int input, RecordField field)
-{
-    return nth(nth(PARA_InputRecordFirst, input, STRIDE_InputRecord), field);
-}
-
 /// One report of an input on its way through the cases below.
 struct InputReport {
     int number;
@@ -49,12 +40,12 @@ bool isShownBy(const ParaChange &change, const InputReport &input, int layer)
 
 bool isCropped(const ParaChange &change, int layer)
 {
-    return change.item(nth(MENU_MainLayerCrop_Status, layer, STRIDE_Crop)) != QLatin1String("0");
+    return !change.isOff(layers[size_t(layer)].cropStatus);
 }
 
 bool isPixelToPixel(const ParaChange &change, int layer)
 {
-    return change.isOn(nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer));
+    return change.item(nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer)) == pixelToPixel;
 }
 
 void offerCrop(ParaChange &change, int layer, bool on)
@@ -89,7 +80,7 @@ void followWithPip(ParaChange &change, const InputReport &input, int layer, Work
         const ENUM_MenuIndex scaling = nth(MENU_MainLayer_ScalingMode, layer, STRIDE_Layer);
         if (isPixelToPixel(change, layer))
             takeSize(change, layers[size_t(layer)], {input.width, input.height});
-        else if (change.item(MENU_ImageMosaic_Status) == QLatin1String("0") &&
+        else if (change.isOff(MENU_ImageMosaic_Status) &&
                  change.info(scaling).params1.value(QString::number(pixelToPixelRow)) != optionEnable)
             change.enableRow(scaling, pixelToPixelRow, true);
     }
@@ -185,9 +176,10 @@ void applySampling(ParaChange &change)
 /// Those of which the sampling is shown.
 constexpr Family sampledInputs{STRIDE_InputRecord, 5};
 
+/// The device tells a record in the order of its fields, so that its period stands for the whole.
 constexpr ApplyCase cases[] = {
-    {each(FAMILY_InputRecord, recordField(0, FieldPeriod)), applyInput},
-    {each(sampledInputs, recordField(0, FieldSampling)), applySampling},
+    {each(FAMILY_InputRecord, inputItem(0, FIELD_FramePeriod)), applyInput},
+    {each(sampledInputs, inputItem(0, FIELD_ColourSampling)), applySampling},
 };
 } // namespace
 

@@ -62,15 +62,15 @@ bool syncGivesWay(ParaChange &change)
 /// What software on a computer has configured is its own matter.
 bool screenSuits(const ParaChange &change)
 {
-    if (change.item(MENU_SoftwareConfigured) != QLatin1String("0"))
+    if (!change.isOff(MENU_SoftwareConfigured))
         return true;
-    return change.item(MENU_ScreenConfigKind) == QLatin1String("0") ? advancedFormSuitsLowLatency(change)
-                                                                    : quickFormSuitsLowLatency(change);
+    return change.isOff(MENU_ScreenConfigKind) ? advancedFormSuitsLowLatency(change)
+                                               : quickFormSuitsLowLatency(change);
 }
 
 void applyLowLatency(ParaChange &change)
 {
-    if (!change.fromUser() || change.value != QLatin1String("1")) {
+    if (!change.fromUser() || !change.turnsOn()) {
         change.tail();
         return;
     }

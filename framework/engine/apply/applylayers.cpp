@@ -11,7 +11,7 @@ namespace
 void showStatus(ParaChange &change, const LayerItems &layer)
 {
     leaveFixedLayout(change);
-    change.windowState(layer.number, change.value != QLatin1String("0"));
+    change.windowState(layer.number, !change.turnsOff());
     change.lowLayerUpdate();
     change.tail();
 }
@@ -35,7 +35,7 @@ void refusePip(ParaChange &change)
 void applyPipStatus(ParaChange &change)
 {
     const LayerItems &layer = layerOf(change);
-    const bool on = change.value == QLatin1String("1");
+    const bool on = change.turnsOn();
     if (on && mainShowsMosaic(change)) {
         refusePip(change);
         return;
@@ -44,7 +44,7 @@ void applyPipStatus(ParaChange &change)
         offerMosaic(change, false);
         lockTransition(change);
         change.engine.SetLayerSrc_Res(layer.number);
-    } else if (change.value == QLatin1String("0")) {
+    } else if (change.turnsOff()) {
         const bool alone = bothPipsOff(change);
         const bool sender = isSendingCard(change);
         offerMosaic(change, alone && !sender);

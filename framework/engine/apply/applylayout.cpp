@@ -38,7 +38,7 @@ void applyFixedLayout(ParaChange &change)
     constexpr int equalColumns = 3; // 1:1:1
     constexpr int wideMiddle = 4;   // 1:2:1
     const int output = outputSize(change).width;
-    const int side = output / (change.value == QLatin1String("0") ? equalColumns : wideMiddle);
+    const int side = output / (change.value == equalLayout ? equalColumns : wideMiddle);
     for (const LayerItems &layer : layers)
         if (change.item(layer.scaling) != customScaling)
             change.show(layer.scaling, customScaling);

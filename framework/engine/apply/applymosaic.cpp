@@ -12,17 +12,14 @@ namespace VASK
 {
 namespace
 {
-const QString sideBySide = QStringLiteral("1");
-const QString oneAbove = QStringLiteral("0");
-
 bool isSideBySide(const ParaChange &change)
 {
-    return change.item(MENU_Mosaic_Layout) == sideBySide;
+    return change.item(MENU_Mosaic_Layout) == mosaicBeside;
 }
 
 bool isOneAbove(const ParaChange &change)
 {
-    return change.item(MENU_Mosaic_Layout) == oneAbove;
+    return change.item(MENU_Mosaic_Layout) == mosaicAbove;
 }
 
 QString twice(const QString &pixels)
@@ -52,7 +49,7 @@ void setAndRefresh(ParaChange &change, ENUM_MenuIndex item, const QString &value
 void applyLayout(ParaChange &change)
 {
     qDebug() << "MOSAIC_SPLICE_MODEL" << QFileInfo(__FILE__).fileName();
-    const bool wide = change.value == sideBySide;
+    const bool wide = change.value == mosaicBeside;
     const QString width = change.item(wide ? MENU_MosaicLayout0_Width : MENU_MosaicLayout1_Width);
     const QString height = change.item(wide ? MENU_MosaicLayout0_Height : MENU_MosaicLayout1_Height);
     const QString size = wide ? twice(width) + 'x' + height : width + 'x' + twice(height);
@@ -140,7 +137,7 @@ void resetMosaic(ParaChange &change)
     const QString width = QStringLiteral("1920");
     const QString height = QStringLiteral("1080");
     const QString input = QStringLiteral("2");
-    change.show(MENU_Mosaic_Layout, sideBySide);
+    change.show(MENU_Mosaic_Layout, mosaicBeside);
     setAndRefresh(change, MENU_Mosaic_Width, width);
     change.set(MENU_MosaicLayout0_Width, width);
     change.set(MENU_MosaicLayout1_Width, width);
@@ -154,7 +151,8 @@ void resetMosaic(ParaChange &change)
     change.show(MENU_Mosaic_Arrangement, input);
     change.set(MENU_MosaicLayout0_Source, input);
     change.set(MENU_MosaicLayout1_Source, input);
-    change.eachWidget(MENU_Mosaic_Arrangement, [](VaskUiObject &widget) { widget.updateSplite(sideBySide); });
+    change.eachWidget(MENU_Mosaic_Arrangement,
+                      [](VaskUiObject &widget) { widget.updateSplite(mosaicBeside); });
 }
 
 constexpr ApplyCase cases[] = {

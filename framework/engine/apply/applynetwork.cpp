@@ -68,7 +68,7 @@ void enableAddress(ParaChange &change, bool on)
 
 void applyMode(ParaChange &change)
 {
-    if (change.value == QLatin1String("1")) {
+    if (change.value == automaticAddress) {
         enableAddress(change, false);
         change.set(MENU_DhcpDone, "0");
         change.home().showAddress("WaitIP");
@@ -117,7 +117,7 @@ bool gatewayIsInSubnet(const Address &ip, const Address &mask, const Address &ga
 
 void applySettings(ParaChange &change)
 {
-    if (change.item(MENU_Net_NetMode) != QLatin1String("0")) {
+    if (change.item(MENU_Net_NetMode) != manualAddress) {
         change.tail();
         return;
     }

@@ -83,6 +83,9 @@ void syncOff(ParaChange &change)
     change.tail();
 }
 
+/// Row of the synchronisation reference in the list of sources.
+const QString referenceRow = QStringLiteral("0");
+
 /// Rate at which the output follows a source, hundredths of a hertz.
 int followedRate(const ParaChange &change, const InputRecord &source)
 {
@@ -106,7 +109,7 @@ void syncOn(ParaChange &change)
         change.send(MENU_LowLatency, "0");
     }
     const QString source = change.item(MENU_Sync_Source);
-    const int input = source == QLatin1String("0") ? device.inputOfCode(INPUT_SyncReference) : source.toInt();
+    const int input = source == referenceRow ? device.inputOfCode(INPUT_SyncReference) : source.toInt();
     const int rate = followedRate(change, device.input(input));
     change.set(PARA_OutputRate, QString::number(rate));
     change.redoResolution(rate);
@@ -115,7 +118,7 @@ void syncOn(ParaChange &change)
 
 void applySync(ParaChange &change)
 {
-    if (change.value == QLatin1String("1"))
+    if (change.turnsOn())
         syncOn(change);
     else
         syncOff(change);

@@ -33,7 +33,7 @@ void offerLayouts(ParaChange &change, int width)
 /// Splicing takes the full screen from the PIP layers; without it they may have it back.
 void offerFullScreen(ParaChange &change, ENUM_MenuIndex scaling)
 {
-    if (change.item(MENU_ImageMosaic_Status) == QLatin1String("0") &&
+    if (change.isOff(MENU_ImageMosaic_Status) &&
         change.info(scaling).params1.value(fullScreen) != optionEnable)
         change.enableRow(scaling, fullScreenRow, true);
 }

@@ -100,7 +100,7 @@ void unsplice(ParaChange &change)
 
 void applySplicing(ParaChange &change)
 {
-    const bool on = change.value == QLatin1String("1");
+    const bool on = change.turnsOn();
     if (change.fromUser()) {
         if (on)
             splice(change);

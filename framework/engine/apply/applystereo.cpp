@@ -11,8 +11,6 @@ namespace VASK
 {
 namespace
 {
-enum StereoFormat { SideBySide, TopAndBottom, FrameSequential };
-
 struct OutputLoad {
     int width;
     int height;
@@ -23,7 +21,7 @@ struct OutputLoad {
 /// that start-up found counts.
 OutputLoad currentLoad(const ParaChange &change)
 {
-    if (change.item(MENU_OutputMode) != QLatin1String("1")) {
+    if (!change.isOn(MENU_OutputMode)) {
         const bool reported = change.number(PARA_ReportedWidth) != 0;
         return {change.number(reported ? PARA_ReportedWidth : PARA_OutputWidth),
                 change.number(reported ? PARA_ReportedHeight : PARA_OutputHeight),
@@ -75,7 +73,7 @@ void stereoOff(ParaChange &change)
 
 void applyStereo(ParaChange &change)
 {
-    const bool on = change.value == QLatin1String("1");
+    const bool on = change.turnsOn();
     const bool doubles = on && change.number(MENU_Mode3D_Format) != FrameSequential;
     if (doubles && change.fromUser() && overloads(change)) {
         change.set(MENU_Mode3D_Status, "0");

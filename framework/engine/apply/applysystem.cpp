@@ -66,7 +66,7 @@ void applyBootLogo(ParaChange &change)
 {
     if (!change.changed())
         return;
-    board::runCommand(change.value == QLatin1String("0")
+    board::runCommand(change.turnsOff()
                           ? "cp -a /usr/vask/etc/logo/logo_hide.bmp /usr/vask/etc/logo/logo.bmp"
                           : "cp -a /usr/vask/etc/logo/logo_vask.bmp /usr/vask/etc/logo/logo.bmp");
     board::runCommand("sync");
@@ -75,7 +75,7 @@ void applyBootLogo(ParaChange &change)
 void applyMakerSign(ParaChange &change)
 {
     if (change.changed())
-        change.home().showMakerSign(change.value != QLatin1String("0"));
+        change.home().showMakerSign(!change.turnsOff());
 }
 
 void loadCabinetFile(ParaChange &change)
@@ -103,7 +103,7 @@ void showCabinetFiles(ParaChange &change)
 
 void applyOsdPicture(ParaChange &change)
 {
-    change.enableRow(MENU_OSDChoice, change.member, change.value == QLatin1String("1"));
+    change.enableRow(MENU_OSDChoice, change.member, change.turnsOn());
 }
 
 void applySoftCalibration(ParaChange &change)
@@ -111,7 +111,7 @@ void applySoftCalibration(ParaChange &change)
     if (!change.fromDevice() || !ParaProcess::init_20m_flg)
         return;
     emit change.engine.signal_return_main(true);
-    emit change.engine.signal_soft_calibrate(change.value == QLatin1String("1") ? 1 : 0);
+    emit change.engine.signal_soft_calibrate(change.turnsOn() ? 1 : 0);
 }
 
 void applyServiceStarted(ParaChange &change)

@@ -61,7 +61,7 @@ void enableSyncSources(ParaChange &change)
 void showLayers(ParaChange &change)
 {
     for (int layer = 1; layer < layerCount; ++layer) {
-        if (change.item(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)) == QLatin1String("0"))
+        if (change.isOff(nth(MENU_MainLayer_Status, layer, STRIDE_Layer)))
             change.home().closeWindow(layer);
         else
             change.engine.SetLayerSrc_Res(layer);

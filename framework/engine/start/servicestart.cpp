@@ -5,6 +5,7 @@
 #include "framework/engine/paraprocess.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "sysconf.h"
@@ -51,7 +52,7 @@ void ServiceStart::startComplete()
 
 void ServiceStart::switchHdcp()
 {
-    if (m_engine.GetParaFromIndex(MENU_HDCPMemory) != QLatin1String("0"))
+    if (!isOff(m_engine.GetParaFromIndex(MENU_HDCPMemory)))
         return;
     if (auto *row = poolObject<VaskUiObject>(ENUM_ROW_HDCP))
         row->CallProtocol("0", MENU_HDCP);
@@ -70,7 +71,7 @@ void ServiceStart::checkSync()
 
 void ServiceStart::askForAddress()
 {
-    if (m_engine.GetParaFromIndex(MENU_Net_NetMode) == QLatin1String("1"))
+    if (m_engine.GetParaFromIndex(MENU_Net_NetMode) == automaticAddress)
         m_engine.SetParaToXml("1", MENU_Net_NetMode, SET_XML_USER);
 }
 } // namespace VASK

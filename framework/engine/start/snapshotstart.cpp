@@ -206,20 +206,20 @@ void SnapshotPush::stereo()
     report(MENU_Mode3D_Status, block.u8(STEREO_Switch) == deviceOn ? 1 : 0);
     // Both are kept, as the device is told of both: an erased snapshot tells nothing.
     if (block.u16(STEREO_StartSide))
-        keepRightEyeStart(m_store, 0, block.u16(STEREO_StartSide));
+        keepRightEyeStart(m_store, SideBySide, block.u16(STEREO_StartSide));
     if (block.u16(STEREO_StartTop))
-        keepRightEyeStart(m_store, 1, block.u16(STEREO_StartTop));
+        keepRightEyeStart(m_store, TopAndBottom, block.u16(STEREO_StartTop));
     switch (block.u8(STEREO_Format)) {
     case STEREO_SideBySide:
-        report(MENU_Mode3D_Format, 0);
+        report(MENU_Mode3D_Format, SideBySide);
         report(MENU_Mode3D_RightEyeStart, block.u16(STEREO_StartSide));
         break;
     case STEREO_TopAndBottom:
-        report(MENU_Mode3D_Format, 1);
+        report(MENU_Mode3D_Format, TopAndBottom);
         report(MENU_Mode3D_RightEyeStart, block.u16(STEREO_StartTop));
         break;
     case STEREO_Sequential:
-        report(MENU_Mode3D_Format, 2);
+        report(MENU_Mode3D_Format, FrameSequential);
         break;
     }
     if (block.u8(STEREO_EyePriority) == EYE_LeftFirst)
@@ -271,7 +271,7 @@ void SnapshotPush::hdcpAndInputAudio()
 {
     constexpr int inputCount = 8;
     constexpr int hdmiCount = 2;
-    if (m_engine.GetParaFromIndex(MENU_HDCPMemory) != QLatin1String("0"))
+    if (!isOff(m_engine.GetParaFromIndex(MENU_HDCPMemory)))
         report(MENU_HDCP, (m_mirror.inputs.u8(INPUTS_Hdcp) & 1) ? 0 : 1);
     for (int input = 0; input < inputCount; ++input) {
         const int byte = m_mirror.inputs.u8(INPUTS_Audio + INPUTS_AudioStride * input);

@@ -5,6 +5,7 @@
 #include "framework/engine/righteye.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 
 namespace VASK
@@ -52,9 +53,9 @@ void resetDisplayItems(MenuAnalysis &store)
 void markFnFunction(const ParaProcess &engine, MenuAnalysis &store)
 {
     const int function = engine.GetParaFromIndex(MENU_FnMode).toInt();
-    const int index = MENU_Fn_Synchronization + function;
+    const ENUM_MenuIndex index = nth(MENU_Fn_Synchronization, function);
     if (index >= MENU_Fn_Synchronization && index <= MENU_Fn_TestPattern)
-        store.UpdataItemCurChoice(ENUM_MenuIndex(index), SELECTED);
+        store.UpdataItemCurChoice(index, SELECTED);
 }
 } // namespace
 
@@ -62,14 +63,14 @@ void setStartValues(const ParaProcess &engine, MenuAnalysis &store)
 {
     addRightEyeItems(store);
     resetDisplayItems(store);
-    if (engine.GetParaFromIndex(MENU_HDCPMemory) == QLatin1String("0"))
+    if (isOff(engine.GetParaFromIndex(MENU_HDCPMemory)))
         store.UpdataItemCurValue(MENU_HDCP, "0");
     markFnFunction(engine, store);
 }
 
 void askBeforeOtherConfiguration(const ParaProcess &engine)
 {
-    const bool advanced = engine.GetParaFromIndex(MENU_ScreenConfigKind) == QLatin1String("0");
+    const bool advanced = isOff(engine.GetParaFromIndex(MENU_ScreenConfigKind));
     g_dialogConfig[MENU_QuickConfiguration].enabled = !advanced;
     g_dialogConfig[MENU_AdvancedCfg].enabled = advanced;
 }

@@ -1,5 +1,6 @@
 // The part of the protocol object that starts it and ties cables, host session and home screen together.
 
+#include "framework/engine/device.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/proto3rd.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
@@ -16,7 +17,6 @@ namespace
 {
 constexpr int drainMs = 10;
 constexpr int sendMs = 200;
-const QString workModeFiber = QStringLiteral("1");
 } // namespace
 
 int Proto3rd::initialize()
@@ -85,7 +85,7 @@ Proto3rd::HostMode Proto3rd::hostMode(const ParaProcess *engine)
 {
     if (!engine)
         return HostMode::Unknown;
-    return engine->GetParaFromIndex(MENU_WorkMode) == workModeFiber ? HostMode::Fiber : HostMode::Allowed;
+    return DeviceView(*engine).workMode() == WORK_FIBER ? HostMode::Fiber : HostMode::Allowed;
 }
 
 void Proto3rd::returnMain(bool mode)

@@ -1,6 +1,7 @@
 #include "framework/protocol/link/proto4rdrequests.h"
 
 #include "framework/engine/advancedports.h"
+#include "menu/itemvalue.h"
 
 #include <QDebug>
 #include <QStringList>
@@ -30,7 +31,7 @@ bool saveToCards(const RestChange &change, ST_Protocol4rdMsg &message)
 
 bool onOff(const RestChange &change, ST_Protocol4rdMsg &message)
 {
-    return message.parameters.body.insert("enable", change.value == QLatin1String("1"));
+    return message.parameters.body.insert("enable", isOn(change.value));
 }
 
 /// Percent on the menu, a byte on the wire.

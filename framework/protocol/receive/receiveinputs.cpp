@@ -1,4 +1,5 @@
 // Reports about the inputs: what they carry, their picture, their sound, and the mosaic of two of them.
+#include "framework/engine/modes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/snapshot/snapshotmap.h"
 #include "menu/itemfamilies.h"
@@ -80,10 +81,10 @@ enum MosaicOffset {
 QString mosaicLayout(int first, int second)
 {
     if (first == 1 && second == 2)
-        return QStringLiteral("1");
+        return mosaicBeside;
     if (first != 2 || second != 1)
         qDebug() << "##Error mosaic mode";
-    return QStringLiteral("0");
+    return mosaicAbove;
 }
 
 int ParseInputMosaicInfo(const Report &report)

@@ -1,4 +1,5 @@
 // Reports about 3D.
+#include "framework/engine/modes.h"
 #include "framework/protocol/devicecodes.h"
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "menu/itemindex.h"
@@ -41,9 +42,9 @@ int Prase_3DPriorityOffset(const Report &report)
 int Prase_3DSourceFormat(const Report &report)
 {
     const int code = report.u8();
-    report.parse.report(MENU_Mode3D_Format, code == STEREO_SideBySide     ? 0
-                                            : code == STEREO_TopAndBottom ? 1
-                                                                          : 2);
+    report.parse.report(MENU_Mode3D_Format, code == STEREO_SideBySide     ? SideBySide
+                                            : code == STEREO_TopAndBottom ? TopAndBottom
+                                                                          : FrameSequential);
     return 0;
 }
 

@@ -7,6 +7,7 @@
 #include "framework/protocol/send/videomode.h"
 #include "framework/protocol/snapshot/snapshotmap.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 #include <QDebug>
 
@@ -78,7 +79,7 @@ int EDIDApplySubmit(const SendChange &change)
 int HdcpSwitchChanged(const SendChange &change)
 {
     constexpr int protectedInputs = 4;
-    const QByteArray data = littleEndian(change.value == QLatin1String("0"), 1);
+    const QByteArray data = littleEndian(isOff(change.value), 1);
     change.log(data);
     for (int input = 0; input < protectedInputs; ++input)
         if (change.send(change.package(data, input)) != SEND_Done)
@@ -97,7 +98,7 @@ int inputBackupChanged(const SendChange &change)
     static constexpr Pair pairs[] = {
         {INPUT_HDMI1, INPUT_HDMI2}, {INPUT_DVI1Alias, INPUT_DVI2}, {INPUT_Mosaic, INPUT_Mosaic}};
     const Pair &pair = pairs[change.member];
-    const bool off = change.value == QLatin1String("0");
+    const bool off = isOff(change.value);
     return change.sendBytes(littleEndian(pair.main, 1) + littleEndian(0, 1) +
                             littleEndian(off ? noBackup : pair.backup, 1) + littleEndian(1, 1));
 }

@@ -4,6 +4,7 @@
 #include "framework/protocol/link/proto3rdreceiveparse.h"
 #include "framework/protocol/send/sendrow.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 #include <QDebug>
 
@@ -67,7 +68,7 @@ int InterceptionValueChanged(const SendChange &change)
     }
     const inputSource source = Proto3rdReceiveParse::inputSourceCode.value(key);
     QByteArray data = littleEndian(source.SourceCode, 1) + littleEndian(source.index, 1) +
-                      littleEndian(part[CROP_Switch] == QLatin1String("1"), 1);
+                      littleEndian(isOn(part[CROP_Switch]), 1);
     for (CropPlace place : {CROP_X, CROP_Y, CROP_Width, CROP_Height})
         data += littleEndian(part[place].toInt(), 2);
     change.log(data);

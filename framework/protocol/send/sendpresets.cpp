@@ -2,6 +2,7 @@
 
 #include "framework/protocol/send/sendrow.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 #include <QStringList>
 
@@ -30,7 +31,7 @@ int SceneCopyItem(const SendChange &change)
 
 int MosaicSwitchChanged(const SendChange &change)
 {
-    const bool on = change.value == QLatin1String("1");
+    const bool on = isOn(change.value);
     Proto3rdSend::SetOpenMosaicFlag(on ? MOSAIC_On : MOSAIC_Off);
     return sendPlain(change);
 }

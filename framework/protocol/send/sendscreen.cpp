@@ -2,6 +2,7 @@
 
 #include "framework/protocol/send/sendrow.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 #include <QDebug>
 #include <QVector>
@@ -18,7 +19,7 @@ constexpr quint8 applyAdvanced = 185;
 
 int ScannerMapping(const SendChange &change)
 {
-    const QByteArray data = littleEndian(change.value == QLatin1String("0") ? 255 : mappingOn, 1);
+    const QByteArray data = littleEndian(isOff(change.value) ? 255 : mappingOn, 1);
     change.log(data);
     return change.send(P::Set_ScannerCommonWrite(data, data.size(), MappingAddr));
 }

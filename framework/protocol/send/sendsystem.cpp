@@ -3,6 +3,7 @@
 #include "framework/protocol/send/sendrow.h"
 
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "sysconf.h"
 
 #include <QDebug>
@@ -19,9 +20,9 @@ int HotBackupChanged(const SendChange &change)
 {
     static constexpr RegisterAddress portRegisters[] = {REG_PortBackup_Group1, REG_PortBackup_Group2,
                                                         REG_PortBackup_Group3, REG_PortBackup_Group4};
-    const bool primary = change.value == QLatin1String("0");
+    const bool primary = isOff(change.value);
     const QByteArray word(4, primary ? '\0' : char(0x80));
-    const QByteArray role = littleEndian(change.value == QLatin1String("1") ? 0xA5 : 0x5A, 1);
+    const QByteArray role = littleEndian(isOn(change.value) ? 0xA5 : 0x5A, 1);
 
     change.log(word + role);
     for (RegisterAddress address : portRegisters)
