@@ -82,9 +82,9 @@ QStringList describe(const Registers &registers)
     return lines;
 }
 
-template <int group> RegisterRow backupRow()
+RegisterRow backupRow(const Group &group)
 {
-    return {groups[group].backup, groups[group].size, 1, 0, obey::storeAndReport};
+    return {group.backup, group.size, 1, 0, obey::storeAndReport};
 }
 } // namespace
 
@@ -118,8 +118,7 @@ Reports set(Registers &registers, int port, State state, bool on)
 
 Subject portsSubject()
 {
-    return {"ports",
-            {ports::backupRow<0>(), ports::backupRow<1>(), ports::backupRow<2>()},
-            ports::allReports,
-            ports::describe};
+    using namespace ports;
+    return {
+        "ports", {backupRow(groups[0]), backupRow(groups[1]), backupRow(groups[2])}, allReports, describe};
 }

@@ -1,7 +1,7 @@
 #include "widget/row/typeintadjust.h"
 
 #include "framework/store/menuanalysis.h"
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/look.h"
@@ -15,9 +15,8 @@ namespace
 /// Width, height and start of a layer's crop.
 bool isCropSize(ENUM_MenuIndex index)
 {
-    constexpr int layers = 3;
     const int place = index - MENU_MainLayerCrop_Status;
-    return place >= 0 && place < layers * STRIDE_Crop &&
+    return place >= 0 && place < FAMILY_Crop.count * STRIDE_Crop &&
            place % STRIDE_Crop >= MENU_MainLayerCrop_HorWidth - MENU_MainLayerCrop_Status &&
            place % STRIDE_Crop <= MENU_MainLayerCrop_InitialY - MENU_MainLayerCrop_Status;
 }

@@ -1,6 +1,7 @@
 #include "framework/protocol/link/proto4rdrequests.h"
 
 #include "framework/engine/advancedports.h"
+#include "framework/table.h"
 #include "menu/itemvalue.h"
 
 #include <QDebug>
@@ -129,21 +130,21 @@ template <const auto &icons> bool testPattern(const RestChange &change, ST_Proto
 
 // clang-format off
 const RestRow rows[] = {
-    {MENU_ScreenBrightness, MENU_ScreenBrightness, "Device_CabinetSingleBrightness", METHOD_PutId, allCabinets, brightness, "http return : brightness set faild error"},
-    {MENU_SavetoRVCard, MENU_SavetoRVCard, "Device_S_CabinetSolid", METHOD_PutId, allCabinets, saveToCards, "http return : ScreenSolid set faild error"},
-    {MENU_Normal, MENU_Normal, "ScreenDisplayMode", METHOD_PutId, thisScreen, displayMode<0>, "http return : SCREEN Mode faild error"},
-    {MENU_Freeze, MENU_Freeze, "ScreenDisplayMode", METHOD_PutId, thisScreen, displayMode<2>, "http return : SCREEN Mode faild error"},
-    {MENU_FTB, MENU_FTB, "ScreenDisplayMode", METHOD_PutId, thisScreen, displayMode<1>, "http return : SCREEN Mode faild error"},
-    {MENU_LowLatency, MENU_LowLatency, "ScreenLowLatency", METHOD_PutId, thisScreen, onOff, "http return : low delay set faild error"},
-    {MENU_Quick_CabinetRow, MENU_Quick_FlowWay, "ScreenQuickTouch", METHOD_Put, 0, quickConfiguration, "http return : quick screen set faild error"},
-    {MENU_CabinetFile1, MENU_CabinetFile8, "Device_Sendcfgfile", METHOD_PutId, allCabinets, cabinetFile, "http return : brightness set faild error"},
-    {MENU_Mapping, MENU_Mapping, "Device_CabMapping", METHOD_PutId, allCabinets, onOff, "http return : Mapping set faild error"},
-    {MENU_Test_PureColor, MENU_Test_PureColor, "SenderTestMode", METHOD_PutId, thisScreen, testPattern<colourIcons>, "http return : Test pure faild error"},
-    {MENU_Test_Gradient, MENU_Test_Gradient, "SenderTestMode", METHOD_PutId, thisScreen, testPattern<gradientIcons>, "http return : Test grad faild error"},
-    {MENU_Test_Grid, MENU_Test_Grid, "SenderTestMode", METHOD_PutId, thisScreen, testPattern<gridIcons>, "http return : Test grid faild error"},
-    {MENU_Advanced_Apply, MENU_Advanced_Apply, "ScreenAdvancedTouch", METHOD_PostList, 0, advancedConfiguration, "http return : quick screen set faild error"},
-    {MENU_Color_Gamma, MENU_Color_Gamma, "Device_CabinetSingleGamma", METHOD_PutId, allCabinets, gamma, "http return : ScreenSolid set faild error"},
-    {MENU_Color_R, MENU_Color_B, "Device_CabinetRGBBrightness", METHOD_PutId, allCabinets, colours, "http return : SCREEN color faild error"},
+    {MENU_ScreenBrightness, "Device_CabinetSingleBrightness", METHOD_PutId, allCabinets, brightness, "http return : brightness set faild error"},
+    {MENU_SavetoRVCard, "Device_S_CabinetSolid", METHOD_PutId, allCabinets, saveToCards, "http return : ScreenSolid set faild error"},
+    {MENU_Normal, "ScreenDisplayMode", METHOD_PutId, thisScreen, displayMode<0>, "http return : SCREEN Mode faild error"},
+    {MENU_Freeze, "ScreenDisplayMode", METHOD_PutId, thisScreen, displayMode<2>, "http return : SCREEN Mode faild error"},
+    {MENU_FTB, "ScreenDisplayMode", METHOD_PutId, thisScreen, displayMode<1>, "http return : SCREEN Mode faild error"},
+    {MENU_LowLatency, "ScreenLowLatency", METHOD_PutId, thisScreen, onOff, "http return : low delay set faild error"},
+    {range(MENU_Quick_CabinetRow, MENU_Quick_FlowWay), "ScreenQuickTouch", METHOD_Put, 0, quickConfiguration, "http return : quick screen set faild error"},
+    {range(MENU_CabinetFile1, MENU_CabinetFile8), "Device_Sendcfgfile", METHOD_PutId, allCabinets, cabinetFile, "http return : brightness set faild error"},
+    {MENU_Mapping, "Device_CabMapping", METHOD_PutId, allCabinets, onOff, "http return : Mapping set faild error"},
+    {MENU_Test_PureColor, "SenderTestMode", METHOD_PutId, thisScreen, testPattern<colourIcons>, "http return : Test pure faild error"},
+    {MENU_Test_Gradient, "SenderTestMode", METHOD_PutId, thisScreen, testPattern<gradientIcons>, "http return : Test grad faild error"},
+    {MENU_Test_Grid, "SenderTestMode", METHOD_PutId, thisScreen, testPattern<gridIcons>, "http return : Test grid faild error"},
+    {MENU_Advanced_Apply, "ScreenAdvancedTouch", METHOD_PostList, 0, advancedConfiguration, "http return : quick screen set faild error"},
+    {MENU_Color_Gamma, "Device_CabinetSingleGamma", METHOD_PutId, allCabinets, gamma, "http return : ScreenSolid set faild error"},
+    {range(MENU_Color_R, MENU_Color_B), "Device_CabinetRGBBrightness", METHOD_PutId, allCabinets, colours, "http return : SCREEN color faild error"},
 };
 // clang-format on
 } // namespace
@@ -167,9 +168,7 @@ QMap<int, ST_TestPattern> testPatterns()
 
 const RestRow *restRow(ENUM_MenuIndex index)
 {
-    const auto *found = std::find_if(std::begin(rows), std::end(rows), [index](const RestRow &row) {
-        return index >= row.first && index <= row.last;
-    });
-    return found == std::end(rows) ? nullptr : found;
+    static const TableIndex<ENUM_MenuIndex, RestRow> items(std::initializer_list<Table<RestRow>>{rows});
+    return items.find(index).row;
 }
 } // namespace VASK

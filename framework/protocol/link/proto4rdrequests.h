@@ -3,7 +3,7 @@
 #pragma once
 
 #include "framework/communication/http/protocol4rdmsg.h"
-#include "menu/itemindex.h"
+#include "menu/itemfamilies.h"
 
 #include <QMap>
 #include <QString>
@@ -38,8 +38,7 @@ struct RestChange {
 };
 
 struct RestRow {
-    ENUM_MenuIndex first;
-    ENUM_MenuIndex last;
+    ItemSpan span;
     const char *key; ///< of the catalogue
     methontype type;
     unsigned long long id;
