@@ -1,5 +1,6 @@
 #include "testkit/flood.h"
 
+#include "testkit/names/itemnames.h"
 #include "testkit/panel.h"
 
 #include <QElapsedTimer>
@@ -161,7 +162,6 @@ QString Flood::lost() const
     for (auto item = items.begin(); item != items.end(); ++item)
         if (m_last.value(item.key()) != item.value())
             faults += QString("item %1 was told %2 last, not %3")
-                          .arg(item.key())
-                          .arg(m_last.value(item.key()), item.value());
+                          .arg(itemnames::name(item.key()), m_last.value(item.key()), item.value());
     return faults.join('\n');
 }

@@ -2,6 +2,7 @@
 
 #include "fpd_hostlink.h"
 #include "testkit/lcdtext.h"
+#include "testkit/names/itemnames.h"
 #include "testkit/procfs.h"
 
 #include <QCoreApplication>
@@ -44,7 +45,7 @@ bool readFields(QFile &file, QMap<QString, QString> &fields)
         const QString name = xml.name().toString();
         QString field;
         if (name == "Items")
-            item = xml.attributes().value("Index").toString();
+            item = itemnames::name(xml.attributes().value("Index").toInt());
         else if (name == "Params" || name == "Params1")
             list = item + '/' + name;
         else if (name == "param")

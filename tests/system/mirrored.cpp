@@ -1,6 +1,7 @@
 #include "tests/system/mirrored.h"
 
 #include "menu/itemindex.h"
+#include "testkit/names/itemnames.h"
 #include "testkit/panel.h"
 
 #include <QRegularExpression>
@@ -201,7 +202,7 @@ QString toldBy(const QStringList &lines, const Row &row, QString &line)
 }
 QString keptOf(const QMap<QString, QString> &stored, const Row &row)
 {
-    const QString item = QString::number(row.item);
+    const QString item = itemnames::name(row.item);
     const QString value = stored.value(row.field == QByteArray("Value") ? item : item + '/' + row.field);
     return row.isListed ? QString(stored.value(item + "/Params/" + value)).replace('*', 'x') : value;
 }
@@ -225,7 +226,8 @@ QStringList mirrored::differences(Panel &panel)
         const QString told = toldBy(lines, row, line);
         const QString kept = keptOf(stored, row);
         if (!areSame(kept, told))
-            list += QString("%1: %2 in the store, %3 at the device (%4)").arg(row.item).arg(kept, told, line);
+            list += QString("%1: %2 in the store, %3 at the device (%4)")
+                        .arg(itemnames::name(row.item), kept, told, line);
     }
     return list;
 }

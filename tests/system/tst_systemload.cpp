@@ -1,6 +1,7 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
 #include "menu/itemindex.h"
 #include "testkit/flood.h"
+#include "testkit/names/itemnames.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -115,16 +116,16 @@ private slots:
             QStringList list;
             const QMap<QString, QString> stored = m_panel.storedFields();
             for (auto item = items.begin(); item != items.end(); ++item)
-                if (stored.contains(QString::number(item.key())) &&
-                    stored[QString::number(item.key())] != item.value())
+                if (stored.contains(itemnames::name(item.key())) &&
+                    stored[itemnames::name(item.key())] != item.value())
                     list += QString("%1: %2, not %3")
-                                .arg(item.key())
-                                .arg(stored[QString::number(item.key())], item.value());
+                                .arg(itemnames::name(item.key()), stored[itemnames::name(item.key())],
+                                     item.value());
             return list.join('\n');
         };
         const QMap<QString, QString> stored = m_panel.storedFields();
         QVERIFY(std::count_if(items.keyBegin(), items.keyEnd(),
-                              [&](int item) { return stored.contains(QString::number(item)); }) > 60);
+                              [&](int item) { return stored.contains(itemnames::name(item)); }) > 60);
         m_panel.waitUntil([&] { return differences().isEmpty(); });
         QCOMPARE(differences(), QString());
     }

@@ -18,8 +18,8 @@ struct Mark {
     const char *bytes[2];
 };
 constexpr Mark marks[] = {
-    {"2357", "1300009f", {"1", "2"}, {"01", "02"}},
-    {"1", "02000001", {"10", "20"}, {"19", "33"}},
+    {"Audio_Volume", "1300009f", {"1", "2"}, {"01", "02"}},
+    {"ScreenBrightness", "02000001", {"10", "20"}, {"19", "33"}},
 };
 } // namespace
 
@@ -70,9 +70,9 @@ QString Pushes::run(const QVector<PushRow> &rows)
 
 Pushes::Changes Pushes::changesOf(const QString &text)
 {
-    static const QRegularExpression change("(\\d+(?:/\\w+)*)=(.*?)(?=\\s+\\d+(?:/\\w+)*=|$)");
+    static const QRegularExpression change("((?!\\d)\\w+(?:/\\w+)*)=(.*?)(?=\\s+(?!\\d)\\w+(?:/\\w+)*=|$)");
     Changes changes;
-    for (auto found = change.globalMatch(text); found.hasNext();) {
+    for (auto found = change.globalMatch(itemnames::expanded(text)); found.hasNext();) {
         const QRegularExpressionMatch one = found.next();
         changes.insert(one.captured(1), one.captured(2));
     }
@@ -122,7 +122,7 @@ void Pushes::runRow(const PushRow &row)
             complain(row.name, "the LCD shows it already: " + sight);
     if (!push(row.reports))
         return complain(row.name, "not taken");
-    if (!row.told.isEmpty() && toldValues().join(' ') != row.told)
+    if (!row.told.isEmpty() && toldValues().join(' ') != itemnames::expanded(row.told))
         complain(row.name, "takes over " + toldValues().join(' '));
     for (const QString &sight : row.sights)
         if (!homescreen::waitToSee(m_panel, sight))
@@ -148,7 +148,7 @@ QStringList Pushes::toldValues()
     QStringList values;
     for (const QString &line : m_panel.logLines("ReportMsgToParaProcess ")) {
         const QStringList words = line.split(' ');
-        values << words.value(1) + '=' + words.value(2).remove('"');
+        values << itemnames::line(words.value(1).toInt(), words.value(2).remove('"'));
     }
     return values;
 }

@@ -3,6 +3,7 @@
 // thread of the test.
 #pragma once
 
+#include "testkit/names/itemnames.h"
 #include "tests/system/systemtest.h"
 
 #include <QMap>
@@ -18,14 +19,15 @@ public:
     /// Reports as the console takes them, "ADDRESS BYTES [--device N] [--ack N]", parted by semicolons.
     PushRow(const QString &name, const QString &reports) : name(name), reports(reports.split(';')) {}
 
-    /// All that changes in config.xml, "2105=100 2108/Enable=true 1009/Params1/3=Disable": items, with a
-    /// field where it is not the value.
+    /// All that changes in config.xml, "MainLayer_{InitialX=100 InputCrop/Enable=true}
+    /// OSDChoice/Params1/3=Disable": items, with a field where it is not the value.
     PushRow &stores(const QString &changes)
     {
         stored = changes;
         return *this;
     }
-    /// The values that the panel takes over, in order, "3310=1 3311=0": for those that no file keeps.
+    /// The values that the panel takes over, in order, "PortLink=1 PortLink+1=0": for those that no file
+    /// keeps.
     PushRow &tells(const QString &values)
     {
         told = values;

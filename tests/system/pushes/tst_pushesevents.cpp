@@ -38,10 +38,10 @@ private slots:
     void noReports()
     {
         // The status of a packet is kept, and no report is weighed by it.
-        QCOMPARE(
-            m_pushes.run(
-                {PushRow("some brightness", "02000001 4d --ack 1").stores("1=30").shows({"bright:30%"})}),
-            QString());
+        QCOMPARE(m_pushes.run({PushRow("some brightness", "02000001 4d --ack 1")
+                                   .stores("ScreenBrightness=30")
+                                   .shows({"bright:30%"})}),
+                 QString());
         const QImage before = screenBelowTheAddress();
         QVector<PushRow> rows;
         for (const auto &kind : nothings)
@@ -55,15 +55,17 @@ private slots:
     void servicesStart()
     {
         QVERIFY(m_panel.ask({"env", "set", "ver_rootfs", "V9.8.7"}).ok);
-        const QString addressOff = "2375/Enable=false 2376/Enable=false 2377/Enable=false 2378/Enable=false "
-                                   "2379/Enable=false";
+        const QString addressOff = "Net_{IPAddress/Enable=false SubnetMask/Enable=false Gateway/Enable=false "
+                                   "Apply/Enable=false Reset/Enable=false}";
         expect({
-            PushRow("video", "14000000 01").tells("3427=1").stores("2369=V9.8.7"),
-            PushRow("automatic address", "1300001a a8").stores("2374=1 3212=0 " + addressOff),
-            PushRow("sender", "14000000 02").tells("3428=2").answers({"1300001a 00 a8"}),
+            PushRow("video", "14000000 01")
+                .tells("VideoServiceStarted=1")
+                .stores("About_VersionValue=V9.8.7"),
+            PushRow("automatic address", "1300001a a8").stores("Net_NetMode=1 DhcpDone=0 " + addressOff),
+            PushRow("sender", "14000000 02").tells("SenderServiceStarted=2").answers({"1300001a 00 a8"}),
             PushRow("manual address", "1300001a 00")
-                .stores("2374=0 " + QString(addressOff).replace("false", "true")),
-            PushRow("sender, manual address", "14000000 02").tells("3428=2"),
+                .stores("Net_NetMode=0 " + QString(addressOff).replace("false", "true")),
+            PushRow("sender, manual address", "14000000 02").tells("SenderServiceStarted=2"),
         });
     }
 
@@ -77,7 +79,7 @@ private slots:
         QVERIFY(m_pushes.begin());
         expect({
             PushRow("video", "14000000 01")
-                .tells("3427=1")
+                .tells("VideoServiceStarted=1")
                 .answers({"13019004 00 01", "13019014 00 01", "13019024 00 01", "13019034 00 01"}),
         });
     }
@@ -126,32 +128,35 @@ private slots:
     void outputIsChosenByAPc()
     {
         // What the rates of a size leave of the list.
-        const QString fourRates = "2354/Params/0=48 2354/Params/1=50 2354/Params/2=59.94 2354/Params/3=60";
-        const QString nineRates = "2354/Params/0=23.98 2354/Params/1=24 2354/Params/2=25 2354/Params/3=29.97 "
-                                  "2354/Params/4=30 2354/Params/5=48 2354/Params/6=50 2354/Params/7=59.94 "
-                                  "2354/Params/8=60 2354/Params1/4=Enable 2354/Params1/5=Enable "
-                                  "2354/Params1/6=Enable 2354/Params1/7=Enable 2354/Params1/8=Enable";
+        const QString fourRates = "Output_{FrameRate/Params/0=48 FrameRate/Params/1=50 "
+                                  "FrameRate/Params/2=59.94 FrameRate/Params/3=60}";
+        const QString nineRates =
+            "Output_{FrameRate/Params/0=23.98 FrameRate/Params/1=24 FrameRate/Params/2=25 "
+            "FrameRate/Params/3=29.97 FrameRate/Params/4=30 FrameRate/Params/5=48 FrameRate/Params/6=50 "
+            "FrameRate/Params/7=59.94 FrameRate/Params/8=60 FrameRate/Params1/4=Enable "
+            "FrameRate/Params1/5=Enable FrameRate/Params1/6=Enable FrameRate/Params1/7=Enable "
+            "FrameRate/Params1/8=Enable}";
         const QString waiting = m_walk.text("Waiting");
         const QVector<PushRow> rows{
             PushRow("with its list of rates", "13041401 4006b0048813")
-                .tells("2353=5 2354=1 2355=")
-                .stores("2353=5 2354=1 " + fourRates)
+                .tells("Output_{Resolution=5 FrameRate=1} Output_Apply=")
+                .stores("Output_{Resolution=5 FrameRate=1} " + fourRates)
                 .answers({"13042007 00 00"}),
-            PushRow("video output", "13042007 01").stores("2352=1"),
+            PushRow("video output", "13042007 01").stores("Output_Mode=1"),
             PushRow("to video output", "13041401 0005d0026a17")
-                .tells("2353=1 2354=7 2355=")
-                .stores("2353=1 2354=7 3209=1 1056/Enable=false " + nineRates)
+                .tells("Output_{Resolution=1 FrameRate=7} Output_Apply=")
+                .stores("Output_{Resolution=1 FrameRate=7} OutputMode=1 Mode3D/Enable=false " + nineRates)
                 .shows({"screen:1280x720@59.94"})
                 .answers({"13042007 00 01"}),
             PushRow("a size that there is not", "13041401 e703e7037017")
-                .tells("2354=8 2355=")
-                .stores("2354=8")
+                .tells("Output_FrameRate=8 Output_Apply=")
+                .stores("Output_FrameRate=8")
                 .shows({"screen:1280x720@60"})
                 .answers({"13042007 00 01"}),
-            PushRow("monitor", "13042007 00").stores("2352=0"),
+            PushRow("monitor", "13042007 00").stores("Output_Mode=0"),
             PushRow("to monitor", "13041401 80073804f00a")
-                .tells("2353=7 2355=")
-                .stores("2353=7 3209=0")
+                .tells("Output_Resolution=7 Output_Apply=")
+                .stores("Output_Resolution=7 OutputMode=0")
                 .answers({"13042007 00 00"}),
         };
         QVERIFY(m_pushes.push({"13041401 800738047017"})); // as it is

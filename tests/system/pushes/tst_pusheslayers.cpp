@@ -35,19 +35,15 @@ QString record(int layer, int source, const Crop &crop)
 
 PushRow cropRow(int layer, int source, const Crop &crop)
 {
-    const int first = 3000 + 6 * layer;
+    static const char *const layers[] = {"MainLayer", "PIP1", "PIP2"};
     return PushRow(QString("layer %1, source %2").arg(layer).arg(source), record(layer, source, crop))
-        .stores(QString("%1=%2 %3=%4 %5=%6 %7=%8 %9=")
-                    .arg(first)
+        .stores(QString("%1Crop_{Status=%2 HorWidth=%3 VerHeight=%4 InitialX=%5 InitialY=%6}")
+                    .arg(layers[layer])
                     .arg(crop.status)
-                    .arg(first + 1)
                     .arg(crop.width)
-                    .arg(first + 2)
                     .arg(crop.height)
-                    .arg(first + 3)
                     .arg(crop.x)
-                    .arg(first + 4) +
-                QString::number(crop.y));
+                    .arg(crop.y));
 }
 
 /// The write of the main layer's window.
@@ -67,45 +63,49 @@ private slots:
         const char *const cutTransition = "13000001 00 00";
         expect({
             PushRow("main", record(0, {1, 1, 2, 100, -50, 1000, 700, 80}))
-                .stores(
-                    "2101=1 2105=100 3141=100 2106=-50 3142=-50 2103=1000 3139=1000 2104=700 3140=700 2107=2 "
-                    "2109=80 2108/Enable=false")
+                .stores("MainLayer_{InputSource=1 InitialX=100 CustomX=100 InitialY=-50 CustomY=-50 "
+                        "HorWidth=1000 CustomWidth=1000 VerHeight=700 CustomHeight=700 Priority=2 Opacity=80 "
+                        "InputCrop/Enable=false}")
                 .shows({"mainname:HDMI2", "main:" + noSignal()}),
             PushRow("PIP 1", record(1, {1, 2, 0, -20, 30, 640, 480, 70}))
-                .stores("2110=1 2111=2 2115=-20 3145=-20 2116=30 3146=30 2113=640 3143=640 2114=480 3144=480 "
-                        "2117=0 2119=70 2118/Enable=false 1019=1 1019/Enable=false 1020/Enable=false")
+                .stores("PIP1_{Status=1 InputSource=2 InitialX=-20 CustomX=-20 InitialY=30 CustomY=30 "
+                        "HorWidth=640 CustomWidth=640 VerHeight=480 CustomHeight=480 Priority=0 Opacity=70 "
+                        "InputCrop/Enable=false} MainLayerTransition=1 MainLayerTransition/Enable=false "
+                        "TransitionDuration/Enable=false")
                 .shows({"pip1name:DVI", "pip1:" + noSignal()})
                 .answers({cutTransition}),
             PushRow("PIP 2", record(2, {1, 3, 1, 500, 600, 320, 200, 60}))
-                .stores(
-                    "2120=1 2121=3 2125=500 3149=500 2126=600 3150=600 2123=320 3147=320 2124=200 3148=200 "
-                    "2127=1 2129=60 2128/Enable=false")
+                .stores("PIP2_{Status=1 InputSource=3 InitialX=500 CustomX=500 InitialY=600 CustomY=600 "
+                        "HorWidth=320 CustomWidth=320 VerHeight=200 CustomHeight=200 Priority=1 Opacity=60 "
+                        "InputCrop/Enable=false}")
                 .shows({"pip2name:SDI", "pip2:" + noSignal()})
                 .answers({cutTransition}),
             PushRow("as it is", record(0, {1, 1, 2, 100, -50, 1000, 700, 80})),
             PushRow("PIP 1 off", record(1, {0, 2, 0, -20, 30, 640, 480, 70}))
-                .stores("2110=0")
+                .stores("PIP1_Status=0")
                 .shows({"pip1off:" + m_walk.text("Inactive")}),
             PushRow("PIP 2 off", record(2, {0, 3, 1, 500, 600, 320, 200, 60}))
-                .stores("2120=0 1019/Enable=true 1020/Enable=true")
+                .stores("PIP2_Status=0 MainLayerTransition/Enable=true TransitionDuration/Enable=true")
                 .shows({"pip2off:" + m_walk.text("Inactive")}),
             PushRow("main, back", record(0, {1, 0, 0, 0, 0, 1920, 1080, 100}))
-                .stores("2101=0 2105=0 3141=0 2106=0 3142=0 2103=1920 3139=1920 2104=1080 3140=1080 2107=0 "
-                        "2109=100 2108/Enable=true")
+                .stores("MainLayer_{InputSource=0 InitialX=0 CustomX=0 InitialY=0 CustomY=0 HorWidth=1920 "
+                        "CustomWidth=1920 VerHeight=1080 CustomHeight=1080 Priority=0 Opacity=100 "
+                        "InputCrop/Enable=true}")
                 .shows({"mainname:HDMI1", "main:1920x1080@60"}),
             PushRow("PIPs, back", record(1, {0, 0, 1, 0, 0, 480, 270, 100}) + ';' +
                                       record(2, {0, 0, 2, 480, 0, 480, 270, 100}))
-                .stores(
-                    "2111=0 2115=0 3145=0 2116=0 3146=0 2113=480 3143=480 2114=270 3144=270 2117=1 2119=100 "
-                    "2118/Enable=true 2121=0 2125=480 3149=480 2126=0 3150=0 2123=480 3147=480 2124=270 "
-                    "3148=270 2127=2 2129=100 2128/Enable=true"),
+                .stores("PIP1_{InputSource=0 InitialX=0 CustomX=0 InitialY=0 CustomY=0 HorWidth=480 "
+                        "CustomWidth=480 VerHeight=270 CustomHeight=270 Priority=1 Opacity=100 "
+                        "InputCrop/Enable=true} PIP2_{InputSource=0 InitialX=480 CustomX=480 InitialY=0 "
+                        "CustomY=0 HorWidth=480 CustomWidth=480 VerHeight=270 CustomHeight=270 Priority=2 "
+                        "Opacity=100 InputCrop/Enable=true}"),
             PushRow("opaque beyond its limit", record(0, {1, 0, 0, 0, 0, 1920, 1080, 200}))
                 .answers({"1302003f 00 64"}),
             PushRow("main off, without its last byte", record(0, {0, 0, 0, 0, 0, 1920, 1080, 100}).chopped(2))
-                .stores("2100=0 2109=0")
+                .stores("MainLayer_{Status=0 Opacity=0}")
                 .shows({"mainoff:" + m_walk.text("Inactive")}),
             PushRow("main on", record(0, {1, 0, 0, 0, 0, 1920, 1080, 100}))
-                .stores("2100=1 2109=100")
+                .stores("MainLayer_{Status=1 Opacity=100}")
                 .shows({"main:1920x1080@60"}),
         });
     }
@@ -117,8 +117,8 @@ private slots:
         QVERIFY(m_pushes.flush());
         expect({
             PushRow("another width", record(0, {1, 0, 0, 0, 0, 1280, 1080, 100}))
-                .stores("2102=2 2103=1280 3139=1280 2103/Enable=true 2104/Enable=true 2105/Enable=true "
-                        "2106/Enable=true")
+                .stores("MainLayer_{ScalingMode=2 HorWidth=1280 CustomWidth=1280 HorWidth/Enable=true "
+                        "VerHeight/Enable=true InitialX/Enable=true InitialY/Enable=true}")
                 .shows({"led3:off"}),
         });
     }
@@ -129,10 +129,10 @@ private slots:
         const QString back = mainWindowWrite(0, 0, 1280, 1080);
         expect({
             PushRow("moved", "020001f0 64000000ceffffff")
-                .stores("2105=100 3141=100 2106=-50 3142=-50")
+                .stores("MainLayer_{InitialX=100 CustomX=100 InitialY=-50 CustomY=-50}")
                 .answers({there, there}),
             PushRow("moved back", "020001f0 0000000000000000")
-                .stores("2105=0 3141=0 2106=0 3142=0")
+                .stores("MainLayer_{InitialX=0 CustomX=0 InitialY=0 CustomY=0}")
                 .answers({back, back}),
         });
     }
@@ -158,9 +158,10 @@ private slots:
     {
         expect({
             PushRow("too large", record(1, 0, {1, 1, 2, 2000, 1625}))
-                .stores("3006=1 3007=2000 3008=1625 3009=1 3010=2 2112/Params1/1=Disable"),
+                .stores("PIP1Crop_{Status=1 HorWidth=2000 VerHeight=1625 InitialX=1 InitialY=2} "
+                        "PIP1_ScalingMode/Params1/1=Disable"),
             PushRow("just small enough", record(1, 0, {1, 3, 4, 1999, 1625}))
-                .stores("3007=1999 3009=3 3010=4 2112/Params1/1=Enable"),
+                .stores("PIP1Crop_{HorWidth=1999 InitialX=3 InitialY=4} PIP1_ScalingMode/Params1/1=Enable"),
         });
     }
 
@@ -176,10 +177,12 @@ private slots:
         const QString whole = mainWindowWrite(0, 0, 1920, 1080);
         expect({
             PushRow("cropped", record(0, 0, {1, 40, 50, 800, 600}))
-                .stores("3000=1 3001=800 3002=600 3003=40 3004=50 2103=800 2104=600")
+                .stores("MainLayerCrop_{Status=1 HorWidth=800 VerHeight=600 InitialX=40 InitialY=50} "
+                        "MainLayer_{HorWidth=800 VerHeight=600}")
                 .answers({cropped, cropped}),
             PushRow("whole again", record(0, 0, {0, 41, 51, 801, 601}))
-                .stores("3000=0 3001=801 3002=601 3003=41 3004=51 2103=1920 2104=1080")
+                .stores("MainLayerCrop_{Status=0 HorWidth=801 VerHeight=601 InitialX=41 InitialY=51} "
+                        "MainLayer_{HorWidth=1920 VerHeight=1080}")
                 .answers({whole, whole}),
         });
     }
@@ -194,17 +197,20 @@ private slots:
         constexpr int dvi1 = 0, dvi2 = 106, opt1 = 233, opt2 = 234;
         expect({
             PushRow("one above the other", record("0201", 1000, 500, dvi2, dvi1))
-                .tells("3071=0 3072=1000 3073=500 3074=3/2")
-                .stores("3071=0 3072=1000 3073=500 3074=3 3074/PerBase=2 3074/PixValue=1000x1000 "
-                        "3203=3 3204=1000 3205=500"),
+                .tells("Mosaic_{Layout=0 Width=1000 Height=500 Arrangement=3/2}")
+                .stores("Mosaic_{Layout=0 Width=1000 Height=500 Arrangement=3 Arrangement/PerBase=2 "
+                        "Arrangement/PixValue=1000x1000} MosaicLayout0_Source=3 MosaicLayout1_{Width=1000 "
+                        "Height=500}"),
             PushRow("side by side", record("0102", 800, 600, opt1, opt2))
-                .tells("3071=1 3072=800 3073=600 3074=4/5")
-                .stores("3071=1 3072=800 3073=600 3074=4 3074/PerBase=5 3074/PixValue=1600x600 "
-                        "3201=800 3202=600 3206=4"),
+                .tells("Mosaic_{Layout=1 Width=800 Height=600 Arrangement=4/5}")
+                .stores("Mosaic_{Layout=1 Width=800 Height=600 Arrangement=4 Arrangement/PerBase=5 "
+                        "Arrangement/PixValue=1600x600} MosaicLayout0_{Width=800 Height=600} "
+                        "MosaicLayout1_Source=4"),
             PushRow("no such layout", record("0303", 640, 480, 17, 18))
-                .tells("3071=0 3072=640 3073=480 3074=0/1")
-                .stores("3071=0 3072=640 3073=480 3074=0 3074/PerBase=1 3074/PixValue=640x960 "
-                        "3203=0 3204=640 3205=480"),
+                .tells("Mosaic_{Layout=0 Width=640 Height=480 Arrangement=0/1}")
+                .stores("Mosaic_{Layout=0 Width=640 Height=480 Arrangement=0 Arrangement/PerBase=1 "
+                        "Arrangement/PixValue=640x960} MosaicLayout0_Source=0 MosaicLayout1_{Width=640 "
+                        "Height=480}"),
         });
     }
 
@@ -224,11 +230,13 @@ private slots:
         QCOMPARE(m_panel.stored(MENU_ImageMosaic_Status), QString("1"));
         expect({
             PushRow("area", area(1000, 600, 40, 50))
-                .stores("1041=2000 1042=1200 1043=1000 1044=600 1045=40 1046=50"),
+                .stores("ImageMosaic_{TotalHPixels=2000 TotalVPixels=1200 LoadAreaWidth=1000 "
+                        "LoadAreaHeight=600 LoadAreaInitialX=40 LoadAreaInitialY=50}"),
             PushRow("short", "13030000 " + QString(2 * 24, '0') + "2003")
-                .stores("1041=1600 1042=0 1043=800 1044=0 1045=0 1046=0"),
+                .stores("ImageMosaic_{TotalHPixels=1600 TotalVPixels=0 LoadAreaWidth=800 LoadAreaHeight=0 "
+                        "LoadAreaInitialX=0 LoadAreaInitialY=0}"),
             PushRow("main layer of another size", record(0, {1, 0, 0, 0, 0, 3000, 2000, 100}))
-                .stores("2103=3000 3139=3000 2104=2000 3140=2000"),
+                .stores("MainLayer_{HorWidth=3000 CustomWidth=3000 VerHeight=2000 CustomHeight=2000}"),
         });
     }
 

@@ -17,13 +17,30 @@ QString enabled(const QList<int> &items, bool on)
 {
     QStringList changes;
     for (int item : items)
-        changes << QString("%1/Enable=%2").arg(item).arg(on ? "true" : "false");
+        changes << itemnames::line(item, on ? "true" : "false").replace("=", "/Enable=");
     return ' ' + changes.join(' ');
 }
 
 /// What a sending card has no use for.
-const QList<int> controllerItems{2015, 2100, 2102, 2103, 2104, 2107, 2109, 1005, 1006, 1007,
-                                 6,    7,    1019, 1020, 3087, 2346, 1052, 1056, 2343};
+const QList<int> controllerItems{MENU_OutputFrameRate,
+                                 MENU_MainLayer_Status,
+                                 MENU_MainLayer_ScalingMode,
+                                 MENU_MainLayer_HorWidth,
+                                 MENU_MainLayer_VerHeight,
+                                 MENU_MainLayer_Priority,
+                                 MENU_MainLayer_Opacity,
+                                 MENU_PIP1,
+                                 MENU_PIP2,
+                                 MENU_Layout,
+                                 MENU_PresetSettings,
+                                 MENU_ImageMosaic,
+                                 MENU_MainLayerTransition,
+                                 MENU_TransitionDuration,
+                                 MENU_AudioInput_Mosaic,
+                                 MENU_Fn_HDMIOutput,
+                                 MENU_HDMIOutput,
+                                 MENU_Mode3D,
+                                 MENU_InputBackup_Mosaic};
 } // namespace
 
 class TestPushesModes : public PushesTest
@@ -35,9 +52,11 @@ private slots:
         expect({
             PushRow("a source for it", dviThere),
             PushRow("sending card", "1300002c 10")
-                .stores("3210=2 1067/Choice=0 1069/Choice=1 2101=2 2102=1 2103=1280 2104=720 1019=1 "
-                        "2356/Params1/2=Disable 2356/Params1/3=Disable 2351/Params1/1=Disable "
-                        "2351/Params1/2=Disable 2351/Params1/3=Disable 2108/Enable=false" +
+                .stores("WorkMode=2 VideoController/Choice=0 SendingCard/Choice=1 MainLayer_{InputSource=2 "
+                        "ScalingMode=1 HorWidth=1280 VerHeight=720} MainLayerTransition=1 "
+                        "Audio_{AudioOutput/Params1/2=Disable AudioOutput/Params1/3=Disable} "
+                        "Sync_{Source/Params1/1=Disable Source/Params1/2=Disable Source/Params1/3=Disable} "
+                        "MainLayer_InputCrop/Enable=false" +
                         enabled(controllerItems, false))
                 .shows({"mainname:DVI", "main:1280x720@75", "screen:1920x1080@75"})
                 .answers({"020001f8 00 a5", "13020010 00 01", "13020040 00 00", "13020070 00 00",
@@ -58,17 +77,19 @@ private slots:
                 .shows({"screen:1600x1200@75"}),
             PushRow("the device's own size", "13040003 0005d0027017"),
             PushRow("input gone", dviGone)
-                .stores("2103=1920 2104=1080")
+                .stores("MainLayer_{HorWidth=1920 VerHeight=1080}")
                 .shows({"main:" + m_walk.text("No Signal"), "screen:1280x720@60"})
                 .answers({"13020015 00 00000000000000008007000038040000"}),
             PushRow("its size, its rate", "13040010 0000004006b0048813").shows({"screen:1600x1200@50"}),
             PushRow("a reference", "13010101 fe0003000000002b41"),
-            PushRow("in step with it", "1300002a 0101").stores("2350=1").shows({"screen:1280x720@59.94"}),
+            PushRow("in step with it", "1300002a 0101")
+                .stores("Sync_Status=1")
+                .shows({"screen:1280x720@59.94"}),
             PushRow("a little faster", "13010101 fe0003000000001b41").shows({"screen:1280x720@60"}),
             PushRow("moved", "020001f0 64000000ceffffff")
-                .stores("2105=100 2106=-50")
+                .stores("MainLayer_{InitialX=100 InitialY=-50}")
                 .answers({"020001f0 00 6400000000000000", "020001f0 00 64000000ceffffff", window, window}),
-            PushRow("free", "1300002a 0001").stores("2350=0"),
+            PushRow("free", "1300002a 0001").stores("Sync_Status=0"),
         });
     }
 
@@ -77,11 +98,11 @@ private slots:
         const QString window = "13020015 00 00000000000000002003000058020000";
         expect({
             PushRow("controller", "1300002c 00")
-                .stores(
-                    "3210=0 1067/Choice=1 1069/Choice=0 2102=2 2103=800 3139=800 2104=600 3140=600 2105=0 "
-                    "2106=0 2356/Params1/2=Enable 2356/Params1/3=Enable 2351/Params1/1=Enable "
-                    "2351/Params1/2=Enable 2351/Params1/3=Enable" +
-                    enabled(controllerItems, true))
+                .stores("WorkMode=0 VideoController/Choice=1 SendingCard/Choice=0 MainLayer_{ScalingMode=2 "
+                        "HorWidth=800 CustomWidth=800 VerHeight=600 CustomHeight=600 InitialX=0 InitialY=0} "
+                        "Audio_{AudioOutput/Params1/2=Enable AudioOutput/Params1/3=Enable} "
+                        "Sync_{Source/Params1/1=Enable Source/Params1/2=Enable Source/Params1/3=Enable}" +
+                        enabled(controllerItems, true))
                 .answers({"13020012 00 020000", "13020015 00 64000000ceffffff2003000038040000",
                           "13020015 00 64000000ceffffff2003000058020000",
                           "13020015 00 00000000ceffffff2003000058020000", window, "020001f8 00 00", window,

@@ -29,9 +29,7 @@ private slots:
         add("SDI picture", {MENU_InputSettings, MENU_SDI, MENU_SDI_InputColor}, "13050050 00131400154000",
             {"0:19", "1:20", "2:21", "3:64"});
         add("sampling", {MENU_InputSettings, MENU_DVI, MENU_DVI_Attributes},
-            "13010041 0000030004000315410000000000000000000000000000000000"
-            "01",
-            {"0:YCbCr 4:2:2"});
+            "13010041 000003000400031541000000000000000000000000000000000001", {"0:YCbCr 4:2:2"});
         add("OSD", {MENU_OSDSettings}, "13411000 01000005" + gap + "38ffffff2c010000",
             {"0:On", "2:-200", "3:300", "4:LOW"});
         add("audio", {MENU_AdvancedSetting, MENU_Audio}, "1300009e 0321", {"0:AudioOutputPIP2", "1:33"});
@@ -46,9 +44,7 @@ private slots:
             "13020010 0100010000640000009cffffffe8030000bc020000" + QString(2 * 26, '0') + "50",
             {"1:HDMI2", "3:1000", "4:700", "5:100"});
         add("PIP 1", {MENU_LayerSettings, MENU_PIP1},
-            "13020040 01000001000a00000014000000800200009001"
-            "0000" +
-                QString(2 * 26, '0') + "50",
+            "13020040 01000001000a000000140000008002000090010000" + QString(2 * 26, '0') + "50",
             {"0:On", "3:640", "4:400", "5:10"});
         add("crop", {MENU_LayerSettings, MENU_PIP2, MENU_PIP2_InputCrop}, "1302411c 11000114002800f0007800",
             {"0:On", "1:240", "2:120", "3:20", "4:40"});

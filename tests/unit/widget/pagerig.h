@@ -16,6 +16,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
+#include "testkit/names/itemnames.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"
@@ -125,7 +126,7 @@ public:
     NotingProtocol() : ProtocolInterface(ENUM_PROTOCOINTERFER_3RD) {}
     void slot_ValueChanged(QString value, ENUM_MenuIndex index) override
     {
-        sent << QString("%1=%2").arg(int(index)).arg(value);
+        sent << itemnames::line(index, value);
     }
     QStringList sent;
 };

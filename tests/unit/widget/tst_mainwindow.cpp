@@ -162,7 +162,7 @@ private slots:
         QVERIFY(m_rig->home->isLocked());
         QVERIFY(m_rig->home->isTakenOver());
         QCOMPARE(int(OpenPage::layer()), int(OpenPage::noLayer));
-        QCOMPARE(m_rig->device->sent, QStringList{"1002="});
+        QCOMPARE(m_rig->device->sent, QStringList{"SavetoRVCard="});
         m_rig->home->slot_ReturnToMainSoft(true);
         QVERIFY(!m_rig->home->isLocked());
         QVERIFY(!m_rig->home->isTakenOver());

@@ -10,16 +10,17 @@ namespace VASK
 {
 struct CaseLine {
     QString what;
-    /// Items and process data, "2351=1 rate=6000"; "1019-" cannot be chosen, "2101/4+" is a row of a list
-    /// that can. A change before them is made first: "user 1069=1; 2350=1".
+    /// Items and process data, "Sync_Source=1 OutputRate=6000"; "Freeze-" cannot be chosen,
+    /// "MainLayer_InputSource/4+" is a row of a list that can. A change before them is made first:
+    /// "user SendingCard=1; Sync_Status=1". Items of one family may share their first word in braces.
     QString before;
-    QString change; ///< "user 2350=1" or "device 2350=1"
-    /// Parts, parted by semicolons. "sends", "tells" and "reloads" name lines, "2350=1 2015=60"; "of 2103
-    /// 2104:" with lines looks only at what is sent of those items. "asks" names the keys of messages, which
-    /// "answers 0" refuses. "leaves" names states as before, and "1067!" or "1067?" for an item that is
-    /// marked or not. "screen", "ip", "sync", "bright", "name" and "picture" are texts of the home screen,
-    /// "visible" and "hidden" labels of it. Nothing else is sent, told or asked; reloads count where they are
-    /// named.
+    QString change; ///< "user Sync_Status=1" or "device Sync_Status=1"
+    /// Parts, parted by semicolons. "sends", "tells" and "reloads" name lines, "Sync_Status=1
+    /// OutputFrameRate=60"; "of Sync_Status Sync_Source:" with lines looks only at what is sent of those
+    /// items. "asks" names the keys of messages, which "answers 0" refuses. "leaves" names states as before,
+    /// and "SendingCard!" or "SendingCard?" for an item that is marked or not. "screen", "ip", "sync",
+    /// "bright", "name" and "picture" are texts of the home screen, "visible" and "hidden" labels of it.
+    /// Nothing else is sent, told or asked; reloads count where they are named.
     QString outcome;
 };
 using CaseLines = QVector<CaseLine>;
@@ -28,19 +29,7 @@ namespace caseline
 {
 inline QStringList wordsOf(const QString &text)
 {
-    return text.split(' ', Qt::SkipEmptyParts);
-}
-
-inline ENUM_MenuIndex itemOf(const QString &name)
-{
-    static const QMap<QString, int> words{
-        {"rate", PARA_OutputRate},           {"width", PARA_OutputWidth},
-        {"height", PARA_OutputHeight},       {"link", PARA_PortLink},
-        {"cabinetWidth", PARA_CabinetWidth}, {"cabinetHeight", PARA_CabinetHeight}};
-    const int item = words.value(name, name.toInt());
-    if (item == 0)
-        qFatal("no item: %s", qPrintable(name));
-    return ENUM_MenuIndex(item);
+    return itemnames::expanded(text).split(' ', Qt::SkipEmptyParts);
 }
 
 inline void prepare(EngineRig &rig, const QString &states)
@@ -49,11 +38,12 @@ inline void prepare(EngineRig &rig, const QString &states)
         const bool on = state.endsWith('+');
         const QString place = state.chopped(1);
         if (state.contains('='))
-            rig.engine->SetParaToXml(state.section('=', 1), itemOf(state.section('=', 0, 0)), SET_XML_STORE);
+            rig.engine->SetParaToXml(state.section('=', 1), itemnames::item(state.section('=', 0, 0)),
+                                     SET_XML_STORE);
         else if (!place.contains('/'))
-            rig.store->UpdataItemEnable(itemOf(place), on);
+            rig.store->UpdataItemEnable(itemnames::item(place), on);
         else
-            rig.store->changeItem(itemOf(place.section('/', 0, 0)), [&](ST_ItemInfo &list) {
+            rig.store->changeItem(itemnames::item(place.section('/', 0, 0)), [&](ST_ItemInfo &list) {
                 const QString row = place.section('/', 1);
                 if (!list.params.contains(row))
                     list.params[row] = "MOSAIC"; // which only some devices offer
@@ -65,9 +55,9 @@ inline void prepare(EngineRig &rig, const QString &states)
 inline bool stands(EngineRig &rig, const QString &state)
 {
     if (state.contains('='))
-        return rig.value(itemOf(state.section('=', 0, 0))) == state.section('=', 1);
+        return rig.value(itemnames::item(state.section('=', 0, 0))) == state.section('=', 1);
     const QString place = state.chopped(1);
-    const ENUM_MenuIndex item = itemOf(place.section('/', 0, 0));
+    const ENUM_MenuIndex item = itemnames::item(place.section('/', 0, 0));
     if (state.endsWith('!') || state.endsWith('?'))
         return (rig.choice(item) == SELECTED) == state.endsWith('!');
     return (place.contains('/') ? rig.rowEnabled(item, place.section('/', 1).toInt()) : rig.enabled(item)) ==
@@ -86,7 +76,7 @@ inline void change(EngineRig &rig, const QString &words)
     const bool byUser = words.startsWith("user ");
     if (!byUser && !words.startsWith("device "))
         qFatal("nobody's change: %s", qPrintable(words));
-    rig.engine->SetParaToXml(line.section('=', 1), itemOf(line.section('=', 0, 0)),
+    rig.engine->SetParaToXml(line.section('=', 1), itemnames::item(line.section('=', 0, 0)),
                              byUser ? SET_XML_USER : SET_XML_DEVICE);
     rig.settle();
 }

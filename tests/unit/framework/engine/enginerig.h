@@ -13,6 +13,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "testkit/names/itemnames.h"
 #include "tests/unit/framework/protocol/datarows.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/directoryengineer.h"
@@ -29,14 +30,14 @@
 
 namespace VASK
 {
-/// Lines of "index=value", noted from any thread.
+/// Lines of "ITEM=value", noted from any thread.
 class Notes
 {
 public:
     void add(ENUM_MenuIndex index, const QString &value)
     {
         QMutexLocker lock(&m_mutex);
-        m_lines << QString("%1=%2").arg(int(index)).arg(value);
+        m_lines << itemnames::line(index, value);
     }
     /// All lines since the last take.
     QStringList take()

@@ -57,7 +57,7 @@ public:
     static ENUM_MenuIndex of(int main, int layer) { return ENUM_MenuIndex(main + 10 * layer); }
     static ENUM_MenuIndex crop(int main, int layer) { return ENUM_MenuIndex(main + 6 * layer); }
     static ENUM_MenuIndex memory(int main, int layer) { return ENUM_MenuIndex(main + 4 * layer); }
-    static QString line(int index, const QString &value) { return QString("%1=%2").arg(index).arg(value); }
+    static QString line(int index, const QString &value) { return itemnames::line(index, value); }
 
     /// Width, height, x and y.
     QString geometry(int layer) const { return four(of(MENU_MainLayer_HorWidth, layer)); }

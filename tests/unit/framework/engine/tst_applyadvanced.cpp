@@ -30,39 +30,54 @@ private:
 
 namespace
 {
-const QString formOn = "2381+ 2382+ 2383+ 2384+ 2385+ 2386+ 2387+ ";
-const QString formOff = "2381- 2382- 2383- 2384- 2385- 2386- 2387- ";
-const QString formRefreshed = "reloads 2381= 2382= 2383= 2384= 2385= 2386= 2387=; ";
-const QString closes = "sends 1055=0; asks FlowWayCauseCloseLowLatency; leaves 1055=0";
-const QString third = "2381=3 1055=1 2384=5 2385=6 ", shifted = third + "3199=6 "; // the last port's Y
+const QString formOn =
+    "Advanced_{EthernetPort+ CabinetRow+ CabinetCol+ HorOffset+ VerOffset+ FlowWay+ Apply+} ";
+const QString formOff =
+    "Advanced_{EthernetPort- CabinetRow- CabinetCol- HorOffset- VerOffset- FlowWay- Apply-} ";
+const QString formRefreshed =
+    "reloads Advanced_{EthernetPort= CabinetRow= CabinetCol= HorOffset= VerOffset= FlowWay= Apply=}; ";
+const QString closes = "sends LowLatency=0; asks FlowWayCauseCloseLowLatency; leaves LowLatency=0";
+const QString third = "Advanced_EthernetPort=3 LowLatency=1 Advanced_{HorOffset=5 VerOffset=6} ",
+              shifted = third + "AdvancedPort10_Y=6 "; // the last port's Y
 
 const CaseLines lines{
-    {"on", "3138=0", "user 2380=1", "sends 2380=1; " + formRefreshed + "leaves 3138=1 1056+ " + formOn},
-    {"on, sending card", "3138=0 3210=2", "device 2380=1", "tells 2380=1; leaves 3138=1 1056- " + formOn},
-    {"off", "3138=1", "user 2380=0", "sends 2380=0; " + formRefreshed + "leaves 3138=0 1056+ " + formOff},
-    {"off", "3138=1 3210=1", "device 2380=0", "tells 2380=0; leaves 3138=0 1056+ " + formOff},
+    {"on", "ScreenConfigKind=0", "user Advanced_Status=1",
+     "sends Advanced_Status=1; " + formRefreshed + "leaves ScreenConfigKind=1 Mode3D+ " + formOn},
+    {"on, sending card", "ScreenConfigKind=0 WorkMode=2", "device Advanced_Status=1",
+     "tells Advanced_Status=1; leaves ScreenConfigKind=1 Mode3D- " + formOn},
+    {"off", "ScreenConfigKind=1", "user Advanced_Status=0",
+     "sends Advanced_Status=0; " + formRefreshed + "leaves ScreenConfigKind=0 Mode3D+ " + formOff},
+    {"off", "ScreenConfigKind=1 WorkMode=1", "device Advanced_Status=0",
+     "tells Advanced_Status=0; leaves ScreenConfigKind=0 Mode3D+ " + formOff},
 
-    {"rows", third, "user 2382=7", "reloads 2385=6 2384=5; leaves 3161=7 3151=1 1055=1"},
-    {"rows", shifted, "device 2382=7", "reloads; leaves 3161=7 1055=1"},
-    {"rows, the starts differ", shifted, "user 2382=7", "reloads 2385=6 2384=5 1055=; " + closes},
-    {"columns", third, "user 2383=8", "reloads 2384=5 2385=6; leaves 3162=8 1055=1"},
-    {"columns", shifted, "device 2383=8", "reloads; leaves 3162=8 1055=1"},
-    {"x", third, "user 2384=640", "leaves 3163=640 3164=0 1055=1"},
-    {"x, the starts differ", shifted, "user 2384=640", closes},
-    {"y", third, "user 2385=480", closes + " 3164=480"},
-    {"y", third, "device 2385=480", "reloads; leaves 3164=480 1055=1"},
-    {"flow way", shifted, "user 2386=4", "leaves 3165=4 1055=1"},
-    {"flow way", "", "device 2386=4", "reloads; leaves 3155=4"},
+    {"rows", third, "user Advanced_CabinetRow=7",
+     "reloads Advanced_{VerOffset=6 HorOffset=5}; leaves AdvancedPort3_Rows=7 AdvancedPort1_Rows=1 "
+     "LowLatency=1"},
+    {"rows", shifted, "device Advanced_CabinetRow=7", "reloads; leaves AdvancedPort3_Rows=7 LowLatency=1"},
+    {"rows, the starts differ", shifted, "user Advanced_CabinetRow=7",
+     "reloads Advanced_{VerOffset=6 HorOffset=5} LowLatency=; " + closes},
+    {"columns", third, "user Advanced_CabinetCol=8",
+     "reloads Advanced_{HorOffset=5 VerOffset=6}; leaves AdvancedPort3_Cols=8 LowLatency=1"},
+    {"columns", shifted, "device Advanced_CabinetCol=8", "reloads; leaves AdvancedPort3_Cols=8 LowLatency=1"},
+    {"x", third, "user Advanced_HorOffset=640", "leaves AdvancedPort3_{X=640 Y=0} LowLatency=1"},
+    {"x, the starts differ", shifted, "user Advanced_HorOffset=640", closes},
+    {"y", third, "user Advanced_VerOffset=480", closes + " AdvancedPort3_Y=480"},
+    {"y", third, "device Advanced_VerOffset=480", "reloads; leaves AdvancedPort3_Y=480 LowLatency=1"},
+    {"flow way", shifted, "user Advanced_FlowWay=4", "leaves AdvancedPort3_FlowWay=4 LowLatency=1"},
+    {"flow way", "", "device Advanced_FlowWay=4", "reloads; leaves AdvancedPort1_FlowWay=4"},
     // What lies behind the last record.
-    {"no port", "2381=11 3201=64", "user 2382=9", "leaves 3201=64 3196=1"},
+    {"no port", "Advanced_EthernetPort=11 MosaicLayout0_Width=64", "user Advanced_CabinetRow=9",
+     "leaves MosaicLayout0_Width=64 AdvancedPort10_Rows=1"},
 
-    {"applied", "3211=1 3209=1 1055=1",
-     "user 2387=", "sends 2387=; asks Waiting; leaves 3211=0 3209=0 1055=1 1056+"},
-    {"applied, low latency does not suit", "3211=1 3209=1 1055=1 3199=6",
-     "user 2387=", "sends 1055=0 2387=; asks Waiting FlowWayCauseCloseLowLatency; leaves 1055=0"},
-    {"applied", "3211=1 3209=1 1055=1",
-     "device 2387=", "tells 2387=; asks Waiting; leaves 3211=0 3209=0 1055=1 1056+"},
-    {"port", "3161=7", "device 2381=3", "reloads; leaves 2382=1"},
+    {"applied", "SoftwareConfigured=1 OutputMode=1 LowLatency=1", "user Advanced_Apply=",
+     "sends Advanced_Apply=; asks Waiting; leaves SoftwareConfigured=0 OutputMode=0 LowLatency=1 Mode3D+"},
+    {"applied, low latency does not suit",
+     "SoftwareConfigured=1 OutputMode=1 LowLatency=1 AdvancedPort10_Y=6", "user Advanced_Apply=",
+     "sends LowLatency=0 Advanced_Apply=; asks Waiting FlowWayCauseCloseLowLatency; leaves LowLatency=0"},
+    {"applied", "SoftwareConfigured=1 OutputMode=1 LowLatency=1", "device Advanced_Apply=",
+     "tells Advanced_Apply=; asks Waiting; leaves SoftwareConfigured=0 OutputMode=0 LowLatency=1 Mode3D+"},
+    {"port", "AdvancedPort3_Rows=7", "device Advanced_EthernetPort=3",
+     "reloads; leaves Advanced_CabinetRow=1"},
 };
 } // namespace
 
@@ -104,7 +119,9 @@ void TestApplyAdvanced::portIsShown()
     fillRecords();
     m_rig->fromUser(MENU_Advanced_EthernetPort, "10");
     QCOMPARE(page(), QString("3196 3197 3198 3199 3200"));
-    QCOMPARE(m_rig->reloaded.take(), (QStringList{"2382=", "2383=", "2384=", "2385=", "2386="}));
+    QCOMPARE(m_rig->reloaded.take(),
+             (QStringList{"Advanced_CabinetRow=", "Advanced_CabinetCol=", "Advanced_HorOffset=",
+                          "Advanced_VerOffset=", "Advanced_FlowWay="}));
     m_rig->fromUser(MENU_Advanced_EthernetPort, "2");
     QCOMPARE(page(), QString("3156 3157 3158 3159 3160"));
     QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
@@ -153,7 +170,9 @@ void TestApplyAdvanced::reset()
     }
     QCOMPARE(m_rig->value(MENU_Advanced_EthernetPort), QString("1"));
     QCOMPARE(page(), QString("1 1 0 0 0"));
-    QCOMPARE(m_rig->reloaded.take(), (QStringList{"2381=", "2382=", "2383=", "2384=", "2385=", "2386="}));
+    QCOMPARE(m_rig->reloaded.take(),
+             (QStringList{"Advanced_EthernetPort=", "Advanced_CabinetRow=", "Advanced_CabinetCol=",
+                          "Advanced_HorOffset=", "Advanced_VerOffset=", "Advanced_FlowWay="}));
     for (int item = MENU_AdvancedPort1_Rows; item <= MENU_AdvancedPort10_FlowWay; ++item)
         QCOMPARE(m_rig->value(ENUM_MenuIndex(item)), QString("11000").mid((item - 3151) % 5, 1));
 }

@@ -30,158 +30,210 @@ private:
 namespace
 {
 const CaseLines syncLines{
-    {"output rate", "", "device 2015=9", "tells 2015=9"},
-    {"source", "", "device 2351=3", "tells 2351=3; sync SDI"},
-    {"source", "", "user 2351=1", "sends 2351=1; sync HDMI2"},
-    {"sync on", "2351=1", "device 2350=1", "tells 2350=1; leaves rate=5994; screen 1920x1080@59.94"},
-    {"near enough", "2351=1 1055=1", "user 2350=1", "sends 2350=1; leaves rate=5994; screen 1920x1080@59.94"},
-    {"no such input", "2351=5 1055=1", "user 2350=1", "sends 2350=1; leaves rate=6000; screen 1920x1080@60"},
-    {"reference too far", "2351=0", "user 2350=1", "sends 2350=1; leaves rate=6000; screen 1920x1080@60"},
-    {"card follows", "2351=0 3210=2", "user 2350=1", "sends 2350=1; leaves rate=5000; screen 1920x1080@50"},
-    {"none to follow", "2351=5 3210=2", "user 2350=1", "sends 2350=1; leaves rate=6000; screen 1920x1080@60"},
-    {"3D doubles", "2351=1 2359=1 width=1280", "user 2350=1",
-     "sends 2350=1; leaves rate=5994; screen 1280x1080@119.88"},
-    {"no rate", "2351=2 rate=0", "user 2350=1", "sends 2350=1; leaves rate=6000; screen 1920x1080@60"},
-    {"sync off", "2350=1 2015=8", "user 2350=0",
-     "sends 2350=0 2015=59.94 2350=0; leaves rate=5994; screen 1920x1080@59.94"},
-    {"the software's output", "2350=1 3209=1 2353=0 2354=6", "user 2350=0",
-     "sends 2350=0 2355=1024x768x50 2350=0; leaves rate=5000; screen 1920x1080@50"},
-    {"sending card", "2350=1 3210=2 2101=0 2015=8", "user 2350=0",
-     "sends 2350=0 2350=0; leaves rate=6000; screen 1920x1080@60"},
-    {"sending card", "2350=1 3210=2 2101=1", "device 2350=0", "tells 2350=0; leaves rate=5994"},
-    {"off already", "2350=0", "user 2350=0", "sends 2350=0"},
-    {"3D doubles", "2350=1 2359=1 2015=4", "user 2350=0",
-     "sends 2350=0 2015=30 2350=0; leaves rate=3000; screen 1920x1080@60"},
-    {"genlock of a card", "2350=1 3210=2", "device 3393=2", "screen 1920x1080@50"},
-    {"genlock, no rate", "2350=1 2351=2 rate=0", "device 3393=4",
+    {"output rate", "", "device OutputFrameRate=9", "tells OutputFrameRate=9"},
+    {"source", "", "device Sync_Source=3", "tells Sync_Source=3; sync SDI"},
+    {"source", "", "user Sync_Source=1", "sends Sync_Source=1; sync HDMI2"},
+    {"sync on", "Sync_Source=1", "device Sync_Status=1",
+     "tells Sync_Status=1; leaves OutputRate=5994; screen 1920x1080@59.94"},
+    {"near enough", "Sync_Source=1 LowLatency=1", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=5994; screen 1920x1080@59.94"},
+    {"no such input", "Sync_Source=5 LowLatency=1", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=6000; screen 1920x1080@60"},
+    {"reference too far", "Sync_Source=0", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=6000; screen 1920x1080@60"},
+    {"card follows", "Sync_Source=0 WorkMode=2", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=5000; screen 1920x1080@50"},
+    {"none to follow", "Sync_Source=5 WorkMode=2", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=6000; screen 1920x1080@60"},
+    {"3D doubles", "Sync_Source=1 Mode3D_Status=1 OutputWidth=1280", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=5994; screen 1280x1080@119.88"},
+    {"no rate", "Sync_Source=2 OutputRate=0", "user Sync_Status=1",
+     "sends Sync_Status=1; leaves OutputRate=6000; screen 1920x1080@60"},
+    {"sync off", "Sync_Status=1 OutputFrameRate=8", "user Sync_Status=0",
+     "sends Sync_Status=0 OutputFrameRate=59.94 Sync_Status=0; leaves OutputRate=5994; screen "
+     "1920x1080@59.94"},
+    {"the software's output", "Sync_Status=1 OutputMode=1 Output_{Resolution=0 FrameRate=6}",
+     "user Sync_Status=0",
+     "sends Sync_Status=0 Output_Apply=1024x768x50 Sync_Status=0; leaves OutputRate=5000; screen "
+     "1920x1080@50"},
+    {"sending card", "Sync_Status=1 WorkMode=2 MainLayer_InputSource=0 OutputFrameRate=8",
+     "user Sync_Status=0", "sends Sync_{Status=0 Status=0}; leaves OutputRate=6000; screen 1920x1080@60"},
+    {"sending card", "Sync_Status=1 WorkMode=2 MainLayer_InputSource=1", "device Sync_Status=0",
+     "tells Sync_Status=0; leaves OutputRate=5994"},
+    {"off already", "Sync_Status=0", "user Sync_Status=0", "sends Sync_Status=0"},
+    {"3D doubles", "Sync_Status=1 Mode3D_Status=1 OutputFrameRate=4", "user Sync_Status=0",
+     "sends Sync_Status=0 OutputFrameRate=30 Sync_Status=0; leaves OutputRate=3000; screen 1920x1080@60"},
+    {"genlock of a card", "Sync_Status=1 WorkMode=2", "device GenlockState=2", "screen 1920x1080@50"},
+    {"genlock, no rate", "Sync_{Status=1 Source=2} OutputRate=0", "device GenlockState=4",
      "asks SyncNoSignalTip; screen 1920x1080@60"},
 };
 
-const QString video = "2352=1 2353=1 2354=7 2102=0 2112=2 2122=2 2103=800";
-const QString videoShown =
-    "leaves 3209=1 width=1280 height=720 rate=5994 2103=1280 2104=720 1056-; screen 1280x720@59.94";
-const QString withStereo = "2352=1 2353=0 2354=7 2359=1 2102=0 2112=1 2122=2 1040=1 2112/0- 2122/0-";
-const QString videoScales = "leaves 2103=1024 2104=768 2113=800 2112/0+ 2122/0+ ";
+const QString video = "Output_{Mode=1 Resolution=1 FrameRate=7} MainLayer_ScalingMode=0 PIP1_ScalingMode=2 "
+                      "PIP2_ScalingMode=2 MainLayer_HorWidth=800";
+const QString videoShown = "leaves OutputMode=1 OutputWidth=1280 OutputHeight=720 OutputRate=5994 "
+                           "MainLayer_{HorWidth=1280 VerHeight=720} Mode3D-; screen 1280x720@59.94";
+const QString withStereo =
+    "Output_{Mode=1 Resolution=0 FrameRate=7} Mode3D_Status=1 MainLayer_ScalingMode=0 PIP1_ScalingMode=1 "
+    "PIP2_ScalingMode=2 ImageMosaic_Status=1 PIP1_ScalingMode/0- PIP2_ScalingMode/0-";
+const QString videoScales =
+    "leaves MainLayer_{HorWidth=1024 VerHeight=768} PIP1_{HorWidth=800 ScalingMode/0+} PIP2_ScalingMode/0+ ";
 const CaseLines outputLines{
-    {"video", video, "user 2355=", "asks Waiting; sends 2104=720 2352=1 2355=1280x720x59.94; " + videoShown},
-    {"video", video,
-     "device 2355=", "asks Waiting; sends 2104=720 2352=1; tells 2355=1280x720x59.94; " + videoShown},
+    {"video", video, "user Output_Apply=",
+     "asks Waiting; sends MainLayer_VerHeight=720 Output_{Mode=1 Apply=1280x720x59.94}; " + videoShown},
+    {"video", video, "device Output_Apply=",
+     "asks Waiting; sends MainLayer_VerHeight=720 Output_Mode=1; tells Output_Apply=1280x720x59.94; " +
+         videoShown},
     // Without a row 3D is neither ended in the device nor here.
-    {"video leaves 3D", withStereo,
-     "user 2355=", "asks Waiting; sends 2104=768 2352=1 2355=1024x768x59.94; " + videoScales + "2359=1"},
-    {"monitor", "3209=1 2353=1 2354=7",
-     "device 2355=", "asks Waiting; sends 2352=0; tells 2355=1280x720x59.94; leaves 3209=0 width=1920 1056+"},
-    {"monitor", "3209=1 2353=0 2354=8",
-     "user 2355=", "asks Waiting; sends 2352=0 2355=1024x768x60; leaves 3209=0"},
+    {"video leaves 3D", withStereo, "user Output_Apply=",
+     "asks Waiting; sends MainLayer_VerHeight=768 Output_{Mode=1 Apply=1024x768x59.94}; " + videoScales +
+         "Mode3D_Status=1"},
+    {"monitor", "OutputMode=1 Output_{Resolution=1 FrameRate=7}", "device Output_Apply=",
+     "asks Waiting; sends Output_Mode=0; tells Output_Apply=1280x720x59.94; leaves OutputMode=0 "
+     "OutputWidth=1920 Mode3D+"},
+    {"monitor", "OutputMode=1 Output_{Resolution=0 FrameRate=8}",
+     "user Output_Apply=", "asks Waiting; sends Output_{Mode=0 Apply=1024x768x60}; leaves OutputMode=0"},
 };
 
 const QString tip = "asks Open3DOnlyMainLayerEffectTip; ";
 const CaseLines stereoLines{
-    {"video ends 3D", withStereo, "user 2355=",
-     "asks Waiting; sends 2359=0 2104=768 2352=1 2355=1024x768x59.94; " + videoScales + "2359=0"},
-    {"3D off", "2359=1 1019=1", "device 2359=0", "tells 2359=0; leaves 1019+ 1020+; screen 1920x1080@60"},
-    {"3D off", "2359=1 1019- 1020- 2110=0 2120=0", "user 2359=0", "sends 2359=0; leaves 1019+ 1020+"},
-    {"3D off beside PIP 2", "2359=1 1019- 1020- 2120=1", "user 2359=0", "sends 2359=0; leaves 1019- 1020-"},
-    {"3D off, mosaic shown", "2359=1 2101/4- 2101=4 1019-", "user 2359=0", "sends 2359=0; leaves 1019-"},
-    {"3D on", "2110=1 2360=1", "device 2359=1",
-     "tells 2359=1; leaves 2359=1 2110=1 1019=1 1019- 1020-; screen 1920x1080@120"},
-    {"3D on, mosaic stays", "2101/4- 2360=2", "device 2359=1", "tells 2359=1; leaves 2101/4- 2101=2"},
-    {"3D on offers the mosaic", "2101/4- 2360=2", "user 2359=1",
-     tip + "sends 1019=1 2359=1; leaves 2101/4+ 2101=2"},
-    {"3D on ends the PIPs", "2360=2 2110=1 2120=0", "user 2359=1",
-     tip + "sends 1019=1 2110=0 2359=1; leaves 2110=0 1019=1 1019- 1020-; screen 1920x1080@60"},
-    {"3D on, too much", "2360=0", "user 2359=1", "asks OverLoad; reloads 2359=; leaves 2359=0"},
-    {"3D on, software's output fits", "3209=1 2353=0 2354=8", "user 2359=1",
-     tip + "sends 1019=1 2359=1; leaves 2359=1 1019- 1020-; screen 1024x768@120"},
-    {"3D on, software's output too much", "3209=1 2353=8 2354=8", "user 2359=1",
-     "asks OverLoad; leaves 2359=0 1019+ 1020+"},
-    {"side by side", "2359=1 2360=2", "device 2360=0",
-     "tells 2360=0; leaves 3077=960 3077+; screen 1920x1080@120"},
-    {"side by side", "3213=961", "user 2360=0", "sends 3077=961 2360=0; leaves 3077+"},
-    {"top and bottom", "3214=1125", "user 2360=1", "sends 3077=1125 2360=1; leaves 3077+"},
-    {"sequential", "2359=1", "device 2360=2", "tells 2360=2; leaves 3077-; screen 1920x1080@60"},
-    {"sequential, 3D off", "", "user 2360=2", "sends 2360=2; leaves 3077-; screen 1920x1080@60"},
-    {"format too much", "2359=1 2360=2", "user 2360=1", "asks OverLoad; leaves 2360=2"},
-    {"right eye", "2360=1", "device 3077=1000", "tells 3077=1000; leaves 3214=1000"},
-    {"right eye", "2360=0", "user 3077=1001", "sends 3077=1001; leaves 3213=1001"},
-    {"right eye", "2360=2 3213=1 3214=2", "user 3077=1002", "sends 3077=1002; leaves 3213=1 3214=2"},
-    {"signal delay", "", "device 3078=900", "sends 3078=900; leaves 3078=900"},
-    {"emitter", "", "user 3079=1", "sends 3079=1"},
-    {"emitter", "", "device 3079=1", "sends 3079=1"},
-    {"picture reset, DVI 2", "3061=9 3062=9 3063=9 3064=9", "user 3065=0",
-     "sends 3065=0; leaves 3061=50 3062=50 3063=50 3064=0"},
+    {"video ends 3D", withStereo, "user Output_Apply=",
+     "asks Waiting; sends Mode3D_Status=0 MainLayer_VerHeight=768 Output_{Mode=1 Apply=1024x768x59.94}; " +
+         videoScales + "Mode3D_Status=0"},
+    {"3D off", "Mode3D_Status=1 MainLayerTransition=1", "device Mode3D_Status=0",
+     "tells Mode3D_Status=0; leaves MainLayerTransition+ TransitionDuration+; screen 1920x1080@60"},
+    {"3D off", "Mode3D_Status=1 MainLayerTransition- TransitionDuration- PIP1_Status=0 PIP2_Status=0",
+     "user Mode3D_Status=0", "sends Mode3D_Status=0; leaves MainLayerTransition+ TransitionDuration+"},
+    {"3D off beside PIP 2", "Mode3D_Status=1 MainLayerTransition- TransitionDuration- PIP2_Status=1",
+     "user Mode3D_Status=0", "sends Mode3D_Status=0; leaves MainLayerTransition- TransitionDuration-"},
+    {"3D off, mosaic shown", "Mode3D_Status=1 MainLayer_{InputSource/4- InputSource=4} MainLayerTransition-",
+     "user Mode3D_Status=0", "sends Mode3D_Status=0; leaves MainLayerTransition-"},
+    {"3D on", "PIP1_Status=1 Mode3D_Format=1", "device Mode3D_Status=1",
+     "tells Mode3D_Status=1; leaves Mode3D_Status=1 PIP1_Status=1 MainLayerTransition=1 MainLayerTransition- "
+     "TransitionDuration-; screen 1920x1080@120"},
+    {"3D on, mosaic stays", "MainLayer_InputSource/4- Mode3D_Format=2", "device Mode3D_Status=1",
+     "tells Mode3D_Status=1; leaves MainLayer_{InputSource/4- InputSource=2}"},
+    {"3D on offers the mosaic", "MainLayer_InputSource/4- Mode3D_Format=2", "user Mode3D_Status=1",
+     tip + "sends MainLayerTransition=1 Mode3D_Status=1; leaves MainLayer_{InputSource/4+ InputSource=2}"},
+    {"3D on ends the PIPs", "Mode3D_Format=2 PIP1_Status=1 PIP2_Status=0", "user Mode3D_Status=1",
+     tip + "sends MainLayerTransition=1 PIP1_Status=0 Mode3D_Status=1; leaves PIP1_Status=0 "
+           "MainLayerTransition=1 MainLayerTransition- TransitionDuration-; screen 1920x1080@60"},
+    {"3D on, too much", "Mode3D_Format=0", "user Mode3D_Status=1",
+     "asks OverLoad; reloads Mode3D_Status=; leaves Mode3D_Status=0"},
+    {"3D on, software's output fits", "OutputMode=1 Output_{Resolution=0 FrameRate=8}",
+     "user Mode3D_Status=1",
+     tip + "sends MainLayerTransition=1 Mode3D_Status=1; leaves Mode3D_Status=1 MainLayerTransition- "
+           "TransitionDuration-; "
+           "screen 1024x768@120"},
+    {"3D on, software's output too much", "OutputMode=1 Output_{Resolution=8 FrameRate=8}",
+     "user Mode3D_Status=1",
+     "asks OverLoad; leaves Mode3D_Status=0 MainLayerTransition+ TransitionDuration+"},
+    {"side by side", "Mode3D_{Status=1 Format=2}", "device Mode3D_Format=0",
+     "tells Mode3D_Format=0; leaves Mode3D_RightEyeStart=960 Mode3D_RightEyeStart+; screen 1920x1080@120"},
+    {"side by side", "RightEyeStartSide=961", "user Mode3D_Format=0",
+     "sends Mode3D_{RightEyeStart=961 Format=0}; leaves Mode3D_RightEyeStart+"},
+    {"top and bottom", "RightEyeStartTop=1125", "user Mode3D_Format=1",
+     "sends Mode3D_{RightEyeStart=1125 Format=1}; leaves Mode3D_RightEyeStart+"},
+    {"sequential", "Mode3D_Status=1", "device Mode3D_Format=2",
+     "tells Mode3D_Format=2; leaves Mode3D_RightEyeStart-; screen 1920x1080@60"},
+    {"sequential, 3D off", "", "user Mode3D_Format=2",
+     "sends Mode3D_Format=2; leaves Mode3D_RightEyeStart-; screen 1920x1080@60"},
+    {"format too much", "Mode3D_{Status=1 Format=2}", "user Mode3D_Format=1",
+     "asks OverLoad; leaves Mode3D_Format=2"},
+    {"right eye", "Mode3D_Format=1", "device Mode3D_RightEyeStart=1000",
+     "tells Mode3D_RightEyeStart=1000; leaves RightEyeStartTop=1000"},
+    {"right eye", "Mode3D_Format=0", "user Mode3D_RightEyeStart=1001",
+     "sends Mode3D_RightEyeStart=1001; leaves RightEyeStartSide=1001"},
+    {"right eye", "Mode3D_Format=2 RightEyeStartSide=1 RightEyeStartTop=2", "user Mode3D_RightEyeStart=1002",
+     "sends Mode3D_RightEyeStart=1002; leaves RightEyeStartSide=1 RightEyeStartTop=2"},
+    {"signal delay", "", "device Mode3D_SignalDelayTime=900",
+     "sends Mode3D_SignalDelayTime=900; leaves Mode3D_SignalDelayTime=900"},
+    {"emitter", "", "user Mode3D_ThirdPartyEmitter=1", "sends Mode3D_ThirdPartyEmitter=1"},
+    {"emitter", "", "device Mode3D_ThirdPartyEmitter=1", "sends Mode3D_ThirdPartyEmitter=1"},
+    {"picture reset, DVI 2", "DVI2_{Brightness=9 Contrast=9 Saturation=9 Hue=9}", "user DVI2_ColorReset=0",
+     "sends DVI2_ColorReset=0; leaves DVI2_{Brightness=50 Contrast=50 Saturation=50 Hue=0}"},
 };
 
 const QString done = "asks Waiting NetParameSetSucceed; ";
-const QString rowsOn = "2375+ 2376+ 2377+ 2378+ 2379+", rowsOff = "2375- 2376- 2377- 2378- 2379-";
-const QString factory = "leaves 2375=192.168.0.10 2376=255.255.255.0 2377=192.168.0.1 ";
+const QString rowsOn = "Net_{IPAddress+ SubnetMask+ Gateway+ Apply+ Reset+}",
+              rowsOff = "Net_{IPAddress- SubnetMask- Gateway- Apply- Reset-}";
+const QString factory = "leaves Net_{IPAddress=192.168.0.10 SubnetMask=255.255.255.0 Gateway=192.168.0.1} ";
 QString address(const QString &ip, const QString &mask, const QString &gateway)
 {
-    return QString("2375=%1 2376=%2 2377=%3").arg(ip, mask, gateway);
+    return QString("Net_{IPAddress=%1 SubnetMask=%2 Gateway=%3}").arg(ip, mask, gateway);
 }
 const CaseLines networkLines{
-    {"automatic", "3212=1", "device 2374=1", "tells 2374=1; leaves 3212=0 " + rowsOff + "; ip WaitIP"},
-    {"automatic", "3212=1", "user 2374=1", "sends 2374=1; leaves 3212=0 " + rowsOff + "; ip WaitIP"},
-    {"manual", "2375=10.0.0.7", "device 2374=0", "tells 2374=0; leaves " + rowsOn + "; ip 10.0.0.7"},
-    {"manual", "2375=10.0.0.7 2379-", "user 2374=0", "sends 2374=0; leaves " + rowsOn + "; ip 10.0.0.7"},
-    {"address", "", "device 2375=10.0.0.8", "tells 2375=10.0.0.8; leaves 3212=1; ip 10.0.0.8"},
-    {"address", "", "user 2375=10.0.0.9", "sends 2375=10.0.0.9; leaves 3212=0"},
-    {"applied", "", "device 2378=0", done + "tells 2378=0; ip 192.168.0.10"},
-    {"automatic, applied", "2374=1", "device 2378=0", "tells 2378=0"},
-    {"automatic, applied", "2374=1 2376=255.0.255.0", "user 2378=0", "sends 2378=0"},
-    {"right", address("192.168.0.10", "255.255.255.0", "192.168.0.1"), "user 2378=0",
-     done + "sends 2378=0; ip 192.168.0.10"},
-    {"mask of ones", address("10.1.2.3", "255.255.255.255", "10.1.2.3"), "user 2378=0",
-     done + "sends 2378=0"},
-    {"mask of zeros", address("10.1.2.3", "0.0.0.0", "172.16.0.1"), "user 2378=0", done + "sends 2378=0"},
-    {"gateway just inside", address("192.168.0.10", "255.255.254.0", "192.168.1.1"), "user 2378=0",
-     done + "sends 2378=0"},
-    {"hole, class A", address("126.1.2.3", "255.0.255.0", "126.0.0.1"), "user 2378=0",
-     "asks MaskErr; sends 2376=255.0.0.0"},
-    {"hole, class B", address("128.1.2.3", "255.255.0.1", "128.1.0.1"), "user 2378=0",
-     "asks MaskErr; sends 2376=255.255.0.0"},
-    {"hole, class C", address("223.1.2.3", "1.255.255.0", "223.1.2.1"), "user 2378=0",
-     "asks MaskErr; sends 2376=255.255.255.0"},
+    {"automatic", "DhcpDone=1", "device Net_NetMode=1",
+     "tells Net_NetMode=1; leaves DhcpDone=0 " + rowsOff + "; ip WaitIP"},
+    {"automatic", "DhcpDone=1", "user Net_NetMode=1",
+     "sends Net_NetMode=1; leaves DhcpDone=0 " + rowsOff + "; ip WaitIP"},
+    {"manual", "Net_IPAddress=10.0.0.7", "device Net_NetMode=0",
+     "tells Net_NetMode=0; leaves " + rowsOn + "; ip 10.0.0.7"},
+    {"manual", "Net_{IPAddress=10.0.0.7 Reset-}", "user Net_NetMode=0",
+     "sends Net_NetMode=0; leaves " + rowsOn + "; ip 10.0.0.7"},
+    {"address", "", "device Net_IPAddress=10.0.0.8",
+     "tells Net_IPAddress=10.0.0.8; leaves DhcpDone=1; ip 10.0.0.8"},
+    {"address", "", "user Net_IPAddress=10.0.0.9", "sends Net_IPAddress=10.0.0.9; leaves DhcpDone=0"},
+    {"applied", "", "device Net_Apply=0", done + "tells Net_Apply=0; ip 192.168.0.10"},
+    {"automatic, applied", "Net_NetMode=1", "device Net_Apply=0", "tells Net_Apply=0"},
+    {"automatic, applied", "Net_{NetMode=1 SubnetMask=255.0.255.0}", "user Net_Apply=0", "sends Net_Apply=0"},
+    {"right", address("192.168.0.10", "255.255.255.0", "192.168.0.1"), "user Net_Apply=0",
+     done + "sends Net_Apply=0; ip 192.168.0.10"},
+    {"mask of ones", address("10.1.2.3", "255.255.255.255", "10.1.2.3"), "user Net_Apply=0",
+     done + "sends Net_Apply=0"},
+    {"mask of zeros", address("10.1.2.3", "0.0.0.0", "172.16.0.1"), "user Net_Apply=0",
+     done + "sends Net_Apply=0"},
+    {"gateway just inside", address("192.168.0.10", "255.255.254.0", "192.168.1.1"), "user Net_Apply=0",
+     done + "sends Net_Apply=0"},
+    {"hole, class A", address("126.1.2.3", "255.0.255.0", "126.0.0.1"), "user Net_Apply=0",
+     "asks MaskErr; sends Net_SubnetMask=255.0.0.0"},
+    {"hole, class B", address("128.1.2.3", "255.255.0.1", "128.1.0.1"), "user Net_Apply=0",
+     "asks MaskErr; sends Net_SubnetMask=255.255.0.0"},
+    {"hole, class C", address("223.1.2.3", "1.255.255.0", "223.1.2.1"), "user Net_Apply=0",
+     "asks MaskErr; sends Net_SubnetMask=255.255.255.0"},
     // An address of no class has no mask of its own: what stands there goes on standing there.
-    {"hole, no class", "2375=224.0.0.1 2376=255.0.255.0", "user 2378=0",
-     "asks MaskErr; sends 2376=; leaves 2376=255.0.255.0"},
-    {"reset", "2375=10.0.0.7 2376=255.0.0.0", "device 2379=0",
-     "asks NetParameReset; sends 2378=; " + factory + "2375+ 2376+ 2377+; ip 192.168.0.10"},
-    {"reset", "2375=10.0.0.7", "user 2379=0",
-     "asks NetParameReset; sends 2378=; " + factory + "; ip 192.168.0.10"},
-    {"reset, refused", "2375=10.0.0.7", "user 2379=0",
-     "asks NetParameReset; answers 0; leaves 2375=10.0.0.7"},
-    {"reset, a PC takes over", "2375=10.0.0.7", "user 2379=0",
-     "asks NetParameReset; answers 2; leaves 2375=10.0.0.7"},
+    {"hole, no class", "Net_{IPAddress=224.0.0.1 SubnetMask=255.0.255.0}", "user Net_Apply=0",
+     "asks MaskErr; sends Net_SubnetMask=; leaves Net_SubnetMask=255.0.255.0"},
+    {"reset", "Net_{IPAddress=10.0.0.7 SubnetMask=255.0.0.0}", "device Net_Reset=0",
+     "asks NetParameReset; sends Net_Apply=; " + factory +
+         "Net_{IPAddress+ SubnetMask+} Net_Gateway+; ip 192.168.0.10"},
+    {"reset", "Net_IPAddress=10.0.0.7", "user Net_Reset=0",
+     "asks NetParameReset; sends Net_Apply=; " + factory + "; ip 192.168.0.10"},
+    {"reset, refused", "Net_IPAddress=10.0.0.7", "user Net_Reset=0",
+     "asks NetParameReset; answers 0; leaves Net_IPAddress=10.0.0.7"},
+    {"reset, a PC takes over", "Net_IPAddress=10.0.0.7", "user Net_Reset=0",
+     "asks NetParameReset; answers 2; leaves Net_IPAddress=10.0.0.7"},
 };
 
 const QString standard =
-    "sends 2389=2.8 2391=255 2392=249 2393=253; leaves 2390=0 2389=2.8 2392=249 2391- 2393-";
+    "sends Color_{Gamma=2.8 R=255 G=249 B=253}; leaves Color_{ColorTemp=0 Gamma=2.8 G=249 R- B-}";
 const QString saved = "asks SaveingHardwareInfomation SaveHardWareInformationSucceed; ";
 const CaseLines otherLines{
-    {"brightness", "", "user 1=65", "sends 1=65; bright 65%"},
-    {"standard", "2390=3", "user 2390=0",
-     "sends 2391=255 2392=249 2393=253; leaves 2392=249 2391- 2392- 2393-"},
-    {"cool", "", "user 2390=1", "sends 2391=191 2392=211 2393=255; leaves 2391=191 2391- 2392- 2393-"},
-    {"warm", "", "user 2390=2", "sends 2391=255 2392=213 2393=161; leaves 2393=161 2391- 2392- 2393-"},
-    {"custom", "", "user 2390=3", "leaves 2391+ 2392+ 2393+"},
-    {"custom", "", "device 2390=3", "tells 2390=3; leaves 2392+"},
-    {"cool", "2392=17 2392+", "device 2390=1", "tells 2390=1; leaves 2392=17 2392-"},
-    {"colour reset", "2390=3", "user 2394=0", standard},
-    {"colour reset", "2390=3", "device 2394=0", standard},
-    {"picture reset", "3038=9 3040=9", "device 3041=0", "tells 3041=0; leaves 3038=50 3040=0"},
-    {"save", "link=1", "device 1002=1", "sends 1002=1; " + saved},
-    {"save, no link", "", "user 1002=", "asks CheckReceiveCard"},
-    {"save, port 10", "3319=1", "user 1002=", saved + "sends 1002="},
-    {"save, OPT 1", "3370=1", "user 1002=", saved + "sends 1002="},
-    {"save, OPT 2", "3383=1", "user 1002=", saved + "sends 1002="},
-    {"save, a backup is no link", "3320=1", "user 1002=", "asks CheckReceiveCard"},
-    {"load a file, no link", "", "user 2004=", "asks CheckReceiveCard"},
-    {"self test", "", "user 1059=1", "asks SelfTesting; sends 1059=1"},
-    {"self test", "", "device 1059=1", "sends 1059=1"},
-    {"OSD picture that is there", "1009/4-", "device 3416=1", "reloads 1009=; leaves 1009/4+"},
-    {"calibration", "", "user 3408=1", ""},
-    {"of no case", "", "device 3138=0", "leaves 3138=0"},
+    {"brightness", "", "user ScreenBrightness=65", "sends ScreenBrightness=65; bright 65%"},
+    {"standard", "Color_ColorTemp=3", "user Color_ColorTemp=0",
+     "sends Color_{R=255 G=249 B=253}; leaves Color_{G=249 R- G- B-}"},
+    {"cool", "", "user Color_ColorTemp=1", "sends Color_{R=191 G=211 B=255}; leaves Color_{R=191 R- G- B-}"},
+    {"warm", "", "user Color_ColorTemp=2", "sends Color_{R=255 G=213 B=161}; leaves Color_{B=161 R- G- B-}"},
+    {"custom", "", "user Color_ColorTemp=3", "leaves Color_{R+ G+ B+}"},
+    {"custom", "", "device Color_ColorTemp=3", "tells Color_ColorTemp=3; leaves Color_G+"},
+    {"cool", "Color_{G=17 G+}", "device Color_ColorTemp=1",
+     "tells Color_ColorTemp=1; leaves Color_{G=17 G-}"},
+    {"colour reset", "Color_ColorTemp=3", "user Color_Reset=0", standard},
+    {"colour reset", "Color_ColorTemp=3", "device Color_Reset=0", standard},
+    {"picture reset", "HDMI2_{Contrast=9 Hue=9}", "device HDMI2_ColorReset=0",
+     "tells HDMI2_ColorReset=0; leaves HDMI2_{Contrast=50 Hue=0}"},
+    {"save", "PortLink=1", "device SavetoRVCard=1", "sends SavetoRVCard=1; " + saved},
+    {"save, no link", "", "user SavetoRVCard=", "asks CheckReceiveCard"},
+    {"save, port 10", "PortLink+9=1", "user SavetoRVCard=", saved + "sends SavetoRVCard="},
+    {"save, OPT 1", "OPT1PortLink=1", "user SavetoRVCard=", saved + "sends SavetoRVCard="},
+    {"save, OPT 2", "OPT2PortLink+3=1", "user SavetoRVCard=", saved + "sends SavetoRVCard="},
+    {"save, a backup is no link", "PortBackup=1", "user SavetoRVCard=", "asks CheckReceiveCard"},
+    {"load a file, no link", "", "user CabinetFile1=", "asks CheckReceiveCard"},
+    {"self test", "", "user SelfTest=1", "asks SelfTesting; sends SelfTest=1"},
+    {"self test", "", "device SelfTest=1", "sends SelfTest=1"},
+    {"OSD picture that is there", "OSDChoice/4-", "device OSDPictureFirst+4=1",
+     "reloads OSDChoice=; leaves OSDChoice/4+"},
+    {"calibration", "", "user SoftCalibrate=1", ""},
+    {"of no case", "", "device ScreenConfigKind=0", "leaves ScreenConfigKind=0"},
 };
 
 const CaseLines &allLines()
@@ -248,9 +300,9 @@ void TestApplyCases::refusedAddressComesBackFromTheDevice()
     QFile flash(m_rig->statePath(hostlink::flashFile));
     QVERIFY(flash.open(QIODevice::WriteOnly) && flash.write(image) > 0);
     flash.close();
-    const QString left = "leaves 2375=10.0.5.9 2376=255.255.255.0 2377=10.0.5.1";
-    runCaseLine(*m_rig,
-                {"", before, "user 2378=0", "asks " + message + "; reloads 2375= 2376= 2377=; " + left});
+    const QString left = "leaves Net_{IPAddress=10.0.5.9 SubnetMask=255.255.255.0 Gateway=10.0.5.1}";
+    runCaseLine(*m_rig, {"", before, "user Net_Apply=0",
+                         "asks " + message + "; reloads Net_{IPAddress= SubnetMask= Gateway=}; " + left});
     flash.remove();
 }
 

@@ -29,74 +29,97 @@ private:
 namespace
 {
 /// Four columns of three, the first port with a whole number of columns of the full height.
-const QString whole = "2000=3 2001=4 2002=12 2003=0 1055=1 ";
-const QString bySoftware = "3211=1 3209=1 ", byHand = "3211=0 3209=0 ";
+const QString whole = "Quick_{CabinetRow=3 CabinetCol=4 PortOneCab=12 FlowWay=0} LowLatency=1 ";
+const QString bySoftware = "SoftwareConfigured=1 OutputMode=1 ",
+              byHand = "SoftwareConfigured=0 OutputMode=0 ";
 const QString closes = "asks FlowWayCauseCloseLowLatency", noLink = "asks ScreenConfigFailWaring";
-const QString formOff = "2381- 2382- 2383- 2384- 2385- 2386- 2387- 1056+";
+const QString formOff =
+    "Advanced_{EthernetPort- CabinetRow- CabinetCol- HorOffset- VerOffset- FlowWay- Apply-} Mode3D+";
 
-const QString advanced = "3138=1 2380=1 link=1 2003=1 ", quickAfter = "leaves 3138=0 2380=0 " + byHand;
-const QString unfitPage = advanced + "2000=3 2001=4 2002=7 2003=0 1055=1 ";
+const QString advanced = "ScreenConfigKind=1 Advanced_Status=1 PortLink=1 Quick_FlowWay=1 ",
+              quickAfter = "leaves ScreenConfigKind=0 Advanced_Status=0 " + byHand;
+const QString unfitPage = advanced + "Quick_{CabinetRow=3 CabinetCol=4 PortOneCab=7 FlowWay=0} LowLatency=1 ";
 const CaseLines pageLines{
-    {"quick, from the other kind", advanced + bySoftware, "user 1000=",
-     "sends 2003=1; reloads 2380=0 2381= 2382= 2383= 2384= 2385= 2386= 2387=; " + quickAfter + formOff},
-    {"quick, from the other kind", advanced, "device 1000=", "sends 2003=1; " + quickAfter + formOff},
-    {"quick, output of software", bySoftware + "3138=0",
-     "user 1000=", "sends 2003=0; " + noLink + "; " + quickAfter},
-    {"quick, already", "3138=0 3211=1", "user 1000=", noLink + "; leaves 3211=1"},
-    {"quick, already, linked", "3138=0 3380=1", "user 1000=", ""},
+    {"quick, from the other kind", advanced + bySoftware, "user QuickConfiguration=",
+     "sends Quick_FlowWay=1; reloads Advanced_{Status=0 EthernetPort= CabinetRow= CabinetCol= HorOffset= "
+     "VerOffset= FlowWay= Apply=}; " +
+         quickAfter + formOff},
+    {"quick, from the other kind", advanced,
+     "device QuickConfiguration=", "sends Quick_FlowWay=1; " + quickAfter + formOff},
+    {"quick, output of software", bySoftware + "ScreenConfigKind=0",
+     "user QuickConfiguration=", "sends Quick_FlowWay=0; " + noLink + "; " + quickAfter},
+    {"quick, already", "ScreenConfigKind=0 SoftwareConfigured=1",
+     "user QuickConfiguration=", noLink + "; leaves SoftwareConfigured=1"},
+    {"quick, already, linked", "ScreenConfigKind=0 OPT2PortLink=1", "user QuickConfiguration=", ""},
     {"quick, low latency does not suit", unfitPage,
-     "user 1000=", "sends 2003=0 1055=0; " + closes + "; leaves 1055=0"},
-    {"quick, low latency suits", advanced + whole, "user 1000=", "sends 2003=0; leaves 1055=1"},
-    {"quick, low latency of another kind", unfitPage + bySoftware + "3138=0",
-     "user 1000=", "sends 2003=0; leaves 1055=1"},
-    {"advanced, no link", "", "user 2012=", noLink},
-    {"advanced, linked", "link=1", "user 2012=", ""},
-    {"advanced, linked", "link=1", "device 2012=", ""},
+     "user QuickConfiguration=", "sends Quick_FlowWay=0 LowLatency=0; " + closes + "; leaves LowLatency=0"},
+    {"quick, low latency suits", advanced + whole,
+     "user QuickConfiguration=", "sends Quick_FlowWay=0; leaves LowLatency=1"},
+    {"quick, low latency of another kind", unfitPage + bySoftware + "ScreenConfigKind=0",
+     "user QuickConfiguration=", "sends Quick_FlowWay=0; leaves LowLatency=1"},
+    {"advanced, no link", "", "user AdvancedCfg=", noLink},
+    {"advanced, linked", "PortLink=1", "user AdvancedCfg=", ""},
+    {"advanced, linked", "PortLink=1", "device AdvancedCfg=", ""},
 };
 
-const QString software = whole + bySoftware, shortPort = software + "2002=8 ";
-const QString kept = "leaves 1055=1 " + byHand, ends = closes + "; leaves 1055=0 " + byHand;
+const QString software = whole + bySoftware, shortPort = software + "Quick_PortOneCab=8 ";
+const QString kept = "leaves LowLatency=1 " + byHand, ends = closes + "; leaves LowLatency=0 " + byHand;
 // 480 pixels of 270 lines: five of them are too many for a port at 60 Hz, ten at 30 Hz.
-const QString heavy = "cabinetWidth=480 cabinetHeight=270 rate=6000 2001=5 2000=6 ";
+const QString heavy = "CabinetWidth=480 CabinetHeight=270 OutputRate=6000 Quick_{CabinetCol=5 CabinetRow=6} ";
 const CaseLines formLines{
-    {"rows", software, "user 2000=3", "sends 2000=3; reloads 2002=12; " + kept + "1056+"},
-    {"rows, not the full height", software, "user 2000=4", "sends 1055=0 2000=4; " + ends},
-    {"rows, not the full height", software, "device 2000=4", "tells 2000=4; reloads; " + kept},
-    {"columns", software, "user 2001=5", "sends 2001=5; reloads 2002=12; " + kept},
-    {"columns, not the full height", software, "user 2001=6", "sends 1055=0 2001=6; " + ends},
-    {"columns of a card", software + "3210=2", "device 2001=6", "tells 2001=6; " + kept + "1056-"},
-    {"no columns", software + "2002=3", "user 2001=0", "sends 2001=0; " + kept},
-    {"first port", software, "user 2002=9", "sends 2002=9; " + kept + "1056+"},
-    {"first port, not the full height", software, "user 2002=8", "sends 1055=0 2002=8; " + ends},
-    {"first port", software, "device 2002=8", "tells 2002=8; " + kept},
-    {"flow way along the rows", shortPort, "user 2003=3", "sends 2003=3; " + kept + "1056+"},
-    {"flow way along the columns", shortPort, "user 2003=2", "sends 1055=0 2003=2; " + ends},
-    {"flow way", shortPort, "device 2003=2", "tells 2003=2; " + kept},
+    {"rows", software, "user Quick_CabinetRow=3",
+     "sends Quick_CabinetRow=3; reloads Quick_PortOneCab=12; " + kept + "Mode3D+"},
+    {"rows, not the full height", software, "user Quick_CabinetRow=4",
+     "sends LowLatency=0 Quick_CabinetRow=4; " + ends},
+    {"rows, not the full height", software, "device Quick_CabinetRow=4",
+     "tells Quick_CabinetRow=4; reloads; " + kept},
+    {"columns", software, "user Quick_CabinetCol=5",
+     "sends Quick_CabinetCol=5; reloads Quick_PortOneCab=12; " + kept},
+    {"columns, not the full height", software, "user Quick_CabinetCol=6",
+     "sends LowLatency=0 Quick_CabinetCol=6; " + ends},
+    {"columns of a card", software + "WorkMode=2", "device Quick_CabinetCol=6",
+     "tells Quick_CabinetCol=6; " + kept + "Mode3D-"},
+    {"no columns", software + "Quick_PortOneCab=3", "user Quick_CabinetCol=0",
+     "sends Quick_CabinetCol=0; " + kept},
+    {"first port", software, "user Quick_PortOneCab=9", "sends Quick_PortOneCab=9; " + kept + "Mode3D+"},
+    {"first port, not the full height", software, "user Quick_PortOneCab=8",
+     "sends LowLatency=0 Quick_PortOneCab=8; " + ends},
+    {"first port", software, "device Quick_PortOneCab=8", "tells Quick_PortOneCab=8; " + kept},
+    {"flow way along the rows", shortPort, "user Quick_FlowWay=3",
+     "sends Quick_FlowWay=3; " + kept + "Mode3D+"},
+    {"flow way along the columns", shortPort, "user Quick_FlowWay=2",
+     "sends LowLatency=0 Quick_FlowWay=2; " + ends},
+    {"flow way", shortPort, "device Quick_FlowWay=2", "tells Quick_FlowWay=2; " + kept},
     // One cabinet counts as a whole column of five, along the rows as one of six.
-    {"port at its load", heavy + "2000=5", "user 2003=1", "sends 2003=1"},
-    {"port above its load", heavy, "user 2003=1", "sends 2003=1; asks OverLoad; leaves 2003=1"},
-    {"port above its load", heavy + "2002=6", "device 2003=2", "tells 2003=2; asks OverLoad"},
-    {"port above by 3D", heavy + "2000=4 2359=1", "user 2003=1", "sends 2003=1; asks OverLoad"},
-    {"sequential 3D does not double", heavy + "2000=4 2359=1 2360=2", "user 2003=1", "sends 2003=1"},
+    {"port at its load", heavy + "Quick_CabinetRow=5", "user Quick_FlowWay=1", "sends Quick_FlowWay=1"},
+    {"port above its load", heavy, "user Quick_FlowWay=1",
+     "sends Quick_FlowWay=1; asks OverLoad; leaves Quick_FlowWay=1"},
+    {"port above its load", heavy + "Quick_PortOneCab=6", "device Quick_FlowWay=2",
+     "tells Quick_FlowWay=2; asks OverLoad"},
+    {"port above by 3D", heavy + "Quick_CabinetRow=4 Mode3D_Status=1", "user Quick_FlowWay=1",
+     "sends Quick_FlowWay=1; asks OverLoad"},
+    {"sequential 3D does not double", heavy + "Quick_CabinetRow=4 Mode3D_{Status=1 Format=2}",
+     "user Quick_FlowWay=1", "sends Quick_FlowWay=1"},
 };
 
-const QString quick = whole + "3138=1 1055=0 ", unfit = quick + "2002=8 ", ports = unfit + "3138=0 ";
-const QString lastPort = ports + "3199=8 "; // its Y
-const QString opens = "sends 1055=1; asks OpenLowLatencyTip",
-              refused = "asks CantOpenLowLatencyTip; leaves 1055=0";
+const QString quick = whole + "ScreenConfigKind=1 LowLatency=0 ", unfit = quick + "Quick_PortOneCab=8 ",
+              ports = unfit + "ScreenConfigKind=0 ";
+const QString lastPort = ports + "AdvancedPort10_Y=8 "; // its Y
+const QString opens = "sends LowLatency=1; asks OpenLowLatencyTip",
+              refused = "asks CantOpenLowLatencyTip; leaves LowLatency=0";
 const CaseLines latencyLines{
-    {"off", unfit, "user 1055=0", "sends 1055=0"},
-    {"off", "", "device 1055=0", "tells 1055=0"},
-    {"on", unfit, "device 1055=1", "tells 1055=1; leaves 1055=1"},
-    {"on, quick", quick, "user 1055=1", opens},
-    {"on, quick does not suit", unfit, "user 1055=1", refused + "; reloads 1055="},
-    {"on, advanced", ports, "user 1055=1", opens},
-    {"on, advanced does not suit", lastPort, "user 1055=1", refused},
-    {"on, software has configured", lastPort + "3211=1", "user 1055=1", opens},
-    {"on beside sync", quick + "2350=1", "user 1055=1", opens + "; leaves 2350=1"},
+    {"off", unfit, "user LowLatency=0", "sends LowLatency=0"},
+    {"off", "", "device LowLatency=0", "tells LowLatency=0"},
+    {"on", unfit, "device LowLatency=1", "tells LowLatency=1; leaves LowLatency=1"},
+    {"on, quick", quick, "user LowLatency=1", opens},
+    {"on, quick does not suit", unfit, "user LowLatency=1", refused + "; reloads LowLatency="},
+    {"on, advanced", ports, "user LowLatency=1", opens},
+    {"on, advanced does not suit", lastPort, "user LowLatency=1", refused},
+    {"on, software has configured", lastPort + "SoftwareConfigured=1", "user LowLatency=1", opens},
+    {"on beside sync", quick + "Sync_Status=1", "user LowLatency=1", opens + "; leaves Sync_Status=1"},
     // The message has gone by itself.
-    {"on beside sync, sending card", quick + "2350=1 3210=2", "user 1055=1",
-     "asks OpenLowLatencyNeedToCloseSyn; answers 2; leaves 1055=0 2350=1"},
+    {"on beside sync, sending card", quick + "Sync_Status=1 WorkMode=2", "user LowLatency=1",
+     "asks OpenLowLatencyNeedToCloseSyn; answers 2; leaves LowLatency=0 Sync_Status=1"},
 };
 
 const CaseLines &allLines()
@@ -150,8 +173,9 @@ void TestApplyConfiguration::lowLatencyEndsSync_data()
 {
     QTest::addColumn<int>("periodUs");
     QTest::addColumn<QString>("after");
-    QTest::newRow("follows the input") << 16683 << "leaves 2350=0 rate=5994; screen 1920x1080@59.94";
-    QTest::newRow("no rate") << 0 << "leaves 2350=0 rate=6000; screen 1920x1080@60";
+    QTest::newRow("follows the input")
+        << 16683 << "leaves Sync_Status=0 OutputRate=5994; screen 1920x1080@59.94";
+    QTest::newRow("no rate") << 0 << "leaves Sync_Status=0 OutputRate=6000; screen 1920x1080@60";
 }
 
 void TestApplyConfiguration::lowLatencyEndsSync()
@@ -159,10 +183,12 @@ void TestApplyConfiguration::lowLatencyEndsSync()
     QFETCH(int, periodUs);
     QFETCH(QString, after);
     m_rig->input(0, 97, 3, 1920, 1080, periodUs);
-    const QString before = whole + "2101=0 width=1920 height=1080 2350=1 3210=2 rate=";
-    runCaseLine(*m_rig, {"", before + (periodUs ? "6000" : "0"), "user 1055=1",
-                         "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; "
-                         "sends 2350=0 1055=1; reloads 2350=0; " +
+    const QString before =
+        whole +
+        "MainLayer_InputSource=0 OutputWidth=1920 OutputHeight=1080 Sync_Status=1 WorkMode=2 OutputRate=";
+    runCaseLine(*m_rig, {"", before + (periodUs ? "6000" : "0"), "user LowLatency=1",
+                         "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; sends Sync_Status=0 "
+                         "LowLatency=1; reloads Sync_Status=0; " +
                              after});
 }
 

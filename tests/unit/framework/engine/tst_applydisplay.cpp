@@ -72,11 +72,11 @@ void TestApplyDisplay::initTestCase()
 void TestApplyDisplay::entersMode_data()
 {
     addColumns<int, QString, QString, bool, QString>({"mode", "function", "marks", "fnLit", "sent"});
-    addRow("freeze", 1, "3", "oxo-", true, "1022=1");
-    addRow("freeze, Fn is black", 1, "2", "oxo-", false, "1022=1");
-    addRow("black", 2, "2", "oox-", true, "1023=1");
-    addRow("test pattern", 3, "4", "o--o", true, "2326=5");
-    addRow("test pattern, Fn is sync", 3, "0", "o--o", false, "2326=5");
+    addRow("freeze", 1, "3", "oxo-", true, "Freeze=1");
+    addRow("freeze, Fn is black", 1, "2", "oxo-", false, "Freeze=1");
+    addRow("black", 2, "2", "oox-", true, "FTB=1");
+    addRow("test pattern", 3, "4", "o--o", true, "Test_PureColor=5");
+    addRow("test pattern, Fn is sync", 3, "0", "o--o", false, "Test_PureColor=5");
 }
 
 /// A reported mode is shown, not sent.
@@ -119,7 +119,7 @@ void TestApplyDisplay::normalGivesEverythingBack()
     QVERIFY(pictureStands(0));
     QCOMPARE(m_rig->value(PARA_DisplayMode), QString("0"));
     QVERIFY(!m_leds->lit(LED_TEST) && !m_leds->lit(LED_FREEZE) && !m_leds->lit(LED_FN));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1021=1"});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"Normal=1"});
 }
 
 void TestApplyDisplay::lastPatternMayBeAPicture()
@@ -161,7 +161,7 @@ void TestApplyDisplay::fnKey()
                  other == function);
     QCOMPARE(m_rig->value(MENU_FnMode).toInt(), function);
     QTEST(m_leds->lit(LED_FN), "lit");
-    const QStringList line{QString("%1=1").arg(item)};
+    const QStringList line{itemnames::line(item, "1")};
     QCOMPARE(m_rig->device->sent.take(), line);
     m_rig->set(MENU_FnMode, "9");
     m_rig->fromDevice(item, "1");
@@ -174,11 +174,11 @@ void TestApplyDisplay::fnKey()
 void TestApplyDisplay::patternTypeSendsItsPattern_data()
 {
     addColumns<QString, QString>({"type", "sent"});
-    addRow("pure colour", "0", "2326=5 2325=0");
-    addRow("gradient", "1", "2327=0 2325=1");
-    addRow("grid", "2", "2328=0 2325=2");
-    addRow("maker's picture", "3", "2325=3");
-    addRow("custom", "4", "2325=4");
+    addRow("pure colour", "0", "Test_PureColor=5 Test_Type=0");
+    addRow("gradient", "1", "Test_Gradient=0 Test_Type=1");
+    addRow("grid", "2", "Test_Grid=0 Test_Type=2");
+    addRow("maker's picture", "3", "Test_Type=3");
+    addRow("custom", "4", "Test_Type=4");
 }
 
 void TestApplyDisplay::patternTypeSendsItsPattern()
@@ -192,7 +192,7 @@ void TestApplyDisplay::patternTypeSendsItsPattern()
     m_rig->process(PARA_TestPatternFamily, 9);
     m_rig->fromDevice(MENU_Test_Type, type);
     QCOMPARE(m_rig->value(PARA_TestPatternFamily), type);
-    QVERIFY(m_rig->reported.take().contains("2325=" + type));
+    QVERIFY(m_rig->reported.take().contains("Test_Type=" + type));
     QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
@@ -228,7 +228,7 @@ void TestApplyDisplay::patternChoosesItsFamily()
             m_rig->engine->SetParaToXml("1", patterns[family], mode);
             m_rig->settle();
             QCOMPARE(m_rig->value(PARA_TestPatternFamily).toInt(), family);
-            const QString line = QString("%1=1").arg(patterns[family]);
+            const QString line = itemnames::line(patterns[family], "1");
             QCOMPARE(m_rig->device->sent.take().join(' '), mode == SET_XML_USER ? line : QString());
             QCOMPARE(m_rig->reported.take().contains(line), mode == SET_XML_DEVICE);
         }

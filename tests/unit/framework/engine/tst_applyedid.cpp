@@ -60,7 +60,7 @@ void TestApplyEdid::modeIsApplied()
             QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take() + m_rig->messages, QStringList());
             m_rig->fromUser(apply, "");
             QCOMPARE(m_rig->device->sent.take().join(' '),
-                     QString("%1=%2").arg(apply).arg(custom ? "1366x769x59.94" : "1920x1200x50"));
+                     itemnames::line(apply, custom ? "1366x769x59.94" : "1920x1200x50"));
             QCOMPARE(m_rig->messages, QStringList{"Waiting"});
         }
 }

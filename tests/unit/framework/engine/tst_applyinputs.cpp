@@ -105,7 +105,7 @@ void TestApplyInputs::mainLayerShowsItsInput()
     QTEST(layerText(0), "text");
     QCOMPARE(layerText(1) + layerText(2), QString("untoucheduntouched"));
     QCOMPARE(m_rig->enabled(MENU_MainLayer_InputCrop), signalState == 3);
-    QVERIFY(m_rig->reloaded.take().contains("2108="));
+    QVERIFY(m_rig->reloaded.take().contains("MainLayer_InputCrop="));
     QCOMPARE(m_rig->device->sent.take(), QStringList());
 }
 
@@ -136,8 +136,8 @@ void TestApplyInputs::pipTakesTheSize_data()
 {
     addColumns<int, int, QString, QString, QString, bool>(
         {"layer", "height", "scaling", "splicing", "sent", "offered"});
-    addRow("PIP 1", 1, 1625, "1", "0", "2114=1625", false);
-    addRow("PIP 2", 2, 1625, "1", "0", "2124=1625", false);
+    addRow("PIP 1", 1, 1625, "1", "0", "PIP1_VerHeight=1625", false);
+    addRow("PIP 2", 2, 1625, "1", "0", "PIP2_VerHeight=1625", false);
     addRow("larger", 2, 1626, "1", "0", "", false);
     addRow("option comes back", 1, 1625, "2", "0", "", true);
     addRow("not with a larger one", 1, 1626, "2", "0", "", false);

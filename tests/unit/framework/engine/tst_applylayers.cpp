@@ -68,7 +68,7 @@ void TestApplyLayers::mainStatus()
             QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
             QCOMPARE(m_rig->layerShown(0), value == "1");
             QCOMPARE(m_rig->value(PARA_LowestLayer).toInt(), value == "1" ? 0 : 255);
-            const QStringList told{LayerRig::line(2100, value)};
+            const QStringList told{LayerRig::line(MENU_MainLayer_Status, value)};
             QCOMPARE(m_rig->device->sent.take(), user ? told : QStringList());
             QCOMPARE(m_rig->reported.take(), user ? QStringList() : told);
         }
@@ -97,12 +97,12 @@ void TestApplyLayers::pipOnTakesTheMosaicAway()
     QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
     QVERIFY(m_rig->layerShown(layer));
     QCOMPARE(m_rig->layerSignal(layer), QString("No Signal"));
-    QStringList sent{"1019=1"};
+    QStringList sent{"MainLayerTransition=1"};
     if (user)
         sent << LayerRig::line(status, "1");
     QCOMPARE(m_rig->device->sent.take(), sent);
     QCOMPARE(m_rig->reported.take(), user ? QStringList() : QStringList{LayerRig::line(status, "1")});
-    QVERIFY(m_rig->reloaded.take().contains("2101="));
+    QVERIFY(m_rig->reloaded.take().contains("MainLayer_InputSource="));
 }
 
 void TestApplyLayers::pipIsRefusedUnderTheMosaic_data()
@@ -214,12 +214,12 @@ void TestApplyLayers::priorityThatMovesNothing()
     for (int layer = 0; layer < 3; ++layer)
         m_rig->set(LayerRig::of(MENU_MainLayer_Priority, layer), QString::number(layer));
     m_rig->fromUser(MENU_PIP1_Priority, "1");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"2117=1"});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"PIP1_Priority=1"});
     m_rig->set(MENU_PIP1_Status, "1");
     m_rig->set(MENU_MainLayer_Priority, "2");
     m_rig->fromDevice(MENU_PIP1_Priority, "0");
     QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->reported.take(), QStringList{"2117=0"});
+    QCOMPARE(m_rig->reported.take(), QStringList{"PIP1_Priority=0"});
     QCOMPARE(m_rig->value(MENU_PIP2_Priority), QString("2"));
     QCOMPARE(m_rig->value(PARA_LowestLayer), QString("1"));
 }
@@ -253,7 +253,8 @@ void TestApplyLayers::fixedLayout()
     }
     QTEST(found.join(", "), "geometry");
     QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{"2106=0", "2116=0", "2110=1", "2126=0", "2120=1", "1019=1"}));
+             (QStringList{"MainLayer_InitialY=0", "PIP1_InitialY=0", "PIP1_Status=1", "PIP2_InitialY=0",
+                          "PIP2_Status=1", "MainLayerTransition=1"}));
     QVERIFY(!m_rig->mosaicOffered());
     QCOMPARE(m_rig->transition(), QString("n"));
     QCOMPARE(m_rig->value(MENU_Layout), layout);

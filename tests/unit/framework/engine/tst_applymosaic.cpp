@@ -58,7 +58,8 @@ void TestApplyMosaic::valueIsApplied_data()
     // Afterwards: rows that are told to load, the size of the page and of each layout, and that of the whole.
     addColumns<QString, int, QString, QString, QString, QString>(
         {"layout", "index", "value", "reloaded", "sizes", "total"});
-    const QString sizes = "3072= 3072= 3073= 3073=", whole = "3074= 3074=";
+    const QString sizes = "Mosaic_Width= Mosaic_Width= Mosaic_Height= Mosaic_Height=",
+                  whole = "Mosaic_Arrangement= Mosaic_Arrangement=";
     addRow("side by side", "1", MENU_Mosaic_Layout, "1", sizes, "1280x720 1280x720 800x600", "2560x720");
     addRow("above", "0", MENU_Mosaic_Layout, "0", sizes, "800x600 1280x720 800x600", "800x1200");
     addRow("width of both", "1", MENU_Mosaic_Width, "640", whole, "640x2 640x720 800x600", "1280x1080");
@@ -74,7 +75,7 @@ void TestApplyMosaic::valueIsApplied()
     QFETCH(QString, value);
     QFETCH(QString, reloaded);
     const bool isLayout = index == MENU_Mosaic_Layout;
-    const QString line = isLayout ? "3071=" + value : QString();
+    const QString line = isLayout ? "Mosaic_Layout=" + value : QString();
     const QList<QPair<int, const char *>> before{
         {MENU_MosaicLayout0_Width, "1280"}, {MENU_MosaicLayout0_Height, "720"},
         {MENU_MosaicLayout1_Width, "800"},  {MENU_MosaicLayout1_Height, "600"},
@@ -89,7 +90,7 @@ void TestApplyMosaic::valueIsApplied()
         m_rig->settle();
         QCOMPARE(m_rig->device->sent.take().join(' '), user ? line : QString());
         QCOMPARE(m_rig->reported.take().join(' '), user || !isLayout ? QString() : line + ' ' + line);
-        const QString own = user || isLayout ? QString() : QString(" %1= %1=").arg(index);
+        const QString own = user || isLayout ? QString() : QString(" %1= %1=").arg(itemnames::name(index));
         QCOMPARE(m_rig->reloaded.take().join(' '), reloaded + own);
         QStringList sizes;
         for (auto width : {MENU_Mosaic_Width, MENU_MosaicLayout0_Width, MENU_MosaicLayout1_Width})
@@ -130,7 +131,7 @@ void TestApplyMosaic::arrangement()
         const bool above = QString(layout) == "0";
         QCOMPARE(m_rig->value(above ? MENU_MosaicLayout0_Source : MENU_MosaicLayout1_Source), first);
         QCOMPARE(m_rig->value(above ? MENU_MosaicLayout1_Source : MENU_MosaicLayout0_Source), QString("9"));
-        QCOMPARE(m_rig->reloaded.take(), (QStringList{"3074=", "3074="}));
+        QCOMPARE(m_rig->reloaded.take(), (QStringList{"Mosaic_Arrangement=", "Mosaic_Arrangement="}));
         QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
     }
 }
@@ -160,7 +161,7 @@ void TestApplyMosaic::applyTellsWhetherItIsShown()
             sources.params["4"] = "MOSAIC";
             sources.value = shown ? "4" : "2";
         });
-        const QString told = shown ? "3075=1" : "3075=0";
+        const QString told = shown ? "Mosaic_Apply=1" : "Mosaic_Apply=0";
         m_rig->fromUser(MENU_Mosaic_Apply, "");
         QCOMPARE(m_rig->device->sent.take(), QStringList{told});
         QCOMPARE(m_rig->messages, QStringList{"Waiting"});
@@ -189,7 +190,8 @@ void TestApplyMosaic::reset()
         QCOMPARE(m_rig->info(MENU_Mosaic_Arrangement).pixValue, QString("3840x1080"));
         QCOMPARE(m_rig->device->sent.take() + m_rig->messages, QStringList());
         QCOMPARE(m_rig->reloaded.take().join(' '),
-                 QString("3071=1 3071=1 3072= 3072= 3073= 3073= 3074=2 3074=2"));
+                 QString("Mosaic_Layout=1 Mosaic_Layout=1 Mosaic_Width= Mosaic_Width= Mosaic_Height= "
+                         "Mosaic_Height= Mosaic_Arrangement=2 Mosaic_Arrangement=2"));
     }
 }
 

@@ -70,8 +70,8 @@ void TestApplyOutput::ratesFollowResolution()
     QTEST(list.params.values().join(' '), "rates");
     QCOMPARE(list.params1.keys(), list.params.keys());
     QTEST(list.value, "chosen");
-    QVERIFY(m_rig->reloaded.take().contains(QString("%1=").arg(rates)));
-    const QString line = QString("%1=%2").arg(resolution).arg(size);
+    QVERIFY(m_rig->reloaded.take().contains(itemnames::line(rates, "")));
+    const QString line = itemnames::line(resolution, size);
     QCOMPARE(m_rig->device->sent.take(), byUser ? QStringList{line} : QStringList());
     QCOMPARE(m_rig->reported.take(), byUser ? QStringList() : QStringList({line, line})); // two pages have it
 }
@@ -82,7 +82,7 @@ void TestApplyOutput::modeIsShownOnlyOnceStarted()
     QCOMPARE(m_rig->reported.take(), QStringList());
     ParaProcess::init_20m_flg = true;
     m_rig->fromDevice(MENU_Output_Mode, "0");
-    QCOMPARE(m_rig->reported.take(), QStringList{"2352=0"});
+    QCOMPARE(m_rig->reported.take(), QStringList{"Output_Mode=0"});
     m_rig->fromUser(MENU_Output_Mode, "1");
     QCOMPARE(m_rig->device->sent.take(), QStringList());
 }

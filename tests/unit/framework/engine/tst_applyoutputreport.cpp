@@ -93,7 +93,7 @@ void TestApplyOutputReport::fullScreenLayersFill()
         QCOMPARE(m_rig->value(ofLayer(MENU_MainLayer_VerHeight, layer)), QString("720"));
     }
     QCOMPARE(m_rig->value(MENU_PIP1_HorWidth), QString("800"));
-    QCOMPARE(m_rig->device->sent.take(), (QStringList{"2104=720", "2124=720"}));
+    QCOMPARE(m_rig->device->sent.take(), (QStringList{"MainLayer_VerHeight=720", "PIP2_VerHeight=720"}));
     QCOMPARE(m_rig->value(PARA_LowestLayer), QString("2"));
 }
 

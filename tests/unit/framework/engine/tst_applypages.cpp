@@ -195,7 +195,7 @@ void TestApplyPages::productionTestHasTheScreen()
     m_rig->fromUser(MENU_SavetoRVCard, "");
     m_rig->fromUser(MENU_Net_Reset, "");
     QCOMPARE(m_rig->messages, QStringList());
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1002="});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"SavetoRVCard="});
 }
 
 FPD_TEST(TestApplyPages)

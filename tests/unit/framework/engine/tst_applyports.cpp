@@ -145,7 +145,7 @@ void TestApplyPorts::opticalBackupByMode()
     QTEST(engaged, "engaged");
     m_rig->forget();
     m_rig->fromUser(MENU_DeviceBackup, "1");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1048=1"});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"DeviceBackup=1"});
 }
 
 void TestApplyPorts::linkedPortPassesTheTest_data()

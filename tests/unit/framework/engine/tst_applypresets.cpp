@@ -110,11 +110,12 @@ void TestApplyPresets::actions_data()
     const QStringList saved{"Waiting", "PresetSaveSucceed"}, loaded{"Waiting", "PresetLoadSucceed"};
     const QStringList cleared{"Waiting", "PresetDeleteSucceed"};
     const QString question = "DeletePresetConfirm";
-    addRow("save over the one in use", 1, save, "1036=0 1026=", saved, "SSBSBBBBBB 0");
-    addRow("load the one in use", 1, load, "1037=0 1026=", loaded, "USBSBBBBBB 0");
-    addRow("clear", 2, clear, "1038=1 1027=", QStringList{question + "News?"} + cleared, "UBBSBBBBBB 0");
-    addRow("clear the one in use", 1, clear, "1038=0 1026=", QStringList{question + "Preset1?"} + cleared,
-           "BSBSBBBBBB 255");
+    addRow("save over the one in use", 1, save, "PresetSave=0 Preset1=", saved, "SSBSBBBBBB 0");
+    addRow("load the one in use", 1, load, "PresetLoad=0 Preset1=", loaded, "USBSBBBBBB 0");
+    addRow("clear", 2, clear, "PresetDelete=1 Preset2=", QStringList{question + "News?"} + cleared,
+           "UBBSBBBBBB 0");
+    addRow("clear the one in use", 1, clear,
+           "PresetDelete=0 Preset1=", QStringList{question + "Preset1?"} + cleared, "BSBSBBBBBB 255");
 }
 
 void TestApplyPresets::actions()
@@ -131,7 +132,7 @@ void TestApplyPresets::actions()
     QCOMPARE(m_rig->info(itemOf(preset)).tag, QString("Preset%1").arg(preset));
     const QStringList redrawn = m_rig->redrawn.take();
     for (int row : {ENUM_ROW_Preset1, ENUM_ROW_PresetCopy1})
-        QVERIFY(redrawn.contains(QString("%1=%2").arg(itemOf(preset)).arg(row + preset - 1)));
+        QVERIFY(redrawn.contains(itemnames::line(itemOf(preset), QString::number(row + preset - 1))));
 }
 
 void TestApplyPresets::questionsNameThePreset()
@@ -149,7 +150,7 @@ void TestApplyPresets::reportsOpenNothing()
 {
     m_rig->operate = [](QDialog &) { QFAIL("a dialog"); };
     m_rig->fromDevice(itemOf(3), "Saved");
-    QCOMPARE(m_rig->reported.take(), (QStringList{"1028=Saved", "1028=Saved"}));
+    QCOMPARE(m_rig->reported.take(), (QStringList{"Preset3=Saved", "Preset3=Saved"}));
     QCOMPARE(m_rig->device->sent.take() + m_rig->messages, QStringList());
 }
 
@@ -172,7 +173,7 @@ void TestApplyPresets::openCopyPage(int source)
     QVERIFY(!page(ENUM_PAGE_PresetSettings)->isVisible());
     QVERIFY(!m_rig->enabled(itemOf(source)));
     QCOMPARE(page(ENUM_PAGE_PresetCopyTo)->currentRow(), 0);
-    QCOMPARE(m_rig->device->sent.take(), QStringList{QString("%1=").arg(itemOf(source))});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{itemnames::line(itemOf(source), "")});
     m_rig->forget();
     QApplication::setActiveWindow(page(ENUM_PAGE_PresetCopyTo));
 }
@@ -180,8 +181,8 @@ void TestApplyPresets::openCopyPage(int source)
 void TestApplyPresets::copies_data()
 {
     addColumns<int, int, QString, QString, QString>({"source", "target", "sent", "states", "name"});
-    addRow("a name goes along", 2, 1, "1039=1_0", "SSBSBBBBBB 0", "News"); // onto the one in use
-    addRow("no name stays behind", 4, 3, "1039=3_2", "USSSBBBBBB 0", "Preset3");
+    addRow("a name goes along", 2, 1, "PresetCopy=1_0", "SSBSBBBBBB 0", "News"); // onto the one in use
+    addRow("no name stays behind", 4, 3, "PresetCopy=3_2", "USSSBBBBBB 0", "Preset3");
 }
 
 void TestApplyPresets::copies()
@@ -201,7 +202,7 @@ void TestApplyPresets::copies()
 void TestApplyPresets::quickLoad_data()
 {
     addColumns<int, QString, QStringList, QString>({"number", "sent", "messages", "states"});
-    addRow("stored", 3, "1037=3", QStringList{"Waiting", "PresetLoadSucceed"}, "SSBUBBBBBB 3");
+    addRow("stored", 3, "PresetLoad=3", QStringList{"Waiting", "PresetLoadSucceed"}, "SSBUBBBBBB 3");
     addRow("blank", 4, "", QStringList{"PresetLoadNullFaild"}, "USBSBBBBBB 0");
     for (int number : {-1, 10, 255})
         addRow(QString::number(number), number, "", QStringList(), "USBSBBBBBB 0");
@@ -223,7 +224,7 @@ void TestApplyPresets::noMessageNoStep()
     m_rig->fromUser(itemOf(4), "");
     g_dialogConfig[MSG_PresetLoadSucceed].enabled = true;
     QCOMPARE(m_rig->messages, QStringList{"Waiting"});
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1037=3"});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"PresetLoad=3"});
     QCOMPARE(states(), QString("USBSBBBBBB 0"));
 }
 

@@ -95,7 +95,7 @@ void TestApplyReset::keepsWhatSurvives()
     QCOMPARE(get_pc_connect_priority(), reset == MENU_ResetAll ? 1 : 0);
     // What the device did itself is told at home, and neither sent nor probed.
     QCOMPARE(told.count(), fromUser ? 0 : 1);
-    QCOMPARE(m_rig->device->sent.take(), fromUser ? QStringList{QString("%1=").arg(reset)} : QStringList());
+    QCOMPARE(m_rig->device->sent.take(), fromUser ? QStringList{itemnames::line(reset, "")} : QStringList());
     QCOMPARE(m_rig->messages, fromUser ? QStringList({"IsResting", "ResetSucceed"}) : QStringList());
 }
 
@@ -128,8 +128,27 @@ void TestApplyReset::sendingCardStaysOne()
     QCOMPARE(m_rig->value(MENU_MainLayer_InputSource), QString("1"));
     for (ENUM_MenuIndex item : {MENU_MainLayer_Status, MENU_MainLayer_ScalingMode, MENU_MainLayerTransition})
         QCOMPARE(m_rig->value(item), QString("1"));
-    for (int item : {2015, 2100, 2102, 2103, 2104, 2107, 2108, 2109, 1005, 1006, 1007,
-                     1018, 6,    7,    1019, 1020, 2346, 2351, 1052, 1056, 2343})
+    for (int item : {MENU_OutputFrameRate,
+                     MENU_MainLayer_Status,
+                     MENU_MainLayer_ScalingMode,
+                     MENU_MainLayer_HorWidth,
+                     MENU_MainLayer_VerHeight,
+                     MENU_MainLayer_Priority,
+                     MENU_MainLayer_InputCrop,
+                     MENU_MainLayer_Opacity,
+                     MENU_PIP1,
+                     MENU_PIP2,
+                     MENU_Layout,
+                     MENU_MosaicInput,
+                     MENU_PresetSettings,
+                     MENU_ImageMosaic,
+                     MENU_MainLayerTransition,
+                     MENU_TransitionDuration,
+                     MENU_Fn_HDMIOutput,
+                     MENU_Sync_Source,
+                     MENU_HDMIOutput,
+                     MENU_Mode3D,
+                     MENU_InputBackup_Mosaic})
         QVERIFY2(!m_rig->enabled(ENUM_MenuIndex(item)), QByteArray::number(item));
     QCOMPARE(m_rig->choice(MENU_VideoController) + m_rig->choice(MENU_FiberConverter) +
                  m_rig->choice(MENU_SendingCard),
@@ -252,7 +271,7 @@ void TestApplyReset::clearAll()
     next.GetItemCurValue(MENU_ScreenBrightness, brightness);
     QCOMPARE(brightness, factory(MENU_ScreenBrightness));
     QCOMPARE(get_pc_connect_priority(), 1);
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1063="});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"ResetAll="});
     QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
 }
 

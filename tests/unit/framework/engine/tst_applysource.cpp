@@ -76,7 +76,8 @@ void TestApplySource::mosaicTakesEverything()
         QCOMPARE(m_rig->rows(MENU_Layout), QString("nn"));
         QCOMPARE(m_rig->transition(), QString("n"));
         QCOMPARE(m_rig->layerName(0), QString("MOSAIC"));
-        QCOMPARE(m_rig->device->sent.take().join(' '), QString(user ? "1019=1 2101=7" : "1019=1"));
+        QCOMPARE(m_rig->device->sent.take().join(' '),
+                 QString(user ? "MainLayerTransition=1 MainLayer_InputSource=7" : "MainLayerTransition=1"));
     }
 }
 
@@ -98,7 +99,7 @@ void TestApplySource::plainSourceGivesBack()
     m_rig->fromUser(MENU_MainLayer_InputSource, "0");
     QCOMPARE(m_rig->rows(MENU_Layout), QString("yy"));
     QTEST(m_rig->transition(), "transition");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"2101=0"});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"MainLayer_InputSource=0"});
 }
 
 void TestApplySource::outputOfASendingCardFollows_data()
@@ -120,7 +121,7 @@ void TestApplySource::outputOfASendingCardFollows()
     QTEST(m_rig->value(PARA_OutputRate).toInt(), "rate");
     QTEST(m_rig->shown("labScreenRes"), "resolution");
     QVERIFY(!m_rig->enabled(MENU_MainLayer_InputCrop)); // a sending card does not crop
-    QCOMPARE(m_rig->device->sent.take(), QStringList{LayerRig::line(2101, source)});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{LayerRig::line(MENU_MainLayer_InputSource, source)});
 }
 
 void TestApplySource::sendingCardShowsNoPip()

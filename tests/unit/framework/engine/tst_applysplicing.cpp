@@ -30,29 +30,54 @@ private:
 
 namespace
 {
-const QString pageOn = " 1041+ 1042+ 1043+ 1044+ 1045+ 1046+ 1047+";
-const QString pageOff = " 1041- 1042- 1043- 1044- 1045- 1046- 1047-";
-const QString dialled = "1041=77 1042=77 1043=77 1044=77 1045=77 1046=77 2103=800 2104=600 2105=11 2106=12 ";
-const QString factory = "leaves 1041=3840 1042=2160 1043=1920 1044=1080 1045=0 1046=0 2105=11 2106=12 ";
+const QString pageOn = " ImageMosaic_{TotalHPixels+ TotalVPixels+ LoadAreaWidth+ LoadAreaHeight+ "
+                       "LoadAreaInitialX+ LoadAreaInitialY+ Reset+}";
+const QString pageOff = " ImageMosaic_{TotalHPixels- TotalVPixels- LoadAreaWidth- LoadAreaHeight- "
+                        "LoadAreaInitialX- LoadAreaInitialY- Reset-}";
+const QString dialled =
+    "ImageMosaic_{TotalHPixels=77 TotalVPixels=77 LoadAreaWidth=77 LoadAreaHeight=77 LoadAreaInitialX=77 "
+    "LoadAreaInitialY=77} MainLayer_{HorWidth=800 VerHeight=600 InitialX=11 InitialY=12} ";
+const QString factory =
+    "leaves ImageMosaic_{TotalHPixels=3840 TotalVPixels=2160 LoadAreaWidth=1920 LoadAreaHeight=1080 "
+    "LoadAreaInitialX=0 LoadAreaInitialY=0} MainLayer_{InitialX=11 InitialY=12} ";
 const CaseLines lines{
-    {"on, all stands already", "2100=1 2350=1", "user 1040=1",
-     "sends 1043=1920 1044=1080 2103=3840 2104=2160 2105=0 2106=0 1040=1 1041=3840 1042=2160 1046=0 1040=1"},
-    {"on", "1041=3000 1042=2000 1046=9 2110=1 2102=1 2103=700 2106=5 2112/0+ 2112/1-", "device 1040=1",
-     "sends 1041=3000 1042=2000 1046=9; tells 1040=1; "
-     "leaves 2102=2 2110=1 2103=700 2106=5 2102/0- 2102/1- 2112/0+ 2112/1-" +
+    {"on, all stands already", "MainLayer_Status=1 Sync_Status=1", "user ImageMosaic_Status=1",
+     "sends ImageMosaic_{LoadAreaWidth=1920 LoadAreaHeight=1080} MainLayer_{HorWidth=3840 VerHeight=2160 "
+     "InitialX=0 InitialY=0} ImageMosaic_{Status=1 TotalHPixels=3840 TotalVPixels=2160 LoadAreaInitialY=0 "
+     "Status=1}"},
+    {"on",
+     "ImageMosaic_{TotalHPixels=3000 TotalVPixels=2000 LoadAreaInitialY=9} PIP1_Status=1 "
+     "MainLayer_{ScalingMode=1 HorWidth=700 InitialY=5} PIP1_{ScalingMode/0+ ScalingMode/1-}",
+     "device ImageMosaic_Status=1",
+     "sends ImageMosaic_{TotalHPixels=3000 TotalVPixels=2000 LoadAreaInitialY=9}; tells "
+     "ImageMosaic_Status=1; leaves MainLayer_ScalingMode=2 PIP1_Status=1 MainLayer_{HorWidth=700 InitialY=5 "
+     "ScalingMode/0- ScalingMode/1-} PIP1_{ScalingMode/0+ ScalingMode/1-}" +
          pageOn},
-    {"off", "2110=1 2102=1 2103=700 2106=5 2112/0+ 2112/1-", "device 1040=0",
-     "tells 1040=0; leaves 2102=1 2110=1 2103=700 2106=5 2102/0+ 2102/1+ 2112/0+ 2112/1-" + pageOff},
-    {"width", "", "user 1041=5000", "sends 2103=5000 1041=5000; leaves 2103=5000 3139=5000"},
-    {"width", "2103=5000", "device 1041=4000", "tells 1041=4000; leaves 2103=5000"},
-    {"height", "", "user 1042=5000", "sends 2104=5000 1042=5000; leaves 2104=5000 3140=5000"},
-    {"height", "2104=5000", "device 1042=4000", "tells 1042=4000; leaves 2104=5000"},
-    {"area holds its start", "1045=32000 1046=100", "user 1043=1000",
-     "sends 1043=1000; reloads 1045=31768 1046=100; leaves 1045=31768 1046=100"},
-    {"reset", dialled + "1040=1", "user 1047=0",
-     "sends 1046=0 2104=2160; " + factory + "2103=3840 2104=2160 3139=3840 3140=2160"},
-    {"reset, not spliced", dialled + "3139=1 3140=2", "user 1047=0",
-     factory + "2103=800 2104=600 3139=1 3140=2"},
+    {"off",
+     "PIP1_Status=1 MainLayer_{ScalingMode=1 HorWidth=700 InitialY=5} PIP1_{ScalingMode/0+ ScalingMode/1-}",
+     "device ImageMosaic_Status=0",
+     "tells ImageMosaic_Status=0; leaves MainLayer_ScalingMode=1 PIP1_Status=1 MainLayer_{HorWidth=700 "
+     "InitialY=5 ScalingMode/0+ ScalingMode/1+} PIP1_{ScalingMode/0+ ScalingMode/1-}" +
+         pageOff},
+    {"width", "", "user ImageMosaic_TotalHPixels=5000",
+     "sends MainLayer_HorWidth=5000 ImageMosaic_TotalHPixels=5000; leaves MainLayer_{HorWidth=5000 "
+     "CustomWidth=5000}"},
+    {"width", "MainLayer_HorWidth=5000", "device ImageMosaic_TotalHPixels=4000",
+     "tells ImageMosaic_TotalHPixels=4000; leaves MainLayer_HorWidth=5000"},
+    {"height", "", "user ImageMosaic_TotalVPixels=5000",
+     "sends MainLayer_VerHeight=5000 ImageMosaic_TotalVPixels=5000; leaves MainLayer_{VerHeight=5000 "
+     "CustomHeight=5000}"},
+    {"height", "MainLayer_VerHeight=5000", "device ImageMosaic_TotalVPixels=4000",
+     "tells ImageMosaic_TotalVPixels=4000; leaves MainLayer_VerHeight=5000"},
+    {"area holds its start", "ImageMosaic_{LoadAreaInitialX=32000 LoadAreaInitialY=100}",
+     "user ImageMosaic_LoadAreaWidth=1000",
+     "sends ImageMosaic_LoadAreaWidth=1000; reloads ImageMosaic_{LoadAreaInitialX=31768 "
+     "LoadAreaInitialY=100}; leaves ImageMosaic_{LoadAreaInitialX=31768 LoadAreaInitialY=100}"},
+    {"reset", dialled + "ImageMosaic_Status=1", "user ImageMosaic_Reset=0",
+     "sends ImageMosaic_LoadAreaInitialY=0 MainLayer_VerHeight=2160; " + factory +
+         "MainLayer_{HorWidth=3840 VerHeight=2160 CustomWidth=3840 CustomHeight=2160}"},
+    {"reset, not spliced", dialled + "MainLayer_{CustomWidth=1 CustomHeight=2}", "user ImageMosaic_Reset=0",
+     factory + "MainLayer_{HorWidth=800 VerHeight=600 CustomWidth=1 CustomHeight=2}"},
 };
 } // namespace
 
@@ -92,10 +117,13 @@ void TestApplySplicing::onTakesEverything()
     m_rig->forget();
     m_rig->fromUser(MENU_ImageMosaic_Status, "1");
 
-    QCOMPARE(
-        m_rig->device->sent.take(),
-        (QStringList{"2100=1", "1043=1920", "1044=1080", "2103=3840", "2104=2160", "2105=0", "2106=0",
-                     "2110=0", "2120=0", "2350=1", "1040=1", "1041=3840", "1042=2160", "1046=0", "1040=1"}));
+    QCOMPARE(m_rig->device->sent.take(),
+             (QStringList{"MainLayer_Status=1", "ImageMosaic_LoadAreaWidth=1920",
+                          "ImageMosaic_LoadAreaHeight=1080", "MainLayer_HorWidth=3840",
+                          "MainLayer_VerHeight=2160", "MainLayer_InitialX=0", "MainLayer_InitialY=0",
+                          "PIP1_Status=0", "PIP2_Status=0", "Sync_Status=1", "ImageMosaic_Status=1",
+                          "ImageMosaic_TotalHPixels=3840", "ImageMosaic_TotalVPixels=2160",
+                          "ImageMosaic_LoadAreaInitialY=0", "ImageMosaic_Status=1"}));
     QCOMPARE(m_rig->geometry(0), QString("3840 2160 0 0"));
     QVERIFY(m_rig->remembered(0).startsWith("3840 2160 "));
     QCOMPARE(m_rig->remembered(1), QString("320 240 21 22"));
@@ -122,8 +150,8 @@ void TestApplySplicing::onForASendingCard()
     QCOMPARE(m_rig->dialled(0), QString("nnyy"));
     QVERIFY(m_rig->remembered(0).startsWith("3840 2160 "));
     const QStringList sent = m_rig->device->sent.take();
-    QVERIFY(!sent.contains("2103=3840") && !sent.contains("2104=2160"));
-    QVERIFY(sent.contains("2106=0"));
+    QVERIFY(!sent.contains("MainLayer_HorWidth=3840") && !sent.contains("MainLayer_VerHeight=2160"));
+    QVERIFY(sent.contains("MainLayer_InitialY=0"));
 }
 
 void TestApplySplicing::onLeavesTheTransitionLocked()
@@ -163,7 +191,7 @@ void TestApplySplicing::offOffersWhatFits()
     QTEST(m_rig->rows(MENU_PIP2_ScalingMode), "rows");
     QCOMPARE(m_rig->rows(MENU_MainLayer_ScalingMode), QString("yy"));
     QCOMPARE(pageState(), QString("nnnnnnn"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"1040=0"});
+    QCOMPARE(m_rig->device->sent.take(), QStringList{"ImageMosaic_Status=0"});
 
     // What a crop leaves of the input counts.
     m_rig->set(MENU_PIP1Crop_Status, "1");

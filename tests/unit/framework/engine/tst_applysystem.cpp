@@ -75,7 +75,7 @@ void TestApplySystem::plainItemsPassThrough()
             continue;
         plain += found ? 0 : 1;
         const QString value = m_rig->value(index);
-        const QStringList line = found ? QStringList() : QStringList(QString("%1=%2").arg(index).arg(value));
+        const QStringList line = found ? QStringList() : QStringList(itemnames::line(index, value));
         m_rig->forget();
         m_rig->fromUser(index, value);
         QCOMPARE(m_rig->device->sent.take(), line);
@@ -124,7 +124,7 @@ void TestApplySystem::equalReportStillRuns()
 {
     m_rig->fromDevice(MENU_Audio_Volume, "50");
     m_rig->fromDevice(MENU_Audio_Volume, "50");
-    QCOMPARE(m_rig->reported.take(), (QStringList{"2357=50", "2357=50"}));
+    QCOMPARE(m_rig->reported.take(), (QStringList{"Audio_Volume=50", "Audio_Volume=50"}));
 }
 
 void TestApplySystem::communicationMode()
@@ -190,8 +190,8 @@ void TestApplySystem::servicesStart()
     // The sequence runs every time.
     for (int start = 0; start < 2; ++start) {
         m_rig->fromDevice(EVENT_VideoServiceStarted, "1");
-        QCOMPARE(m_rig->device->sent.take(), (QStringList{"1054=0", "2374=1"}));
-        QVERIFY(m_rig->reported.take().contains("2369=V9.8.7"));
+        QCOMPARE(m_rig->device->sent.take(), (QStringList{"HDCP=0", "Net_NetMode=1"}));
+        QVERIFY(m_rig->reported.take().contains("About_VersionValue=V9.8.7"));
     }
     QVERIFY(m_rig->home->deviceStarted());
     QCOMPARE(m_rig->value(MENU_About_VersionValue), QString("V9.8.7"));
@@ -290,8 +290,8 @@ void TestApplySystem::reportsFromAnotherThreadKeepTheirOrder()
     QCOMPARE(m_rig->value(MENU_Audio_Volume).toInt(), value % 100);
     QStringList brightness;
     for (const QString &line : m_rig->reported.take())
-        if (line.startsWith("1="))
-            brightness << line.mid(2);
+        if (line.startsWith("ScreenBrightness="))
+            brightness << line.section('=', 1);
     QCOMPARE(brightness.size(), 201);
     QCOMPARE(brightness.mid(97, 3), (QStringList{"98", "99", "0"}));
 }

@@ -21,76 +21,106 @@ QString each(const QString &items, const char *sign)
 {
     return ' ' + QString(items).replace(' ', QString(sign) + ' ') + sign;
 }
-const QString mainMenu = "1 2 3 4 8 9 11", presetsAndSplicing = "6 7";
+const QString mainMenu = "ScreenBrightness ScreenSetting LayerSettings InputSettings DisplayControl "
+                         "AdvancedSetting FactoryReset",
+              presetsAndSplicing = "PresetSettings ImageMosaic";
 /// What a sending card takes from the user, apart from the main menu.
-const QString videoPath = "2015 2100 2102 2103 2104 2107 2109 1005 1006 1007 1019 1020 2346 1052 1056 2343";
+const QString videoPath =
+    "OutputFrameRate MainLayer_Status MainLayer_ScalingMode MainLayer_HorWidth MainLayer_VerHeight "
+    "MainLayer_Priority MainLayer_Opacity PIP1 PIP2 Layout MainLayerTransition TransitionDuration "
+    "Fn_HDMIOutput HDMIOutput Mode3D InputBackup_Mosaic";
 
-const QString modes = "of 1067 1068 1069 3397:";
-const QString toController = modes + " 1068=0 1069=0 3397=0 1067=1; leaves 3210=0 1067! 1068? 1069?" +
+const QString modes = "of VideoController FiberConverter SendingCard SendingCardMode:";
+const QString toController = modes +
+                             " FiberConverter=0 SendingCard=0 SendingCardMode=0 VideoController=1; leaves "
+                             "WorkMode=0 VideoController! FiberConverter? SendingCard?" +
                              each(mainMenu, "+") + each(presetsAndSplicing, "+");
-const QString toFiber = modes + " 1068=1 3397=0; leaves 3210=1 1067? 1068! 1069? 5+ 10+" +
+const QString toFiber = modes +
+                        " FiberConverter=1 SendingCardMode=0; leaves WorkMode=1 VideoController? "
+                        "FiberConverter! SendingCard? OSDSettings+ SystemSetting+" +
                         each(mainMenu, "-") + each(presetsAndSplicing, "-");
-const QString toCard = modes + " 1069=1 3397=1 1068=0 1069=1; leaves 3210=2 1067? 1068? 1069!" +
+const QString toCard = modes +
+                       " SendingCard=1 SendingCardMode=1 FiberConverter=0 SendingCard=1; leaves WorkMode=2 "
+                       "VideoController? FiberConverter? SendingCard!" +
                        each(mainMenu, "+") + each(presetsAndSplicing, "-");
-const QString fiber = "user 1068=1; ", card = "user 1069=1; ";
+const QString fiber = "user FiberConverter=1; ", card = "user SendingCard=1; ";
 const CaseLines modeLines{
-    {"from controller", "", "user 1068=1", toFiber},
-    {"from controller", "", "user 1069=1", toCard},
-    {"from controller", "", "user 1067=1", "sends 1067=1; reloads ; leaves 3210=0 1067! 1068? 1069?"},
-    {"from fiber", fiber, "user 1067=1", toController},
-    {"from fiber", fiber, "user 1069=1", toCard},
-    {"from fiber", fiber, "user 1068=1", "reloads ; leaves 3210=1 1067? 1068! 1069?"},
-    {"from card", card, "user 1067=1", toController},
-    {"from card", card, "user 1068=1", toFiber},
-    {"from card", card, "user 1069=1", "sends 1069=1; reloads ; leaves 3210=2 1067? 1068? 1069!"},
+    {"from controller", "", "user FiberConverter=1", toFiber},
+    {"from controller", "", "user SendingCard=1", toCard},
+    {"from controller", "", "user VideoController=1",
+     "sends VideoController=1; reloads ; leaves WorkMode=0 VideoController! FiberConverter? SendingCard?"},
+    {"from fiber", fiber, "user VideoController=1", toController},
+    {"from fiber", fiber, "user SendingCard=1", toCard},
+    {"from fiber", fiber, "user FiberConverter=1",
+     "reloads ; leaves WorkMode=1 VideoController? FiberConverter! SendingCard?"},
+    {"from card", card, "user VideoController=1", toController},
+    {"from card", card, "user FiberConverter=1", toFiber},
+    {"from card", card, "user SendingCard=1",
+     "sends SendingCard=1; reloads ; leaves WorkMode=2 VideoController? FiberConverter? SendingCard!"},
 };
 
 // The fallback input's state is 3263, its period 3266; those of the first are 3249 and 3252.
-const QString nowCard = "of 1069: 1069=1 1069=1; ", nowController = "of 1067: 1067=1; ";
+const QString nowCard = "of SendingCard: SendingCard=1 SendingCard=1; ",
+              nowController = "of VideoController: VideoController=1; ";
 const QString shows = nowCard + "name DVI; visible labWindowOffDisplay_2; ";
 const CaseLines cardLines{
-    {"input", "2101=0", "user 1069=1",
-     shows + "picture 1280x1024@59.94; screen 1920x1200@59.94; leaves rate=5994"},
-    {"input, no rate", "2101=0 3266=0", "user 1069=1",
-     shows + "picture 1280x1024@60; screen 1920x1200@60; leaves rate=6000"},
-    {"input, no signal", "2101=0 3263=0 3266=20000", "user 1069=1",
-     shows + "picture No Signal; screen 1920x1200@50; leaves rate=5000"},
-    {"main layer on top", "2107=2 2117=0 2127=1", "user 1069=1",
-     "of 2107 2117 2127: 2117=1 2127=2 2107=1; leaves 2107=0 2117=1 2127=2 3392=0"},
-    {"main layer between", "2107=1 2117=2 2127=0", "user 1069=1",
-     "of 2107 2117 2127: 2117=2 2127=1 2107=1; leaves 2107=0 2117=2 2127=1 3392=0"},
-    {"main layer at the bottom", "2107=0 2117=1 2127=2", "user 1069=1",
-     "of 2107 2117 2127:; leaves 2107=0 2117=1 2127=2 3392=0"},
-    {"Fn, HDMI output", "user 2346=1", "user 1069=1",
-     nowCard + "leaves 3208=0 2345! 2346? 2347? 2348? 2349?"},
-    {"Fn, freeze", "user 2348=1", "user 1069=1", nowCard + "leaves 3208=3 2345? 2346? 2347? 2348! 2349?"},
+    {"input", "MainLayer_InputSource=0", "user SendingCard=1",
+     shows + "picture 1280x1024@59.94; screen 1920x1200@59.94; leaves OutputRate=5994"},
+    {"input, no rate", "MainLayer_InputSource=0 InputRecordFirst+19=0", "user SendingCard=1",
+     shows + "picture 1280x1024@60; screen 1920x1200@60; leaves OutputRate=6000"},
+    {"input, no signal", "MainLayer_InputSource=0 InputRecordFirst+16=0 InputRecordFirst+19=20000",
+     "user SendingCard=1", shows + "picture No Signal; screen 1920x1200@50; leaves OutputRate=5000"},
+    {"main layer on top", "MainLayer_Priority=2 PIP1_Priority=0 PIP2_Priority=1", "user SendingCard=1",
+     "of MainLayer_Priority PIP1_Priority PIP2_Priority: PIP1_Priority=1 PIP2_Priority=2 "
+     "MainLayer_Priority=1; leaves MainLayer_Priority=0 PIP1_Priority=1 PIP2_Priority=2 LowestLayer=0"},
+    {"main layer between", "MainLayer_Priority=1 PIP1_Priority=2 PIP2_Priority=0", "user SendingCard=1",
+     "of MainLayer_Priority PIP1_Priority PIP2_Priority: PIP1_Priority=2 PIP2_Priority=1 "
+     "MainLayer_Priority=1; leaves MainLayer_Priority=0 PIP1_Priority=2 PIP2_Priority=1 LowestLayer=0"},
+    {"main layer at the bottom", "MainLayer_Priority=0 PIP1_Priority=1 PIP2_Priority=2", "user SendingCard=1",
+     "of MainLayer_Priority PIP1_Priority PIP2_Priority:; leaves MainLayer_Priority=0 PIP1_Priority=1 "
+     "PIP2_Priority=2 LowestLayer=0"},
+    {"Fn, HDMI output", "user Fn_HDMIOutput=1", "user SendingCard=1",
+     nowCard + "leaves FnMode=0 Fn_{Synchronization! HDMIOutput? FTB? Freeze? TestPattern?}"},
+    {"Fn, freeze", "user Fn_Freeze=1", "user SendingCard=1",
+     nowCard + "leaves FnMode=3 Fn_{Synchronization? HDMIOutput? FTB? Freeze! TestPattern?}"},
     // The rate is not doubled any more.
-    {"3D and software", "2359=1 3209=1 2015=8", "user 1069=1",
-     "of 2015 2359: 2015=59.94 2359=0; leaves 2359=0 3209=0; screen 1920x1200@59.94"},
-    {"lists", "2101/4+", "user 1069=1",
-     nowCard + "leaves 2101/4- 2101/0+ 2351/0+ 2351/1- 2351/2- 2351/3- 2356/1+ 2356/2- 2356/3- 2356/4+"},
+    {"3D and software", "Mode3D_Status=1 OutputMode=1 OutputFrameRate=8", "user SendingCard=1",
+     "of OutputFrameRate Mode3D_Status: OutputFrameRate=59.94 Mode3D_Status=0; leaves Mode3D_Status=0 "
+     "OutputMode=0; screen 1920x1200@59.94"},
+    {"lists", "MainLayer_InputSource/4+", "user SendingCard=1",
+     nowCard + "leaves MainLayer_{InputSource/4- InputSource/0+} Sync_{Source/0+ Source/1- Source/2- "
+               "Source/3-} Audio_{AudioOutput/1+ AudioOutput/2- AudioOutput/3- AudioOutput/4+}"},
 };
 
 const QString path =
-    "of 2101 2103 2104: 2101=2 2103=800 2104=600; leaves 2102=2 2103=800 2104=600 2105=0 2106=0 "
-    "3139=800 3140=600 3141=0 3142=0" +
+    "of MainLayer_InputSource MainLayer_HorWidth MainLayer_VerHeight: MainLayer_{InputSource=2 HorWidth=800 "
+    "VerHeight=600}; leaves MainLayer_{ScalingMode=2 HorWidth=800 VerHeight=600 InitialX=0 InitialY=0 "
+    "CustomWidth=800 CustomHeight=600 CustomX=0 CustomY=0}" +
     each(videoPath, "+");
-const QString rated = "2015=9 3266=33333; " + card + "3247=97 3249=3 3250=1920 3251=1080 ";
+const QString rated =
+    "OutputFrameRate=9 InputRecordFirst+19=33333; " + card +
+    "InputRecordFirst=97 InputRecordFirst+2=3 InputRecordFirst+3=1920 InputRecordFirst+4=1080 ";
 const CaseLines backLines{
-    {"video path", card, "user 1067=1", path + " 2108+ 3087+; picture 1280x1024@59.94"},
-    {"video path", card, "user 1068=1", path + " 2108+ 3087-; picture 1280x1024@59.94"},
-    {"video path, no signal", card + "3263=0", "user 1067=1", path + " 2108- 3087+; picture No Signal"},
-    {"video path, no signal", card + "3263=0", "user 1068=1", path + " 2108+ 3087-; picture No Signal"},
-    {"rate, free", rated + "3252=16683 2350=0", "user 1067=1",
-     nowController + "leaves rate=6000; screen 1920x1200@60"},
-    {"rate, source in reach", rated + "3252=16683 2350=1", "user 1067=1",
-     nowController + "leaves rate=5994; screen 1920x1200@59.94"},
-    {"rate, source out of reach", rated + "3252=20000 2350=1", "user 1067=1",
-     nowController + "leaves rate=6000; screen 1920x1200@60"},
-    {"PIP 2 is on", "2101/4+; " + card + "2120=1", "user 1067=1",
-     nowController + "leaves 1019- 1020- 2101/4-; hidden labWindowOffDisplay_3"},
-    {"lists", "2101/4+; " + card, "user 1067=1",
-     nowController + "leaves 2101/4+ 2351/1+ 2351/2+ 2351/3+ 2356/2+ 2356/3+"},
+    {"video path", card, "user VideoController=1",
+     path + " MainLayer_InputCrop+ AudioInput_Mosaic+; picture 1280x1024@59.94"},
+    {"video path", card, "user FiberConverter=1",
+     path + " MainLayer_InputCrop+ AudioInput_Mosaic-; picture 1280x1024@59.94"},
+    {"video path, no signal", card + "InputRecordFirst+16=0", "user VideoController=1",
+     path + " MainLayer_InputCrop- AudioInput_Mosaic+; picture No Signal"},
+    {"video path, no signal", card + "InputRecordFirst+16=0", "user FiberConverter=1",
+     path + " MainLayer_InputCrop+ AudioInput_Mosaic-; picture No Signal"},
+    {"rate, free", rated + "InputRecordFirst+5=16683 Sync_Status=0", "user VideoController=1",
+     nowController + "leaves OutputRate=6000; screen 1920x1200@60"},
+    {"rate, source in reach", rated + "InputRecordFirst+5=16683 Sync_Status=1", "user VideoController=1",
+     nowController + "leaves OutputRate=5994; screen 1920x1200@59.94"},
+    {"rate, source out of reach", rated + "InputRecordFirst+5=20000 Sync_Status=1", "user VideoController=1",
+     nowController + "leaves OutputRate=6000; screen 1920x1200@60"},
+    {"PIP 2 is on", "MainLayer_InputSource/4+; " + card + "PIP2_Status=1", "user VideoController=1",
+     nowController + "leaves MainLayerTransition- TransitionDuration- MainLayer_InputSource/4-; hidden "
+                     "labWindowOffDisplay_3"},
+    {"lists", "MainLayer_InputSource/4+; " + card, "user VideoController=1",
+     nowController + "leaves MainLayer_InputSource/4+ Sync_{Source/1+ Source/2+ Source/3+} "
+                     "Audio_{AudioOutput/2+ AudioOutput/3+}"},
 };
 
 const CaseLines &allLines()
@@ -177,7 +207,8 @@ void TestApplyWorkMode::valueIsApplied()
 void TestApplyWorkMode::syncSourcesWithoutSdi()
 {
     ParaProcess::bHaveSDI = false;
-    runCaseLine(*m_rig, {"", card, "user 1067=1", nowController + "leaves 2351/1+ 2351/2+ 2351/3-"});
+    runCaseLine(*m_rig, {"", card, "user VideoController=1",
+                         nowController + "leaves Sync_{Source/1+ Source/2+ Source/3-}"});
 }
 
 void TestApplyWorkMode::cardEndsTheScalingLed()
@@ -192,11 +223,11 @@ void TestApplyWorkMode::reportedModeReachesTheRow()
     ParaProcess::init_20m_flg = true;
     m_rig->fromDevice(MENU_SendingCard, "");
     QCOMPARE(m_rig->value(MENU_WorkMode), QString("2"));
-    QVERIFY(m_rig->reported.take().contains("1069="));
-    QCOMPARE(sentOf({"1069", "3397"}), (QStringList{"1069=1", "3397=1"}));
+    QVERIFY(m_rig->reported.take().contains("SendingCard="));
+    QCOMPARE(sentOf({"SendingCard", "SendingCardMode"}), (QStringList{"SendingCard=1", "SendingCardMode=1"}));
     m_rig->fromDevice(MENU_VideoController, "");
     QCOMPARE(m_rig->value(MENU_WorkMode), QString("0"));
-    QCOMPARE(sentOf({"1067", "3397"}), QStringList{"3397=0"});
+    QCOMPARE(sentOf({"VideoController", "SendingCardMode"}), QStringList{"SendingCardMode=0"});
 }
 
 void TestApplyWorkMode::fiberTakesTheLeds()

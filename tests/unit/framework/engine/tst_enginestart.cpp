@@ -40,20 +40,25 @@ private:
 
 void TestEngineStart::displayItemsStartAnew()
 {
-    const QString values = "3018=0 3030=0 3042=0 3054=0 2325=0 2326=5 2327=0 2328=0 2331=3 2332=5 2333=3";
+    const QString values = "HDMI1_EDIDChoice=0 HDMI2_EDIDChoice=0 DVI_EDIDChoice=0 DVI2_EDIDChoice=0 "
+                           "Test_{Type=0 PureColor=5 Gradient=0 Grid=0 Brightness=3 Spacing=5 Speed=3}";
     const ENUM_MenuIndex samplings[] = {MENU_HDMI1_ColorSample, MENU_HDMI2_ColorSample, MENU_DVI_ColorSample,
                                         MENU_DVI2_ColorSample, MENU_SDI_ColorSample};
     caseline::prepare(*m_rig, QString(values).replace(QRegularExpression("=\\d"), "=1"));
     for (ENUM_MenuIndex sampling : samplings)
         m_rig->set(sampling, "1");
-    caseline::prepare(*m_rig, "2108+ 2118+ 2128+ 1022- 1023- 1025- 2357=7");
+    caseline::prepare(
+        *m_rig,
+        "MainLayer_InputCrop+ PIP1_InputCrop+ PIP2_InputCrop+ Freeze- FTB- TestPattern- Audio_Volume=7");
     for (ENUM_MenuIndex mode : {MENU_Normal, MENU_Freeze, MENU_FTB})
         m_rig->store->UpdataItemCurChoice(mode, mode == MENU_Normal ? UNSELECTED : SELECTED);
     m_rig->engine->Initialize();
     for (ENUM_MenuIndex sampling : samplings)
         QCOMPARE(m_rig->value(sampling),
                  QString(sampling == MENU_SDI_ColorSample ? "YCbCr 4:2:2" : "RGB 4:4:4"));
-    caseline::compareStates(*m_rig, values + " 2357=7 2108- 2118- 2128- 1022+ 1023+ 1025+ 1021! 1022? 1023?");
+    caseline::compareStates(*m_rig,
+                            values + " Audio_Volume=7 MainLayer_InputCrop- PIP1_InputCrop- PIP2_InputCrop- "
+                                     "Freeze+ FTB+ TestPattern+ Normal! Freeze? FTB?");
 }
 
 void TestEngineStart::processDataStartEmpty()

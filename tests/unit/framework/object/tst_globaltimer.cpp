@@ -77,14 +77,14 @@ private slots:
         QVERIFY(BrightnessEdit::runs());
         QApplication::setActiveWindow(menu);
         timeIsUp();
-        QCOMPARE(m_rig->device->sent, QStringList{"1002="});
+        QCOMPARE(m_rig->device->sent, QStringList{"SavetoRVCard="});
         QVERIFY(!BrightnessEdit::runs());
 
         m_rig->reset();
         BrightnessEdit::begin();
         QApplication::setActiveWindow(nullptr);
         timeIsUp();
-        QCOMPARE(m_rig->device->sent, QStringList{"1002="});
+        QCOMPARE(m_rig->device->sent, QStringList{"SavetoRVCard="});
         QVERIFY(!BrightnessEdit::runs());
         QVERIFY(m_rig->home->isVisible());
     }

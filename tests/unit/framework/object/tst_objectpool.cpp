@@ -6,6 +6,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 
 #include <QPointer>
@@ -34,7 +35,7 @@ public:
     }
     void slot_ValueChanged(QString value, ENUM_MenuIndex index) override
     {
-        calls << QString("%1=%2").arg(index).arg(value);
+        calls << itemnames::line(index, value);
     }
     QStringList calls;
 };
@@ -129,8 +130,8 @@ private slots:
         g_protocolType[MENU_FTB] = ENUM_PROTOCOL_4RD;
         row.CallProtocol("1", MENU_Freeze);
         row.CallProtocol("0", MENU_FTB);
-        QCOMPARE(third->calls, QStringList{"1022=1"});
-        QCOMPARE(fourth->calls, QStringList{"1023=0"});
+        QCOMPARE(third->calls, QStringList{"Freeze=1"});
+        QCOMPARE(fourth->calls, QStringList{"FTB=0"});
         QString value;
         row.CallProtocolSynGet(value, MENU_Freeze);
         QCOMPARE(value, QString("answer 1022"));

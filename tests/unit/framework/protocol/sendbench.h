@@ -11,6 +11,7 @@
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
+#include "testkit/names/itemnames.h"
 
 #include <QtTest>
 

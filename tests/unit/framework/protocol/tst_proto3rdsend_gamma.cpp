@@ -18,7 +18,7 @@ private slots:
 
 namespace
 {
-constexpr int gammaItem = 2389;
+constexpr int gammaItem = MENU_Color_Gamma;
 
 int entry(const QByteArray &table, int i)
 {

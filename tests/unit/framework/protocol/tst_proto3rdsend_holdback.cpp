@@ -14,9 +14,9 @@ using namespace VASK;
 namespace
 {
 constexpr int sendTimerMs = 100;
-constexpr int brightness = 3025; // first HDMI
-constexpr int contrast = 3026;
-constexpr int volume = 2357; // has no hold-back
+constexpr int brightness = MENU_HDMI1_Brightness; // first HDMI
+constexpr int contrast = MENU_HDMI1_Contrast;
+constexpr int volume = MENU_Audio_Volume; // has no hold-back
 } // namespace
 
 class TestProto3rdSendHoldback : public QObject
@@ -176,14 +176,17 @@ void TestProto3rdSendHoldback::aRefusedChangeDoesNotCountAsSent()
 
 void TestProto3rdSendHoldback::windowAndCropAreHeldBackToo()
 {
-    bench->set(2103, {"100", "100", "0", "0"});
-    bench->set(3000, {"1", "100", "100", "0", "0"});
-    bench->set(2101, "0");
-    for (int item : {2103, 2104, 2105, 2106, 3001, 3002, 3003, 3004, 3026, 3027, 3028}) {
+    bench->set(MENU_MainLayer_HorWidth, {"100", "100", "0", "0"});
+    bench->set(MENU_MainLayerCrop_Status, {"1", "100", "100", "0", "0"});
+    bench->set(MENU_MainLayer_InputSource, "0");
+    for (int item :
+         {MENU_MainLayer_HorWidth, MENU_MainLayer_VerHeight, MENU_MainLayer_InitialX, MENU_MainLayer_InitialY,
+          MENU_MainLayerCrop_HorWidth, MENU_MainLayerCrop_VerHeight, MENU_MainLayerCrop_InitialX,
+          MENU_MainLayerCrop_InitialY, MENU_HDMI1_Contrast, MENU_HDMI1_Saturation, MENU_HDMI1_Hue}) {
         bench->client.clear();
         for (int value : {1, 2, 3})
             step(item, value);
-        QVERIFY2(bench->client.attempts == 1, qPrintable(QString::number(item)));
+        QVERIFY2(bench->client.attempts == 1, qPrintable(itemnames::name(item)));
         QVERIFY(Proto3rdSend::mSendFlg);
         bench->protocol->slot_SendData();
         QCOMPARE(bench->client.attempts, 2);

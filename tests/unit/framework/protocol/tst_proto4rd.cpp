@@ -125,35 +125,38 @@ private slots:
         const char *solid = "http return : ScreenSolid set faild error";
         const char *mode = "http return : SCREEN Mode faild error";
         const char *quick = "http return : quick screen set faild error";
-        row(1, "100", R"(PUT cabinets/16777215/brightness {"value":255})", bright);
-        row(1, "50", R"(PUT cabinets/16777215/brightness {"value":127})", bright);
-        row(1, "0", R"(PUT cabinets/16777215/brightness {"value":0})", bright);
-        row(1, "x", R"(PUT cabinets/16777215/brightness {"value":0})", bright);
-        row(1002, "", R"(PUT cabinets/16777215/solid {"type":0})", solid);
-        row(1021, "1", R"(PUT screens/255/displaymode {"value":0})", mode);
-        row(1022, "1", R"(PUT screens/255/displaymode {"value":2})", mode);
-        row(1023, "1", R"(PUT screens/255/displaymode {"value":1})", mode);
-        row(1055, "1", R"(PUT screens/255/lowlatency {"enable":true})",
+        row(MENU_ScreenBrightness, "100", R"(PUT cabinets/16777215/brightness {"value":255})", bright);
+        row(MENU_ScreenBrightness, "50", R"(PUT cabinets/16777215/brightness {"value":127})", bright);
+        row(MENU_ScreenBrightness, "0", R"(PUT cabinets/16777215/brightness {"value":0})", bright);
+        row(MENU_ScreenBrightness, "x", R"(PUT cabinets/16777215/brightness {"value":0})", bright);
+        row(MENU_SavetoRVCard, "", R"(PUT cabinets/16777215/solid {"type":0})", solid);
+        row(MENU_Normal, "1", R"(PUT screens/255/displaymode {"value":0})", mode);
+        row(MENU_Freeze, "1", R"(PUT screens/255/displaymode {"value":2})", mode);
+        row(MENU_FTB, "1", R"(PUT screens/255/displaymode {"value":1})", mode);
+        row(MENU_LowLatency, "1", R"(PUT screens/255/lowlatency {"enable":true})",
             "http return : low delay set faild error");
-        row(1055, "0", R"(PUT screens/255/lowlatency {"enable":false})",
+        row(MENU_LowLatency, "0", R"(PUT screens/255/lowlatency {"enable":false})",
             "http return : low delay set faild error");
-        for (int item = 2000; item <= 2003; ++item)
+        for (int item = MENU_Quick_CabinetRow; item <= MENU_Quick_FlowWay; ++item)
             row(item, "9",
                 R"(PUT screens/autoconfiguration/base {"LayoutType":0,"colCount":3,"port1CabinetCount":6,"rowCount":2})",
                 quick);
-        row(2004, "1+file+x", R"(PUT cabinets/16777215/sendcfgfile {"fileName":"1+file+x"})", bright);
-        row(2011, "file", R"(PUT cabinets/16777215/sendcfgfile {"fileName":"file"})", bright);
-        row(2013, "1", R"(PUT cabinets/16777215/mapping {"enable":true})",
+        row(MENU_CabinetFile1, "1+file+x", R"(PUT cabinets/16777215/sendcfgfile {"fileName":"1+file+x"})",
+            bright);
+        row(MENU_CabinetFile8, "file", R"(PUT cabinets/16777215/sendcfgfile {"fileName":"file"})", bright);
+        row(MENU_Mapping, "1", R"(PUT cabinets/16777215/mapping {"enable":true})",
             "http return : Mapping set faild error");
         for (const char *sent : {"2.25 2.3", "2.86 2.9", "2.85 2.8", "1.0 1.0"}) {
             const QStringList values = QString(sent).split(' ');
-            row(2389, values[0], R"(PUT cabinets/16777215/gamma {"type":3,"value":)" + values[1] + '}',
-                solid);
+            row(MENU_Color_Gamma, values[0],
+                R"(PUT cabinets/16777215/gamma {"type":3,"value":)" + values[1] + '}', solid);
         }
-        for (int item = 2391; item <= 2393; ++item)
+        for (int item = MENU_Color_R; item <= MENU_Color_B; ++item)
             row(item, "99", R"(PUT cabinets/16777215/rgbbrightness {"b":30,"g":20,"r":10})",
                 "http return : SCREEN color faild error");
-        for (int item : {2, 1001, 1024, 2012, 2014, 2329, 2388, 2390, 2394})
+        for (int item :
+             {MENU_ScreenSetting, MENU_LoadCabFiles, MENU_FTBDuration, MENU_AdvancedCfg, MENU_LEDScreenColor,
+              MENU_Test_VaskImage, MENU_Advanced_Reset, MENU_Color_ColorTemp, MENU_Color_Reset})
             row(item, "1", "");
 
         const char *pure = "http return : Test pure faild error";
@@ -168,12 +171,12 @@ private slots:
                                      pattern(2, 255, 0, 0, 0), pattern(2, 0, 255, 0, 0),
                                      pattern(2, 0, 0, 255, 0), pattern(2, 255, 255, 255, 0)};
         for (int i = 0; i < 8; ++i) {
-            row(2326, QString::number(i), colours[i], pure);
-            row(2327, QString::number(i), gradients[i], grad);
+            row(MENU_Test_PureColor, QString::number(i), colours[i], pure);
+            row(MENU_Test_Gradient, QString::number(i), gradients[i], grad);
         }
         const int gridModes[] = {5, 4, 7, 8, 6, 9};
         for (int i = 0; i < 6; ++i)
-            row(2328, QString::number(i), pattern(gridModes[i], 255, 255, 255, 1), grid);
+            row(MENU_Test_Grid, QString::number(i), pattern(gridModes[i], 255, 255, 255, 1), grid);
         for (const char *beyond : {"2326 8", "2327 8", "2328 6", "2326 -1"})
             row(QString(beyond).section(' ', 0, 0).toInt(), QString(beyond).section(' ', 1), "", "", 0);
     }
@@ -185,7 +188,7 @@ private slots:
         QTEST(m_protocol->HandleMenuValueChanged(ENUM_MenuIndex(item), value), "result");
         QCOMPARE(m_client->take(), request);
         if (request.isEmpty()) {
-            const bool isPattern = item >= 2326 && item <= 2328;
+            const bool isPattern = item >= MENU_Test_PureColor && item <= MENU_Test_Grid;
             QVERIFY(logged.filter(isPattern ? "No this color" : "Protocol4rd no handle!").size() == 1);
             return;
         }
@@ -234,7 +237,7 @@ private slots:
         QFETCH(QString, family);
         QFETCH(QString, request);
         engine()->SaveProcessData(family, PARA_TestPatternFamily);
-        for (int item = 2331; item <= 2333; ++item) {
+        for (int item = MENU_Test_Brightness; item <= MENU_Test_Speed; ++item) {
             QCOMPARE(m_protocol->HandleMenuValueChanged(ENUM_MenuIndex(item), "9"),
                      request.isEmpty() ? 0 : 1);
             QCOMPARE(m_client->take(), request);

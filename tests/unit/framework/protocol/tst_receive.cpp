@@ -11,6 +11,7 @@
 #include "framework/protocol/receive/reportdispatch.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
+#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 #include "tests/unit/framework/engine/enginerig.h"
 
@@ -30,7 +31,8 @@ void listen(QtMsgType type, const QMessageLogContext &context, const QString &te
     static const QString opening = "ReportMsgToParaProcess ";
     if (text.startsWith(opening)) {
         const int blank = text.indexOf(' ', opening.size());
-        told << text.mid(opening.size(), blank - opening.size()) + "=" + text.mid(blank + 1).remove('"');
+        told << itemnames::line(text.mid(opening.size(), blank - opening.size()).toInt(),
+                                text.mid(blank + 1).remove('"'));
     } else {
         logged << text;
     }
@@ -122,10 +124,12 @@ void TestReceive::inputTables()
 void TestReceive::values_data()
 {
     addColumns<uint, QString, QString>({"address", "payload", "expected"});
-    addRow("no synchronisation state", 0x1300009du, "", "3393=0");
-    addRow("sound of nobody", 0x1300009eu, "0701", "2356= 2357=1");
-    addRow("delay of three bytes, rounded", 0x02002002u, "000001", "3078=524");
-    addRow("window, cut", 0x13020040u, "01", "2110=1 2111=0 2115=0 2116=0 2113=0 2114=0 2117=0 2119=0");
+    addRow("no synchronisation state", 0x1300009du, "", "GenlockState=0");
+    addRow("sound of nobody", 0x1300009eu, "0701", "Audio_AudioOutput= Audio_Volume=1");
+    addRow("delay of three bytes, rounded", 0x02002002u, "000001", "Mode3D_SignalDelayTime=524");
+    addRow("window, cut", 0x13020040u, "01",
+           itemnames::expanded("PIP1_{Status=1 InputSource=0 InitialX=0 InitialY=0 HorWidth=0 VerHeight=0 "
+                               "Priority=0 Opacity=0}"));
     // What the panel has just set reaches the engine no more.
     addRow("output mode that is set already", 0x13042007u, "01", "");
     addRow("synchronisation that is set already", 0x1300002au, "0002", "");
