@@ -22,7 +22,7 @@ public:
         return DirectoryEngineer(ENUM_DIRECTORY_ENGINEER).buildMenu(config);
     }
     void noteOpen(ENUM_ObjectIndex page) override { OpenPage::set(page); }
-    void goHome(QWidget &home) override { OpenPage::goHome(home); }
+    void leave() override { OpenPage::leave(); }
 };
 
 class PanelDialogs : public Dialogs

@@ -75,11 +75,13 @@ void GlobalTimer::slot_ReturnToMain()
         qDebug() << "now in pDialog";
         return;
     }
+    if (Pages::instance() && qobject_cast<const Page *>(front))
+        Pages::instance()->leave();
+    BrightnessEdit::end();
     qDebug() << "m_pmainwindow:" << m_pmainwindow << "GlobalTimer::slot_ReturnToMain" << m_returnMainWindow
              << m_returnTimeMs;
-    if (m_pmainwindow && Pages::instance())
-        Pages::instance()->goHome(*m_pmainwindow);
-    BrightnessEdit::end();
+    if (m_pmainwindow)
+        m_pmainwindow->show();
 }
 
 int GlobalTimer::readReturnTime() const

@@ -22,8 +22,8 @@ public:
     virtual Page *build(ENUM_ConfigIndex config) = 0;
     /// Notes which page is open; the LEDs of the layers follow.
     virtual void noteOpen(ENUM_ObjectIndex page) = 0;
-    /// From wherever the panel is, as by ESC, to that home screen, which comes up.
-    virtual void goHome(QWidget &home) = 0;
+    /// As by ESC, and then away from whatever page that led to: an edit ends, and no page is open any more.
+    virtual void leave() = 0;
 
 private:
     inline static Pages *m_pages = nullptr;

@@ -31,8 +31,9 @@ void TakeOver::leaveForHome()
     qDebug() << "slot_ReturnToMain start!!!!!!";
     endDialogs();
     endDialogsLater(); // also one that the ESC brings up
-    OpenPage::goHome(m_home);
+    OpenPage::leave();
     qDebug() << "slot_ReturnToMain end!!!!!!";
+    m_home.show();
 }
 
 /// What a dialog has interrupted goes on when it is gone, and may have more to ask or to tell: until the last

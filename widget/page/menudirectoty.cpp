@@ -1,6 +1,7 @@
 #include "widget/page/menudirectoty.h"
 
 #include "framework/engine/keyleds.h"
+#include "framework/engine/presets.h"
 #include "framework/thread/handover.h"
 #include "framework/ui/dialogs.h"
 #include "widget/menulook.h"
@@ -103,7 +104,8 @@ void MenuDirectory::keypadEScEvent(KeypadEvent *)
 
 void MenuDirectory::ReturnToMainWindows(KeypadEvent *)
 {
-    OpenPage::leaveMenu();
+    Presets::giveBackCopied();
+    OpenPage::goHome();
 }
 
 int MenuDirectory::rowCount() const

@@ -1,7 +1,6 @@
 #include "widget/page/openpage.h"
 
 #include "framework/engine/keyleds.h"
-#include "framework/engine/presets.h"
 #include "framework/ui/home.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
@@ -47,14 +46,7 @@ void OpenPage::hideAll()
         page->hide();
 }
 
-void OpenPage::leaveMenu()
-{
-    Presets::giveBackCopied();
-    if (auto *home = poolObject<HomeScreen>(ENUM_MAIN_WINDOW))
-        goHome(*home);
-}
-
-void OpenPage::goHome(QWidget &home)
+void OpenPage::leave()
 {
     KeypadEvent esc = madeUpEsc();
     if (MenuDirectory *page = shown())
@@ -62,6 +54,12 @@ void OpenPage::goHome(QWidget &home)
     setNone();
     // The window system tells of the page that ESC has brought up only later: it is not the active one yet.
     hideAll();
-    home.show();
+}
+
+void OpenPage::goHome()
+{
+    leave();
+    if (auto *home = poolObject<HomeScreen>(ENUM_MAIN_WINDOW))
+        home->show();
 }
 } // namespace VASK

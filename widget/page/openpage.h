@@ -6,8 +6,6 @@
 
 #include <atomic>
 
-class QWidget;
-
 namespace VASK
 {
 class MenuDirectory;
@@ -30,10 +28,10 @@ public:
     /// The page that is visible; null if there is none.
     static MenuDirectory *shown();
     static void hideAll();
-    /// As ESC after ESC up to the home screen.
-    static void leaveMenu();
-    /// From wherever the panel is: an edit ends, the pages go and that home screen comes up.
-    static void goHome(QWidget &home);
+    /// As by ESC, and then away from whatever page that led to: an edit ends, and no page is open any more.
+    static void leave();
+    /// The same, and the home screen comes up.
+    static void goHome();
 
 private:
     inline static ENUM_ObjectIndex m_currentObj = ENUM_MAIN_MENU;
