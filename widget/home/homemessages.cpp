@@ -1,6 +1,7 @@
 #include "widget/home/homemessages.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/processdata.h"
 #include "framework/productiontest/productiontest.h"
 #include "framework/ui/dialogs.h"
 #include "menu/objectindex.h"

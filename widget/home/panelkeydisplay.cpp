@@ -3,6 +3,7 @@
 #include "widget/home/panelkeys.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/processdata.h"
 #include "framework/input/keyevent.h"
 #include "menu/itemindex.h"
 #include "menu/ledindex.h"

@@ -1,6 +1,5 @@
 // The keys of the layers and of the scaling.
 
-#include "menuconfig_k2860.h"
 #include "widget/home/panelkeys.h"
 
 #include "framework/engine/keyleds.h"
@@ -9,6 +8,7 @@
 #include "menu/itemvalue.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "menuconfig_k2860.h"
 #include "widget/home/panellayers.h"
 #include "widget/page/openpage.h"
 

@@ -1,13 +1,14 @@
 // The keys of the inputs.
 
-#include "menuconfig_k2860.h"
 #include "widget/home/panelkeys.h"
 
 #include "framework/engine/paraprocess.h"
+#include "framework/engine/processdata.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "menuconfig_k2860.h"
 #include "widget/home/panellayers.h"
 #include "widget/page/openpage.h"
 
