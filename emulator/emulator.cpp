@@ -9,7 +9,7 @@ constexpr const char *heardText = "StartComplate: 2";
 } // namespace
 
 Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
-    : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), device(stateFolder.path()),
+    : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), heldKeys(keypad), device(stateFolder.path()),
       recorder(keypad, device), bootFlag(stateFolder.path()), panel(stateFolder.path()),
       tools(stateFolder.path()), service(stateFolder, device), pushChannel(stateFolder),
       lcd(stateFolder.path()), screenText(stateFolder.path(), lcd), keyRules(keypad, screenText)
@@ -23,6 +23,7 @@ Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
     connect(&panel, &PanelProcess::ended, this, [this] {
         m_look.stop();
         m_ready = false;
+        heldKeys.forget();
     });
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "emulator/bus/device.h"
+#include "emulator/device/heldkeys.h"
 #include "emulator/device/keypad.h"
 #include "emulator/device/keyrules.h"
 #include "emulator/device/lcd.h"
@@ -31,6 +32,7 @@ public:
 
     StateFolder &folder;
     Keypad keypad;
+    HeldKeys heldKeys;
     Device device;
     Recorder recorder;
     BootFlag bootFlag;

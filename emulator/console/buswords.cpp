@@ -1,3 +1,4 @@
+#include "emulator/console/jsonforms.h"
 #include "emulator/console/timetext.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
@@ -30,7 +31,7 @@ void printWrite(Session &session, const RegisterWrite &write, WriteForm form)
     words << hex(write.address, 8) << hex(write.deviceType, 2);
     if (form.whole)
         words << hex(write.port, 2) << hex(write.board, 4);
-    session.print((words << QString::fromLatin1(write.bytes.toHex())).join(' '));
+    session.tell((words << QString::fromLatin1(write.bytes.toHex())).join(' '), jsonforms::write(write));
 }
 
 } // namespace
@@ -40,6 +41,7 @@ void words::writes(Session &session, Arguments &arguments)
     Device &device = session.emulator.device;
     const bool clear = arguments.flag("--clear");
     const bool follow = arguments.flag("--follow");
+    session.setJson(arguments.flag("--json"));
     const WriteForm form = {arguments.flag("--whole"), arguments.flag("--plain")};
     const qint64 since = arguments.timeOption("--since").value_or(0);
     if (!session.accepts(arguments))

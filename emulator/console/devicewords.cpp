@@ -3,9 +3,12 @@
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
 
+#include <QJsonObject>
+
 void words::flash(Session &session, Arguments &arguments)
 {
     FlashImage &flash = session.emulator.device.flash();
+    session.setJson(arguments.flag("--json"));
     const bool reads = arguments.choice({"read", "write"}) == "read";
     const quint32 address = arguments.hexNumber("ADDRESS", hostlink::flashSize - 1);
     const qint64 room = qint64(hostlink::flashSize) - address;
@@ -13,8 +16,9 @@ void words::flash(Session &session, Arguments &arguments)
     const QByteArray bytes = reads ? QByteArray() : arguments.bytes("HEX", 1, int(room));
     if (!session.accepts(arguments))
         return;
+    const QString hex = QString::fromLatin1(flash.read(address, length).toHex());
     if (reads)
-        session.print(QString::fromLatin1(flash.read(address, length).toHex()));
+        session.tell(hex, {{"address", QString::number(address, 16)}, {"bytes", hex}});
     else if (!flash.write(address, bytes))
         return session.fail("cannot write the flash");
     session.ok();
@@ -41,6 +45,7 @@ void words::link(Session &session, Arguments &arguments)
 void words::env(Session &session, Arguments &arguments)
 {
     const QString file = session.emulator.folder.file(hostlink::environmentFile);
+    session.setJson(arguments.flag("--json"));
     const bool gets = arguments.choice({"get", "set"}) == "get";
     const QString name = arguments.text("NAME");
     const QString value = gets ? QString() : arguments.text("VALUE");
@@ -50,7 +55,8 @@ void words::env(Session &session, Arguments &arguments)
         const auto values = hostlink::readValues(file);
         if (!values.contains(name.toUtf8()))
             return session.fail("no such name: " + name);
-        session.print(QString::fromUtf8(values[name.toUtf8()]));
+        const QString found = QString::fromUtf8(values[name.toUtf8()]);
+        session.tell(found, {{"name", name}, {"value", found}});
     } else {
         const bool isName = !name.trimmed().isEmpty() && name.trimmed() == name && !name.contains('=') &&
                             !name.contains('\n');

@@ -1,3 +1,4 @@
+#include "emulator/console/jsonforms.h"
 #include "emulator/console/keyarguments.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
@@ -33,7 +34,9 @@ void pressFor(Session &session, const QVector<int> &keys, int milliseconds)
 
 void printLeds(Session &session)
 {
-    session.print(QDateTime::currentDateTime().toString("HH:mm:ss.zzz ") + session.emulator.keypad.ledText());
+    const QString time = QDateTime::currentDateTime().toString("HH:mm:ss.zzz");
+    const QString text = session.emulator.keypad.ledText();
+    session.tell(time + ' ' + text, {{"time", time}, {"leds", jsonforms::leds(text)}});
 }
 } // namespace
 
@@ -73,9 +76,11 @@ void words::word(Session &session, Arguments &arguments)
 
 void words::sent(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     if (!session.accepts(arguments))
         return;
-    session.print(QString::number(session.emulator.keypad.sentNs()));
+    const qint64 sentNs = session.emulator.keypad.sentNs();
+    session.tell(QString::number(sentNs), {{"ns", sentNs}});
     session.ok();
 }
 
@@ -83,6 +88,7 @@ void words::leds(Session &session, Arguments &arguments)
 {
     constexpr int longestWatch = 7 * 24 * 3600; // seconds
     const bool now = arguments.flag("--now");
+    session.setJson(arguments.flag("--json"));
     const auto seconds = arguments.realOption("--watch", 0, longestWatch);
     if (!session.accepts(arguments))
         return;
@@ -90,7 +96,8 @@ void words::leds(Session &session, Arguments &arguments)
     if (!seconds) {
         if (!session.emulator.panel.isRunning())
             return session.fail(session.emulator.panel.status() + ": its LEDs are off");
-        session.print(now ? keypad.ledText() : keypad.blinkText());
+        const QString text = now ? keypad.ledText() : keypad.blinkText();
+        session.tell(text, jsonforms::leds(text));
         return session.ok();
     }
     printLeds(session);

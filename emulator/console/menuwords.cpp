@@ -10,24 +10,19 @@
 
 namespace
 {
-void printJson(Session &session, const QJsonDocument &document)
-{
-    session.print(document.toJson(QJsonDocument::Compact));
-}
-
-void listRules(Session &session, bool asJson)
+void listRules(Session &session)
 {
     QJsonArray rules;
     for (const KeyRule &rule : session.emulator.keyRules.all()) {
-        if (asJson)
+        if (session.isJson())
             rules.append(QJsonObject{{"text", rule.text}, {"key", rule.name}, {"pressed", rule.pressed}});
         else
             session.print(QString("when text \"%1\" key %2: pressed %3 times")
                               .arg(rule.text, rule.name)
                               .arg(rule.pressed));
     }
-    if (asJson)
-        printJson(session, QJsonDocument(rules));
+    if (session.isJson())
+        session.print(QJsonDocument(rules));
     session.ok();
 }
 
@@ -53,24 +48,24 @@ QJsonObject toJson(const StoreItem &item)
     return object;
 }
 
-void printItems(Session &session, const QVector<StoreItem> &items, bool asJson)
+void printItems(Session &session, const QVector<StoreItem> &items)
 {
     QJsonArray array;
     for (const StoreItem &item : items) {
-        if (asJson)
+        if (session.isJson())
             array.append(toJson(item));
         else
             session.print(QString("%1 %2 %3").arg(item.number).arg(item.name, item.value).trimmed());
     }
-    if (asJson)
-        printJson(session, QJsonDocument(array));
+    if (session.isJson())
+        session.print(QJsonDocument(array));
     session.ok();
 }
 } // namespace
 
 void words::when(Session &session, Arguments &arguments)
 {
-    const bool asJson = arguments.flag("--json");
+    session.setJson(arguments.flag("--json"));
     if (!arguments.isEmpty() && !arguments.nextIs("clear"))
         return takeRule(session, arguments);
     const bool clears = !arguments.isEmpty();
@@ -79,14 +74,14 @@ void words::when(Session &session, Arguments &arguments)
     if (!session.accepts(arguments))
         return;
     if (!clears)
-        return listRules(session, asJson);
+        return listRules(session);
     session.emulator.keyRules.clear();
     session.ok();
 }
 
 void words::store(Session &session, Arguments &arguments)
 {
-    const bool asJson = arguments.flag("--json");
+    session.setJson(arguments.flag("--json"));
     const bool gets = arguments.choice({"get", "list"}) == "get";
     const QString name = gets ? arguments.text("ITEM") : arguments.text("ITEM", "");
     if (!session.accepts(arguments))
@@ -98,11 +93,8 @@ void words::store(Session &session, Arguments &arguments)
     if (found.isEmpty() || (gets && found.size() != 1))
         return session.fail(storefile::notOne(found, name));
     if (!gets)
-        return printItems(session, found, asJson);
-    if (asJson)
-        printJson(session, QJsonDocument(toJson(found[0])));
-    else
-        session.print(found[0].value);
+        return printItems(session, found);
+    session.tell(found[0].value, toJson(found[0]));
     session.ok();
 }
 

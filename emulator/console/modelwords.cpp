@@ -10,6 +10,7 @@
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
 
+#include <QJsonObject>
 #include <QtEndian>
 
 namespace
@@ -69,6 +70,23 @@ QStringList describeCables(const Emulator &emulator)
             QString("  packets that the panel did not read: %1").arg(emulator.device.refused())};
 }
 
+/// The same under its headings.
+QJsonObject bySubject(const QStringList &lines)
+{
+    QJsonObject all, subject;
+    QString heading;
+    for (const QString &line : lines + QStringList{QString()}) {
+        if (line.startsWith("  ")) {
+            subject.insert(line.section(": ", 0, 0).trimmed(), line.section(": ", 1));
+            continue;
+        }
+        if (!heading.isEmpty())
+            all.insert(heading, subject);
+        heading = line;
+        subject = {};
+    }
+    return all;
+}
 } // namespace
 
 void words::signal(Session &session, Arguments &arguments)
@@ -103,21 +121,27 @@ void words::port(Session &session, Arguments &arguments)
 
 void words::preset(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     arguments.choice({"list"});
     if (!session.accepts(arguments))
         return;
-    for (const QString &line : presets::list(session.emulator.device.flash()))
-        session.print(line);
+    for (const QString &line : presets::list(session.emulator.device.flash())) {
+        const QStringList words = line.split(' ');
+        session.tell(line, {{"preset", words.value(1).chopped(1).toInt()},
+                            {"state", words.value(2)},
+                            {"name", line.section(' ', 3)}});
+    }
     session.ok();
 }
 
 void words::device(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     arguments.choice({"show"});
     if (!session.accepts(arguments))
         return;
-    for (const QString &line : session.emulator.device.model().describe() + describeCables(session.emulator))
-        session.print(line);
+    const QStringList lines = session.emulator.device.model().describe() + describeCables(session.emulator);
+    session.tell(lines.join('\n'), bySubject(lines));
     session.ok();
 }
 

@@ -1,3 +1,4 @@
+#include "emulator/console/jsonforms.h"
 #include "emulator/console/timetext.h"
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
@@ -5,7 +6,6 @@
 #include <QBuffer>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace
 {
@@ -19,7 +19,9 @@ void saveScreen(Session &session, const QString &name)
         session.print(QString::fromLatin1(png.data().toHex()));
         return session.ok();
     }
-    const QString file = session.absolutePath(name);
+    const QString file = session.takePath(name);
+    if (file.isEmpty())
+        return;
     if (!arguments::isPlainFile(file))
         return session.fail(file + " is no plain file");
     if (!picture.save(file, "PNG"))
@@ -27,18 +29,19 @@ void saveScreen(Session &session, const QString &name)
     session.ok();
 }
 
-void printTexts(Session &session, bool asJson)
+void printTexts(Session &session)
 {
-    session.emulator.screenText.ask(
-        session.request(), [&session, asJson](const std::optional<QJsonArray> &texts) {
-            if (!texts)
-                return session.fail("the panel does not answer");
-            if (asJson)
-                session.print(QJsonDocument(*texts).toJson(QJsonDocument::Compact));
-            for (const QJsonValue &text : asJson ? QJsonArray() : *texts)
-                session.print(ScreenText::describe(text.toObject()));
-            session.ok();
-        });
+    const bool asJson = session.isJson();
+    session.emulator.screenText.ask(session.request(),
+                                    [&session, asJson](const std::optional<QJsonArray> &texts) {
+                                        if (!texts)
+                                            return session.fail("the panel does not answer");
+                                        if (asJson)
+                                            session.print(QJsonDocument(*texts));
+                                        for (const QJsonValue &text : asJson ? QJsonArray() : *texts)
+                                            session.print(ScreenText::describe(text.toObject()));
+                                        session.ok();
+                                    });
 }
 
 void endPanel(Session &session, void (PanelProcess::*how)())
@@ -64,7 +67,8 @@ void startPanel(Session &session)
 
 void words::screen(Session &session, Arguments &arguments)
 {
-    const bool last = arguments.flag("--last"), asJson = arguments.flag("--json");
+    const bool last = arguments.flag("--last");
+    session.setJson(arguments.flag("--json"));
     const QString name = arguments.text("FILE");
     const bool asText = name.compare("text", Qt::CaseInsensitive) == 0;
     const QString suffix = QFileInfo(name).suffix();
@@ -76,7 +80,7 @@ void words::screen(Session &session, Arguments &arguments)
     if (!panel.isRunning() && !last)
         return session.fail(panel.status() + ": its LCD is dark (--last: what it has shown last)");
     if (asText)
-        printTexts(session, asJson);
+        printTexts(session);
     else
         saveScreen(session, name);
 }
@@ -86,15 +90,17 @@ void words::log(Session &session, Arguments &arguments)
     const bool follow = arguments.flag("--follow");
     const bool plain = arguments.flag("--plain");
     const qint64 since = arguments.timeOption("--since").value_or(0);
+    session.setJson(arguments.flag("--json"));
     if (!session.accepts(arguments))
         return;
     const auto print = [&session, plain](const LogLine &line) {
         const QString text = QString::fromUtf8(line.text);
-        session.print(plain ? text : timeText(line.timeMs) + ' ' + text);
+        session.tell(plain ? text : timeText(line.timeMs) + ' ' + text, jsonforms::logLine(line));
     };
     const PanelLog &log = session.emulator.panel.log();
     if (log.dropped() > 0)
-        session.print(QString("(%1 older lines are no longer kept)").arg(log.dropped()));
+        session.tell(QString("(%1 older lines are no longer kept)").arg(log.dropped()),
+                     {{"dropped", log.dropped()}});
     for (const LogLine &line : log.lines()) {
         if (line.timeMs >= since)
             print(line);
@@ -106,6 +112,7 @@ void words::log(Session &session, Arguments &arguments)
 
 void words::panel(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     const QString what = arguments.choice({"status", "start", "stop", "kill"});
     if (!session.accepts(arguments))
         return;
@@ -113,15 +120,17 @@ void words::panel(Session &session, Arguments &arguments)
         return startPanel(session);
     if (what != "status")
         return endPanel(session, what == "stop" ? &PanelProcess::stop : &PanelProcess::kill);
-    session.print(session.emulator.panel.status());
+    session.tell(session.emulator.panel.status(), jsonforms::panel(session.emulator.panel));
     session.ok();
 }
 
 void words::state(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     if (!session.accepts(arguments))
         return;
-    session.print(session.emulator.folder.path());
+    const QString path = session.emulator.folder.path();
+    session.tell(path, {{"path", path}});
     session.ok();
 }
 

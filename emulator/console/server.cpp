@@ -1,6 +1,6 @@
 #include "emulator/console/server.h"
 
-#include "emulator/console/session.h"
+#include "emulator/console/socketsession.h"
 #include "emulator/emulator.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
@@ -9,7 +9,7 @@ ConsoleServer::ConsoleServer(Emulator &emulator, QObject *parent) : QObject(pare
 {
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket *socket = m_server.nextPendingConnection())
-            new Session(m_emulator, socket, this);
+            new SocketSession(m_emulator, socket, this);
     });
 }
 

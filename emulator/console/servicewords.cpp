@@ -2,6 +2,8 @@
 #include "emulator/console/words.h"
 #include "emulator/emulator.h"
 
+#include <QJsonObject>
+
 namespace
 {
 constexpr int longestDelayMs = 600000;
@@ -109,16 +111,21 @@ void words::requests(Session &session, Arguments &arguments)
     RestService &service = session.emulator.service;
     const bool clear = arguments.flag("--clear");
     const bool follow = arguments.flag("--follow");
+    session.setJson(arguments.flag("--json"));
     if (!session.accepts(arguments))
         return;
+    const auto print = [&session](const QString &line) {
+        session.tell(line, {{"method", line.section(' ', 0, 0)},
+                            {"path", line.section(' ', 1, 1)},
+                            {"body", line.section(' ', 2)}});
+    };
     for (const QString &line : service.requests())
-        session.print(line);
+        print(line);
     if (clear)
         service.clearRequests();
     if (!follow)
         return session.ok();
-    QObject::connect(&service, &RestService::requested, session.request(),
-                     [&session](const QString &line) { session.print(line); });
+    QObject::connect(&service, &RestService::requested, session.request(), print);
 }
 
 void words::service(Session &session, Arguments &arguments)

@@ -1,34 +1,44 @@
-// One client of the console. It sends a request a line, WORD ARGUMENT..., where an argument with blanks
-// stands in double quotes (\" and \\ inside). The answer is any number of lines that begin with '+', then
-// "ok" or "error REASON", where a reason that begins with "usage: " or "time-out: " says which kind it is of.
-// Requests of one client are worked off one after the other. A client that sends an
-// endless line or does not read what it follows is dropped. Main thread.
+// A client of the console with the one request that is being answered. Where its lines go is for whoever
+// derives from it: a socket, a page. Main thread.
 #pragma once
 
-#include <QLocalSocket>
 #include <QObject>
 #include <QStringList>
 #include <memory>
+#include <optional>
 
 class Arguments;
 class Emulator;
+class QJsonDocument;
+class QJsonObject;
 
-enum class Failure { refused, usage, timeout };
+enum class Failure { none, refused, usage, timeout };
 
 class Session : public QObject
 {
     Q_OBJECT
 public:
-    Session(Emulator &emulator, QLocalSocket *socket, QObject *parent = nullptr);
+    /// Folder: where relative file names start from; nothing for a client that may name no file.
+    Session(Emulator &emulator, std::optional<QString> folder, QObject *parent = nullptr);
 
     Emulator &emulator;
 
-    /// One line of the answer.
+    /// One line of the answer, or several.
     void print(const QString &text);
+    /// As a line of JSON.
+    void print(const QJsonDocument &document);
+    /// As text or, if the request is for that, as a line of JSON.
+    void tell(const QString &text, const QJsonObject &object);
+    /// Whether the request is for JSON.
+    /// @{
+    void setJson(bool json) { m_json = json; }
+    bool isJson() const { return m_json; }
+    /// @}
+
     /// Ends the answer.
-    void ok();
+    void ok() { finish(Failure::none, QString()); }
     void fail(const QString &reason) { fail(Failure::refused, reason); }
-    void fail(Failure failure, const QString &reason);
+    void fail(Failure failure, const QString &reason) { finish(failure, reason); }
 
     /// False if an argument is wrong or one too many: the request has failed then, with how the word is used.
     bool accepts(const Arguments &arguments);
@@ -37,19 +47,27 @@ public:
 
     /// Lives as long as the request that is being answered; what is connected to it ends with it.
     QObject *request() { return m_request.get(); }
-    /// The folder that relative file names start from.
+
+    /// Where the file or folder lies that a client names. Empty if this one may name none: the request has
+    /// failed then. There is no other way from a name to a file.
+    QString takePath(const QString &name);
     void setFolder(const QString &folder) { m_folder = folder; }
-    QString absolutePath(const QString &file) const;
+
+protected:
+    /// A request begins; its word may answer it at once or later.
+    void handle(const QStringList &words);
+    /// The client has gone: what is being done for it ends.
+    void abandon();
+    bool isAnswering() const { return m_request != nullptr; }
+
+    virtual void sendLine(const QString &line) = 0;
+    virtual void sendEnd(Failure failure, const QString &reason) = 0;
 
 private:
-    void read();
-    void finish(const QString &line);
-    void handle(const QString &line);
-    void drop(const char *reason);
+    void finish(Failure failure, const QString &reason);
 
-    QLocalSocket *m_socket;
-    QString m_folder = "/";
+    std::optional<QString> m_folder;
     QString m_usage;
-    qint64 m_mostUnread = 0; ///< bytes that may wait for the client while an answer goes on
+    bool m_json = false;
     std::unique_ptr<QObject> m_request;
 };

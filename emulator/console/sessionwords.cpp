@@ -4,13 +4,18 @@
 #include "emulator/device/replayer.h"
 #include "emulator/emulator.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
+
 namespace
 {
 constexpr qint64 longestSession = 64 * 1024 * 1024; ///< bytes of a file that is replayed
 
 void startRecording(Session &session, const QString &name)
 {
-    const QString file = session.absolutePath(name);
+    const QString file = session.takePath(name);
+    if (file.isEmpty())
+        return;
     if (!arguments::isPlainFile(file))
         return session.fail(file + " is no plain file");
     const QString fault = session.emulator.recorder.start(file);
@@ -28,14 +33,17 @@ void stopRecording(Session &session)
     const auto result = recorder.stop();
     if (!result.second.isEmpty())
         return session.fail(result.second);
-    session.print(QString("%1 events").arg(result.first));
+    session.tell(QString("%1 events").arg(result.first), {{"events", result.first}});
     session.ok();
 }
 
 /// Nothing if the file cannot be read or is no session; the request has failed then.
 std::optional<QVector<session::Event>> readSession(Session &session, const QString &name)
 {
-    QFile file(session.absolutePath(name));
+    const QString path = session.takePath(name);
+    if (path.isEmpty())
+        return std::nullopt;
+    QFile file(path);
     if (!arguments::isPlainFile(file.fileName()) || file.size() > longestSession) {
         session.fail(file.fileName() + " is no plain file of at most 64 MB");
         return std::nullopt;
@@ -56,10 +64,11 @@ std::optional<QVector<session::Event>> readSession(Session &session, const QStri
 /// What is to be told at the end, and whether it was as it should be.
 void report(Session &session, const Replayer &replayer, const QString &fault, const QStringList &differences)
 {
-    session.print(
-        QString("played %1 keys and %2 reports").arg(replayer.keysPlayed()).arg(replayer.reportsPlayed()));
-    for (const QString &difference : differences)
-        session.print(difference);
+    const int keys = replayer.keysPlayed(), reports = replayer.reportsPlayed();
+    const QString played = QString("played %1 keys and %2 reports").arg(keys).arg(reports);
+    session.tell(
+        (QStringList{played} + differences).join('\n'),
+        {{"keys", keys}, {"reports", reports}, {"differences", QJsonArray::fromStringList(differences)}});
     if (!fault.isEmpty())
         session.fail(fault);
     else if (!differences.isEmpty())
@@ -71,6 +80,7 @@ void report(Session &session, const Replayer &replayer, const QString &fault, co
 
 void words::record(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     const bool stop = arguments.nextIs("stop");
     const QString file = arguments.text("FILE");
     if (!session.accepts(arguments))
@@ -84,6 +94,7 @@ void words::record(Session &session, Arguments &arguments)
 void words::replay(Session &session, Arguments &arguments)
 {
     constexpr double slowest = 0.001, fastest = 100000;
+    session.setJson(arguments.flag("--json"));
     const bool checks = arguments.flag("--check");
     const QString file = arguments.text("FILE");
     const double speed = arguments.real("SPEED", slowest, fastest, 1);

@@ -3,6 +3,7 @@
 #include "emulator/console/wordlist.h"
 
 #include <QFileInfo>
+#include <QJsonObject>
 
 namespace
 {
@@ -28,20 +29,29 @@ void failUnknown(Session &session, const QString &name)
 
 void words::help(Session &session, Arguments &arguments)
 {
+    session.setJson(arguments.flag("--json"));
     const QString name = arguments.text("WORD", "");
     if (!session.accepts(arguments))
         return;
     const WordText *word = findByName(name);
     if (!word && !name.isEmpty())
         return failUnknown(session, name);
-    session.print(QString::fromStdString(word ? helpText(*word) : helpText()).trimmed());
+    if (!session.isJson())
+        session.print(QString::fromStdString(word ? helpText(*word) : helpText()).trimmed());
+    for (const WordText &text : wordTexts) {
+        if (session.isJson() && (!word || word == &text))
+            session.tell(QString(), {{"word", text.name}, {"usage", text.usage}, {"effect", text.effect}});
+    }
     session.ok();
 }
 
 void words::cd(Session &session, Arguments &arguments)
 {
-    const QString folder = session.absolutePath(arguments.text("DIR"));
+    const QString name = arguments.text("DIR");
     if (!session.accepts(arguments))
+        return;
+    const QString folder = session.takePath(name);
+    if (folder.isEmpty())
         return;
     if (!QFileInfo(folder).isDir())
         return session.fail("no such folder: " + folder);

@@ -12,3 +12,33 @@ const QVector<KeyName> &keyNames()
     };
     return names;
 }
+
+const KeyName *keyByName(const QString &name)
+{
+    for (const KeyName &key : keyNames()) {
+        if (name == QLatin1String(key.name))
+            return &key;
+    }
+    return nullptr;
+}
+
+const QVector<PcKey> &pcKeys()
+{
+    static const QVector<PcKey> keys = {
+        {Qt::Key_Return, "Enter", keyOk, 0},
+        {Qt::Key_Enter, "NumpadEnter", keyOk, 0},
+        {Qt::Key_Space, "Space", keyOk, 0},
+        {Qt::Key_Escape, "Escape", keyEsc, 0},
+        {Qt::Key_Backspace, "Backspace", keyEsc, 0},
+        {Qt::Key_Left, "ArrowLeft", 0, -1},
+        {Qt::Key_Up, "ArrowUp", 0, -1},
+        {Qt::Key_Right, "ArrowRight", 0, 1},
+        {Qt::Key_Down, "ArrowDown", 0, 1},
+    };
+    return keys;
+}
+
+int knobSpeed(qint64 milliseconds)
+{
+    return milliseconds < 25 ? 4 : milliseconds < 50 ? 3 : milliseconds < 90 ? 2 : 1;
+}

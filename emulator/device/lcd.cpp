@@ -26,6 +26,12 @@ quint64 Lcd::changes() const
     return m_memory ? counter(m_memory) / 2 : 0;
 }
 
+qint64 Lcd::changedNs() const
+{
+    const uchar *time = m_memory + hostlink::lcdBytes + sizeof(quint64);
+    return m_memory ? reinterpret_cast<const std::atomic<qint64> *>(time)->load() : 0;
+}
+
 QImage Lcd::picture() const
 {
     QImage picture(hostlink::lcdWidth, hostlink::lcdHeight, QImage::Format_RGB32);

@@ -11,6 +11,8 @@ public:
 
     /// How many changes the panel has drawn; 0 while the LCD is dark.
     quint64 changes() const;
+    /// When it drew the last, in ns of the monotonic clock.
+    qint64 changedNs() const;
     /// The picture as it stands, never one half drawn.
     QImage picture() const;
 

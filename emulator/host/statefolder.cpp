@@ -8,6 +8,7 @@
 #include "fpd_hostvalues.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -128,4 +129,13 @@ void StateFolder::clearForStart()
     const QByteArray dark(hostlink::lcdFileSize, 0);
     if (!lcd.open(QIODevice::ReadWrite) || lcd.write(dark) != dark.size())
         qWarning("cannot write %s: %s", qPrintable(lcd.fileName()), qPrintable(lcd.errorString()));
+}
+
+QString StateFolder::newFile(const QString &folder, const QString &suffix) const
+{
+    const QDir state(m_path);
+    if (!state.mkpath(folder))
+        return QString();
+    const QString name = QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss-zzz");
+    return state.filePath(folder + '/' + name + suffix);
 }

@@ -22,6 +22,9 @@ public:
     /// As after power-on: no flag files, a dark LCD.
     void clearForStart();
 
+    /// The name of a new file in one of its folders, by the time; empty if the folder cannot be made.
+    QString newFile(const QString &folder, const QString &suffix) const;
+
     QString path() const { return m_path; }
     QString file(const char *name) const { return m_path + QLatin1String(name); }
 

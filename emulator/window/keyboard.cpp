@@ -32,19 +32,20 @@ int keyAtPlace(const QKeyEvent *event)
     return 0;
 }
 
+/// One that is the same on every keyboard; null if it goes by its place.
+const PcKey *fixedKey(const QKeyEvent *event)
+{
+    for (const PcKey &key : pcKeys()) {
+        if (key.key == event->key())
+            return &key;
+    }
+    return nullptr;
+}
+
 int panelKeyOf(const QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        return keyOk;
-    case Qt::Key_Escape:
-    case Qt::Key_Backspace:
-        return keyEsc;
-    default:
-        break;
-    }
+    if (const PcKey *fixed = fixedKey(event))
+        return fixed->panelKey;
     const int place = keyAtPlace(event);
     for (const KeyName &key : keyNames()) {
         if (key.shortcut && place == key.shortcut)
@@ -55,16 +56,8 @@ int panelKeyOf(const QKeyEvent *event)
 
 int stepsOf(const QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-        return -1;
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-        return 1;
-    default:
-        return 0;
-    }
+    const PcKey *fixed = fixedKey(event);
+    return fixed ? fixed->steps : 0;
 }
 
 /// What stays the same from down to up, also when a modifier changes between them.

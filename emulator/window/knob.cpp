@@ -1,5 +1,7 @@
 #include "emulator/window/knob.h"
 
+#include "emulator/device/keynames.h"
+
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -8,12 +10,6 @@ namespace
 constexpr int knobSize = 190;
 constexpr int wheelStep = 120; ///< of a common mouse wheel
 constexpr int degreesPerStep = 15;
-
-/// As the driver measures it: the faster the steps follow each other, the higher.
-int speedFor(qint64 milliseconds)
-{
-    return milliseconds < 25 ? 4 : milliseconds < 50 ? 3 : milliseconds < 90 ? 2 : 1;
-}
 } // namespace
 
 Knob::Knob(QWidget *parent) : Pushable(parent)
@@ -31,7 +27,7 @@ void Knob::setScale(double scale)
 
 void Knob::turn(int steps)
 {
-    const int speed = m_sinceTurn.isValid() ? speedFor(m_sinceTurn.elapsed()) : 1;
+    const int speed = m_sinceTurn.isValid() ? knobSpeed(m_sinceTurn.elapsed()) : 1;
     m_sinceTurn.start();
     m_angle += steps * degreesPerStep;
     update();

@@ -8,7 +8,6 @@
 #include "emulator/window/powerswitch.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -20,7 +19,6 @@
 
 namespace
 {
-constexpr int keysPerRow = 8;
 constexpr int toldMs = 8000;
 constexpr int firstZoom = 2;
 /// How large the keys are, by zoom: smaller than the LCD, so that they stay readable and do not fill the
@@ -109,14 +107,17 @@ KeyButton *EmulatorWindow::button(const KeyName &key)
 
 void EmulatorWindow::connectKey(Pushable *key, int code)
 {
-    connect(key, &Pushable::pressed, this, [this, code] { setKeyHeld(code, byMouse, true); });
-    connect(key, &Pushable::released, this, [this, code] { setKeyHeld(code, byMouse, false); });
+    connect(key, &Pushable::pressed, this, [=] { m_emulator.heldKeys.hold(key, code, true); });
+    connect(key, &Pushable::released, this, [=] { m_emulator.heldKeys.hold(key, code, false); });
 }
 
 void EmulatorWindow::connectPanel()
 {
-    connect(m_keyboard, &Keyboard::pressed, this, [this](int key) { setKeyHeld(key, byKeyboard, true); });
-    connect(m_keyboard, &Keyboard::released, this, [this](int key) { setKeyHeld(key, byKeyboard, false); });
+    HeldKeys &held = m_emulator.heldKeys;
+    connect(m_keyboard, &Keyboard::pressed, this, [=, &held](int key) { held.hold(m_keyboard, key, true); });
+    connect(m_keyboard, &Keyboard::released, this,
+            [=, &held](int key) { held.hold(m_keyboard, key, false); });
+    connect(&held, &HeldKeys::changed, this, &EmulatorWindow::showKey);
     connect(m_keyboard, &Keyboard::turned, m_knob, &Knob::turn);
     connect(m_power, &PowerSwitch::clicked, this, &EmulatorWindow::togglePower);
     connect(&m_emulator.keypad, &Keypad::ledsChanged, this, &EmulatorWindow::showLeds);
@@ -198,22 +199,12 @@ void EmulatorWindow::resizeEvent(QResizeEvent *)
     m_help->setGeometry(rect());
 }
 
-void EmulatorWindow::setKeyHeld(int key, Holder holder, bool held)
+void EmulatorWindow::showKey(int key, bool down)
 {
-    const int before = m_holders.value(key);
-    const int after = held ? before | holder : before & ~holder;
-    m_holders[key] = after;
-    if ((before != 0) == (after != 0))
-        return;
-    const bool down = after != 0;
     if (key == keyOk)
         m_knob->setDown(down);
     else if (KeyButton *button = m_buttons.value(key))
         button->setDown(down);
-    if (down)
-        m_emulator.keypad.press({key});
-    else
-        m_emulator.keypad.release({key});
 }
 
 void EmulatorWindow::releaseAll()
@@ -311,18 +302,9 @@ void EmulatorWindow::startPanel()
     showPanelState();
 }
 
-QString EmulatorWindow::newFile(const QString &folder, const QString &suffix) const
-{
-    const QDir state(m_emulator.folder.path());
-    if (!state.mkpath(folder))
-        return QString();
-    const QString name = QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss-zzz");
-    return state.filePath(folder + '/' + name + suffix);
-}
-
 void EmulatorWindow::savePicture()
 {
-    const QString file = newFile("pictures", ".png");
+    const QString file = m_emulator.folder.newFile("pictures", ".png");
     const bool saved = !file.isEmpty() && m_emulator.lcd.picture().save(file);
     tell(saved ? "the LCD is in " + shortPath(file) : "cannot write into " + m_emulator.folder.path());
 }
@@ -331,7 +313,7 @@ void EmulatorWindow::toggleRecording()
 {
     Recorder &recorder = m_emulator.recorder;
     if (!recorder.isRecording()) {
-        const QString fault = recorder.start(newFile("sessions", ".txt"));
+        const QString fault = recorder.start(m_emulator.folder.newFile("sessions", ".txt"));
         return fault.isEmpty() ? showHint() : tell(fault);
     }
     const QString file = shortPath(recorder.fileName());

@@ -39,9 +39,6 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    /// What holds a key down.
-    enum Holder { byMouse = 1, byKeyboard = 2 };
-
     QLayout *topRow();
     QLayout *keyRows();
     KeyButton *button(const KeyName &key);
@@ -54,7 +51,7 @@ private:
     void tell(const QString &text);
     void showHint();
 
-    void setKeyHeld(int key, Holder holder, bool held);
+    void showKey(int key, bool down);
     void releaseAll();
     /// Keys of the window itself; false if it is none.
     bool command(const QKeyEvent *event);
@@ -64,8 +61,6 @@ private:
     void startPanel();
     void savePicture();
     void toggleRecording();
-    /// A new name in a folder of the state folder; empty if that cannot be made.
-    QString newFile(const QString &folder, const QString &suffix) const;
 
     Emulator &m_emulator;
     int m_zoom = 0;
@@ -79,6 +74,5 @@ private:
     QBoxLayout *m_rows;
     QBoxLayout *m_top;
     QGridLayout *m_grid;
-    QHash<int, int> m_holders;         ///< by key code
     QHash<int, KeyButton *> m_buttons; ///< by key code
 };
