@@ -1,6 +1,7 @@
 #include "emulator/console/server.h"
 #include "emulator/emulator.h"
 #include "emulator/host/signals.h"
+#include "emulator/web/webserver.h"
 #include "emulator/window/window.h"
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <unistd.h>
 
 namespace
@@ -17,7 +19,21 @@ struct Options {
     bool withPanel = true;
     bool rest = false;
     QString state;
+    std::optional<quint16> webPort; ///< nothing: the panel is not served
+    QHostAddress webAddress;
 };
+
+/// The port of --web may be left out, which the parser does not know.
+QStringList withWebPort(QStringList arguments)
+{
+    const int at = arguments.indexOf("--web");
+    if (at < 0)
+        return arguments;
+    bool isPort = false;
+    arguments.value(at + 1).toUShort(&isPort);
+    arguments[at] = "--web=" + (isPort ? arguments.takeAt(at + 1) : QString("0"));
+    return arguments;
+}
 
 /// A window is for a desktop; without one the emulator runs headless by itself.
 bool wantsWindow(int argc, char *argv[])
@@ -65,20 +81,42 @@ Options readOptions(bool window)
     parser.addOption({"rest", "The panel that speaks to the REST service."});
     parser.addOption({"state", "State folder, instead of $FPD_STATE or the user's own.", "DIR",
                       StateFolder::defaultPath()});
-    parser.process(*QCoreApplication::instance());
+    parser.addOption({"web", "Serves the panel to browsers, at a free port if none is said.", "PORT"});
+    parser.addOption({"bind", "With --web: the address to serve it at; 0.0.0.0 for all.", "ADDRESS",
+                      QHostAddress(QHostAddress::LocalHost).toString()});
+    parser.process(withWebPort(QCoreApplication::arguments()));
     const QStringList stray = parser.positionalArguments();
     if (!stray.isEmpty()) {
         fprintf(stderr, "fpd-emulator: \"%s\" is no option; --help lists them\n", qPrintable(stray[0]));
         exit(EXIT_FAILURE);
     }
-    return {!window || parser.isSet("headless"), !parser.isSet("no-panel"), parser.isSet("rest"),
-            parser.value("state")};
+    Options options{!window || parser.isSet("headless"),
+                    !parser.isSet("no-panel"),
+                    parser.isSet("rest"),
+                    parser.value("state"),
+                    std::nullopt,
+                    QHostAddress(parser.value("bind"))};
+    bool isPort = true;
+    if (parser.isSet("web"))
+        options.webPort = parser.value("web").toUShort(&isPort);
+    if (!isPort || options.webAddress.isNull() || (parser.isSet("bind") && !options.webPort)) {
+        fprintf(stderr, "fpd-emulator: --web takes a port, --bind an address and belongs to --web\n");
+        exit(EXIT_FAILURE);
+    }
+    return options;
 }
 
 int failed(const QString &reason)
 {
     fprintf(stderr, "fpd-emulator: %s\n", qPrintable(reason));
     return 1;
+}
+
+void tellLinks(const WebServer &web)
+{
+    printf("panel: %s\n", qPrintable(web.driveLink()));
+    printf("to look only: %s\n", qPrintable(web.lookLink()));
+    fflush(stdout);
 }
 
 void reportPanel(Emulator &emulator)
@@ -115,6 +153,12 @@ int main(int argc, char *argv[])
     const QString fault = emulator.open();
     if (!fault.isEmpty() || !console.open())
         return failed(fault.isEmpty() ? "cannot open the console" : fault);
+    WebServer web(emulator, options.webAddress);
+    const QString notServed = options.webPort ? web.open(*options.webPort) : QString();
+    if (!notServed.isEmpty())
+        return failed(notServed);
+    if (options.webPort)
+        tellLinks(web);
     quitOnSignals();
     reportPanel(emulator);
     const std::unique_ptr<EmulatorWindow> view(options.headless ? nullptr : new EmulatorWindow(emulator));

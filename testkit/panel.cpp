@@ -78,7 +78,7 @@ bool Panel::powerDevice(const QStringList &wrapper)
     command << buildFolder() + "/bin/fpd-emulator"
             << "--headless"
             << "--no-panel"
-            << "--state" << m_state;
+            << "--state" << m_state << m_options;
     m_emulator.setProcessChannelMode(QProcess::MergedChannels);
     m_emulator.start(command.takeFirst(), command);
     m_console = std::make_unique<ConsoleClient>();
@@ -111,6 +111,12 @@ void Panel::stop()
     m_emulator.terminate();
     if (!m_emulator.waitForFinished(patienceMs))
         m_emulator.kill();
+    m_emulator.waitForFinished();
+}
+
+void Panel::kill()
+{
+    m_emulator.kill();
     m_emulator.waitForFinished();
 }
 

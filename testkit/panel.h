@@ -36,6 +36,10 @@ public:
 
     /// Starts the device with the panel still off; wrapper: a command to start the emulator with.
     bool powerDevice(const QStringList &wrapper = {});
+    /// The emulator is started with these, too.
+    void setOptions(const QStringList &options) { m_options = options; }
+    /// The emulator dies, and the panel with it.
+    void kill();
     /// Starts the panel and waits until its start-up has ended.
     bool start();
     /// The device and the panel, up to the picture of what the device has told.
@@ -80,6 +84,7 @@ public:
     /// Changes a field in config.xml, such as "Value" or "Params/KEY", while the panel is off.
     bool setStored(int item, const QString &value, const QString &field = "Value");
 
+    int emulatorId() const { return int(m_emulator.processId()); }
     QString statePath() const { return m_state; }
     QString file(const QString &boardPath) const { return m_state + boardPath; }
     /// What a sanitizer or a crash left behind, empty if nothing.
@@ -94,6 +99,7 @@ private:
 
     QTemporaryDir m_folder;
     QString m_state;
+    QStringList m_options;
     QProcess m_emulator;
     std::unique_ptr<ConsoleClient> m_console;
     std::unique_ptr<ConsoleClient> m_logConsole;
