@@ -64,8 +64,9 @@ public:
 class RecordingRow : public VaskUiObject
 {
 public:
-    RecordingRow(ENUM_ObjectIndex object, Notes &reported, Notes &reloaded, Notes &redrawn)
-        : VaskUiObject(object), m_reported(reported), m_reloaded(reloaded), m_redrawn(redrawn)
+    RecordingRow(ENUM_ObjectIndex object, Notes &reported, Notes &reloaded, Notes &redrawn,
+                 QStringList &looks)
+        : VaskUiObject(object), m_reported(reported), m_reloaded(reloaded), m_redrawn(redrawn), m_looks(looks)
     {
     }
     void UpdateALLUI(ENUM_MenuIndex index) override
@@ -78,11 +79,15 @@ public:
     {
         (mode == SET_XML_DEVICE ? m_reported : m_reloaded).add(index, value);
     }
+    void setTwoArrow(bool on) override { m_looks << (on ? "arrows" : "plain"); }
+    void updateSplite(QString value) override { m_looks << "layout" + value; }
+    void updatePixValue(QString text) override { m_looks << text; }
 
 private:
     Notes &m_reported;
     Notes &m_reloaded;
     Notes &m_redrawn;
+    QStringList &m_looks;
 };
 
 class EngineRig : public QObject
@@ -113,7 +118,11 @@ public:
     {
         for (ENUM_ConfigIndex page : pages)
             for (const st_MenuItemInfo &row : qAsConst(g_config[page].rowsMap))
-                enter(row.itemObject, new RecordingRow(row.itemObject, reported, reloaded, redrawn));
+                addRow(row.itemObject);
+    }
+    void addRow(ENUM_ObjectIndex object)
+    {
+        enter(object, new RecordingRow(object, reported, reloaded, redrawn, looks));
     }
     /// Everything as on the first start; the home screen is reached at once.
     void reset()
@@ -138,6 +147,7 @@ public:
         reported.take();
         reloaded.take();
         redrawn.take();
+        looks.clear();
         messages.clear();
     }
     /// Lets queued work run.
@@ -195,9 +205,10 @@ public:
     MainWindow *home = nullptr;
     ParaProcess *engine = nullptr;
     RecordingProtocol *device = nullptr;
-    Notes reported; ///< values that rows got as the device's
-    Notes reloaded; ///< values that rows got to show; empty to reload
-    Notes redrawn;  ///< objects of the rows that were told to load all of their item again
+    Notes reported;    ///< values that rows got as the device's
+    Notes reloaded;    ///< values that rows got to show; empty to reload
+    Notes redrawn;     ///< objects of the rows that were told to load all of their item again
+    QStringList looks; ///< what rows were told beside values: their layout, arrows
     QStringList messages;
     int answer = 1; ///< of every message
     /// Plays the user of the dialogs that are no messages.

@@ -7,16 +7,13 @@
 
 using namespace VASK;
 
-class TestApplyAdvanced : public QObject
+class TestApplyAdvanced : public CaseTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new EngineRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init();
+    CaseLines lines() const override;
+    void begin() override;
 
-    void valueIsApplied_data();
-    void valueIsApplied();
+private slots:
     void portIsShown();
     void reportedRecordIsShown();
     void reset_data();
@@ -25,7 +22,6 @@ private slots:
 private:
     QString page() const;
     void fillRecords();
-    EngineRig *m_rig = nullptr;
 };
 
 namespace
@@ -40,7 +36,7 @@ const QString closes = "sends LowLatency=0; asks FlowWayCauseCloseLowLatency; le
 const QString third = "Advanced_EthernetPort=3 LowLatency=1 Advanced_{HorOffset=5 VerOffset=6} ",
               shifted = third + "AdvancedPort10_Y=6 "; // the last port's Y
 
-const CaseLines lines{
+const CaseLines table{
     {"on", "ScreenConfigKind=0", "user Advanced_Status=1",
      "sends Advanced_Status=1; " + formRefreshed + "leaves ScreenConfigKind=1 Mode3D+ " + formOn},
     {"on, sending card", "ScreenConfigKind=0 WorkMode=2", "device Advanced_Status=1",
@@ -81,21 +77,15 @@ const CaseLines lines{
 };
 } // namespace
 
-void TestApplyAdvanced::init()
+CaseLines TestApplyAdvanced::lines() const
+{
+    return table;
+}
+
+void TestApplyAdvanced::begin()
 {
     m_rig->reset();
     m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
-}
-
-void TestApplyAdvanced::valueIsApplied_data()
-{
-    addCaseLines(lines);
-}
-
-void TestApplyAdvanced::valueIsApplied()
-{
-    QFETCH(int, row);
-    runCaseLine(*m_rig, lines.at(row));
 }
 
 /// The rows that show a record.

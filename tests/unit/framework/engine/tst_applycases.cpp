@@ -7,24 +7,18 @@
 
 using namespace VASK;
 
-class TestApplyCases : public QObject
+class TestApplyCases : public CaseTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new EngineRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init();
+    CaseLines lines() const override;
+    void begin() override;
 
-    void valueIsApplied_data();
-    void valueIsApplied();
+private slots:
     void otherModel_data();
     void otherModel();
     void refusedAddressComesBackFromTheDevice_data();
     void refusedAddressComesBackFromTheDevice();
     void brandIsShown();
-
-private:
-    EngineRig *m_rig = nullptr;
 };
 
 namespace
@@ -235,15 +229,15 @@ const CaseLines otherLines{
     {"calibration", "", "user SoftCalibrate=1", ""},
     {"of no case", "", "device ScreenConfigKind=0", "leaves ScreenConfigKind=0"},
 };
-
-const CaseLines &allLines()
-{
-    static const CaseLines lines = syncLines + outputLines + networkLines + otherLines;
-    return lines;
-}
 } // namespace
 
-void TestApplyCases::init()
+CaseLines TestApplyCases::lines() const
+{
+    static const CaseLines all = syncLines + outputLines + networkLines + otherLines;
+    return all;
+}
+
+void TestApplyCases::begin()
 {
     m_rig->reset();
     for (ENUM_MenuIndex width : {PARA_OutputWidth, PARA_ReportedWidth})
@@ -256,17 +250,6 @@ void TestApplyCases::init()
     m_rig->input(1, 98, 3, 1920, 1080, 16683);
     m_rig->input(2, 105, 0, 0, 0, 0);
     m_rig->input(8, 254, 3, 1920, 1080, 20000);
-}
-
-void TestApplyCases::valueIsApplied_data()
-{
-    addCaseLines(allLines());
-}
-
-void TestApplyCases::valueIsApplied()
-{
-    QFETCH(int, row);
-    runCaseLine(*m_rig, allLines().at(row));
 }
 
 void TestApplyCases::otherModel_data()

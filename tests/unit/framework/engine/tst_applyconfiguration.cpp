@@ -8,22 +8,16 @@
 
 using namespace VASK;
 
-class TestApplyConfiguration : public QObject
+class TestApplyConfiguration : public CaseTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new EngineRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init();
+    CaseLines lines() const override;
+    void begin() override;
 
-    void valueIsApplied_data();
-    void valueIsApplied();
+private slots:
     void onePageAsks();
     void lowLatencyEndsSync_data();
     void lowLatencyEndsSync();
-
-private:
-    EngineRig *m_rig = nullptr;
 };
 
 namespace
@@ -121,31 +115,20 @@ const CaseLines latencyLines{
     {"on beside sync, sending card", quick + "Sync_Status=1 WorkMode=2", "user LowLatency=1",
      "asks OpenLowLatencyNeedToCloseSyn; answers 2; leaves LowLatency=0 Sync_Status=1"},
 };
-
-const CaseLines &allLines()
-{
-    static const CaseLines lines = pageLines + formLines + latencyLines;
-    return lines;
-}
 } // namespace
 
-void TestApplyConfiguration::init()
+CaseLines TestApplyConfiguration::lines() const
+{
+    static const CaseLines all = pageLines + formLines + latencyLines;
+    return all;
+}
+
+void TestApplyConfiguration::begin()
 {
     m_rig->reset();
     m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
     for (int row = MENU_Advanced_EthernetPort; row <= MENU_Advanced_Apply; ++row)
         m_rig->store->UpdataItemEnable(ENUM_MenuIndex(row), true);
-}
-
-void TestApplyConfiguration::valueIsApplied_data()
-{
-    addCaseLines(allLines());
-}
-
-void TestApplyConfiguration::valueIsApplied()
-{
-    QFETCH(int, row);
-    runCaseLine(*m_rig, allLines().at(row));
 }
 
 void TestApplyConfiguration::onePageAsks()

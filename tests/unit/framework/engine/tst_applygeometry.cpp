@@ -7,21 +7,6 @@
 
 using namespace VASK;
 
-class TestApplyGeometry : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new LayerRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init() { m_rig->start(); }
-
-    void valueIsApplied_data();
-    void valueIsApplied();
-
-private:
-    LayerRig *m_rig = nullptr;
-};
-
 namespace
 {
 const QString free = " MainLayer_{HorWidth+ VerHeight+ InitialX+ InitialY+}",
@@ -146,24 +131,17 @@ const CaseLines cropLines{
     {"off, but spliced", "ImageMosaic_Status=1 PIP2Crop_Status=1 PIP2_ScalingMode/1-",
      "user PIP2Crop_Status=0", "sends PIP2Crop_Status=0; leaves PIP2_ScalingMode/1-"},
 };
-
-const CaseLines &allLines()
-{
-    static const CaseLines lines = scalingLines + windowLines + cropLines;
-    return lines;
-}
 } // namespace
 
-void TestApplyGeometry::valueIsApplied_data()
+class TestApplyGeometry : public CaseTest
 {
-    addCaseLines(allLines());
-}
-
-void TestApplyGeometry::valueIsApplied()
-{
-    QFETCH(int, row);
-    runCaseLine(*m_rig, allLines().at(row));
-}
+    EngineRig *makeRig() const override { return new LayerRig; }
+    void begin() override { static_cast<LayerRig *>(m_rig)->start(); }
+    CaseLines lines() const override
+    {
+        static const CaseLines all = scalingLines + windowLines + cropLines;
+        return all;
+    }
+};
 
 FPD_TEST(TestApplyGeometry)
-#include "tst_applygeometry.moc"

@@ -1,276 +1,180 @@
-// What follows from the report of an input: layers, output rate, LEDs, colour sampling and the production
-// test.
+// What follows from the reports of inputs, ports and output, where no report alone shows it: layers, output
+// rate, LEDs, colour sampling, the backup of the ports.
 
-#include "enginerig.h"
-#include "framework/input/keyevent.h"
-#include "framework/productiontest/productiontest.h"
-#include "ledpanel.h"
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
+#include "caseline.h"
 #include "tests/testprogram.h"
 
 using namespace VASK;
 
 namespace
 {
-ENUM_MenuIndex period(int input)
-{
-    return ENUM_MenuIndex(PARA_InputRecordFirst + STRIDE_InputRecord * input + 5);
-}
-ENUM_MenuIndex ofLayer(int ofMain, int layer)
-{
-    return ENUM_MenuIndex(ofMain + STRIDE_Layer * layer);
-}
-} // namespace
-
-class TestApplyInputs : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanupTestCase() { delete m_rig; }
-    void init();
-    void cleanup() { ProductionTest::m_cur_step = FACTORY_STEP_NONE; }
-
-    void mainLayerShowsItsInput_data();
-    void mainLayerShowsItsInput();
-    void layerKeepsItsSize_data();
-    void layerKeepsItsSize();
-    void pipTakesTheSize_data();
-    void pipTakesTheSize();
-    void sendingCardLeavesCropAndPipAlone();
-    void otherInputChangesNoLayer();
-    void outputRateFollows_data();
-    void outputRateFollows();
-    void sourceLedsFollow();
-    void samplingGoesToItsPage_data();
-    void samplingGoesToItsPage();
-    void inputUnderTest();
-
-private:
-    /// The record of an input arrives whole.
-    void report(int input, int code, int signalState, int width, int height, int periodUs)
-    {
-        m_rig->input(input, code, signalState, width, height, periodUs);
-        m_rig->fromDevice(period(input), QString::number(periodUs));
-    }
-    QString layerText(int layer) const
-    {
-        static const char *const labels[] = {"labLayerSrc1_Res", "labLayerSrc2_Res", "labLayerSrc3_Res"};
-        return m_rig->shown(labels[layer]);
-    }
-    EngineRig *m_rig = nullptr;
-    LedPanel *m_leds = nullptr;
+const CaseLines layerLines{
+    {"near a whole rate", "MainLayer_InputCrop-", "input 0 97 3 1280 720 16640",
+     "picture 1280x720@60; leaves MainLayer_InputCrop+; reloading MainLayer_InputCrop="},
+    {"interlaced", "", "input 0 97 3 1280 720 20000 1", "picture 1280x720i@50"},
+    {"unstable", "MainLayer_InputCrop+", "input 0 97 2 1280 720 16667",
+     "picture No Signal; leaves MainLayer_InputCrop-"},
+    {"main layer, cropped", "MainLayerCrop_Status=1 MainLayer_ScalingMode=1", "input 0 97 3 2000 1080 16667",
+     "picture 2000x1080@60; leaves MainLayer_HorWidth=800"},
+    {"PIP 1, cropped", "PIP1Crop_Status=1 PIP1_ScalingMode=1", "input 1 97 3 2000 1080 16667",
+     "picture2 2000x1080@60; leaves PIP1_HorWidth=800"},
+    {"full screen", "MainLayer_ScalingMode=0", "input 0 97 3 2000 1080 16667",
+     "leaves MainLayer_HorWidth=800"},
+    // As large as a PIP may be, and larger.
+    {"PIP 1", "PIP1_{ScalingMode=1 ScalingMode/1- InputCrop-} PIP2_InputCrop-",
+     "input 1 98 3 2000 1625 20000",
+     "sends PIP1_VerHeight=1625; picture2 2000x1625@50; "
+     "leaves PIP1_{HorWidth=2000 ScalingMode/1- InputCrop+} PIP2_InputCrop-"},
+    {"PIP 2", "PIP2_ScalingMode=1", "input 2 98 3 2000 1625 20000",
+     "sends PIP2_VerHeight=1625; picture3 2000x1625@50; leaves PIP2_{HorWidth=2000 InputCrop+}"},
+    {"PIP 2, larger", "PIP2_ScalingMode=1", "input 2 98 3 2000 1626 20000",
+     "picture3 2000x1626@50; leaves PIP2_HorWidth=800"},
+    // Where it does not take the size the option comes back with what fits, unless pictures are spliced.
+    {"option comes back", "PIP1_{ScalingMode=2 ScalingMode/1-}", "input 1 98 3 2000 1625 20000",
+     "leaves PIP1_ScalingMode/1+"},
+    {"not with a larger one", "PIP1_{ScalingMode=2 ScalingMode/1-}", "input 1 98 3 2000 1626 20000",
+     "leaves PIP1_ScalingMode/1-"},
+    {"nor while splicing", "PIP1_{ScalingMode=2 ScalingMode/1-} ImageMosaic_Status=1",
+     "input 1 98 3 2000 1080 20000", "leaves PIP1_ScalingMode/1-"},
+    {"sending card", "WorkMode=2 MainLayer_InputCrop- PIP1_InputSource=0", "input 0 97 3 1920 1080 20000",
+     "picture2 1920x1080@50; leaves MainLayer_InputCrop-"},
+    {"sending card, PIP stays", "WorkMode=2 PIP1_InputSource=0; input 0 97 3 1920 1080 20000",
+     "input 0 97 0 0 0 0", "picture No Signal; picture2 1920x1080@50"},
+    {"of no layer", "OutputRate=6000", "input 7 48 3 1920 1080 20000", "reloads ; leaves OutputRate=6000"},
+    {"LED", "", "input 5 106 3 1920 1080 20000", "lit IN6"},
+    {"LED", "input 5 106 3 1920 1080 20000", "input 5 106 0 0 0 0", "dark IN6"},
 };
 
-/// On a model with a page for DVI 2.
-void TestApplyInputs::initTestCase()
-{
-    m_rig = new EngineRig;
-    m_rig->addRows({CONFIG_DVI2_Attributes});
-    m_leds = new LedPanel(m_rig->statePath("").toStdString());
-    KeyEvent::getInstance()->InitKeyDriver(qApp);
-}
+// Input 0 is the main layer's, 1 the source of synchronisation, 8 the reference.
+const QString controller = "WorkMode=0 Sync_Status=1 Sync_Source=1 OutputRate=6000";
+const QString card = "WorkMode=2 Sync_Source=1 OutputRate=6000 ";
+const CaseLines rateLines{
+    {"controller", controller, "input 1 98 3 1920 1080 16683",
+     "screen 1920x1200@59.94; leaves OutputRate=5994"},
+    {"controller, out of reach", controller, "input 1 98 3 1920 1080 20000",
+     "screen 1920x1200@60; leaves OutputRate=6000"},
+    {"controller, other input", controller, "input 0 97 3 1920 1080 16683", "leaves OutputRate=6000"},
+    {"controller, no period", controller, "input 1 98 0 1920 1080 0", "leaves OutputRate=6000"},
+    {"card, signal lost", card + "OutputRate=5000", "input 0 97 0 1920 1080 20000",
+     "screen 1920x1200@60; leaves OutputRate=5000"},
+    {"card, other input", card, "input 1 98 3 1920 1080 20000", "leaves OutputRate=6000"},
+    {"card, reference lost", card + "Sync_Status=1", "input 8 254 0 1920 1080 20000",
+     "leaves OutputRate=6000"},
+    {"card, main input with sync", card + "Sync_Status=1", "input 0 97 3 1920 1080 20000",
+     "leaves OutputRate=6000"},
+};
 
-void TestApplyInputs::init()
+/// Both families of codes, on the second input.
+QString ofCode(int code)
 {
-    m_rig->reset();
-    for (int layer = 0; layer < 3; ++layer) {
-        m_rig->set(ofLayer(MENU_MainLayer_InputSource, layer), QString::number(layer));
-        m_rig->home->SetLayerRes(ENUM_MainWindowLayerIndex(layer), "untouched");
+    return QString("input 1 %1 3 1920 1080 16667").arg(code);
+}
+const QString sampled = "device InputRecordFirst+13=2";
+const CaseLines samplingLines{
+    {"96", ofCode(96), sampled, "text HDMI1_ColorSample=YCbCr 4:4:4"},
+    {"17", ofCode(17), sampled, "text HDMI1_ColorSample=YCbCr 4:4:4"},
+    {"18", ofCode(18), sampled, "text HDMI2_ColorSample=YCbCr 4:4:4"},
+    {"104", ofCode(104), sampled, "text DVI_ColorSample=YCbCr 4:4:4"},
+    {"1", ofCode(1), sampled, "text DVI_ColorSample=YCbCr 4:4:4"},
+    {"2", ofCode(2), sampled, "text DVI2_ColorSample=YCbCr 4:4:4"},
+    {"unknown", ofCode(97), "device InputRecordFirst+13=3", "text HDMI1_ColorSample=RGB 4:4:4"},
+    {"sixth input", "input 5 97 3 1920 1080 16667", "device InputRecordFirst+41=1",
+     "text HDMI1_ColorSample=RGB 4:4:4"},
+};
+
+const QString noPort = "device PortLink=0; device PortLink+1=0; device PortLink+2=0; device PortLink+3=0; "
+                       "device PortLink+4=0; device PortLink+5=0; ";
+const QString backups = "PortBackup=1 PortBackup+1=1 OPT2Mode=";
+QString engaged(const char *states)
+{
+    QString text = "leaves";
+    for (int port = 0; port < 6; ++port)
+        text += QString(" OPT2BackupEngaged+%1=%2").arg(port).arg(states[port]);
+    return text;
+}
+const QString allBackup = "PortBackup+1=1 PortBackup+2=1 PortBackup+3=1 PortBackup+4=1 PortBackup+5=1";
+const CaseLines portLines{
+    {"no link, though backup", noPort, "device PortBackup+4=1", "ports ...dd"},
+    {"backup engaged", noPort + "PortLink+4=1", "device PortBackupEngaged+4=1", "ports ...db"},
+    {"optical backup", noPort + "PortBackup+4=1", "device OPT1PortLink+4=1", "ports ...db"},
+    {"own link gone", noPort + "OPT1PortLink+4=1 PortLink+4=1", "device PortLink+4=0", "ports ...dd"},
+    {"a resting fiber hides no port", noPort + "device PortLink+2=1; device OPT1PortLink+2=0",
+     "device OPT1BackupEngaged+2=0", "ports .dedd"},
+    // While the fiber brings a picture only own links count.
+    {"fiber with a picture", noPort + "OPT1PortLink=1 PortLink+1=1; input 4 233 3 1920 1080 16667",
+     "device OPT1Link=1", "ports dedddd"},
+    {"fiber known already",
+     noPort + "OPT1PortLink=1; input 4 233 3 1920 1080 16667; device OPT1Link=1; "
+              "input 4 233 0 0 0 0",
+     "device OPT1Link=1", "ports dddddd"},
+    {"fiber gone", noPort + "OPT1PortLink=1 PortLink+1=1; device OPT1Link=1", "device OPT1Link=0",
+     "ports eedddd"},
+    {"all are backups", allBackup, "device PortBackup=1", "leaves DeviceBackup=1 DeviceBackup!"},
+    {"one differs", allBackup + "; device PortBackup=1", "device PortBackup=0", "leaves DeviceBackup=1"},
+    {"by the user", allBackup, "user PortBackup=1", "leaves DeviceBackup=0"},
+    {"backup mode", backups + "0", "device DeviceBackup=1", "tells DeviceBackup=1; " + engaged("001111")},
+    {"copy mode", backups + "1", "user DeviceBackup=1", "sends DeviceBackup=1; " + engaged("110000")},
+    {"mode changes", backups + "0", "device OPT2Mode=1", engaged("110000")},
+    {"fiber's port, backup mode", backups + "0", "device OPT2PortLink+2=1", engaged("001000")},
+    {"fiber's port, copy mode", backups + "1", "device OPT2PortLink+1=1", engaged("010000")},
+};
+
+const QString report1280 = "device OutputRate=6000; device ReportedWidth=1280; device ReportedHeight=720";
+const QString report1920 = "device OutputRate=6000; device ReportedWidth=1920; device ReportedHeight=1200";
+QString wide(int width)
+{
+    return QString("device OutputRate=6000; device ReportedWidth=%1; device ReportedHeight=100").arg(width);
+}
+QString ofCard(const char *rest)
+{
+    return QString("MainLayer_InputSource=2 WorkMode=") + rest;
+}
+const QString alias =
+    "device ReportedRate=5994; device ReportedWidthAlias=1600; device ReportedHeightAlias=900";
+const CaseLines outputLines{
+    {"3D doubles", "Mode3D_{Status=1 Format=1}", report1920, "screen 1920x1200@120"},
+    {"3D by frames", "Mode3D_{Status=1 Format=2}", report1920, "screen 1920x1200@60"},
+    {"sending card", "WorkMode=0; " + report1280 + "; WorkMode=2", report1920, "screen 1280x720@60"},
+    {"three columns do not fit", "Layout=0", wide(191), "leaves Layout=2 Layout/0- Layout/1-"},
+    {"three columns fit", "Layout=0", wide(192), "leaves Layout=2 Layout/0+ Layout/1-"},
+    {"four columns do not fit", "", wide(255), "leaves Layout/0+ Layout/1-"},
+    {"four columns fit", "", wide(256), "leaves Layout/0+ Layout/1+"},
+    {"full screen", "MainLayer_{Status=1 Priority=2 ScalingMode=0} PIP2_{Status=1 Priority=0 ScalingMode=0}",
+     report1280,
+     "sends MainLayer_VerHeight=720 PIP2_VerHeight=720; leaves MainLayer_{HorWidth=1280 VerHeight=720} "
+     "PIP2_{HorWidth=1280 VerHeight=720} PIP1_HorWidth=800 LowestLayer=2"},
+    {"full screen comes back", "MainLayer_ScalingMode/0- PIP1_ScalingMode/0- PIP2_ScalingMode/0-", report1280,
+     "leaves PIP1_ScalingMode/0+ PIP2_ScalingMode/0+ MainLayer_ScalingMode/0-"},
+    {"not while splicing", "ImageMosaic_Status=1 PIP1_ScalingMode/0- PIP2_ScalingMode/0-", report1280,
+     "leaves PIP1_ScalingMode/0- PIP2_ScalingMode/0-"},
+    {"other registers, controller", report1280 + "; " + ofCard("0"), alias, "screen 1280x720@60"},
+    {"other registers, card with 3D", ofCard("2 Mode3D_Status=1; input 2 105 0 1920 1080 0"), alias,
+     "screen 1600x900@119.88"},
+    {"other registers, input without a period", ofCard("2; input 2 105 3 1920 1080 0"), alias,
+     "screen 1600x900@59.94; leaves OutputHeight=1200"},
+};
+} // namespace
+
+class TestApplyInputs : public CaseTest
+{
+    /// On a model with a page for DVI 2.
+    EngineRig *makeRig() const override
+    {
+        auto *rig = new EngineRig;
+        rig->addRows({CONFIG_DVI2_Attributes});
+        return rig;
     }
-    m_rig->process(PARA_OutputWidth, 1920);
-    m_rig->process(PARA_OutputHeight, 1200);
-    m_rig->process(PARA_OutputRate, 6000);
-    m_rig->home->SetScreenRes("untouched");
-    m_rig->forget();
-}
-
-void TestApplyInputs::mainLayerShowsItsInput_data()
-{
-    addColumns<int, int, int, QString>({"signalState", "interlaced", "periodUs", "text"});
-    addRow("near a whole rate", 3, 0, 16640, "1280x720@60");
-    addRow("interlaced", 3, 1, 20000, "1280x720i@50");
-    addRow("unstable", 2, 0, 16667, "No Signal");
-}
-
-void TestApplyInputs::mainLayerShowsItsInput()
-{
-    QFETCH(int, signalState);
-    QFETCH(int, interlaced);
-    QFETCH(int, periodUs);
-    m_rig->input(0, 97, signalState, 1280, 720, periodUs);
-    m_rig->process(ENUM_MenuIndex(PARA_InputRecordFirst + 1), interlaced);
-    m_rig->fromDevice(period(0), QString::number(periodUs));
-    QTEST(layerText(0), "text");
-    QCOMPARE(layerText(1) + layerText(2), QString("untoucheduntouched"));
-    QCOMPARE(m_rig->enabled(MENU_MainLayer_InputCrop), signalState == 3);
-    QVERIFY(m_rig->reloaded.take().contains("MainLayer_InputCrop="));
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-}
-
-void TestApplyInputs::layerKeepsItsSize_data()
-{
-    addColumns<int, QString, QString>({"layer", "crop", "scaling"});
-    addRow("main layer, cropped", 0, "1", "1");
-    addRow("PIP 1, cropped", 1, "1", "1");
-    addRow("full screen", 0, "0", "0");
-}
-
-void TestApplyInputs::layerKeepsItsSize()
-{
-    QFETCH(int, layer);
-    QFETCH(QString, crop);
-    QFETCH(QString, scaling);
-    m_rig->set(ENUM_MenuIndex(MENU_MainLayerCrop_Status + STRIDE_Crop * layer), crop);
-    m_rig->set(ofLayer(MENU_MainLayer_ScalingMode, layer), scaling);
-    report(layer, 97, 3, 2000, 1080, 16667);
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->value(ofLayer(MENU_MainLayer_HorWidth, layer)), QString("800"));
-    QCOMPARE(layerText(layer), QString("2000x1080@60"));
-}
-
-/// As large as a PIP may be, and larger. Where it does not take the size the option comes back with what
-/// fits, unless pictures are spliced.
-void TestApplyInputs::pipTakesTheSize_data()
-{
-    addColumns<int, int, QString, QString, QString, bool>(
-        {"layer", "height", "scaling", "splicing", "sent", "offered"});
-    addRow("PIP 1", 1, 1625, "1", "0", "PIP1_VerHeight=1625", false);
-    addRow("PIP 2", 2, 1625, "1", "0", "PIP2_VerHeight=1625", false);
-    addRow("larger", 2, 1626, "1", "0", "", false);
-    addRow("option comes back", 1, 1625, "2", "0", "", true);
-    addRow("not with a larger one", 1, 1626, "2", "0", "", false);
-    addRow("nor while splicing", 1, 1080, "2", "1", "", false);
-}
-
-void TestApplyInputs::pipTakesTheSize()
-{
-    QFETCH(int, layer);
-    QFETCH(int, height);
-    QFETCH(QString, scaling);
-    QFETCH(QString, splicing);
-    const ENUM_MenuIndex list = ofLayer(MENU_MainLayer_ScalingMode, layer);
-    m_rig->set(MENU_ImageMosaic_Status, splicing);
-    m_rig->set(list, scaling);
-    m_rig->store->changeItem(list, [](ST_ItemInfo &item) { item.params1["1"] = optionDisable; });
-    report(layer, 98, 3, 2000, height, 20000);
-    const QString sent = m_rig->device->sent.take().join(' ');
-    QTEST(sent, "sent");
-    QTEST(m_rig->rowEnabled(list, 1), "offered");
-    QCOMPARE(m_rig->value(ofLayer(MENU_MainLayer_HorWidth, layer)), QString(sent.isEmpty() ? "800" : "2000"));
-    QCOMPARE(layerText(layer), QString("2000x%1@50").arg(height));
-    QVERIFY(m_rig->enabled(ofLayer(MENU_MainLayer_InputCrop, layer)));
-    QVERIFY(!m_rig->enabled(ofLayer(MENU_MainLayer_InputCrop, 3 - layer)));
-}
-
-void TestApplyInputs::sendingCardLeavesCropAndPipAlone()
-{
-    m_rig->set(MENU_WorkMode, "2");
-    m_rig->set(MENU_PIP1_InputSource, "0");
-    report(0, 97, 3, 1920, 1080, 20000);
-    QVERIFY(!m_rig->enabled(MENU_MainLayer_InputCrop));
-    m_rig->home->SetLayerRes(LAYER_PIP1, "untouched");
-    report(0, 97, 0, 0, 0, 0);
-    QCOMPARE(layerText(0) + layerText(1), QString("No Signaluntouched"));
-}
-
-void TestApplyInputs::otherInputChangesNoLayer()
-{
-    report(7, 48, 3, 1920, 1080, 20000);
-    QCOMPARE(layerText(0) + m_rig->shown("labScreenRes"), QString("untoucheduntouched"));
-    QCOMPARE(m_rig->device->sent.take() + m_rig->reloaded.take(), QStringList());
-    QCOMPARE(m_rig->value(PARA_OutputRate), QString("6000"));
-}
-
-void TestApplyInputs::outputRateFollows_data()
-{
-    // Input 0 is the main layer's, 1 the source of synchronisation, 8 the reference.
-    addColumns<QString, QString, int, int, int, int, QString>(
-        {"workMode", "sync", "input", "signalState", "periodUs", "rate", "shown"});
-    const QString left = "untouched";
-    addRow("controller, follows", "0", "1", 1, 3, 16683, 5994, "1920x1200@59.94");
-    addRow("controller, out of reach", "0", "1", 1, 3, 20000, 6000, "1920x1200@60");
-    addRow("controller, other input", "0", "1", 0, 3, 16683, 6000, left);
-    addRow("controller, no period", "0", "1", 1, 0, 0, 6000, left);
-    addRow("sender, signal lost", "2", "0", 0, 0, 20000, 5000, "1920x1200@60");
-    addRow("sender, other input", "2", "0", 1, 3, 20000, 6000, left);
-    addRow("sender, reference lost", "2", "1", 8, 0, 20000, 6000, left);
-    addRow("sender, main input with sync", "2", "1", 0, 3, 20000, 6000, left);
-}
-
-void TestApplyInputs::outputRateFollows()
-{
-    QFETCH(QString, workMode);
-    QFETCH(QString, sync);
-    QFETCH(int, input);
-    QFETCH(int, signalState);
-    QFETCH(int, periodUs);
-    QFETCH(int, rate);
-    m_rig->set(MENU_WorkMode, workMode);
-    m_rig->set(MENU_Sync_Status, sync);
-    m_rig->set(MENU_Sync_Source, "1");
-    if (signalState == 0)
-        m_rig->process(PARA_OutputRate, rate);
-    report(input, input == 8 ? 254 : 97 + input, signalState, 1920, 1080, periodUs);
-    QCOMPARE(m_rig->value(PARA_OutputRate).toInt(), rate);
-    QTEST(m_rig->shown("labScreenRes"), "shown");
-}
-
-void TestApplyInputs::sourceLedsFollow()
-{
-    report(5, 106, 3, 1920, 1080, 20000);
-    QVERIFY(m_leds->lit(LED_INPUT6));
-    report(5, 106, 0, 0, 0, 0);
-    QVERIFY(!m_leds->lit(LED_INPUT6));
-}
-
-void TestApplyInputs::samplingGoesToItsPage_data()
-{
-    addColumns<int, int, QString, int, QString>({"input", "code", "value", "item", "text"});
-    const int codes[][2] = {{96, MENU_HDMI1_ColorSample}, {17, MENU_HDMI1_ColorSample},
-                            {18, MENU_HDMI2_ColorSample}, {104, MENU_DVI_ColorSample},
-                            {1, MENU_DVI_ColorSample},    {2, MENU_DVI2_ColorSample}};
-    for (const auto &row : codes)
-        addRow(QString("code %1").arg(row[0]), 1, row[0], "2", row[1], "YCbCr 4:4:4");
-    addRow("unknown sampling", 0, 97, "3", MENU_HDMI1_ColorSample, "RGB 4:4:4");
-    addRow("sixth input", 5, 97, "1", MENU_HDMI1_ColorSample, "RGB 4:4:4");
-}
-
-void TestApplyInputs::samplingGoesToItsPage()
-{
-    QFETCH(int, input);
-    QFETCH(int, code);
-    QFETCH(QString, value);
-    QFETCH(int, item);
-    m_rig->input(input, code, 3, 1920, 1080, 16667);
-    m_rig->fromDevice(ENUM_MenuIndex(period(input) + 1), value);
-    QTEST(m_rig->value(ENUM_MenuIndex(item)), "text");
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-}
-
-void TestApplyInputs::inputUnderTest()
-{
-    QStringList told;
-    QObject listener;
-    connect(m_rig->engine, &ParaProcess::signal_Source_Stable, &listener, [&told] { told << "stable"; });
-    connect(m_rig->engine, &ParaProcess::signal_update_menuitem, &listener,
-            [&told](en_inout_test_index index, en_item_state state) {
-                told << QString("%1:%2").arg(index).arg(state);
-            });
-    report(1, 98, 0, 0, 0, 0);
-    ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
-    ProductionTest::InputTestNumCur = INOUT_HDMI2;
-    report(1, 98, 3, 1920, 1080, 16667);
-    report(0, 97, 0, 0, 0, 0); // another one between must not hide the loss
-    report(1, 98, 0, 0, 0, 0);
-    report(1, 98, 0, 0, 0, 0);
-    QCOMPARE(told, (QStringList{"stable", "1:2"}));
-    ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
-    report(1, 98, 3, 1920, 1080, 16667);
-    QCOMPARE(told.size(), 2);
-}
+    void begin() override
+    {
+        m_rig->reset();
+        caseline::prepare(*m_rig, "MainLayer_InputSource=0 PIP1_InputSource=1 PIP2_InputSource=2 "
+                                  "OutputWidth=1920 OutputHeight=1200 OutputRate=6000");
+    }
+    CaseLines lines() const override
+    {
+        static const CaseLines all = layerLines + rateLines + samplingLines + portLines + outputLines;
+        return all;
+    }
+};
 
 FPD_TEST(TestApplyInputs)
-
-#include "tst_applyinputs.moc"

@@ -1,278 +1,158 @@
-// Which layers are on, in which order they stand, and the fixed layouts.
+// Which layers are on, in which order they stand, what they show, and the fixed layouts. The two PIPs are
+// one: each rule stands for one of them.
 
-#include "framework/input/keyevent.h"
+#include "caseline.h"
 #include "layerrig.h"
-#include "ledpanel.h"
-#include "menu/itemindex.h"
-#include "menu/ledindex.h"
 #include "tests/testprogram.h"
 
 using namespace VASK;
 
-class TestApplyLayers : public QObject
+namespace
 {
-    Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanupTestCase()
-    {
-        delete m_leds;
-        delete m_rig;
-    }
-    void init() { m_rig->start(); }
-
-    void mainStatus();
-    void pipOnTakesTheMosaicAway_data();
-    void pipOnTakesTheMosaicAway();
-    void pipIsRefusedUnderTheMosaic_data();
-    void pipIsRefusedUnderTheMosaic();
-    void pipOffGivesBack_data();
-    void pipOffGivesBack();
-    void scaleLightFollowsTheLowestLayer();
-    void priorityMovesTheOthers_data();
-    void priorityMovesTheOthers();
-    void priorityThatMovesNothing();
-    void fixedLayout_data();
-    void fixedLayout();
-    void layoutThatMovesNothing();
-
-private:
-    static void eachPip();
-    LayerRig *m_rig = nullptr;
-    LedPanel *m_leds = nullptr;
+const QString free = "MainLayerTransition+ TransitionDuration+",
+              locked = "MainLayerTransition- TransitionDuration-";
+const QString freeBefore = "MainLayerTransition=0 " + free + " Layout=1 MainLayer_InputSource/7+";
+const QString mosaic = "MainLayer_InputSource/7+ ", noMosaic = "MainLayer_InputSource/7- ";
+const CaseLines statusLines{
+    {"main off", "user MainLayer_Status=1; Layout=0", "user MainLayer_Status=0",
+     "sends MainLayer_Status=0; visible labWindowOffDisplay_1; leaves Layout=2 LowestLayer=255"},
+    {"main on", "user MainLayer_Status=0; Layout=0", "device MainLayer_Status=1",
+     "tells MainLayer_Status=1; hidden labWindowOffDisplay_1; leaves Layout=2 LowestLayer=0"},
+    {"PIP 1 on", "PIP1_InputSource=2 " + freeBefore, "user PIP1_Status=1",
+     "sends MainLayerTransition=1 PIP1_Status=1; hidden labWindowOffDisplay_2; picture2 No Signal; "
+     "reloading MainLayer_InputSource=; leaves Layout=2 MainLayerTransition=1 " +
+         noMosaic + locked},
+    {"PIP 2 on", "PIP2_InputSource=2 " + freeBefore, "device PIP2_Status=1",
+     "sends MainLayerTransition=1; tells PIP2_Status=1; hidden labWindowOffDisplay_3; picture3 No Signal; "
+     "leaves Layout=2 " +
+         noMosaic + locked},
+    {"PIP 1 under the mosaic", "user PIP1_Status=0; MainLayer_InputSource=7", "user PIP1_Status=1",
+     "asks MosaicIsUsing; reloads PIP1_Status=; visible labWindowOffDisplay_2; leaves PIP1_Status=0 " +
+         mosaic},
+    {"PIP 2 under the mosaic", "MainLayer_InputSource=7", "device PIP2_Status=1",
+     "asks MosaicIsUsing; reloads PIP2_Status=; leaves PIP2_Status=0"},
+    {"PIP 1 under the mosaic", "MainLayer_InputSource=7; started", "device PIP1_Status=1",
+     "asks MosaicIsUsing; reloads PIP1_Status=; leaves PIP1_Status=0"},
+    {"PIP 1 off", "user PIP1_Status=1", "user PIP1_Status=0",
+     "sends PIP1_Status=0; visible labWindowOffDisplay_2; leaves " + mosaic + free},
+    {"PIP 2 off, the other on", "user PIP2_Status=1; PIP1_Status=1", "user PIP2_Status=0",
+     "sends PIP2_Status=0; visible labWindowOffDisplay_3; leaves " + noMosaic + locked},
+    {"PIP 1 off, 3D on", "user PIP1_Status=1; Mode3D_Status=1", "user PIP1_Status=0",
+     "sends PIP1_Status=0; leaves " + mosaic + locked},
+    {"PIP 2 off, mosaic shown", "user PIP2_Status=1; MainLayer_InputSource=7", "user PIP2_Status=0",
+     "sends PIP2_Status=0; leaves " + mosaic + locked},
+    {"PIP 1 off, sending card", "user PIP1_Status=1; WorkMode=2", "user PIP1_Status=0",
+     "sends PIP1_Status=0; leaves " + noMosaic + locked},
 };
 
-void TestApplyLayers::initTestCase()
+/// A layer each: status, place, scaling.
+QString layers(const char *on, const char *places, const char *scaling)
 {
-    m_rig = new LayerRig;
-    m_leds = new LedPanel(m_rig->statePath("").toStdString());
-    KeyEvent::getInstance()->InitKeyDriver(qApp);
-}
-
-void TestApplyLayers::eachPip()
-{
-    addColumns<int, bool>({"layer", "user"});
-    for (int layer : {1, 2})
-        for (bool user : {true, false})
-            addRow(QString("PIP %1, %2").arg(layer).arg(user ? "user" : "device"), layer, user);
-}
-
-void TestApplyLayers::mainStatus()
-{
-    for (const bool user : {true, false})
-        for (const QString value : {"0", "1"}) {
-            m_rig->fromUser(MENU_MainLayer_Status, value == "0" ? "1" : "0");
-            m_rig->set(MENU_Layout, "0");
-            m_rig->forget();
-            m_rig->put(user, MENU_MainLayer_Status, value);
-            QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-            QCOMPARE(m_rig->layerShown(0), value == "1");
-            QCOMPARE(m_rig->value(PARA_LowestLayer).toInt(), value == "1" ? 0 : 255);
-            const QStringList told{LayerRig::line(MENU_MainLayer_Status, value)};
-            QCOMPARE(m_rig->device->sent.take(), user ? told : QStringList());
-            QCOMPARE(m_rig->reported.take(), user ? QStringList() : told);
-        }
-}
-
-void TestApplyLayers::pipOnTakesTheMosaicAway_data()
-{
-    eachPip();
-}
-
-void TestApplyLayers::pipOnTakesTheMosaicAway()
-{
-    QFETCH(int, layer);
-    QFETCH(bool, user);
-    const ENUM_MenuIndex status = LayerRig::of(MENU_MainLayer_Status, layer);
-    m_rig->set(LayerRig::of(MENU_MainLayer_InputSource, layer), "2");
-    m_rig->setTransition(true);
-    m_rig->set(MENU_Layout, "1");
-    m_rig->fromUser(status, "0");
-    m_rig->set(MENU_Layout, "1");
-    m_rig->forget();
-    m_rig->put(user, status, "1");
-
-    QVERIFY(!m_rig->mosaicOffered());
-    QCOMPARE(m_rig->transition(), QString("n"));
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-    QVERIFY(m_rig->layerShown(layer));
-    QCOMPARE(m_rig->layerSignal(layer), QString("No Signal"));
-    QStringList sent{"MainLayerTransition=1"};
-    if (user)
-        sent << LayerRig::line(status, "1");
-    QCOMPARE(m_rig->device->sent.take(), sent);
-    QCOMPARE(m_rig->reported.take(), user ? QStringList() : QStringList{LayerRig::line(status, "1")});
-    QVERIFY(m_rig->reloaded.take().contains("MainLayer_InputSource="));
-}
-
-void TestApplyLayers::pipIsRefusedUnderTheMosaic_data()
-{
-    eachPip();
-}
-
-/// Once the device has told its state, and before.
-void TestApplyLayers::pipIsRefusedUnderTheMosaic()
-{
-    QFETCH(int, layer);
-    QFETCH(bool, user);
-    const ENUM_MenuIndex status = LayerRig::of(MENU_MainLayer_Status, layer);
-    m_rig->fromUser(status, "0");
-    m_rig->set(MENU_MainLayer_InputSource, LayerRig::mosaicRow);
-    for (const bool started : {true, false}) {
-        m_rig->forget();
-        ParaProcess::init_20m_flg = started;
-        m_rig->put(user, status, "1");
-        QTRY_COMPARE(m_rig->messages.size(), 1);
-        QVERIFY2(m_rig->messages.first().contains("mosaic", Qt::CaseInsensitive),
-                 qPrintable(m_rig->messages.first()));
-        QCOMPARE(m_rig->value(status), QString("0"));
-        QVERIFY(!m_rig->layerShown(layer));
-        QVERIFY(m_rig->mosaicOffered());
-        QCOMPARE(m_rig->device->sent.take(), QStringList());
-        QCOMPARE(m_rig->reported.take(), QStringList());
-        QCOMPARE(m_rig->reloaded.take(), QStringList{LayerRig::line(status, "")});
-    }
-}
-
-void TestApplyLayers::pipOffGivesBack_data()
-{
-    addColumns<int, int, QString, bool, QString>({"layer", "item", "held", "mosaic", "transition"});
-    for (int layer : {1, 2}) {
-        const QString name = QString("PIP %1: ").arg(layer);
-        const ENUM_MenuIndex other = LayerRig::of(MENU_MainLayer_Status, 3 - layer);
-        addRow(name + "alone", layer, MENU_Mode3D_Status, "0", true, "y");
-        addRow(name + "the other on", layer, other, "1", false, "n");
-        addRow(name + "3D on", layer, MENU_Mode3D_Status, "1", true, "n");
-        addRow(name + "mosaic shown", layer, MENU_MainLayer_InputSource, LayerRig::mosaicRow, true, "n");
-        addRow(name + "sending card", layer, MENU_WorkMode, "2", false, "n");
-    }
-}
-
-void TestApplyLayers::pipOffGivesBack()
-{
-    QFETCH(int, layer);
-    QFETCH(int, item);
-    QFETCH(QString, held);
-    const ENUM_MenuIndex status = LayerRig::of(MENU_MainLayer_Status, layer);
-    m_rig->fromUser(status, "1");
-    m_rig->set(ENUM_MenuIndex(item), held);
-    m_rig->forget();
-    m_rig->fromUser(status, "0");
-    QTEST(m_rig->mosaicOffered(), "mosaic");
-    QTEST(m_rig->transition(), "transition");
-    QVERIFY(!m_rig->layerShown(layer));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{LayerRig::line(status, "0")});
-}
-
-void TestApplyLayers::scaleLightFollowsTheLowestLayer()
-{
-    m_rig->set(MENU_PIP1_ScalingMode, "0");
-    m_rig->fromUser(MENU_MainLayer_Status, "1");
-    QVERIFY(!m_leds->lit(LED_SCALE));
-    m_rig->fromUser(MENU_PIP1_Status, "1");
-    m_rig->fromUser(MENU_MainLayer_Status, "0");
-    QVERIFY(m_leds->lit(LED_SCALE));
-    QCOMPARE(m_rig->value(PARA_LowestLayer), QString("1"));
-    m_rig->fromUser(MENU_PIP1_Status, "0");
-    QVERIFY(!m_leds->lit(LED_SCALE));
-}
-
-void TestApplyLayers::priorityMovesTheOthers_data()
-{
-    addColumns<int, QString, QString, QString>({"layer", "before", "place", "after"});
-    addRow("main to the top", 0, "012", "2", "201");
-    addRow("PIP 1 down", 1, "012", "0", "102");
-    addRow("PIP 2 to the bottom", 2, "012", "0", "120");
-    addRow("PIP 2 from the bottom", 2, "210", "1", "201");
-}
-
-void TestApplyLayers::priorityMovesTheOthers()
-{
-    QFETCH(int, layer);
-    QFETCH(QString, before);
-    QFETCH(QString, place);
-    QFETCH(QString, after);
-    QStringList sent;
-    for (int i = 0; i < 3; ++i) {
-        m_rig->set(LayerRig::of(MENU_MainLayer_Status, i), "1");
-        m_rig->set(LayerRig::of(MENU_MainLayer_Priority, i), before.mid(i, 1));
-        if (i != layer)
-            sent << LayerRig::line(LayerRig::of(MENU_MainLayer_Priority, i), after.mid(i, 1));
-    }
-    sent << LayerRig::line(LayerRig::of(MENU_MainLayer_Priority, layer), place);
-    m_rig->fromUser(LayerRig::of(MENU_MainLayer_Priority, layer), place);
-    QString found;
-    for (int i = 0; i < 3; ++i)
-        found += m_rig->value(LayerRig::of(MENU_MainLayer_Priority, i));
-    QCOMPARE(found, after);
-    QCOMPARE(m_rig->device->sent.take(), sent);
-    QCOMPARE(m_rig->value(PARA_LowestLayer).toInt(), int(after.indexOf('0')));
-}
-
-void TestApplyLayers::priorityThatMovesNothing()
-{
+    const QStringList place = QString(places).split(' ');
+    QString text;
     for (int layer = 0; layer < 3; ++layer)
-        m_rig->set(LayerRig::of(MENU_MainLayer_Priority, layer), QString::number(layer));
-    m_rig->fromUser(MENU_PIP1_Priority, "1");
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"PIP1_Priority=1"});
-    m_rig->set(MENU_PIP1_Status, "1");
-    m_rig->set(MENU_MainLayer_Priority, "2");
-    m_rig->fromDevice(MENU_PIP1_Priority, "0");
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->reported.take(), QStringList{"PIP1_Priority=0"});
-    QCOMPARE(m_rig->value(MENU_PIP2_Priority), QString("2"));
-    QCOMPARE(m_rig->value(PARA_LowestLayer), QString("1"));
+        text += QString("%1_{Status=%2 Priority=%3 ScalingMode=%4} ")
+                    .arg(QStringList{"MainLayer", "PIP1", "PIP2"}[layer], QString(on[layer]), place[layer],
+                         QString(scaling[layer]));
+    return text;
 }
+const QString mainOn = "device MainLayer_Status=1", toldOn = "tells MainLayer_Status=1; leaves LowestLayer=";
+const QString mainOff = "device MainLayer_Status=0",
+              toldOff = "tells MainLayer_Status=0; leaves LowestLayer=";
+const CaseLines orderLines{
+    {"main alone, full screen", layers("000", "0 1 2", "022"), mainOn, toldOn + "0; lit SCALE"},
+    {"main alone, custom", layers("000", "0 1 2", "202"), mainOn, toldOn + "0; dark SCALE"},
+    {"PIP 2 below", layers("011", "2 1 0", "220"), mainOn, toldOn + "2; lit SCALE"},
+    {"the lowest is off", layers("010", "2 1 0", "200"), mainOn, toldOn + "1; lit SCALE"},
+    {"equal: the earlier", layers("111", "0 1 1", "220"), mainOff, toldOff + "1; dark SCALE"},
+    {"main without a place", layers("010", "255 1 2", "020"), mainOn, toldOn + "1; dark SCALE"},
+    {"main without a place, alone", layers("000", "255 1 2", "000"), mainOn, toldOn + "255; dark SCALE"},
+    {"none", layers("100", "0 1 2", "000"), mainOff, toldOff + "255; dark SCALE"},
+    {"main to the top", layers("111", "0 1 2", "222"), "user MainLayer_Priority=2",
+     "sends PIP1_Priority=0 PIP2_Priority=1 MainLayer_Priority=2; "
+     "leaves PIP1_Priority=0 PIP2_Priority=1 LowestLayer=1"},
+    {"PIP 1 down", layers("111", "0 1 2", "222"), "user PIP1_Priority=0",
+     "sends MainLayer_Priority=1 PIP2_Priority=2 PIP1_Priority=0; leaves MainLayer_Priority=1 LowestLayer=1"},
+    {"PIP 2 to the bottom", layers("111", "0 1 2", "222"), "user PIP2_Priority=0",
+     "sends MainLayer_Priority=1 PIP1_Priority=2 PIP2_Priority=0; leaves PIP1_Priority=2 LowestLayer=2"},
+    {"PIP 2 from the bottom", layers("111", "2 1 0", "222"), "user PIP2_Priority=1",
+     "sends MainLayer_Priority=2 PIP1_Priority=0 PIP2_Priority=1; leaves PIP1_Priority=0 LowestLayer=1"},
+    {"as it is", layers("111", "0 1 2", "222"), "user PIP1_Priority=1", "sends PIP1_Priority=1"},
+    {"reported", layers("011", "2 1 2", "222"), "device PIP1_Priority=0",
+     "tells PIP1_Priority=0; leaves PIP2_Priority=2 LowestLayer=1"},
+};
 
-void TestApplyLayers::fixedLayout_data()
-{
-    addColumns<QString, int, QString>({"layout", "width", "geometry"});
-    addRow("1:1:1", "0", 1921, "641 1080 640 0, 640 1080 0 0, 640 1080 1281 0");
-    addRow("1:2:1", "1", 1922, "962 1080 480 0, 480 1080 0 0, 480 1080 1442 0");
-}
+const QString layoutSends = "sends MainLayer_InitialY=0 PIP1_InitialY=0 PIP1_Status=1 PIP2_InitialY=0 "
+                            "PIP2_Status=1 MainLayerTransition=1; hidden labWindowOffDisplay_3; leaves " +
+                            noMosaic + locked;
+const QString dialled =
+    " MainLayer_{HorWidth+ VerHeight+ InitialX+ InitialY+} PIP1_InitialX+ PIP2_HorWidth+ ";
+const QString undialled =
+    QString(dialled).replace('+', '-') + freeBefore +
+    " MainLayer_ScalingMode=0 PIP1_ScalingMode=1; user MainLayer_Status=1; OutputWidth=";
+const CaseLines layoutLines{
+    {"1:1:1", undialled + "1921", "user Layout=0",
+     layoutSends + dialled +
+         "Layout=0 MainLayer_{HorWidth=641 VerHeight=1080 InitialX=640 ScalingMode=2} "
+         "PIP1_{HorWidth=640 InitialX=0 ScalingMode=2} PIP2_{HorWidth=640 InitialX=1281}"},
+    {"1:2:1", undialled + "1922", "user Layout=1",
+     layoutSends + dialled +
+         "Layout=1 MainLayer_{HorWidth=962 InitialX=480} PIP1_{HorWidth=480 InitialX=0} "
+         "PIP2_{HorWidth=480 VerHeight=1080 InitialX=1442}"},
+    {"none holds after a change of a layer", "user Layout=1", "device PIP2_Status=1",
+     "sends MainLayerTransition=1; tells PIP2_Status=1; leaves Layout=2"},
+    {"none", "", "user Layout=2", "leaves Layout=2"},
+    {"reported", "MainLayer_HorWidth=7", "device Layout=0", "tells Layout=0; leaves MainLayer_HorWidth=7"},
+};
 
-void TestApplyLayers::fixedLayout()
+const QString takeMosaic = "Layout/0+ Layout/1+ " + freeBefore, leaveMosaic = "user MainLayer_InputSource=0";
+const QString card = "WorkMode=2 MainLayer_InputCrop-", ofCard = "sends MainLayer_InputSource=";
+const CaseLines sourceLines{
+    {"HDMI 2", "MainLayer_InputCrop-", "user MainLayer_InputSource=1",
+     "sends MainLayer_InputSource=1; name HDMI2; picture 1920x1080@59.94; leaves MainLayer_InputCrop+; "
+     "reloading MainLayer_InputCrop="},
+    {"DVI", "MainLayer_InputCrop+", "device MainLayer_InputSource=2",
+     "tells MainLayer_InputSource=2; name DVI; picture No Signal; leaves MainLayer_InputCrop-"},
+    {"DVI on PIP 1", "PIP1_InputCrop+", "user PIP1_InputSource=2",
+     "sends PIP1_InputSource=2; name2 DVI; picture2 No Signal; leaves PIP1_InputCrop-"},
+    {"HDMI 2 on PIP 2", "PIP2_InputCrop-", "device PIP2_InputSource=1",
+     "tells PIP2_InputSource=1; name3 HDMI2; picture3 1920x1080@59.94; leaves PIP2_InputCrop+; "
+     "reloading PIP2_InputCrop="},
+    {"interlaced", "InputRecordFirst+8=1", "user PIP1_InputSource=1",
+     "sends PIP1_InputSource=1; picture2 1920x1080i@59.94"},
+    {"mosaic", takeMosaic, "user MainLayer_InputSource=7",
+     "sends MainLayerTransition=1 MainLayer_InputSource=7; name MOSAIC; leaves Layout/0- Layout/1- " +
+         locked},
+    {"mosaic", takeMosaic, "device MainLayer_InputSource=7",
+     "sends MainLayerTransition=1; tells MainLayer_InputSource=7; leaves Layout/0- " + locked},
+    {"no mosaic", "user MainLayer_InputSource=7", leaveMosaic,
+     ofCard + "0; leaves Layout/0+ Layout/1+ " + free},
+    {"no mosaic, PIP 1 on", "user MainLayer_InputSource=7; PIP1_Status=1", leaveMosaic,
+     ofCard + "0; leaves Layout/0+ " + locked},
+    {"no mosaic, PIP 2 on", "user MainLayer_InputSource=7; PIP2_Status=1", leaveMosaic,
+     ofCard + "0; leaves " + locked},
+    {"no mosaic, 3D on", "user MainLayer_InputSource=7; Mode3D_Status=1", leaveMosaic,
+     ofCard + "0; leaves " + locked},
+    {"card, input", card, "user MainLayer_InputSource=1",
+     ofCard + "1; screen 1920x1080@59.94; leaves OutputRate=5994 MainLayer_InputCrop-"},
+    {"card, an input without a rate", card, "user MainLayer_InputSource=2",
+     ofCard + "2; screen 1920x1080@60; leaves OutputRate=6000"},
+    {"card, reference", card + " Sync_Status=1", "user MainLayer_InputSource=1",
+     ofCard + "1; screen 1920x1080@50; leaves OutputRate=5000"},
+    {"card shows no PIP", "user PIP2_InputSource=0; WorkMode=2", "user PIP2_InputSource=1",
+     "sends PIP2_InputSource=1; name3 HDMI1; picture3 1280x720@50"},
+};
+} // namespace
+
+class TestApplyLayers : public CaseTest
 {
-    QFETCH(QString, layout);
-    QFETCH(int, width);
-    m_rig->process(PARA_OutputWidth, width);
-    m_rig->setTransition(true);
-    m_rig->fromUser(MENU_MainLayer_Status, "1");
-    m_rig->forget();
-    for (int layer = 0; layer < 3; ++layer) {
-        m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), QString::number(layer));
-        m_rig->setDialled(layer, false);
+    EngineRig *makeRig() const override { return new LayerRig; }
+    void begin() override { static_cast<LayerRig *>(m_rig)->start(); }
+    CaseLines lines() const override
+    {
+        static const CaseLines all = statusLines + orderLines + layoutLines + sourceLines;
+        return all;
     }
-    m_rig->fromUser(MENU_Layout, layout);
-    QStringList found;
-    for (int layer = 0; layer < 3; ++layer) {
-        found << m_rig->geometry(layer);
-        QCOMPARE(m_rig->dialled(layer), QString("yyyy"));
-        QCOMPARE(m_rig->value(LayerRig::of(MENU_MainLayer_ScalingMode, layer)), QString("2"));
-        QVERIFY(m_rig->layerShown(layer));
-    }
-    QTEST(found.join(", "), "geometry");
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{"MainLayer_InitialY=0", "PIP1_InitialY=0", "PIP1_Status=1", "PIP2_InitialY=0",
-                          "PIP2_Status=1", "MainLayerTransition=1"}));
-    QVERIFY(!m_rig->mosaicOffered());
-    QCOMPARE(m_rig->transition(), QString("n"));
-    QCOMPARE(m_rig->value(MENU_Layout), layout);
-
-    // Whatever becomes of a layer then, also as the device tells it, no layout holds any more.
-    m_rig->fromDevice(MENU_PIP2_Status, "1");
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-}
-
-void TestApplyLayers::layoutThatMovesNothing()
-{
-    const QString before = m_rig->geometry(0);
-    m_rig->fromUser(MENU_Layout, "2");
-    m_rig->fromDevice(MENU_Layout, "0");
-    QCOMPARE(m_rig->device->sent.take(), QStringList());
-    QCOMPARE(m_rig->geometry(0), before);
-}
+};
 
 FPD_TEST(TestApplyLayers)
-
-#include "tst_applylayers.moc"

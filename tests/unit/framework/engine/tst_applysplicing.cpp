@@ -7,27 +7,6 @@
 
 using namespace VASK;
 
-class TestApplySplicing : public QObject
-{
-    Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new LayerRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init() { m_rig->start(); }
-
-    void valueIsApplied_data();
-    void valueIsApplied();
-    void onTakesEverything();
-    void onForASendingCard();
-    void onLeavesTheTransitionLocked();
-    void offOffersWhatFits_data();
-    void offOffersWhatFits();
-
-private:
-    QString pageState() const;
-    LayerRig *m_rig = nullptr;
-};
-
 namespace
 {
 const QString pageOn = " ImageMosaic_{TotalHPixels+ TotalVPixels+ LoadAreaWidth+ LoadAreaHeight+ "
@@ -40,7 +19,9 @@ const QString dialled =
 const QString factory =
     "leaves ImageMosaic_{TotalHPixels=3840 TotalVPixels=2160 LoadAreaWidth=1920 LoadAreaHeight=1080 "
     "LoadAreaInitialX=0 LoadAreaInitialY=0} MainLayer_{InitialX=11 InitialY=12} ";
-const CaseLines lines{
+const QString cut = "MainLayerTransition=1 MainLayerTransition- TransitionDuration-";
+const QString leavesCut = "of Layout:; leaves " + cut;
+const CaseLines table{
     {"on, all stands already", "MainLayer_Status=1 Sync_Status=1", "user ImageMosaic_Status=1",
      "sends ImageMosaic_{LoadAreaWidth=1920 LoadAreaHeight=1080} MainLayer_{HorWidth=3840 VerHeight=2160 "
      "InitialX=0 InitialY=0} ImageMosaic_{Status=1 TotalHPixels=3840 TotalVPixels=2160 LoadAreaInitialY=0 "
@@ -78,128 +59,51 @@ const CaseLines lines{
          "MainLayer_{HorWidth=3840 VerHeight=2160 CustomWidth=3840 CustomHeight=2160}"},
     {"reset, not spliced", dialled + "MainLayer_{CustomWidth=1 CustomHeight=2}", "user ImageMosaic_Reset=0",
      factory + "MainLayer_{HorWidth=800 VerHeight=600 CustomWidth=1 CustomHeight=2}"},
+    {"on takes everything",
+     "MainLayer_Status=0 PIP1_Status=1 PIP2_Status=1 Sync_Status=0; user MainLayer_Status=0; user "
+     "PIP1_Status=1; "
+     "user PIP2_Status=1; MainLayer_{HorWidth=800 VerHeight=600 InitialX=11 InitialY=12 HorWidth- InitialY- "
+     "ScalingMode=1} PIP1_{HorWidth=320 VerHeight=240 InitialX=21 InitialY=22 InitialX- ScalingMode=1 "
+     "ScalingMode/0+ ScalingMode/1+} PIP2_{VerHeight- ScalingMode=1} Layout=0",
+     "user ImageMosaic_Status=1",
+     "sends MainLayer_Status=1 ImageMosaic_{LoadAreaWidth=1920 LoadAreaHeight=1080} MainLayer_{HorWidth=3840 "
+     "VerHeight=2160 InitialX=0 InitialY=0} PIP1_Status=0 PIP2_Status=0 Sync_Status=1 ImageMosaic_{Status=1 "
+     "TotalHPixels=3840 TotalVPixels=2160 LoadAreaInitialY=0 Status=1}; hidden labWindowOffDisplay_1; "
+     "visible labWindowOffDisplay_2; leaves MainLayer_{HorWidth=3840 VerHeight=2160 InitialX=0 InitialY=0 "
+     "CustomWidth=3840 CustomHeight=2160 HorWidth+ InitialY+ ScalingMode=2 ScalingMode/0- ScalingMode/1-} "
+     "PIP1_{CustomWidth=320 CustomY=22 InitialX+ ScalingMode=2 ScalingMode/0- ScalingMode/1-} "
+     "PIP2_{VerHeight+ "
+     "ScalingMode=2 ScalingMode/0-} MainLayer_InputSource/7+ MainLayerTransition+ TransitionDuration+ "
+     "Sync_Status=1 Layout=2 LowestLayer=0" +
+         pageOn},
+    {"on, sending card", "WorkMode=2 MainLayer_{HorWidth- InitialX-}", "user ImageMosaic_Status=1",
+     "of MainLayer_{HorWidth VerHeight InitialX InitialY}: MainLayer_{InitialX=0 InitialY=0}; "
+     "leaves MainLayer_{HorWidth- InitialX+ CustomWidth=3840 CustomHeight=2160}"},
+    {"on, 3D", "Mode3D_Status=1 " + cut, "user ImageMosaic_Status=1", leavesCut},
+    {"on, mosaic", "MainLayer_InputSource=7 " + cut, "user ImageMosaic_Status=1", leavesCut},
+    {"on, card", "WorkMode=2 " + cut, "user ImageMosaic_Status=1", leavesCut},
+    {"off, all fit", "user ImageMosaic_Status=1", "user ImageMosaic_Status=0",
+     "sends ImageMosaic_Status=0; leaves MainLayer_{ScalingMode/0+ ScalingMode/1+} PIP1_{ScalingMode/0+ "
+     "ScalingMode/1+}" +
+         pageOff},
+    {"off, output too large", "user ImageMosaic_Status=1; OutputWidth=3840", "user ImageMosaic_Status=0",
+     "sends ImageMosaic_Status=0; leaves PIP1_{ScalingMode/0- ScalingMode/1+} PIP2_{ScalingMode/0- "
+     "ScalingMode/1+}"},
+    {"off, input too large", "user ImageMosaic_Status=1; PIP1_InputSource=3 PIP2_InputSource=3",
+     "user ImageMosaic_Status=0",
+     "sends ImageMosaic_Status=0; leaves PIP1_{ScalingMode/0+ ScalingMode/1-} PIP2_{ScalingMode/0+ "
+     "ScalingMode/1-}"},
+    {"off, what a crop leaves of it",
+     "user ImageMosaic_Status=1; PIP1_InputSource=3 PIP1Crop_{Status=1 HorWidth=1000}",
+     "user ImageMosaic_Status=0", "sends ImageMosaic_Status=0; leaves PIP1_ScalingMode/1+"},
 };
 } // namespace
 
-void TestApplySplicing::valueIsApplied_data()
+class TestApplySplicing : public CaseTest
 {
-    addCaseLines(lines);
-}
-
-void TestApplySplicing::valueIsApplied()
-{
-    QFETCH(int, row);
-    runCaseLine(*m_rig, lines.at(row));
-}
-
-/// Which rows of the splicing page can be reached, from the totals to the reset.
-QString TestApplySplicing::pageState() const
-{
-    QString flags;
-    for (int item = 1041; item <= 1047; ++item)
-        flags += m_rig->enabled(ENUM_MenuIndex(item)) ? 'y' : 'n';
-    return flags;
-}
-
-void TestApplySplicing::onTakesEverything()
-{
-    m_rig->fromUser(MENU_MainLayer_Status, "0");
-    m_rig->fromUser(MENU_PIP1_Status, "1");
-    m_rig->fromUser(MENU_PIP2_Status, "1");
-    m_rig->setGeometry(0, {"800", "600", "11", "12"});
-    m_rig->setGeometry(1, {"320", "240", "21", "22"});
-    for (int layer = 0; layer < 3; ++layer) {
-        m_rig->setDialled(layer, false);
-        m_rig->set(LayerRig::of(MENU_MainLayer_ScalingMode, layer), "1");
-        m_rig->setRows(LayerRig::of(MENU_MainLayer_ScalingMode, layer), true);
-    }
-    m_rig->set(MENU_Layout, "0");
-    m_rig->forget();
-    m_rig->fromUser(MENU_ImageMosaic_Status, "1");
-
-    QCOMPARE(m_rig->device->sent.take(),
-             (QStringList{"MainLayer_Status=1", "ImageMosaic_LoadAreaWidth=1920",
-                          "ImageMosaic_LoadAreaHeight=1080", "MainLayer_HorWidth=3840",
-                          "MainLayer_VerHeight=2160", "MainLayer_InitialX=0", "MainLayer_InitialY=0",
-                          "PIP1_Status=0", "PIP2_Status=0", "Sync_Status=1", "ImageMosaic_Status=1",
-                          "ImageMosaic_TotalHPixels=3840", "ImageMosaic_TotalVPixels=2160",
-                          "ImageMosaic_LoadAreaInitialY=0", "ImageMosaic_Status=1"}));
-    QCOMPARE(m_rig->geometry(0), QString("3840 2160 0 0"));
-    QVERIFY(m_rig->remembered(0).startsWith("3840 2160 "));
-    QCOMPARE(m_rig->remembered(1), QString("320 240 21 22"));
-    for (int layer = 0; layer < 3; ++layer) {
-        const ENUM_MenuIndex scaling = LayerRig::of(MENU_MainLayer_ScalingMode, layer);
-        QCOMPARE(m_rig->layerShown(layer), layer == 0);
-        QCOMPARE(m_rig->dialled(layer), QString("yyyy"));
-        QCOMPARE(m_rig->value(scaling), QString("2"));
-        QCOMPARE(m_rig->rows(scaling), QString("nn"));
-    }
-    QVERIFY(m_rig->mosaicOffered());
-    QCOMPARE(m_rig->transition(), QString("y"));
-    QCOMPARE(m_rig->value(MENU_Sync_Status), QString("1"));
-    QCOMPARE(m_rig->value(MENU_Layout), QString("2"));
-    QCOMPARE(m_rig->value(PARA_LowestLayer), QString("0"));
-    QCOMPARE(pageState(), QString("yyyyyyy"));
-}
-
-void TestApplySplicing::onForASendingCard()
-{
-    m_rig->set(MENU_WorkMode, "2");
-    m_rig->setDialled(0, false);
-    m_rig->fromUser(MENU_ImageMosaic_Status, "1");
-    QCOMPARE(m_rig->dialled(0), QString("nnyy"));
-    QVERIFY(m_rig->remembered(0).startsWith("3840 2160 "));
-    const QStringList sent = m_rig->device->sent.take();
-    QVERIFY(!sent.contains("MainLayer_HorWidth=3840") && !sent.contains("MainLayer_VerHeight=2160"));
-    QVERIFY(sent.contains("MainLayer_InitialY=0"));
-}
-
-void TestApplySplicing::onLeavesTheTransitionLocked()
-{
-    const QPair<ENUM_MenuIndex, QString> locks[] = {
-        {MENU_Mode3D_Status, "1"}, {MENU_MainLayer_InputSource, LayerRig::mosaicRow}, {MENU_WorkMode, "2"}};
-    for (const auto &lock : locks) {
-        m_rig->start();
-        m_rig->setTransition(false);
-        m_rig->set(lock.first, lock.second);
-        m_rig->fromUser(MENU_ImageMosaic_Status, "1");
-        QVERIFY2(m_rig->transition() == "n", QByteArray::number(lock.first));
-    }
-}
-
-void TestApplySplicing::offOffersWhatFits_data()
-{
-    QTest::addColumn<int>("outputWidth");
-    QTest::addColumn<int>("source");
-    QTest::addColumn<QString>("rows");
-    QTest::newRow("all") << 1920 << 0 << "yy";
-    QTest::newRow("an output too large for full screen") << 3840 << 0 << "ny";
-    QTest::newRow("an input too large for its pixels") << 1920 << 3 << "yn";
-}
-
-void TestApplySplicing::offOffersWhatFits()
-{
-    QFETCH(int, outputWidth);
-    QFETCH(int, source);
-    m_rig->fromUser(MENU_ImageMosaic_Status, "1");
-    m_rig->process(PARA_OutputWidth, outputWidth);
-    for (int layer : {1, 2})
-        m_rig->set(LayerRig::of(MENU_MainLayer_InputSource, layer), QString::number(source));
-    m_rig->forget();
-    m_rig->fromUser(MENU_ImageMosaic_Status, "0");
-    QTEST(m_rig->rows(MENU_PIP1_ScalingMode), "rows");
-    QTEST(m_rig->rows(MENU_PIP2_ScalingMode), "rows");
-    QCOMPARE(m_rig->rows(MENU_MainLayer_ScalingMode), QString("yy"));
-    QCOMPARE(pageState(), QString("nnnnnnn"));
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"ImageMosaic_Status=0"});
-
-    // What a crop leaves of the input counts.
-    m_rig->set(MENU_PIP1Crop_Status, "1");
-    m_rig->set(MENU_PIP1Crop_HorWidth, "1000");
-    m_rig->fromUser(MENU_ImageMosaic_Status, "0");
-    QVERIFY(m_rig->rowEnabled(MENU_PIP1_ScalingMode, 1));
-}
+    EngineRig *makeRig() const override { return new LayerRig; }
+    void begin() override { static_cast<LayerRig *>(m_rig)->start(); }
+    CaseLines lines() const override { return table; }
+};
 
 FPD_TEST(TestApplySplicing)
-
-#include "tst_applysplicing.moc"
