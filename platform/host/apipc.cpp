@@ -53,11 +53,6 @@ void leave(int descriptor)
 }
 } // namespace
 
-unsigned int apcard_bit_self()
-{
-    return 1;
-}
-
 int apipc_init(unsigned int, int)
 {
     return 0;

@@ -1,0 +1,6 @@
+#include "apipc.h"
+
+unsigned int apcard_bit_self()
+{
+    return 1;
+}
