@@ -1,5 +1,6 @@
 #include "framework/input/keyevent.h"
 #include "initialize.h"
+#include "supervisor.h"
 #include "widget/plaintext.h"
 
 #include <QApplication>
@@ -20,5 +21,6 @@ int main(int argc, char *argv[])
         qDebug() << "Init key failed";
     keys->start(QThread::InheritPriority);
     Initialize();
+    board::tellSupervisor();
     return application.exec();
 }
