@@ -10,19 +10,7 @@ dev | release | asan | tsan) ;;
 *) echo "no such preset: $preset (dev, release, asan, tsan)" >&2; exit 2 ;;
 esac
 
-missing=()
-while read -r package; do
-    [ -n "$package" ] || continue
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-done < tools/packages.txt
-if [ ${#missing[@]} -gt 0 ]; then
-    echo "installing: ${missing[*]}"
-    sudo=
-    [ "$(id -u)" = 0 ] || sudo=sudo
-    $sudo apt-get update -qq
-    $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
-fi
-
+tools/install.sh tools/packages.txt
 cmake --preset "$preset" > /dev/null
 if [ "$preset" = dev ]; then build=build; else build=build/$preset; fi
 # In place of this shell, so that a signal to end reaches the build.
