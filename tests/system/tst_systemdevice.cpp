@@ -2,7 +2,7 @@
 // state, the panel takes it over, and a session can be played again.
 #include "menu/itemindex.h"
 #include "testkit/homescreen.h"
-#include "tests/system/mirrored.h"
+#include "testkit/mirrored.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

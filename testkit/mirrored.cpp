@@ -1,4 +1,4 @@
-#include "tests/system/mirrored.h"
+#include "testkit/mirrored.h"
 
 #include "menu/itemindex.h"
 #include "testkit/names/itemnames.h"

@@ -1,4 +1,4 @@
-#include "tests/system/soaksession.h"
+#include "benchmark/soaksession.h"
 
 #include "menu/keycodes.h"
 #include "testkit/flood.h"
