@@ -25,12 +25,8 @@ private slots:
     void sendFailsWhileTheBusIsDown();
     void writesAreKeptAndAnswered();
     void readsAnswerWhatWasWritten();
-    void mirroredRegistersReachTheFlash_data();
-    void mirroredRegistersReachTheFlash();
-    void deviceReportsOnItsOwn();
     void aReportTakesTheOlderOnesPlace();
     void floodArrivesWholeAndInOrder();
-    void presetsFollowTheirRegisters();
     void busComesBack();
     void ledCommands();
 
@@ -158,53 +154,6 @@ void TestDeviceBus::readsAnswerWhatWasWritten()
     QCOMPARE(reply->data, QByteArray::fromHex("00040401"));
 }
 
-void TestDeviceBus::mirroredRegistersReachTheFlash_data()
-{
-    QTest::addColumn<uint>("registerAddress");
-    QTest::addColumn<int>("deviceType");
-    QTest::addColumn<uint>("flashAddress");
-    QTest::newRow("first of the device block") << 0x13000000u << 0 << 0x2000u;
-    QTest::newRow("last of the device block") << 0x130000A0u << 0 << 0x20A0u;
-    QTest::newRow("main window") << 0x13020012u << 0 << 0xE812u;
-    QTest::newRow("crop") << 0x13024014u << 0 << 0xEE14u;
-    QTest::newRow("load area width") << 0x13030018u << 0 << 0x12618u;
-    QTest::newRow("brightness of the second input") << 0x13050015u << 0 << 0xEA15u;
-    QTest::newRow("backup of HDMI") << 0x13120012u << 0 << 0x10612u;
-    QTest::newRow("3D delay") << 0x02000002u << 4 << 0x2408u;
-    QTest::newRow("HDCP") << 0x13019004u << 0 << 0x15630u;
-    QTest::newRow("audio of the third input") << 0x13019025u << 0 << 0x15635u;
-}
-
-void TestDeviceBus::mirroredRegistersReachTheFlash()
-{
-    QFETCH(uint, registerAddress);
-    QFETCH(int, deviceType);
-    QFETCH(uint, flashAddress);
-    const QByteArray before = m_device->flash().read(flashAddress, 2);
-    QByteArray wanted = before;
-    wanted[0] = char(before[0] ^ 0x5A);
-    QVERIFY(write(registerAddress, wanted.left(1), quint8(deviceType)));
-    QCOMPARE(m_device->flash().read(flashAddress, 2), wanted);
-    receive();
-}
-
-void TestDeviceBus::deviceReportsOnItsOwn()
-{
-    QVERIFY(m_device->reportAll());
-    QList<quint32> addresses;
-    QByteArray last;
-    do {
-        const auto report = wire::decodeFrame(receive());
-        QVERIFY(report && report->isReply);
-        addresses.append(report->address);
-        last = report->data;
-    } while (last != QByteArray(1, 2));
-    // The records of the inputs come in order, and the services are up after everything else.
-    for (int input = 0; input < 9; ++input)
-        QCOMPARE(addresses.at(input), 0x13010001u + 32 * unsigned(input));
-    QCOMPARE(addresses.mid(addresses.size() - 2), (QList<quint32>{0x14000000, 0x14000000}));
-}
-
 void TestDeviceBus::aReportTakesTheOlderOnesPlace()
 {
     constexpr quint32 displayMode = 0x13000004, nextWritten = 0x02000074;
@@ -242,23 +191,6 @@ void TestDeviceBus::floodArrivesWholeAndInOrder()
         QVERIFY(report);
         QCOMPARE(report->data, counted(n));
     }
-}
-
-void TestDeviceBus::presetsFollowTheirRegisters()
-{
-    const auto stored = [this](int preset) {
-        return quint8(m_device->flash().read(0x3000u + 0x1200u * unsigned(preset) + 10, 1)[0]) == 168;
-    };
-    QVERIFY(stored(0) && stored(1) && !stored(4) && !stored(9));
-    QVERIFY(write(0x13510102, QByteArray::fromHex("04")));
-    QVERIFY(stored(4));
-    QVERIFY(write(0x13510106, QByteArray::fromHex("00010009")));
-    QCOMPARE(m_device->flash().read(0x3000 + 0x1200 * 9 + 512, 19), m_device->flash().read(0x4200 + 512, 19));
-    QVERIFY(write(0x13510100, QByteArray::fromHex("04")));
-    QCOMPARE(m_device->flash().read(0x2F10, 1), QByteArray::fromHex("04"));
-    QVERIFY(write(0x13510104, QByteArray::fromHex("0004")));
-    QVERIFY(!stored(4));
-    QCOMPARE(m_device->flash().read(0x2F10, 1), QByteArray::fromHex("ff"));
 }
 
 void TestDeviceBus::busComesBack()

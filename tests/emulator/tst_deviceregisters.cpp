@@ -56,6 +56,8 @@ void TestDeviceRegisters::writesReachFlashAndReports_data()
     row("volume", 0x1300009F, "14", 0x209E, "0114", 0x1300009E, "0114");
     row("sound of HDMI 2", 0x13019015, "02", 0x15633, "02", 0x13019025, "02");
     row("sound of DVI", 0x13019025, "02", 0x15635, "02", 0x13019035, "02");
+    row("HDCP of HDMI 1", 0x13019004, "5a", 0x15630, "5a");
+    row("brightness of the second input", 0x13050015, "5a", 0xEA15, "5a");
     row("layer off", 0x13020010, "00", 0xE810, "00");
     row("window of PIP 2", 0x13020075, "0a000000ecffffff80020000e0010000", 0xE875,
         "0a000000ecffffff80020000e0010000");

@@ -82,47 +82,6 @@ private slots:
             }
     }
 
-    /// By these numbers other parts of the program know their rows and pages.
-    void quotedObjects()
-    {
-        const struct {
-            int object;
-            ENUM_MenuIndex item;
-            int count; ///< of such rows, one behind the other
-        } runs[] = {{45, MENU_SavetoRVCard, 1},
-                    {72, MENU_Preset1, 10},
-                    {102, MENU_Normal, 3},
-                    {125, MENU_HDCP, 1},
-                    {131, MENU_SelfTest, 1},
-                    {151, MENU_CabinetFile1, 8},
-                    {164, MENU_OutputFrameRate, 1},
-                    {165, MENU_MainLayer_Status, 3},
-                    {176, MENU_PIP1_Status, 3},
-                    {187, MENU_PIP2_Status, 3},
-                    {260, MENU_Net_SubnetMask, 2},
-                    {312, MENU_HDMI1_EDIDCustomRate, 1},
-                    {334, MENU_HDMI2_EDIDCustomRate, 1},
-                    {356, MENU_DVI_EDIDCustomRate, 1},
-                    {378, MENU_DVI2_EDIDCustomRate, 1},
-                    {400, MENU_Mosaic_Arrangement, 1}};
-        const QMap<int, ENUM_ConfigIndex> pages{
-            {23, CONFIG_PresetSettings}, {24, CONFIG_PresetCopyTo},   {44, CONFIG_LoadCabFiles},
-            {49, CONFIG_MainLayer},      {51, CONFIG_PIP1},           {53, CONFIG_PIP2},
-            {107, CONFIG_TestPattern},   {109, CONFIG_TestPureColor}, {134, CONFIG_AboutUs},
-            {174, CONFIG_MainLayerCrop}, {185, CONFIG_PIP1Crop},      {196, CONFIG_PIP2Crop},
-            {297, CONFIG_HDMI1_EDID},    {319, CONFIG_HDMI2_EDID},    {341, CONFIG_DVI_EDID},
-            {363, CONFIG_DVI2_EDID},     {387, CONFIG_SDI_Attributes}};
-        QMap<int, int> itemOf;
-        for (const ST_MenuConfig &page : g_config)
-            for (const st_MenuItemInfo &row : page.rowsMap)
-                itemOf[row.itemObject] = row.menuIndex;
-        for (const auto &run : runs)
-            for (int i = 0; i < run.count; ++i)
-                QCOMPARE(itemOf.value(run.object + i), run.item + i);
-        for (auto page = pages.cbegin(); page != pages.cend(); ++page)
-            QCOMPARE(int(g_config[page.value()].object), page.key());
-    }
-
     void valuesLieWithinTheirLimits()
     {
         for (const ST_MenuConfig &page : g_config)
