@@ -7,7 +7,7 @@
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/looks.h"
+#include "tests/unit/rig/lookrig.h"
 #include "widget/dialog/dialog_msgbox.h"
 #include "widget/dialog/lock.h"
 #include "widget/row/stringcomboxtable.h"

@@ -3,7 +3,7 @@
 #include "framework/input/keypadevent.h"
 #include "menu/keycodes.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/dialog_scene.h"
 
 #include <QLabel>

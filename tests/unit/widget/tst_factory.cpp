@@ -6,7 +6,7 @@
 #include "menu/objectindex.h"
 #include "sysconf.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/looks.h"
+#include "tests/unit/rig/lookrig.h"
 #include "widget/factory/devcheckwin.h"
 #include "widget/factory/dialog_factory.h"
 #include "widget/page/testwindows.h"
@@ -189,7 +189,7 @@ private slots:
                                                       {MENU_PIP2_Status, "0"}};
         for (auto value = values.cbegin(); value != values.cend(); ++value)
             QCOMPARE(m_rig->engine->GetParaFromIndex(value.key()), value.value());
-        QVERIFY(!m_rig->device->sent.isEmpty());
+        QVERIFY(!m_rig->device->sent.take().isEmpty());
     }
 
     void listIsShownWhole_data() { eachLanguage(); }

@@ -6,7 +6,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/dialog_languageselect.h"
 #include "widget/dialog/dialog_msgbox.h"
 #include "widget/dialog/dialog_wait.h"

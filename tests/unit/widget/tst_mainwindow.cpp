@@ -8,7 +8,7 @@
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/lock.h"
 #include "widget/home/panellock.h"
 #include "widget/page/openpage.h"
@@ -162,7 +162,7 @@ private slots:
         QVERIFY(m_rig->home->isLocked());
         QVERIFY(m_rig->home->isTakenOver());
         QCOMPARE(int(OpenPage::layer()), int(OpenPage::noLayer));
-        QCOMPARE(m_rig->device->sent, QStringList{"SavetoRVCard="});
+        QCOMPARE(m_rig->device->sent.take(), QStringList{"SavetoRVCard="});
         m_rig->home->slot_ReturnToMainSoft(true);
         QVERIFY(!m_rig->home->isLocked());
         QVERIFY(!m_rig->home->isTakenOver());

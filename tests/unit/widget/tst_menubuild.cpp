@@ -6,7 +6,7 @@
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/rig/pagerig.h"
 
 #include <QTableWidget>
 

@@ -3,8 +3,8 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "rowbench.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/rowbench.h"
 #include "widget/row/typefloatadjust.h"
 #include "widget/row/typeintadjust.h"
 

@@ -8,7 +8,7 @@
 #include "menu/pageindex.h"
 #include "testkit/contactsheet.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/looks.h"
+#include "tests/unit/rig/lookrig.h"
 #include "widget/page/pagetable.h"
 #include "widget/row/icocomboxtable.h"
 #include "widget/row/pagerow.h"

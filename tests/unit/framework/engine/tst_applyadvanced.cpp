@@ -1,27 +1,16 @@
 // The advanced screen configuration: the page with the record of one port, and the records of all.
 
-#include "caseline.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
 
 class TestApplyAdvanced : public CaseTest
 {
-    Q_OBJECT
     CaseLines lines() const override;
     void begin() override;
-
-private slots:
-    void portIsShown();
-    void reportedRecordIsShown();
-    void reset_data();
-    void reset();
-
-private:
-    QString page() const;
-    void fillRecords();
 };
 
 namespace
@@ -36,6 +25,23 @@ const QString closes = "sends LowLatency=0; asks FlowWayCauseCloseLowLatency; le
 const QString third = "Advanced_EthernetPort=3 LowLatency=1 Advanced_{HorOffset=5 VerOffset=6} ",
               shifted = third + "AdvancedPort10_Y=6 "; // the last port's Y
 
+/// Every value of every record is another one: port 3 has 31 rows, 32 columns and so on.
+QString records()
+{
+    QString text;
+    for (int port = 1; port <= 10; ++port)
+        text += QString("AdvancedPort#_{Rows=#1 Cols=#2 X=#3 Y=#4 FlowWay=#5} ")
+                    .replace('#', QString::number(port));
+    return text;
+}
+const QString rowsOfARecord = "reloads Advanced_{CabinetRow= CabinetCol= HorOffset= VerOffset= FlowWay=}; ";
+const QString asksReset = "asks IfResetAdvancedScreenCfg; ", toReset = records() + "Advanced_EthernetPort=4";
+const QString isReset = asksReset +
+                        "reloads Advanced_{EthernetPort= CabinetRow= CabinetCol= HorOffset= "
+                        "VerOffset= FlowWay=}; leaves Advanced_{EthernetPort=1 CabinetRow=1 "
+                        "CabinetCol=1 HorOffset=0 VerOffset=0 FlowWay=0} AdvancedPort1_{Rows=1 Cols=1 "
+                        "X=0 Y=0 FlowWay=0} AdvancedPort10_{Rows=1 Cols=1 X=0 Y=0 FlowWay=0}";
+const QString ofPort2 = "Advanced_{EthernetPort=2 CabinetRow=21 FlowWay=25}";
 const CaseLines table{
     {"on", "ScreenConfigKind=0", "user Advanced_Status=1",
      "sends Advanced_Status=1; " + formRefreshed + "leaves ScreenConfigKind=1 Mode3D+ " + formOn},
@@ -74,6 +80,21 @@ const CaseLines table{
      "tells Advanced_Apply=; asks Waiting; leaves SoftwareConfigured=0 OutputMode=0 LowLatency=1 Mode3D+"},
     {"port", "AdvancedPort3_Rows=7", "device Advanced_EthernetPort=3",
      "reloads; leaves Advanced_CabinetRow=1"},
+
+    {"last port", records(), "user Advanced_EthernetPort=10",
+     rowsOfARecord +
+         "leaves Advanced_{CabinetRow=101 CabinetCol=102 HorOffset=103 VerOffset=104 FlowWay=105}"},
+    {"second port", records(), "user Advanced_EthernetPort=2", rowsOfARecord + "leaves " + ofPort2},
+    {"record of another port", records() + ofPort2, "device AdvancedPort3_FlowWay=7", "leaves " + ofPort2},
+    {"a part of the record", records() + ofPort2, "device AdvancedPort2_Rows=9", "leaves " + ofPort2},
+    {"the whole record", records() + ofPort2 + "; device AdvancedPort2_Rows=9",
+     "device AdvancedPort2_FlowWay=7",
+     "leaves Advanced_{CabinetRow=9 CabinetCol=22 HorOffset=23 VerOffset=24 FlowWay=7}"},
+    {"the whole record", records() + ofPort2, "user AdvancedPort2_FlowWay=6", "leaves Advanced_FlowWay=6"},
+    {"reset", toReset, "user Advanced_Reset=", isReset},
+    {"reset", toReset, "device Advanced_Reset=", isReset},
+    {"reset, refused", toReset + "; user Advanced_EthernetPort=4", "user Advanced_Reset=",
+     asksReset + "answers 0; reloads ; leaves Advanced_{EthernetPort=4 CabinetRow=41 FlowWay=45}"},
 };
 } // namespace
 
@@ -88,85 +109,4 @@ void TestApplyAdvanced::begin()
     m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
 }
 
-/// The rows that show a record.
-QString TestApplyAdvanced::page() const
-{
-    QStringList values;
-    for (int row = MENU_Advanced_CabinetRow; row <= MENU_Advanced_FlowWay; ++row)
-        values << m_rig->value(ENUM_MenuIndex(row));
-    return values.join(' ');
-}
-
-/// Every value of every record is another one.
-void TestApplyAdvanced::fillRecords()
-{
-    for (int item = MENU_AdvancedPort1_Rows; item <= MENU_AdvancedPort10_FlowWay; ++item)
-        m_rig->set(ENUM_MenuIndex(item), QString::number(item));
-}
-
-void TestApplyAdvanced::portIsShown()
-{
-    fillRecords();
-    m_rig->fromUser(MENU_Advanced_EthernetPort, "10");
-    QCOMPARE(page(), QString("3196 3197 3198 3199 3200"));
-    QCOMPARE(m_rig->reloaded.take(),
-             (QStringList{"Advanced_CabinetRow=", "Advanced_CabinetCol=", "Advanced_HorOffset=",
-                          "Advanced_VerOffset=", "Advanced_FlowWay="}));
-    m_rig->fromUser(MENU_Advanced_EthernetPort, "2");
-    QCOMPARE(page(), QString("3156 3157 3158 3159 3160"));
-    QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
-}
-
-void TestApplyAdvanced::reportedRecordIsShown()
-{
-    fillRecords();
-    m_rig->set(MENU_Advanced_EthernetPort, "2");
-    const QString before = page();
-    m_rig->fromDevice(MENU_AdvancedPort3_FlowWay, "7");
-    QCOMPARE(page(), before); // another port's
-    m_rig->fromDevice(MENU_AdvancedPort2_Rows, "9");
-    QCOMPARE(page(), before);
-    m_rig->fromDevice(MENU_AdvancedPort2_FlowWay, "7");
-    QCOMPARE(page(), QString("9 3157 3158 3159 7"));
-    m_rig->fromUser(MENU_AdvancedPort2_FlowWay, "6");
-    QCOMPARE(page(), QString("9 3157 3158 3159 6"));
-    QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
-}
-
-void TestApplyAdvanced::reset_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("mode");
-    QTest::newRow("yes, user") << 1 << int(SET_XML_USER);
-    QTest::newRow("no, user") << 0 << int(SET_XML_USER);
-    QTest::newRow("yes, device") << 1 << int(SET_XML_DEVICE);
-}
-
-void TestApplyAdvanced::reset()
-{
-    QFETCH(int, answer);
-    QFETCH(int, mode);
-    fillRecords();
-    m_rig->fromUser(MENU_Advanced_EthernetPort, "4");
-    m_rig->forget();
-    m_rig->answer = answer;
-    m_rig->engine->SetParaToXml("", MENU_Advanced_Reset, ENUM_MODE_SET_XML(mode));
-    QCOMPARE(m_rig->messages, QStringList{"IfResetAdvancedScreenCfg"});
-    QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
-    if (answer == 0) {
-        QCOMPARE(page(), QString("3166 3167 3168 3169 3170"));
-        QCOMPARE(m_rig->reloaded.take(), QStringList());
-        return;
-    }
-    QCOMPARE(m_rig->value(MENU_Advanced_EthernetPort), QString("1"));
-    QCOMPARE(page(), QString("1 1 0 0 0"));
-    QCOMPARE(m_rig->reloaded.take(),
-             (QStringList{"Advanced_EthernetPort=", "Advanced_CabinetRow=", "Advanced_CabinetCol=",
-                          "Advanced_HorOffset=", "Advanced_VerOffset=", "Advanced_FlowWay="}));
-    for (int item = MENU_AdvancedPort1_Rows; item <= MENU_AdvancedPort10_FlowWay; ++item)
-        QCOMPARE(m_rig->value(ENUM_MenuIndex(item)), QString("11000").mid((item - 3151) % 5, 1));
-}
-
 FPD_TEST(TestApplyAdvanced)
-
-#include "tst_applyadvanced.moc"

@@ -1,9 +1,9 @@
 // The output, 3D, network and colour as the user and as the device bring their values: what is handed to the
 // protocol, what the row is told, what is asked, what follows and what can be chosen then.
 
-#include "caseline.h"
 #include "menu/itemindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
 

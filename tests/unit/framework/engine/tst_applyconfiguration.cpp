@@ -1,10 +1,10 @@
 // The quick screen configuration, the way to its page and to the advanced one's, and low latency, which not
 // every screen allows.
 
-#include "caseline.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
 

@@ -1,7 +1,7 @@
 // Display mode, Fn key and test pattern, with the LEDs that they light.
 
-#include "caseline.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
 
@@ -70,6 +70,7 @@ const CaseLines patternLines{
 
 class TestApplyDisplay : public CaseTest
 {
+    Q_OBJECT
     /// With the page of the patterns' kinds.
     EngineRig *makeRig() const override
     {
@@ -82,6 +83,25 @@ class TestApplyDisplay : public CaseTest
         static const CaseLines all = modeLines + fnLines + patternLines;
         return all;
     }
+
+private slots:
+    void patternPageTakesThePlace();
 };
 
+/// No row of this model opens them.
+void TestApplyDisplay::patternPageTakesThePlace()
+{
+    const auto page = [](ENUM_ObjectIndex number) { return poolObject<MenuDirectory>(number); };
+    m_rig->fromUser(MENU_Test_Type, "2");
+    MenuDirectory *grid = page(ENUM_PAGE_TestGrid);
+    QVERIFY(grid && page(ENUM_PAGE_TestPattern) == grid && grid->isVisible());
+    m_rig->fromUser(MENU_Test_Type, "1");
+    MenuDirectory *gradient = page(ENUM_PAGE_TestGradient);
+    QVERIFY(!grid->isVisible() && page(ENUM_PAGE_TestPattern) == gradient);
+    QVERIFY(gradient->parentScreen() == page(ENUM_PAGE_DisplayControl));
+    gradient->hide();
+}
+
 FPD_TEST(TestApplyDisplay)
+
+#include "tst_applydisplay.moc"

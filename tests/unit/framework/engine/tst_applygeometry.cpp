@@ -1,9 +1,9 @@
 // How a layer is scaled, where it stands, and which part of its input it shows. The three layers are one:
 // each rule stands for one of them, and each kind of item comes with more than one layer.
 
-#include "caseline.h"
-#include "layerrig.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
+#include "tests/unit/rig/layerrig.h"
 
 using namespace VASK;
 

@@ -1,8 +1,10 @@
 // What follows from the reports of inputs, ports and output, where no report alone shows it: layers, output
 // rate, LEDs, colour sampling, the backup of the ports.
 
-#include "caseline.h"
+#include "framework/productiontest/productiontest.h"
+#include "menu/itemindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
 
@@ -11,7 +13,8 @@ namespace
 const CaseLines layerLines{
     {"near a whole rate", "MainLayer_InputCrop-", "input 0 97 3 1280 720 16640",
      "picture 1280x720@60; leaves MainLayer_InputCrop+; reloading MainLayer_InputCrop="},
-    {"interlaced", "", "input 0 97 3 1280 720 20000 1", "picture 1280x720i@50"},
+    {"interlaced", "", "input 0 97 3 1280 720 20000 1",
+     "picture 1280x720i@50; picture2 untouched; picture3 untouched"},
     {"unstable", "MainLayer_InputCrop+", "input 0 97 2 1280 720 16667",
      "picture No Signal; leaves MainLayer_InputCrop-"},
     {"main layer, cropped", "MainLayerCrop_Status=1 MainLayer_ScalingMode=1", "input 0 97 3 2000 1080 16667",
@@ -40,7 +43,8 @@ const CaseLines layerLines{
      "picture2 1920x1080@50; leaves MainLayer_InputCrop-"},
     {"sending card, PIP stays", "WorkMode=2 PIP1_InputSource=0; input 0 97 3 1920 1080 20000",
      "input 0 97 0 0 0 0", "picture No Signal; picture2 1920x1080@50"},
-    {"of no layer", "OutputRate=6000", "input 7 48 3 1920 1080 20000", "reloads ; leaves OutputRate=6000"},
+    {"of no layer", "OutputRate=6000", "input 7 48 3 1920 1080 20000",
+     "reloads ; picture untouched; picture2 untouched; screen untouched; leaves OutputRate=6000"},
     {"LED", "", "input 5 106 3 1920 1080 20000", "lit IN6"},
     {"LED", "input 5 106 3 1920 1080 20000", "input 5 106 0 0 0 0", "dark IN6"},
 };
@@ -53,15 +57,17 @@ const CaseLines rateLines{
      "screen 1920x1200@59.94; leaves OutputRate=5994"},
     {"controller, out of reach", controller, "input 1 98 3 1920 1080 20000",
      "screen 1920x1200@60; leaves OutputRate=6000"},
-    {"controller, other input", controller, "input 0 97 3 1920 1080 16683", "leaves OutputRate=6000"},
-    {"controller, no period", controller, "input 1 98 0 1920 1080 0", "leaves OutputRate=6000"},
+    {"controller, other input", controller, "input 0 97 3 1920 1080 16683",
+     "screen untouched; leaves OutputRate=6000"},
+    {"controller, no period", controller, "input 1 98 0 1920 1080 0",
+     "screen untouched; leaves OutputRate=6000"},
     {"card, signal lost", card + "OutputRate=5000", "input 0 97 0 1920 1080 20000",
      "screen 1920x1200@60; leaves OutputRate=5000"},
-    {"card, other input", card, "input 1 98 3 1920 1080 20000", "leaves OutputRate=6000"},
+    {"card, other input", card, "input 1 98 3 1920 1080 20000", "screen untouched; leaves OutputRate=6000"},
     {"card, reference lost", card + "Sync_Status=1", "input 8 254 0 1920 1080 20000",
-     "leaves OutputRate=6000"},
+     "screen untouched; leaves OutputRate=6000"},
     {"card, main input with sync", card + "Sync_Status=1", "input 0 97 3 1920 1080 20000",
-     "leaves OutputRate=6000"},
+     "screen untouched; leaves OutputRate=6000"},
 };
 
 /// Both families of codes, on the second input.
@@ -152,16 +158,39 @@ const CaseLines outputLines{
      "screen 1600x900@119.88"},
     {"other registers, input without a period", ofCard("2; input 2 105 3 1920 1080 0"), alias,
      "screen 1600x900@59.94; leaves OutputHeight=1200"},
+
+    // The rates of a size, and the one that is chosen: the third of those before.
+    {"rates of a size", "Output_FrameRate=2", "user Output_Resolution=0",
+     "sends Output_Resolution=0; options Output_FrameRate=48 50 59.94 60 75 85; reloading Output_FrameRate=; "
+     "leaves Output_FrameRate=2"},
+    {"the rate is gone", "Output_FrameRate=2", "user Output_Resolution=15",
+     "sends Output_Resolution=15; options Output_FrameRate=30; leaves Output_FrameRate=0"},
+    {"rates of DVI 2", "DVI2_EDIDFrameRate=2", "user DVI2_EDIDResolution=0",
+     "sends DVI2_EDIDResolution=0; options DVI2_EDIDFrameRate=48 50 59.94 60 75 85; leaves "
+     "DVI2_EDIDFrameRate=2"},
+    {"rates of HDMI 2, on two pages", "HDMI2_EDIDFrameRate=2", "device HDMI2_EDIDResolution=6",
+     "tells HDMI2_EDIDResolution=6 HDMI2_EDIDResolution=6; options HDMI2_EDIDFrameRate=60; "
+     "leaves HDMI2_EDIDFrameRate=0"},
+    {"mode before the start is over", "", "device Output_Mode=1", ""},
+    {"mode", "started", "device Output_Mode=0", "tells Output_Mode=0"},
+    {"mode goes out with its apply row", "", "user Output_Mode=1", ""},
+    {"applied by somebody else before the service is up", "started; Output_Mode=0",
+     "device Output_Apply=", "of Layout:"},
+    {"applied by somebody else", "Output_Mode=0; device VideoServiceStarted=1",
+     "device Output_Apply=", "of Layout:; asks Waiting"},
+    {"3D shows the PIPs off", "Mode3D_Format=2; user PIP1_Status=1", "user Mode3D_Status=1",
+     "of Layout:; asks Open3DOnlyMainLayerEffectTip; visible labWindowOffDisplay_2"},
 };
 } // namespace
 
 class TestApplyInputs : public CaseTest
 {
-    /// On a model with a page for DVI 2.
+    Q_OBJECT
+    /// On a model with the pages of DVI 2, the page of the standard modes of HDMI 2 being open.
     EngineRig *makeRig() const override
     {
         auto *rig = new EngineRig;
-        rig->addRows({CONFIG_DVI2_Attributes});
+        rig->addRows({CONFIG_DVI2_Attributes, CONFIG_DVI2_EDID, CONFIG_HDMI2_EDIDStandard});
         return rig;
     }
     void begin() override
@@ -169,12 +198,50 @@ class TestApplyInputs : public CaseTest
         m_rig->reset();
         caseline::prepare(*m_rig, "MainLayer_InputSource=0 PIP1_InputSource=1 PIP2_InputSource=2 "
                                   "OutputWidth=1920 OutputHeight=1200 OutputRate=6000");
+        for (int layer = 0; layer < 3; ++layer)
+            m_rig->home->SetLayerRes(ENUM_MainWindowLayerIndex(layer), "untouched");
+        m_rig->home->SetScreenRes("untouched");
     }
     CaseLines lines() const override
     {
         static const CaseLines all = layerLines + rateLines + samplingLines + portLines + outputLines;
         return all;
     }
+
+private slots:
+    void productionTest();
 };
 
+/// The input under test has to lose a signal to fail, a port must have a link to pass, and only at that step.
+void TestApplyInputs::productionTest()
+{
+    QStringList told;
+    QObject listener;
+    connect(m_rig->engine, &ParaProcess::signal_Source_Stable, &listener, [&told] { told << "stable"; });
+    connect(m_rig->engine, &ParaProcess::signal_update_menuitem, &listener,
+            [&told](en_inout_test_index index, en_item_state state) {
+                told << QString("%1:%2").arg(index).arg(state);
+            });
+    const auto play = [this, &told](int step, const QString &reports) {
+        told.clear();
+        ProductionTest::m_cur_step = step;
+        ProductionTest::InputTestNumCur = INOUT_HDMI2;
+        runCaseLine(*m_rig, {"", "", reports, "of Layout:"});
+        ProductionTest::m_cur_step = FACTORY_STEP_NONE;
+        return told.join(' ');
+    };
+    const QString comes = "input 1 98 3 1920 1080 16667", goes = "input 1 98 0 0 0 0";
+    QCOMPARE(play(FACTORY_STEP_NONE, goes + "; " + comes), QString());
+    QCOMPARE(play(FACTORY_STEP_KEYS, goes + "; device PortLink+5=1"), QString());
+    QCOMPARE(play(FACTORY_STEP_IN_OUT, goes), QString());
+    // Another one between must not hide the loss, which is told once.
+    QCOMPARE(play(FACTORY_STEP_IN_OUT, comes + "; input 0 97 0 0 0 0; " + goes + "; " + goes),
+             QString("stable %1:%2").arg(INOUT_HDMI2).arg(ITEM_FAILED));
+    QCOMPARE(play(FACTORY_STEP_IN_OUT, "device PortLink+5=0"), QString());
+    QCOMPARE(play(FACTORY_STEP_IN_OUT, "device PortLink+5=1"),
+             QString("%1:%2").arg(INOUT_NET1 + 5).arg(ITEM_PASSED));
+}
+
 FPD_TEST(TestApplyInputs)
+
+#include "tst_applyinputs.moc"

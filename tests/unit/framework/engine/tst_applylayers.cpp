@@ -1,9 +1,9 @@
 // Which layers are on, in which order they stand, what they show, and the fixed layouts. The two PIPs are
 // one: each rule stands for one of them.
 
-#include "caseline.h"
-#include "layerrig.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
+#include "tests/unit/rig/layerrig.h"
 
 using namespace VASK;
 

@@ -1,8 +1,8 @@
 // The mosaic of two inputs and the backup of inputs, as the user and as the device bring their values; and
 // the mode of an EDID that is applied.
 
-#include "caseline.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
 

@@ -1,7 +1,6 @@
 // Pages that the engine opens, closes or fills by itself, what start-up puts on the home screen, and that the
 // production test has the screen to itself.
 
-#include "enginerig.h"
 #include "framework/input/keypadevent.h"
 #include "framework/productiontest/productiontest.h"
 #include "menu/itemindex.h"
@@ -9,6 +8,7 @@
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/enginerig.h"
 
 #include <QSignalSpy>
 #include <QTableView>

@@ -1,7 +1,6 @@
 // The presets: the one in use, names, what a take over and a dialog that is not shown leave behind, and
 // loading by number.
 
-#include "enginerig.h"
 #include "framework/engine/presets.h"
 #include "framework/input/keypadevent.h"
 #include "framework/object/globaltimer.h"
@@ -9,6 +8,8 @@
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/enginerig.h"
 #include "widget/dialog/dialog_scene.h"
 #include "widget/page/openpage.h"
 

@@ -1,9 +1,9 @@
 // Splicing: what it takes from the layers, what it gives back, and the area that this device loads.
 
-#include "caseline.h"
-#include "layerrig.h"
 #include "menu/itemindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
+#include "tests/unit/rig/layerrig.h"
 
 using namespace VASK;
 

@@ -1,12 +1,12 @@
 // Plain items, language, boot logo, services and inputs, and reports that come from another thread.
 
-#include "enginerig.h"
 #include "framework/engine/parachange.h"
 #include "framework/protocol/send/sendrow.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "netstatus.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/enginerig.h"
 
 #include <QThread>
 #include <QTranslator>

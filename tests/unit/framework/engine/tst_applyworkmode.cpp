@@ -1,12 +1,12 @@
 // The three work modes: what the menu, the home screen, the LEDs and the device get when one gives way to
 // another.
 
-#include "caseline.h"
 #include "framework/input/keyevent.h"
-#include "ledpanel.h"
 #include "menu/itemindex.h"
 #include "menu/ledindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
+#include "tests/unit/rig/ledpanel.h"
 
 using namespace VASK;
 

@@ -1,9 +1,9 @@
 // What the engine does at its start before the flash is read: what the last run left is put back, what it
 // kept is taken over; and the parts of the home screen that no other test looks at.
 
-#include "caseline.h"
 #include "menu/itemindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
 
 #include <QSignalSpy>
 

@@ -1,10 +1,10 @@
 // What may be dialled: every limit that other values move, at it and above it, in the states that move it;
 // the rates that can be chosen, and the rate that an output takes.
 
-#include "enginerig.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/enginerig.h"
 
 using namespace VASK;
 

@@ -1,30 +1,63 @@
 // What the flash snapshot says at start where its fields hold something unusual or can not be read, and what
 // the home screen makes of it.
 
-#include "enginerig.h"
 #include "framework/engine/presets.h"
 #include "menu/itemindex.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/caseline.h"
+#include "tests/unit/rig/datarows.h"
 
 #include <QTextCodec>
 
 using namespace VASK;
 
-class TestSnapshot : public QObject
+namespace
+{
+QString field(const char *address, int value)
+{
+    return QString("flash %1 %2%3")
+        .arg(address)
+        .arg(value & 0xff, 2, 16, QChar('0'))
+        .arg(value >> 8, 2, 16, QChar('0'));
+}
+/// Output and inputs as they come to the home screen.
+const QString signalsAre = "ScreenBrightness=42 Sync_Source=1 MainLayer_InputSource=0; " +
+                           field("f603", 1920) + "; " + field("f605", 1080) + "; " + field("f607", 5994) +
+                           "; input 0 97 3 1920 1080 40000 1; input 1 98 3 1920 1080 16667; "
+                           "input 8 254 3 1920 1080 20000; ";
+const QString isThere = "of Layout:; bright 42%; sync HDMI2; screen ";
+const CaseLines table{
+    {"unknown pattern is a colour", "", "flash 2005 33; start",
+     "of Layout:; leaves TestPatternFamily=0 Test_PureColor=5"},
+    {"kept HDCP is not overwritten", "HDCPMemory=0 HDCP=0", "flash 15630 00; start",
+     "of Layout:; leaves HDCP=0"},
+    {"frame sequential is not doubled", signalsAre + "flash 2400 a8; flash 2402 18; Sync_Status=0", "start",
+     isThere + "1920x1080@59.94; leaves OutputRate=5994"},
+    {"follows its source", signalsAre + "Sync_Status=1", "start",
+     isThere + "1920x1080@60; leaves OutputRate=6000"},
+    {"sending card, free", signalsAre + "flash 2400 a8; flash 2402 28; Sync_Status=0 WorkMode=2", "start",
+     isThere + "1920x1080i@25; leaves OutputRate=2500"},
+    {"sending card, synchronised", signalsAre + "Sync_Status=1 WorkMode=2", "start",
+     isThere + "1920x1080@50; leaves OutputRate=5000"},
+    {"layers",
+     "MainLayer_{Status=1 InputSource=1} PIP1_Status=0 PIP2_{Status=1 InputSource=2}; "
+     "input 1 98 3 1920 1080 20000; input 2 105 1 800 600 16667",
+     "flash 0 00; start",
+     "of Layout:; name HDMI2; picture 1920x1080@50; visible labWindowOffDisplay_2; name3 DVI; picture3 No "
+     "Signal"},
+    // Three tries for the first block.
+    {"unreadable block keeps what was read", "flash 209f 21; start; fault 3",
+     "flash 209f 2c; flash 2f10 07; start", "of Layout:; leaves Audio_Volume=33 PresetInUse=7"},
+};
+} // namespace
+
+class TestSnapshot : public CaseTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new EngineRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init();
+    CaseLines lines() const override { return table; }
 
-    void unknownPatternIsAColour();
-    void keptHdcpIsNotOverwritten();
+private slots:
     void presets();
-    void homeScreen_data();
-    void homeScreen();
-    void layersOfTheHomeScreen();
-    void unreadableBlockKeepsWhatWasRead();
     void cutImageTakesNothingAway();
     void deviceName_data();
     void deviceName();
@@ -33,52 +66,25 @@ private:
     /// Little-endian bytes at an address of the image.
     void put(int address, int value, int width)
     {
+        QByteArray bytes;
         for (int i = 0; i < width; ++i)
-            m_image[address + i] = char(value >> 8 * i);
+            bytes += char(value >> 8 * i);
+        m_rig->writeFlash(address, bytes);
     }
     void start()
     {
-        QFile flash(m_rig->statePath(hostlink::flashFile));
-        QVERIFY(flash.open(QIODevice::WriteOnly));
-        flash.write(m_image);
-        flash.close();
         m_rig->engine->InitReadParaFrom20M();
         m_rig->engine->InitializeMainWindow();
         m_rig->settle();
     }
-    QByteArray m_image;
-    EngineRig *m_rig = nullptr;
 };
-
-void TestSnapshot::init()
-{
-    m_rig->reset();
-    m_image = QByteArray(0xD14140, '\0');
-}
-
-void TestSnapshot::unknownPatternIsAColour()
-{
-    put(0x2005, 0x33, 1);
-    start();
-    QCOMPARE(m_rig->value(PARA_TestPatternFamily), QString("0"));
-    QCOMPARE(m_rig->value(MENU_Test_PureColor), QString("5"));
-}
-
-void TestSnapshot::keptHdcpIsNotOverwritten()
-{
-    m_rig->set(MENU_HDCPMemory, "0");
-    m_rig->set(MENU_HDCP, "0");
-    put(0x15630, 0, 1);
-    start();
-    QCOMPARE(m_rig->value(MENU_HDCP), QString("0"));
-}
 
 void TestSnapshot::presets()
 {
     auto preset = [this](int number, const QByteArray &name) {
         const int record = 0x3000 + 0x1200 * number;
         put(record + 10, 168, 1);
-        m_image.replace(record + 512, name.size(), name);
+        m_rig->writeFlash(record + 512, name);
     };
     preset(0, "Evening show");
     preset(2, QTextCodec::codecForName("GB2312")->fromUnicode(QString::fromUtf8("会议室")));
@@ -109,74 +115,6 @@ void TestSnapshot::presets()
     QCOMPARE(m_rig->value(PARA_PresetInUse), QString("2"));
 }
 
-void TestSnapshot::homeScreen_data()
-{
-    addColumns<QString, int, QString, QString, int>({"workMode", "format", "sync", "resolution", "rate"});
-    addRow("frame sequential is not doubled", "0", 24, "0", "1920x1080@59.94", 5994);
-    addRow("follows its source", "0", 0, "1", "1920x1080@60", 6000);
-    addRow("sending card, free", "2", 40, "0", "1920x1080i@25", 2500);
-    addRow("sending card, synchronised", "2", 0, "1", "1920x1080@50", 5000);
-}
-
-void TestSnapshot::homeScreen()
-{
-    QFETCH(QString, workMode);
-    QFETCH(int, format);
-    QFETCH(QString, sync);
-    put(0xF603, 1920, 2);
-    put(0xF605, 1080, 2);
-    put(0xF607, 5994, 2);
-    put(0x2400, format ? 168 : 0, 1);
-    put(0x2402, format, 1);
-    m_rig->set(MENU_WorkMode, workMode);
-    m_rig->set(MENU_Sync_Status, sync);
-    m_rig->set(MENU_Sync_Source, "1");
-    m_rig->set(MENU_MainLayer_InputSource, "0");
-    m_rig->input(0, 97, 3, 1920, 1080, 40000);
-    m_rig->process(ENUM_MenuIndex(PARA_InputRecordFirst + 1), 1);
-    m_rig->input(1, 98, 3, 1920, 1080, 16667);
-    m_rig->input(8, 254, 3, 1920, 1080, 20000);
-    m_rig->set(MENU_ScreenBrightness, "42");
-    start();
-    QTEST(m_rig->shown("labScreenRes"), "resolution");
-    QTEST(m_rig->value(PARA_OutputRate).toInt(), "rate");
-    QCOMPARE(m_rig->shown("labBright"), QString("42%"));
-    QCOMPARE(m_rig->shown("labSynName"), QString("HDMI2"));
-    QVERIFY(ParaProcess::init_20m_flg);
-}
-
-void TestSnapshot::layersOfTheHomeScreen()
-{
-    m_rig->set(MENU_MainLayer_Status, "1");
-    m_rig->set(MENU_MainLayer_InputSource, "1");
-    m_rig->set(MENU_PIP1_Status, "0");
-    m_rig->set(MENU_PIP2_Status, "1");
-    m_rig->set(MENU_PIP2_InputSource, "2");
-    m_rig->input(1, 98, 3, 1920, 1080, 20000);
-    m_rig->input(2, 105, 1, 800, 600, 16667);
-    start();
-    QCOMPARE(m_rig->shown("labLayerSrc1_Name"), QString("HDMI2"));
-    QCOMPARE(m_rig->shown("labLayerSrc1_Res"), QString("1920x1080@50"));
-    QVERIFY(!m_rig->home->findChild<QLabel *>("labWindowOffDisplay_2")->isHidden());
-    QCOMPARE(m_rig->shown("labLayerSrc3_Name"), QString("DVI"));
-    QCOMPARE(m_rig->shown("labLayerSrc3_Res"), QString("No Signal"));
-}
-
-void TestSnapshot::unreadableBlockKeepsWhatWasRead()
-{
-    put(0x209F, 33, 1);
-    start();
-    QFile fault(m_rig->statePath(hostlink::flashFaultFile));
-    QVERIFY(fault.open(QIODevice::WriteOnly));
-    fault.write("3"); // three tries for the first block
-    fault.close();
-    put(0x209F, 44, 1);
-    put(0x2F10, 7, 1);
-    start();
-    QCOMPARE(m_rig->value(MENU_Audio_Volume), QString("33"));
-    QCOMPARE(m_rig->value(PARA_PresetInUse), QString("7"));
-}
-
 /// Presets, address and name are read from the flash anew: of one that ends too early they stay as they are.
 void TestSnapshot::cutImageTakesNothingAway()
 {
@@ -192,7 +130,7 @@ void TestSnapshot::cutImageTakesNothingAway()
     const QString address = m_rig->value(MENU_Net_IPAddress);
     QCOMPARE(address, QString("10.1.2.3"));
 
-    m_image.truncate(0x2010);
+    QVERIFY(QFile::resize(m_rig->statePath(hostlink::flashFile), 0x2010));
     start();
     m_rig->set(MENU_Net_IPAddress, "10.9.9.9");
     m_rig->engine->UpdateIp();

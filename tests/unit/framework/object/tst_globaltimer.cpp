@@ -7,7 +7,7 @@
 #include "menu/keycodes.h"
 #include "menu/objectindex.h"
 #include "tests/testprogram.h"
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/rig/pagerig.h"
 #include "widget/page/openpage.h"
 
 #include <QDialog>
@@ -77,14 +77,14 @@ private slots:
         QVERIFY(BrightnessEdit::runs());
         QApplication::setActiveWindow(menu);
         timeIsUp();
-        QCOMPARE(m_rig->device->sent, QStringList{"SavetoRVCard="});
+        QCOMPARE(m_rig->device->sent.take(), QStringList{"SavetoRVCard="});
         QVERIFY(!BrightnessEdit::runs());
 
         m_rig->reset();
         BrightnessEdit::begin();
         QApplication::setActiveWindow(nullptr);
         timeIsUp();
-        QCOMPARE(m_rig->device->sent, QStringList{"SavetoRVCard="});
+        QCOMPARE(m_rig->device->sent.take(), QStringList{"SavetoRVCard="});
         QVERIFY(!BrightnessEdit::runs());
         QVERIFY(m_rig->home->isVisible());
     }
@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(m_rig->shown(), shown);
         QVERIFY(active->isVisible());
         QVERIFY(BrightnessEdit::runs());
-        QCOMPARE(m_rig->device->sent, QStringList{});
+        QCOMPARE(m_rig->device->sent.take(), QStringList{});
     }
 
     void anotherWindowCanBeHome()

@@ -1,10 +1,8 @@
 // The bus: the header of a message, what each pair of labels does, and the road of packets in both directions
 // against a far end that this test plays.
 
-#include "datarows.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"
-#include "frames.h"
 #include "framework/protocol/bus/apipcservice.h"
 #include "framework/protocol/bus/apipcsocket.h"
 #include "framework/protocol/bus/ipcheaderinfo.h"
@@ -12,6 +10,8 @@
 #include "menu/objectindex.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QDir>
 #include <QFileInfo>

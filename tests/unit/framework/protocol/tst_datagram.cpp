@@ -1,9 +1,9 @@
 // What is taken and what is dropped of the datagrams that come up from the bus.
 
-#include "datarows.h"
-#include "frames.h"
 #include "framework/protocol/bus/datagram.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QtTest>
 

@@ -1,13 +1,13 @@
 // Cables and host session: every state of the four values, when the panel may return home, and how long a
 // silent host keeps the device.
 
-#include "datarows.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
 #include "framework/protocol/link/hostsession.h"
 #include "framework/protocol/link/linksupervision.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
 
 #include <QSignalSpy>
 #include <QtTest>

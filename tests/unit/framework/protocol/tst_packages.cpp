@@ -1,11 +1,11 @@
 // Packets to the byte: what the builders make, what is read from a reply, and what a damaged frame does.
 
-#include "datarows.h"
-#include "frames.h"
 #include "framework/protocol/bus/datagram.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QtTest>
 #include <memory>

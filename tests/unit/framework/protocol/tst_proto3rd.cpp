@@ -2,10 +2,8 @@
 // reader of the reports, and which requests an answer retires.
 
 #include "boardio.h"
-#include "datarows.h"
 #include "fpd_hostlink.h"
 #include "fpd_hostvalues.h"
-#include "frames.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/productiontest/productiontest.h"
 #include "framework/protocol/link/proto3rd.h"
@@ -19,6 +17,8 @@
 #include "menu/objectindex.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/frames.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 // What leaves for the device when an item changes, where no row of a page shows it: values at the limits,
 // items and inputs without a page; and what is refused.
 
-#include "datarows.h"
-#include "sendbench.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/sendbench.h"
 
 #include "menu/menutypes.h"
 #include "sysconf.h"

@@ -1,7 +1,7 @@
 // How gamma leaves: the exponent and the table for the receiving cards, the tables of the sending side.
 
-#include "sendbench.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/sendbench.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // A knob that turns: how many packets leave, when, and that the last value is among them. Time is driven: the
 // knob steps and the send timer fires when the test says so.
 
-#include "sendbench.h"
+#include "tests/unit/rig/sendbench.h"
 
 #include "framework/input/knobturn.h"
 #include "tests/testprogram.h"

@@ -1,8 +1,6 @@
 // What the device reports becomes values of items, where no report to the running panel shows it; the tables
 // of the inputs, and the self test.
 
-#include "datarows.h"
-#include "frames.h"
 #include "framework/input/keypadevent.h"
 #include "framework/productiontest/productiontest.h"
 #include "framework/productiontest/selfchecklist.h"
@@ -13,7 +11,9 @@
 #include "menu/keycodes.h"
 #include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
-#include "tests/unit/framework/engine/enginerig.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/enginerig.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QtTest>
 

@@ -1,8 +1,8 @@
 // The register catalogue: a builder of each form to the byte, and what must hold of every row.
 
-#include "frames.h"
 #include "framework/protocol/packet/tgprotocolparser3rd.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QMap>
 #include <QtTest>

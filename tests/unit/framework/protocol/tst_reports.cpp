@@ -1,10 +1,10 @@
 // The queue of reports: what is folded, in which order reports are read; and the requests that wait.
 
-#include "datarows.h"
-#include "frames.h"
 #include "framework/protocol/link/requestlist.h"
 #include "framework/protocol/receive/packagehandler.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/datarows.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QElapsedTimer>
 #include <QSemaphore>

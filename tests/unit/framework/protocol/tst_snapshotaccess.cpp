@@ -2,11 +2,11 @@
 
 #include "boardio.h"
 #include "fpd_hostlink.h"
-#include "frames.h"
 #include "framework/protocol/link/cabinetnames.h"
 #include "framework/protocol/snapshot/driverutil.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QDir>
 #include <QFileInfo>

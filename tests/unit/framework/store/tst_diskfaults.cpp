@@ -3,7 +3,7 @@
 // everything.
 #include "fpd_hostlink.h"
 #include "tests/testprogram.h"
-#include "tests/unit/framework/store/storerig.h"
+#include "tests/unit/rig/storerig.h"
 
 #include <cerrno>
 

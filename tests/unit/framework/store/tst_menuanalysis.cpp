@@ -1,7 +1,7 @@
 // The item store: what it remembers, what it writes and when.
 
 #include "tests/testprogram.h"
-#include "tests/unit/framework/store/storerig.h"
+#include "tests/unit/rig/storerig.h"
 
 #include <thread>
 

@@ -2,7 +2,7 @@
 
 #include "tests/fulldisk.h"
 #include "tests/testprogram.h"
-#include "tests/unit/framework/store/storerig.h"
+#include "tests/unit/rig/storerig.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>

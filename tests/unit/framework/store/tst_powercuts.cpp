@@ -3,7 +3,7 @@
 // FPD_POWERCUTS=10000 tries so many, and FPD_POWERCUT=NAME the one of that name.
 #include "tests/testprogram.h"
 #include "tests/unit/framework/store/diskmodel.h"
-#include "tests/unit/framework/store/storerig.h"
+#include "tests/unit/rig/storerig.h"
 
 #include <QRandomGenerator>
 #include <functional>

@@ -2,10 +2,10 @@
 // test program that is a table of them.
 #pragma once
 
-#include "enginerig.h"
-#include "ledpanel.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
+#include "tests/unit/rig/enginerig.h"
+#include "tests/unit/rig/ledpanel.h"
 
 namespace VASK
 {
@@ -18,17 +18,19 @@ struct CaseLine {
     QString before;
     /// Steps, parted by semicolons: "user Sync_Status=1" or "device Sync_Status=1"; "input NUMBER CODE STATE
     /// WIDTH HEIGHT PERIOD [INTERLACED]", an input as the device reports it; "mode CODE", a display mode that
-    /// it reports; "started", the device's start is over.
+    /// it reports; "started", the device's start is over; "flash ADDRESS BYTES" in hex, "fault" for so
+    /// many reads of it, and "start" reads it.
     QString change;
     /// Parts, parted by semicolons. "sends", "tells" and "reloads" name lines, "Sync_Status=1
     /// OutputFrameRate=60"; "of Sync_Status Sync_Source:" with lines looks only at what is sent of those
     /// items. "reloading" names some of the reloads. "asks" names the keys of messages, which "answers 0"
     /// refuses. "leaves" names states as before, and "SendingCard!" or "SendingCard?" for an item that is
-    /// marked or not; "text" an item and its value with spaces. "screen", "ip", "sync", "bright", "name" and
-    /// "picture" (of PIP 1 with a 2 behind, of PIP 2 with a 3) are texts of the home screen, "visible" and
-    /// "hidden" labels of it, "ports" tells a letter for each of its ports, disabled, enabled, backup, or a
-    /// dot. "lit" and "dark" name LEDs, "looks" what rows are told beside their values. Nothing else is sent,
-    /// told or asked; reloads count where they are named.
+    /// marked or not; "text" an item and its value with spaces, "options" a list and its rows. "priority" is
+    /// the panel's choice of a way to a computer. "screen", "ip", "sync", "bright", "name" and "picture" (of
+    /// PIP 1 with a 2 behind, of PIP 2 with a 3) are texts of the home screen, "visible" and "hidden" labels
+    /// of it, "ports" tells a letter for each of its ports, disabled, enabled, backup, or a dot. "lit" and
+    /// "dark" name LEDs, "looks" what rows are told beside their values. Nothing else is sent, told or asked;
+    /// reloads count where they are named.
     QString outcome;
 };
 using CaseLines = QVector<CaseLine>;

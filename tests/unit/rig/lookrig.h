@@ -7,7 +7,7 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
-#include "tests/unit/widget/pagerig.h"
+#include "tests/unit/rig/pagerig.h"
 #include "widget/elidinglabel.h"
 
 #include <QPushButton>

@@ -2,8 +2,8 @@
 // without a signal, and a main layer that could also show the mosaic.
 #pragma once
 
-#include "enginerig.h"
 #include "menu/itemindex.h"
+#include "tests/unit/rig/enginerig.h"
 
 namespace VASK
 {

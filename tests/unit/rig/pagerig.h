@@ -1,34 +1,16 @@
-// The menu as a user meets it, with rows that note what a page asks of them: a store with the factory items,
-// the engine, the home screen, all pages that are built at start, and a protocol object that notes what is
-// sent. Speaks like a user: press a key, turn the knob, look which screen is shown.
+// The menu as a user meets it, with rows that note what a page asks of them: the panel with all pages that
+// are built at start. Speaks like a user: press a key, turn the knob, look which screen is shown.
 #pragma once
 
-#include "boardio.h"
 #include "framework/engine/brightnessedit.h"
-#include "framework/engine/paraprocess.h"
+#include "framework/input/keypadevent.h"
 #include "framework/input/knobturn.h"
-#include "framework/object/transport.h"
-#include "framework/protocol/link/protocolinterface.h"
-#include "framework/store/menuanalysis.h"
-#include "framework/store/menushown.h"
-#include "menu/itemindex.h"
 #include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "menu/pageindex.h"
-#include "testkit/names/itemnames.h"
-#include "widget/home/mainwindow_k2860.h"
-#include "widget/page/directoryengineer.h"
-#include "widget/page/menudirectoty.h"
+#include "tests/unit/rig/panelrig.h"
 #include "widget/page/menuitemfactory.h"
 #include "widget/page/openpage.h"
 #include "widget/row/pagerow.h"
-
-#include <QApplication>
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QtTest>
 
 namespace VASK
 {
@@ -120,39 +102,17 @@ private:
     bool m_hasParts;
 };
 
-class NotingProtocol : public ProtocolInterface
-{
-public:
-    NotingProtocol() : ProtocolInterface(ENUM_PROTOCOINTERFER_3RD) {}
-    void slot_ValueChanged(QString value, ENUM_MenuIndex index) override
-    {
-        sent << itemnames::line(index, value);
-    }
-    QStringList sent;
-};
-
-class PageRig : public QObject
+class PageRig : public PanelRig
 {
 public:
     enum Rows { Noting, Real };
     explicit PageRig(Rows rows = Noting)
     {
-        qputenv("FPD_STATE", m_state.path().toLocal8Bit());
-        for (const char *folder : {"/usr/vask/etc/fpd/config", "/etc/init.d"})
-            QDir().mkpath(m_state.path() + folder);
-        enter(ENUM_MENUANALYSIS, store = new MenuAnalysis(ENUM_MENUANALYSIS));
-        store->initlize();
-        enter(ENUM_TRANSPORT, new transport(ENUM_TRANSPORT));
-        enter(ENUM_PROTOCOINTERFER_3RD, device = new NotingProtocol);
-        enter(ENUM_PARAPROCESS, engine = new ParaProcess(ENUM_PARAPROCESS));
-        enter(ENUM_MAIN_WINDOW, home = new MainWindow(ENUM_MAIN_WINDOW));
         if (rows == Real)
             built = DirectoryEngineer(ENUM_DIRECTORY_ENGINEER).CreateAllMenu();
         else
             for (ENUM_ConfigIndex config : builtPages())
                 enter(g_config[config].object, makePage(g_config[config], config));
-        connect(&m_closer, &QTimer::timeout, this, [this] { answerMessage(); });
-        m_closer.start(0);
     }
 
     /// A page with noting rows.
@@ -170,10 +130,7 @@ public:
     /// The home screen alone, the cursor of every page at the top, the factory items.
     void reset()
     {
-        for (auto item = g_MenuXmlConfig.cbegin(); item != g_MenuXmlConfig.cend(); ++item) {
-            ST_ItemInfo factory = item.value();
-            store->updataMenuItem(item.key(), factory);
-        }
+        resetItems();
         OpenPage::hideAll();
         for (ENUM_ConfigIndex config : builtPages()) {
             MenuDirectory *shown = page(g_config[config].object);
@@ -186,7 +143,7 @@ public:
         BrightnessEdit::end();
         home->show();
         notes().clear();
-        device->sent.clear();
+        device->sent.take();
         messages.clear();
         answer = 1;
         answering = true;
@@ -245,31 +202,6 @@ public:
         return visible;
     }
 
-    MenuAnalysis *store = nullptr;
-    ParaProcess *engine = nullptr;
-    MainWindow *home = nullptr;
-    NotingProtocol *device = nullptr;
-    bool built = false;    ///< real rows: could all be built?
-    QStringList messages;  ///< the texts of the message boxes that came up
-    int answer = 1;        ///< of every one of them
-    bool answering = true; ///< false: message boxes stay
-
-private:
-    static void enter(ENUM_ObjectIndex index, VaskObject *object)
-    {
-        ObjectPool::getInstance()->InsertData(index, object);
-    }
-    void answerMessage()
-    {
-        auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!box || !answering)
-            return;
-        const auto *text = box->findChild<QLabel *>("lab_Info");
-        messages << (text ? text->text() : QString());
-        box->done(answer);
-    }
-
-    QTemporaryDir m_state;
-    QTimer m_closer;
+    bool built = false; ///< real rows: could all be built?
 };
 } // namespace VASK

@@ -1,7 +1,8 @@
-#include "caseline.h"
+#include "tests/unit/rig/caseline.h"
 
 #include "framework/input/keyevent.h"
 #include "menu/ledindex.h"
+#include "netstatus.h"
 
 namespace VASK
 {
@@ -83,6 +84,14 @@ void step(EngineRig &rig, const QString &text)
         rig.input(number(1), number(2), number(3), number(4), number(5), number(6));
         rig.process(ENUM_MenuIndex(first + interlaced), number(7));
         rig.fromDevice(ENUM_MenuIndex(first + period), words.value(6));
+    } else if (words[0] == "flash") {
+        rig.writeFlash(words.value(1).toInt(nullptr, 16), QByteArray::fromHex(words.value(2).toLatin1()));
+    } else if (words[0] == "fault") {
+        QFile fault(rig.statePath(hostlink::flashFaultFile)); // so many reads fail
+        QVERIFY(fault.open(QIODevice::WriteOnly) && fault.write(words.value(1).toLatin1()) > 0);
+    } else if (words[0] == "start") {
+        rig.engine->InitReadParaFrom20M();
+        rig.engine->InitializeMainWindow();
     } else if (words[0] == "mode") {
         rig.engine->UpdataDispMode(number(1));
     } else if (words[0] == "started") {
@@ -146,6 +155,12 @@ void comparePart(EngineRig &rig, const LedPanel *leds, const QString &verb, cons
         QCOMPARE(rig.looks, wordsOf(rest));
     } else if (verb == "text") {
         QCOMPARE(rig.value(itemnames::item(rest.section('=', 0, 0))), rest.section('=', 1));
+    } else if (verb == "options") {
+        const ST_ItemInfo list = rig.info(itemnames::item(rest.section('=', 0, 0)));
+        QCOMPARE(list.params.values().join(' '), rest.section('=', 1));
+        QCOMPARE(list.params1.keys(), list.params.keys());
+    } else if (verb == "priority") {
+        QCOMPARE(QString::number(get_pc_connect_priority()), rest);
     } else if (verb == "ports") {
         comparePorts(rig, rest);
     } else if (verb == "lit" || verb == "dark") {

@@ -2,7 +2,6 @@
 // test says, and the device has six inputs.
 #pragma once
 
-#include "frames.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
@@ -12,6 +11,7 @@
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 #include "testkit/names/itemnames.h"
+#include "tests/unit/rig/frames.h"
 
 #include <QtTest>
 
