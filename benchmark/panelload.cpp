@@ -1,13 +1,14 @@
 // What the whole panel costs, measured from outside with the floor beside each number. One line a question:
 // name, measured, floor, ratio.
+#include "benchmark/flood.h"
 #include "benchmark/tickspy.h"
 #include "fpd_hostlink.h"
 #include "framework/protocol/packet/packageframe.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/thread/ctimer.h"
 #include "menu/itemindex.h"
-#include "testkit/flood.h"
 #include "testkit/hexvalue.h"
+#include "testkit/loglines.h"
 #include "testkit/menuwalk.h"
 #include "testkit/procfs.h"
 
@@ -275,7 +276,7 @@ void measureStore(Panel &panel)
     walk.go({MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume});
     panel.mark();
     walk.turn(Right, 1);
-    panel.waitForLog("slot_updateXml m_activityElementList");
+    panel.waitForLog(loglines::storeChanged);
     QThread::msleep(300);
     // Each stage of the writing is logged with its time.
     QVector<QTime> times;

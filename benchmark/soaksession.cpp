@@ -1,7 +1,7 @@
 #include "benchmark/soaksession.h"
 
+#include "benchmark/flood.h"
 #include "menu/keycodes.h"
-#include "testkit/flood.h"
 
 #include <QMap>
 #include <QVector>

@@ -5,6 +5,7 @@
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 
 #include <QRegularExpression>
 #include <QThread>
@@ -69,7 +70,7 @@ bool MenuWalk::turn(Direction direction, int steps, int speed)
 bool MenuWalk::press(const QString &key)
 {
     m_panel.mark();
-    return m_panel.press(key) && m_panel.waitForLog("TIMER_CancelTimer") && m_panel.settle();
+    return m_panel.press(key) && m_panel.waitForLog(loglines::released) && m_panel.settle();
 }
 
 bool MenuWalk::openMenu(ENUM_ConfigIndex root)
@@ -146,7 +147,7 @@ bool MenuWalk::enter(ENUM_MenuIndex item)
             if (asked() && !answer(true))
                 return false;
             opened(row.subPage);
-            return m_panel.waitForLog("objID:");
+            return m_panel.waitForLog(loglines::rowEntered);
         }
     }
     return true;
@@ -154,7 +155,9 @@ bool MenuWalk::enter(ENUM_MenuIndex item)
 
 bool MenuWalk::asked()
 {
-    return !m_panel.logLines("str: ").filter(QRegularExpression("^str: ")).isEmpty();
+    return !m_panel.logLines(loglines::messageUp)
+                .filter(QRegularExpression(QString("^") + loglines::messageUp))
+                .isEmpty();
 }
 
 bool MenuWalk::answer(bool yes)
@@ -187,7 +190,7 @@ bool MenuWalk::isHome()
 
 bool MenuWalk::atHome()
 {
-    return !m_panel.logLines("MainWindow: key:").isEmpty();
+    return !m_panel.logLines(loglines::homeKey).isEmpty();
 }
 
 bool MenuWalk::showsTitle()

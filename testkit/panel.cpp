@@ -2,6 +2,7 @@
 
 #include "fpd_hostlink.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "testkit/names/itemnames.h"
 #include "testkit/procfs.h"
 
@@ -96,7 +97,7 @@ bool Panel::powerDevice(const QStringList &wrapper)
 bool Panel::start()
 {
     mark();
-    return ask({"panel", "start"}).ok && waitForLog("init OK!");
+    return ask({"panel", "start"}).ok && waitForLog(loglines::started);
 }
 
 bool Panel::startReady()

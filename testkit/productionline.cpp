@@ -1,6 +1,7 @@
 #include "testkit/productionline.h"
 
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 
 #include <QRegularExpression>
 
@@ -91,7 +92,9 @@ bool ProductionLine::passInOut()
 /// The message box logs its text.
 bool ProductionLine::saved()
 {
-    return !m_panel.logLines("str: ").filter(QRegularExpression("^str: ")).isEmpty();
+    return !m_panel.logLines(loglines::messageUp)
+                .filter(QRegularExpression(QString("^") + loglines::messageUp))
+                .isEmpty();
 }
 
 QString ProductionLine::table(Step step)

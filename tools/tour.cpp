@@ -6,7 +6,7 @@
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
 #include "testkit/contactsheet.h"
-#include "testkit/menutour.h"
+#include "tools/menutour.h"
 
 #include <QApplication>
 #include <QDir>

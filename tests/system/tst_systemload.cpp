@@ -1,7 +1,5 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
 #include "menu/itemindex.h"
-#include "testkit/flood.h"
-#include "testkit/names/itemnames.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -93,62 +91,10 @@ private slots:
         QVERIFY(m_panel.waitFor("100%"));
     }
 
-    void nothingOfAFloodIsLost()
-    {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-        constexpr int perSecond = 500;
-#else
-        constexpr int perSecond = 4000;
-#endif
-        constexpr int floodMs = 10000;
-        QVERIFY(m_walk.openMenu());
-        Flood flood(m_panel);
-        QVERIFY(flood.start(perSecond));
-        pressKeysFor(flood, floodMs);
-        const bool ended = flood.stop();
-        QCOMPARE(flood.lost(), QString());
-        QVERIFY(ended);
-        QVERIFY2(flood.pushed() > perSecond, qPrintable(QString::number(flood.pushed())));
-
-        // What was read last is what the store keeps.
-        const QMap<int, QString> items = flood.expected();
-        const auto differences = [&] {
-            QStringList list;
-            const QMap<QString, QString> stored = m_panel.storedFields();
-            for (auto item = items.begin(); item != items.end(); ++item)
-                if (stored.contains(itemnames::name(item.key())) &&
-                    stored[itemnames::name(item.key())] != item.value())
-                    list += QString("%1: %2, not %3")
-                                .arg(itemnames::name(item.key()), stored[itemnames::name(item.key())],
-                                     item.value());
-            return list.join('\n');
-        };
-        const QMap<QString, QString> stored = m_panel.storedFields();
-        QVERIFY(std::count_if(items.keyBegin(), items.keyEnd(),
-                              [&](int item) { return stored.contains(itemnames::name(item)); }) > 60);
-        m_panel.waitUntil([&] { return differences().isEmpty(); });
-        QCOMPARE(differences(), QString());
-    }
-
 private:
     bool push(const Pushed &report)
     {
         return m_panel.ask({"push", report.address, report.data, "--device", report.device}).ok;
-    }
-    /// Turns the knob on a page and opens others.
-    void pressKeysFor(Flood &flood, int milliseconds)
-    {
-        QElapsedTimer passed;
-        passed.start();
-        for (int i = 0; !passed.hasExpired(milliseconds); ++i) {
-            QVERIFY(m_panel.turn(i % 2 ? Left : Right));
-            if (i % 20 == 10) {
-                QVERIFY(m_panel.press(keys::Ok));
-                QVERIFY(m_panel.press(keys::Esc));
-            }
-            QTest::qWait(25);
-            QVERIFY(flood.readLog());
-        }
     }
 };
 

@@ -1,6 +1,7 @@
 // How the panel starts, with everything in place and with parts of the board missing.
 #include "menu/itemindex.h"
 #include "testkit/homescreen.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -41,7 +42,7 @@ private slots:
     {
         QVERIFY(m_fresh->start());
         QVERIFY(QFile::exists(m_fresh->file("/etc/init.d/flag_fpdspi")));
-        QCOMPARE(m_fresh->logLines("init OK!").size(), 1);
+        QCOMPARE(m_fresh->logLines(loglines::started).size(), 1);
         QVERIFY(m_fresh->waitUntil([this] { return !m_fresh->stored(1).isEmpty(); }));
         QVERIFY(QFile::exists(m_fresh->file(configFolder + "/config_factory.xml")));
         QVERIFY(m_fresh->waitFor("K2860", QRect(25, 0, 118, 24)));
@@ -53,9 +54,9 @@ private slots:
         m_fresh->mark();
         QVERIFY(m_fresh->ask({"panel", "start"}).ok);
         QVERIFY(m_fresh->waitUntil([this] { return m_fresh->logLines("sleep end!").size() >= 10; }));
-        QCOMPARE(m_fresh->logLines("init OK!").size(), 0);
+        QCOMPARE(m_fresh->logLines(loglines::started).size(), 0);
         QVERIFY(m_fresh->ask({"flag", "give"}).ok);
-        QVERIFY(m_fresh->waitForLog("init OK!"));
+        QVERIFY(m_fresh->waitForLog(loglines::started));
     }
 
     void startsWithoutKeypad()
@@ -71,9 +72,9 @@ private slots:
         QVERIFY(QDir(m_fresh->file(configFolder)).removeRecursively());
         QVERIFY(m_fresh->start());
         QCOMPARE(m_fresh->logLines("is not a Dir").size(), 1);
-        QCOMPARE(m_fresh->logLines("main:load qm failed!").size(), 1);
+        QCOMPARE(m_fresh->logLines(loglines::textsMissing).size(), 1);
         QVERIFY(m_fresh->press(keys::Ok));
-        QVERIFY(m_fresh->waitForLog("TIMER_CancelTimer ==  34"));
+        QVERIFY(m_fresh->waitForLog(loglines::okReleased));
     }
 
     /// The texts of the tables are shown then.
@@ -97,7 +98,7 @@ private slots:
             QVERIFY(texts.seek(from) && texts.write(QByteArray(to - from, '\x5a')) > 0);
         texts.close();
         QVERIFY(m_fresh->start() && m_fresh->ask({"wait", "ready"}).ok);
-        QCOMPARE(m_fresh->logLines("main:load qm failed!").size(), 1);
+        QCOMPARE(m_fresh->logLines(loglines::textsMissing).size(), 1);
         QVERIFY(m_fresh->press(keys::Ok));
         QVERIFY(m_fresh->waitFor("LayerSettings"));
     }
@@ -140,7 +141,7 @@ private slots:
         QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
         QVERIFY(m_fresh->start());
         QVERIFY(m_fresh->press(keys::Ok));
-        QVERIFY(m_fresh->waitForLog("TIMER_CancelTimer ==  34"));
+        QVERIFY(m_fresh->waitForLog(loglines::okReleased));
         QVERIFY(!QFile::exists(folder + "/config.xml"));
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
@@ -152,7 +153,7 @@ private slots:
         QVERIFY(!m_fresh->press(keys::Ok));
         QVERIFY(m_fresh->start());
         QVERIFY(m_fresh->press(keys::Ok));
-        QVERIFY(m_fresh->waitForLog("TIMER_CancelTimer ==  34"));
+        QVERIFY(m_fresh->waitForLog(loglines::okReleased));
     }
 
     void runLeavesNothingRunning()

@@ -1,5 +1,6 @@
 // The words that read the panel and act on what they read, beside the running panel: its LCD as data, waits,
 // rules, the store and the walk through the menu.
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -270,7 +271,7 @@ void TestSystemWords::waitsEndWithWhatTheyWaitFor()
     };
     QVERIFY(waits({"text", "主菜单"}, [this] { return m_panel.press("ok"); }));
     QVERIFY(waits({"text", "主菜单", "--gone"}, [this] { return m_panel.press("esc"); }));
-    QVERIFY(waits({"log", "TIMER_CancelTimer ==  34"}, [this] { return m_panel.press("ok"); }));
+    QVERIFY(waits({"log", loglines::okReleased}, [this] { return m_panel.press("ok"); }));
     QVERIFY(waits({"value", "ScreenBrightness", "61"}, [this] {
         return m_panel.ask({"go", "屏幕亮度"}).ok && keys("ok right:1 ok");
     }));

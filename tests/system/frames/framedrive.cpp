@@ -1,6 +1,7 @@
 #include "tests/system/frames/framedrive.h"
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
+#include "testkit/loglines.h"
 
 #include <QCryptographicHash>
 #include <QElapsedTimer>
@@ -112,7 +113,7 @@ bool FrameDrive::play(const QString &word)
     if (messages.hasMatch()) {
         const int count = qMax(1, messages.captured(1).toInt());
         return m_panel.waitUntil([this, count] {
-            return m_panel.logLines("slot_CloseDialog:").size() >= count;
+            return m_panel.logLines(loglines::messageClosed).size() >= count;
         }) && m_panel.settle();
     }
     const bool isAnswer = word == "yes" || word == "no";

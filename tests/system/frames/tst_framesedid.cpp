@@ -2,6 +2,7 @@
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
@@ -72,7 +73,7 @@ QStringList TestFramesEdid::applied()
 {
     m_panel.ask({"writes", "--clear"});
     if (!m_walk.moveTo(MENU_HDMI1_EDIDApply) || !m_walk.press(keys::Ok) ||
-        !m_panel.waitForLog("slot_CloseDialog:"))
+        !m_panel.waitForLog(loglines::messageClosed))
         return {"the row does not follow"};
     return m_drive.sent(1);
 }

@@ -2,6 +2,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
+#include "testkit/loglines.h"
 
 #include <QRegularExpression>
 #include <QSize>
@@ -181,7 +182,7 @@ bool KeyCheck::heard()
 {
     // Reports are worked off in their order; of a service that there is not the panel only takes note.
     m_panel.mark();
-    return m_panel.ask({"push", "14000000", "03"}).ok && m_panel.waitForLog("StartComplate param invalid!") &&
+    return m_panel.ask({"push", "14000000", "03"}).ok && m_panel.waitForLog(loglines::unknownService) &&
            m_panel.settle();
 }
 
@@ -264,6 +265,6 @@ QString KeyCheck::wayBack()
 bool KeyCheck::cursorLeadsTo(ENUM_ConfigIndex child)
 {
     const int row = rowOf(m_walk.table(), child);
-    return row == 0 ? m_walk.turn(Right, 1) && m_panel.waitForLog(" ###Right 1")
-                    : m_walk.turn(Left, 1) && m_panel.waitForLog(QString("left: %1").arg(row - 1));
+    return row == 0 ? m_walk.turn(Right, 1) && m_panel.waitForLog(loglines::cursorRight)
+                    : m_walk.turn(Left, 1) && m_panel.waitForLog(QString(loglines::cursorLeft).arg(row - 1));
 }

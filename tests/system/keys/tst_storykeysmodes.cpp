@@ -3,6 +3,7 @@
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/pageindex.h"
+#include "testkit/loglines.h"
 #include "tests/system/keys/keycheck.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -106,7 +107,7 @@ private slots:
         QVERIFY(m_panel.hold(allKeys.join('+')));
         // Pressed and released, pressed and held, and the two chords; each finds nobody.
         for (int key : {KEY_MAIN, KEY_INPUT8, KEY_PRESET, KEY_KNOB_RIGHT, KEY_LOCK, KEY_SERVICE})
-            QVERIFY2(m_panel.waitForLog(QString("null == activeWid %1").arg(key)),
+            QVERIFY2(m_panel.waitForLog(QString(loglines::nobodysKey).arg(key)),
                      qPrintable(QString::number(key)));
         QCOMPARE(m_panel.logLines("key:"), QStringList());
         QCOMPARE(m_panel.writes(), QStringList());
@@ -115,8 +116,8 @@ private slots:
         QCOMPARE(m_check.ledsShow("0000 0000 0000 0000"), QString());
         QVERIFY(isBlack(m_panel.screen()));
         // A message is a window that opens and closes: the panel outlives it.
-        QVERIFY(m_panel.ask({"calibrate", "on"}).ok && m_panel.waitForLog("str:"));
-        QVERIFY(m_panel.ask({"calibrate", "off"}).ok && m_panel.waitForLog("slot_CloseDialog:"));
+        QVERIFY(m_panel.ask({"calibrate", "on"}).ok && m_panel.waitForLog(loglines::messageUp));
+        QVERIFY(m_panel.ask({"calibrate", "off"}).ok && m_panel.waitForLog(loglines::messageClosed));
 
         m_check.leds().mark();
         QVERIFY(m_check.changeMode(Mode(mode)));

@@ -1,6 +1,7 @@
 #include "tests/system/pushes/pushes.h"
 
 #include "testkit/homescreen.h"
+#include "testkit/loglines.h"
 
 #include <QRegularExpression>
 
@@ -146,7 +147,7 @@ void Pushes::complain(const QString &row, const QString &what)
 QStringList Pushes::toldValues()
 {
     QStringList values;
-    for (const QString &line : m_panel.logLines("ReportMsgToParaProcess ")) {
+    for (const QString &line : m_panel.logLines(loglines::valueTaken)) {
         const QStringList words = line.split(' ');
         values << itemnames::line(words.value(1).toInt(), words.value(2).remove('"'));
     }

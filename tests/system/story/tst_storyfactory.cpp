@@ -2,6 +2,7 @@
 // the count of passed runs. Nothing from outside takes the test from him.
 #include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "testkit/productionline.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -29,7 +30,7 @@ private slots:
         m_unit = std::make_unique<Panel>();
         m_line = std::make_unique<ProductionLine>(*m_unit);
         QVERIFY(m_unit->startReady());
-        QVERIFY(m_unit->waitForLog("StartComplate: 2"));
+        QVERIFY(m_unit->waitForLog(loglines::servicesUp));
     }
 
     /// With some cables in before it begins and the others plugged on the way.
@@ -75,7 +76,7 @@ private slots:
         QVERIFY(m_unit->waitUntil(
             [&] { return !lcdtext::find(m_unit->screen(), "测试全部通过，", font, message).isEmpty(); }));
         picture("3-message");
-        QVERIFY(m_unit->waitForLog("slot_CloseDialog:"));
+        QVERIFY(m_unit->waitForLog(loglines::messageClosed));
         QVERIFY(seesInOut("HDMI1+ HDMI2+ DVI+ NET1+ NET2+ NET3+ NET4+ NET5+ NET6+ USB-IN+ ETHRNET+"));
         picture("3-passed");
         QVERIFY(m_unit->waitUntil([this] {
@@ -101,7 +102,7 @@ private slots:
         QVERIFY(m_line->ok() && m_line->ok());
         QVERIFY(
             m_unit->waitUntil([this] { return m_unit->logLines("Factory::InOutTest =  34 1").size() == 3; }));
-        QCOMPARE(m_unit->logLines("InputTestNumCur").size(), 1);
+        QCOMPARE(m_unit->logLines(loglines::inputUnderTest).size(), 1);
     }
 
     void aFaultStopsTheTest()
@@ -132,7 +133,7 @@ private slots:
         // One second without a key is enough to go home.
         QVERIFY(m_unit->ask({"panel", "stop"}).ok && m_unit->setStored(MENU_ReturntoHome, "1"));
         QVERIFY(m_unit->start() && m_unit->ask({"wait", "ready"}).ok);
-        QVERIFY(m_unit->waitForLog("StartComplate: 2") && m_unit->settle());
+        QVERIFY(m_unit->waitForLog(loglines::servicesUp) && m_unit->settle());
         if (step == ProductionLine::SelfTest)
             QVERIFY(m_unit->ask({"reports", "off"}).ok); // the answer stays out
         QVERIFY(m_line->begin() && m_line->waitFor(ProductionLine::Step(qMin(step, 2))));
@@ -156,8 +157,8 @@ private slots:
             QVERIFY2(m_unit->ask(words).ok, qPrintable(words.join(' ')));
         // Neither does a key that has no part in the step, nor a held one.
         QVERIFY(m_unit->press(keys::Test) && m_unit->press("in5") && m_unit->hold("esc+ok"));
-        QVERIFY(m_unit->waitUntil([this] { return m_unit->logLines("slot_ReturnToMain!!!!!!").size() > 2; }));
-        QVERIFY(m_unit->waitForLog("qDialog create faild!"));
+        QVERIFY(m_unit->waitUntil([this] { return m_unit->logLines(loglines::timeToGoHome).size() > 2; }));
+        QVERIFY(m_unit->waitForLog(loglines::messageRefused));
         QVERIFY(m_unit->settle());
         QCOMPARE(m_unit->screen(), before);
     }

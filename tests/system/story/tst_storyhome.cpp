@@ -1,5 +1,6 @@
 // The time after which a panel that nobody touches goes home, and what it spares.
 #include "menu/itemindex.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -38,7 +39,7 @@ private slots:
         QVERIFY(m_walk.showsTitle());
         QElapsedTimer untouched;
         untouched.start();
-        QVERIFY(m_panel.waitForLog("slot_ReturnToMain start!!!!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::goesHome));
         QVERIFY2(qAbs(untouched.elapsed() - shortestMs) < 1000,
                  qPrintable(QString("%1 ms").arg(untouched.elapsed())));
         QVERIFY(m_panel.settle());
@@ -50,9 +51,9 @@ private slots:
     {
         QVERIFY(m_walk.go({MENU_PresetSettings}));
         m_panel.mark();
-        QVERIFY(m_panel.waitForLog("slot_ReturnToMain!!!!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::timeToGoHome));
         QVERIFY(m_panel.settle());
-        QCOMPARE(m_panel.logLines("slot_ReturnToMain start!!!!!!").size(), 0);
+        QCOMPARE(m_panel.logLines(loglines::goesHome).size(), 0);
         QVERIFY(m_walk.showsTitle());
     }
 };

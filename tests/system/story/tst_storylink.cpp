@@ -1,6 +1,7 @@
 // The cables of the panel: the picture of the connection for every state of the links, the way home, and the
 // session of a PC with its heartbeat.
 #include "menu/itemindex.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -61,7 +62,7 @@ private slots:
         QVERIFY(plugIn());
         QVERIFY(m_walk.go({MENU_AdvancedSetting, MENU_Audio}));
         QVERIFY(m_panel.ask({"heartbeat", "on"}).ok);
-        QVERIFY(m_panel.waitForLog("slot_ReturnToMain start!!!!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::goesHome));
         QVERIFY(m_panel.waitUntil([this] { return locked(); }));
         // What the PC changes meanwhile goes past the menu into the flash: an address and the volume.
         QVERIFY(m_panel.ask({"flash", "write", "2006", "0A00010002004D00"}).ok);
@@ -86,7 +87,7 @@ private slots:
         QElapsedTimer silent;
         silent.start();
         m_panel.mark();
-        QVERIFY(m_panel.waitForLog("SetLockState End!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::unlocked));
         // The sixteenth second without a heartbeat ends the session, not the fifteenth.
         QVERIFY2(silent.elapsed() > 15000 && silent.elapsed() < 20000,
                  qPrintable(QString("%1 ms").arg(silent.elapsed())));

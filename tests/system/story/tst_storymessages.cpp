@@ -2,6 +2,7 @@
 // however many follow each other; and a PC that takes over ends all that is open.
 #include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -14,7 +15,7 @@ namespace
 using Way = QList<ENUM_MenuIndex>;
 
 // What the panel logs when a message comes up and when its time is over, and a page for each key.
-const QString shown = "str: ", closed = "slot_CloseDialog:", pageKey = "MenuDirectory: key:";
+const QString shown = loglines::messageUp, closed = loglines::messageClosed, pageKey = loglines::pageKey;
 const QString languageQuestion = "选择语言/Select Language";
 constexpr int messagesInARow = 2; ///< a request to wait and what has become of it
 
@@ -96,7 +97,7 @@ private slots:
             QVERIFY(m_panel.ask({"calibrate", "on"}).ok && m_panel.settle());
         m_panel.mark();
         QVERIFY(m_panel.ask({"heartbeat", "on"}).ok);
-        QVERIFY(m_panel.waitForLog("slot_ReturnToMain end!!!!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::wentHome));
         QVERIFY(waitUntilStored(MENU_ScreenLock, "1"));
         QVERIFY(m_panel.ask({"heartbeat", "off"}).ok && m_panel.ask({"link", "eth", "0"}).ok);
         QVERIFY(waitUntilStored(MENU_ScreenLock, "0"));

@@ -2,6 +2,7 @@
 // device have it, after a restart too; and a PC takes over in the middle of it.
 #include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -141,7 +142,7 @@ private slots:
             QVERIFY(m_walk.enter(itemOf(4)));
         m_panel.mark();
         QVERIFY(m_panel.ask({"heartbeat", "on"}).ok);
-        QVERIFY(m_panel.waitForLog("slot_ReturnToMain end!!!!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::wentHome));
         QVERIFY(waitUntilStored(MENU_ScreenLock, "1"));
         QVERIFY(waitUntilStored(itemOf(4), "true", "Enable"));
         QVERIFY(m_panel.ask({"heartbeat", "off"}).ok && m_panel.ask({"link", "eth", "0"}).ok);
@@ -170,7 +171,7 @@ private:
     bool tells(const QString &text)
     {
         return showsText(m_walk.text(text), message, 18) &&
-               m_panel.waitUntil([this] { return m_panel.logLines("slot_CloseDialog:").size() >= 2; }) &&
+               m_panel.waitUntil([this] { return m_panel.logLines(loglines::messageClosed).size() >= 2; }) &&
                m_panel.settle() && m_walk.showsTitle();
     }
 

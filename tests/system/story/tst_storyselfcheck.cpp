@@ -3,6 +3,7 @@
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -110,7 +111,7 @@ private slots:
                 m_panel.setStored(MENU_ReturntoHome, "30"));
         QVERIFY(startAgain() && m_walk.speak(english.file));
         m_language = english;
-        QVERIFY(m_panel.waitForLog("StartComplate: 2") && m_panel.ask({"reports", "off"}).ok);
+        QVERIFY(m_panel.waitForLog(loglines::servicesUp) && m_panel.ask({"reports", "off"}).ok);
         QVERIFY(open());
         picture("en-empty");
         QVERIFY(waitForRow(0, "", 0) && m_panel.turn(Right, names.size()));
@@ -122,7 +123,7 @@ private slots:
         QVERIFY(m_panel.turn(Left, 3) && m_panel.turn(Right, 3));
         QVERIFY(waitForRow(19, "worse", bad) && waitForRow(18, "fine", good));
         picture("en-filled");
-        QVERIFY(m_panel.waitForLog("slot_ReturnToMain start!!!!!!"));
+        QVERIFY(m_panel.waitForLog(loglines::goesHome));
         QVERIFY(m_panel.waitFor(m_walk.text("Inactive"), QRect(62, 64, 200, 28)));
         QVERIFY(m_walk.isHome() && m_walk.openMenu() && m_walk.showsTitle());
     }
@@ -134,10 +135,11 @@ private:
         if (!m_walk.isHome() || !m_walk.go({MENU_SystemSetting, MENU_SelfTest}) || !m_walk.asked())
             return false;
         m_panel.mark();
-        return m_walk.answer(true) && m_panel.waitForLog("slot_CloseDialog:") && m_panel.waitUntil([this] {
-            const QFont font = fontOf(14);
-            return !lcdtext::find(m_panel.screen(), m_walk.text("SelfTest"), font, title).isEmpty();
-        });
+        return m_walk.answer(true) && m_panel.waitForLog(loglines::messageClosed) &&
+               m_panel.waitUntil([this] {
+                   const QFont font = fontOf(14);
+                   return !lcdtext::find(m_panel.screen(), m_walk.text("SelfTest"), font, title).isEmpty();
+               });
     }
     bool close() { return m_panel.press(keys::Esc) && m_walk.showsTitle() && m_walk.home(); }
     QFont fontOf(int pixels) const

@@ -2,6 +2,7 @@
 // store.
 #include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
+#include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -34,7 +35,7 @@ private slots:
             m_panel.waitUntil([this] { return m_panel.writes().filter("02000001").last().endsWith("a0"); }),
             qPrintable(m_panel.writes().join('\n')));
         QVERIFY(m_walk.press(keys::Esc));
-        QVERIFY(m_panel.waitForLog("slot_CloseDialog:")); // "saving"
+        QVERIFY(m_panel.waitForLog(loglines::messageClosed)); // "saving"
         QVERIFY(m_walk.home());
         QVERIFY(m_panel.waitFor("63%", QRect(240, 135, 80, 30)));
     }

@@ -1,6 +1,6 @@
 // The registers of the flood, a row each.
+#include "benchmark/flood.h"
 #include "menu/itemindex.h"
-#include "testkit/flood.h"
 
 using namespace VASK;
 

@@ -1,4 +1,4 @@
-#include "testkit/flood.h"
+#include "benchmark/flood.h"
 
 #include "testkit/names/itemnames.h"
 #include "testkit/panel.h"

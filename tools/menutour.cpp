@@ -1,7 +1,8 @@
-#include "testkit/menutour.h"
+#include "tools/menutour.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
+#include "testkit/loglines.h"
 #include "testkit/productionline.h"
 
 #include <QDir>
@@ -169,7 +170,7 @@ void Tour::openPage(const st_MenuItemInfo &row, const QString &name)
         if (!m_walk.answer(true))
             return fault(name, "the question cannot be answered");
     }
-    if (m_panel.logLines("objID:").isEmpty()) {
+    if (m_panel.logLines(loglines::rowEntered).isEmpty()) {
         m_closed[row.subPage] = row.menuIndex; // a row that is off
         return;
     }
@@ -188,7 +189,8 @@ void Tour::lookAtEdit(ENUM_MenuIndex item, const QString &name)
     picture(name + "-edit");
     // The brightness is saved, which takes its time.
     const bool saved = item == MENU_ScreenBrightness;
-    if (!m_walk.press(keys::Esc) || (saved && !(m_panel.waitForLog("slot_CloseDialog:") && m_panel.settle())))
+    if (!m_walk.press(keys::Esc) ||
+        (saved && !(m_panel.waitForLog(loglines::messageClosed) && m_panel.settle())))
         fault(name, "ESC does not end the edit");
 }
 
@@ -238,7 +240,7 @@ void Tour::productionTest()
     stop(line.pressKeys(), "2-pressed");
     stop(line.ok() && line.keyRounds(1), "3");
     stop(line.passInOut(), "3-message");
-    stop(m_panel.waitForLog("slot_CloseDialog:"), "3-passed");
+    stop(m_panel.waitForLog(loglines::messageClosed), "3-passed");
 }
 
 void Tour::lookAtPreset(ENUM_MenuIndex item, const QString &name)
