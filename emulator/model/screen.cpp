@@ -19,6 +19,7 @@ constexpr quint32 placeOffset = 4;            ///< in a port's record: x, then y
 constexpr quint32 routeRegister = 0x02810011; ///< how the data flows, as the records of the ports
 constexpr quint32 quickCabinetsRegister = 0x02810018;
 constexpr quint32 advancedRegister = 0x02810000;
+constexpr int takeOverPorts = 185; ///< the command that the device now obeys the form, which therefore is on
 constexpr quint32 mappingRegister = 0x01000088;
 constexpr int mappingOn = 5;
 
@@ -68,10 +69,11 @@ QStringList describeCards(const Registers &registers)
 
 QStringList describeConfiguration(const Registers &registers)
 {
+    const int advanced = registers.u8(advancedRegister);
     return {QString("quick configuration: %1 cabinets on the first port, flow way %2")
                 .arg(registers.u16(quickCabinetsRegister))
                 .arg(registers.u8(routeRegister)),
-            "advanced configuration: " + onOff(registers.u8(advancedRegister) == deviceOn)};
+            "advanced configuration: " + onOff(advanced == deviceOn || advanced == takeOverPorts)};
 }
 
 QStringList describe(const Registers &registers)

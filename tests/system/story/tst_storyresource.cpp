@@ -2,6 +2,7 @@
 // becomes of the panel when the service is not well.
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
+#include "tests/unit/framework/communication/rudeserver.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -195,7 +196,7 @@ protected:
 
     void leave() override
     {
-        for (const char *well : {"on", "silent off", "status own"})
+        for (const char *well : {"silent off", "delay 0", "status own", "off", "on"})
             QVERIFY(m_panel.ask(QStringList{"service"} + QString(well).split(' ')).ok);
     }
 
@@ -226,6 +227,15 @@ private slots:
     void theDeviceTellsThePanel()
     {
         QVERIFY(m_drive.home());
+        // What the rows before have asked for is the device's state now.
+        const QStringList state = m_panel.ask({"device", "show"}).lines;
+        for (const char *line :
+             {"  display: normal", "  test pattern: 15", "  test picture: brightness 4, spacing 3, speed 4",
+              "  brightness: 0%", "  gamma: 2.9", "  colours: red 250, green 240, blue 250", "  mapping: off",
+              "  quick configuration: 4 cabinets on the first port, flow way 1",
+              "  quick form: 4 rows, 4 columns", "  advanced configuration: on",
+              "  port 2: 2 rows, 1 columns", "  place of port 2: 9,0, flow way 2"})
+            QVERIFY2(state.contains(line), line);
         QCOMPARE(resource({"put", "ScreenLowLatency", R"({"enable":true})", "id=255"}), 0);
         QVERIFY(waitUntilStored(MENU_LowLatency, "1"));
         QVERIFY(m_panel.ask({"device", "show"}).lines.contains("  low latency: on"));
@@ -234,36 +244,56 @@ private slots:
 
     void aServiceThatIsNotWell_data()
     {
-        QTest::addColumn<QStringList>("fault");
+        QTest::addColumn<QStringList>(
+            "fault"); // words of the console, or none for one that answers these bytes
+        QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("log");
         const QString failed = "http return : brightness set faild error", done = "succeed, index: 1";
-        QTest::newRow("absent") << QStringList{"service", "off"} << 2 << failed;
-        QTest::newRow("silent") << QStringList{"service", "silent", "on"} << 2 << failed;
-        QTest::newRow("500") << QStringList{"service", "status", "500", "{\"code\":0}"} << 1 << failed;
-        QTest::newRow("garbage") << QStringList{"service", "garbage"} << 1 << done;
+        const auto row = [](const char *name, const QStringList &fault, const QByteArray &bytes, int status,
+                            const QString &log) { QTest::newRow(name) << fault << bytes << status << log; };
+        const QByteArray head = "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nContent-Length: ";
+        row("refusing", {"service", "off"}, {}, 2, failed);
+        row("silent", {"service", "silent", "on"}, {}, 2, failed);
+        row("slow", {"service", "delay", "900"}, {}, 0, done);
+        row("500", {"service", "status", "500", R"({"code":0})"}, {}, 1, failed);
+        row("garbage", {"service", "garbage"}, {}, 1, done);
+        row("large", {}, head + "10000011\r\n\r\n{\"data\":\"" + QByteArray(10000000, 'x') + "\"}", 0, done);
+        row("cut", {}, head + "100\r\n\r\n{\"data\":", 1, failed);
     }
-    /// The panel shows and keeps the user's value, at once, and logs the end of the request.
+    /// The panel shows and keeps the user's value as fast as with a service that is well, logs how each
+    /// request ended, and changes nothing else.
     void aServiceThatIsNotWell()
     {
         QFETCH(QStringList, fault);
+        QFETCH(QByteArray, bytes);
         QFETCH(int, status);
         QFETCH(QString, log);
+        constexpr int graceMs = 200;
         QVERIFY(m_drive.home() && m_walk.go({MENU_ScreenBrightness}));
-        QVERIFY(m_panel.ask(fault).ok);
+        const qint64 wellMs = stepMs();
+        QVERIFY(waitUntilStored(MENU_ScreenBrightness, QString::number(m_brightness)));
+        const QMap<QString, QString> before = m_panel.storedFields();
+        const RudeServerThread rude(bytes);
+        QVERIFY(fault.isEmpty() ? serveAt(rude.port()) : m_panel.ask(fault).ok);
         m_panel.mark();
-        const int value = m_panel.stored(MENU_ScreenBrightness).toInt() + 1;
-        QElapsedTimer sinceKey;
-        sinceKey.start();
-        QVERIFY(m_walk.turn(Right, 1));
-        QVERIFY(m_panel.waitFor(QString::number(value), QRect(200, 24, 120, 40)));
-        QVERIFY2(sinceKey.elapsed() < 2500, "the panel waited for the service");
+        const qint64 illMs = stepMs();
+        QVERIFY2(illMs <= 2 * wellMs + graceMs,
+                 qPrintable(QString("a step takes %1 ms, and %2 ms without").arg(illMs).arg(wellMs)));
         QVERIFY(m_panel.waitForLog(log));
         QCOMPARE(resource({"--timeout", "1", "get", "Device_cfgfile"}), status);
         leave();
-        QVERIFY(m_walk.press(keys::Esc));
-        QVERIFY(waitUntilStored(MENU_ScreenBrightness, QString::number(value)));
-        QVERIFY(m_walk.home());
+        // All that is under way comes to its end, so that the next row begins with a service that is well.
+        QVERIFY(m_panel.waitUntil([&] {
+            return m_panel.logLines("httpService::SendMsg:").size() ==
+                   m_panel.logLines("succeed, index:").size() + m_panel.logLines("http return :").size();
+        }));
+        QVERIFY(waitUntilStored(MENU_ScreenBrightness, QString::number(m_brightness)));
+        QMap<QString, QString> after = m_panel.storedFields();
+        after.insert(QString::number(MENU_ScreenBrightness),
+                     before.value(QString::number(MENU_ScreenBrightness)));
+        QCOMPARE(after, before);
+        QVERIFY(m_walk.press(keys::Esc) && m_walk.home());
         QCOMPARE(resource({"get", "Device_cfgfile"}), 0);
     }
 
@@ -303,8 +333,40 @@ private:
         return process.exitCode();
     }
 
+    /// From the knob's step to the LCD, the middle one of some, each to another brightness.
+    qint64 stepMs()
+    {
+        constexpr int steps = 5;
+        std::array<qint64, steps> times{};
+        constexpr int half = 50;
+        m_brightness = m_panel.stored(MENU_ScreenBrightness).toInt();
+        const Direction direction = m_brightness > half ? Left : Right;
+        for (qint64 &time : times) {
+            QElapsedTimer sinceStep;
+            sinceStep.start();
+            m_panel.turn(direction);
+            m_brightness += direction == Right ? 1 : -1;
+            if (!m_panel.waitFor(QString::number(m_brightness), QRect(200, 24, 120, 40)))
+                return std::numeric_limits<int>::max();
+            time = sinceStep.elapsed();
+        }
+        std::sort(times.begin(), times.end());
+        return times[steps / 2];
+    }
+    /// For the panel the service is at that port.
+    bool serveAt(quint16 port)
+    {
+        QFile file(m_panel.statePath() + "/ports");
+        if (!file.open(QIODevice::ReadWrite))
+            return false;
+        const QString text =
+            QString(file.readAll()).replace(QRegularExpression("(?<=\\b8001=)\\d+"), QString::number(port));
+        return file.resize(0) && file.seek(0) && file.write(text.toUtf8()) == text.size();
+    }
+
     FrameDrive m_drive{m_panel, m_walk};
     QString m_output;
+    int m_brightness = 0;
 };
 
 FPD_TEST(TestStoryResource)

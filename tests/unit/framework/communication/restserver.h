@@ -1,11 +1,8 @@
-// A device service on the loopback address that notes what is asked of it and answers as the test says; and
-// sockets that behave as no service should.
+// A device service on the loopback address that notes what is asked of it and answers as the test says.
 #pragma once
 
 #include <QMutex>
 #include <QStringList>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QtTest>
 #include <httplib.h>
 #include <thread>
@@ -92,24 +89,4 @@ private:
     Answer m_answer;
     httplib::Request m_last;
     QStringList m_lines;
-};
-
-/// Takes connections and says nothing, or those bytes before it cuts them.
-class RudeServer : public QTcpServer
-{
-public:
-    explicit RudeServer(const QByteArray &bytes = {})
-    {
-        connect(this, &QTcpServer::newConnection, this, [this, bytes] {
-            QTcpSocket *socket = nextPendingConnection();
-            if (bytes.isEmpty())
-                return;
-            connect(socket, &QTcpSocket::readyRead, socket, [socket, bytes] {
-                socket->write(bytes);
-                socket->disconnectFromHost();
-            });
-        });
-        listen(QHostAddress::LocalHost);
-    }
-    QString address() const { return QString("http://127.0.0.1:%1").arg(serverPort()); }
 };

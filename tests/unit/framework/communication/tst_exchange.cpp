@@ -6,6 +6,7 @@
 #include "framework/communication/http/tunnelmanager.h"
 #include "tests/testprogram.h"
 #include "tests/unit/framework/communication/restserver.h"
+#include "tests/unit/framework/communication/rudeserver.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -24,6 +25,22 @@ HttpPackage package(const char *method, const QString &url, const QByteArray &bo
     if (!body.isEmpty())
         made.setRequestData(body);
     return made;
+}
+
+/// How often a thread of this process has gone to sleep so far.
+QByteArray wakeUpsOf(const QByteArray &thread)
+{
+    for (const QString &task : QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile status("/proc/self/task/" + task + "/status");
+        if (!status.open(QIODevice::ReadOnly))
+            continue;
+        const QList<QByteArray> lines = status.readAll().split('\n');
+        if (lines.value(0) == "Name:\t" + thread)
+            for (const QByteArray &line : lines)
+                if (line.startsWith("voluntary_ctxt_switches:"))
+                    return line;
+    }
+    return {};
 }
 
 /// What answers came to, as text: "ok" or "failed" and the error. One that comes after the test goes nowhere.
@@ -310,6 +327,19 @@ private slots:
         QCOMPARE(m_server->take().size(), 3);
         Communicator_New::Package plain;
         QVERIFY_EXCEPTION_THROWN(tunnel.send(plain, {}), std::bad_cast);
+    }
+
+    void theWorkerSleepsBetweenRequests()
+    {
+        Answers answers;
+        HttpPackage sent = package("get", "/p");
+        tunnelTo(m_server->address()).send(sent, answers.take());
+        QVERIFY(answers.wait(1));
+        QTest::qWait(200); // it has let go of the last exchange
+        const QByteArray wakeUps = wakeUpsOf("http");
+        QVERIFY(!wakeUps.isEmpty());
+        QTest::qWait(1000);
+        QCOMPARE(wakeUpsOf("http"), wakeUps);
     }
 
     void tunnelsByNameAndKind()
