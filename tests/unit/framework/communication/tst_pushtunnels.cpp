@@ -1,8 +1,10 @@
 // What the service sends of its own accord: over a WebSocket that is kept alive, and in datagrams.
 
+#include "fpd_hostvalues.h"
 #include "framework/communication/http/package.h"
 #include "framework/communication/http/tunnelmanager.h"
 #include "framework/communication/http/udptunnel.h"
+#include "tests/emulator/emulatorrig.h"
 #include "tests/testprogram.h"
 
 #include <QNetworkDatagram>
@@ -99,6 +101,57 @@ private slots:
         QVERIFY(!events.contains("open"));
     }
 
+    /// Both tunnels at the emulated device, whose channel goes and comes again.
+    void theDeviceTells()
+    {
+        EmulatorRig device;
+        QVERIFY(device.open());
+        const auto push = [&](QByteArray json, const QByteArray &options = {}) {
+            return device.lines("service push \"" + json.replace('"', "\\\"") + '"' + options).value(0);
+        };
+        const std::shared_ptr<Tunnel> tunnel = TunnelFactory(TUNNEL_Websocket);
+        QStringList events;
+        Received received;
+        tunnel->recieve(received.take());
+        const auto connectAgain = [&] {
+            const auto ports = hostlink::readValues(device.statePath() + hostlink::portFile);
+            const quint16 port = ports.value(QByteArray::number(hostlink::pushPort)).toUShort();
+            tunnel->connectTo(
+                "127.0.0.1", port, [&](bool valid) { events += valid ? "open" : "invalid"; },
+                [&](int error) { events += QString::number(error); });
+        };
+        connectAgain();
+        QTRY_COMPARE(events, QStringList{"open"});
+        int pongs = 0;
+        auto *socket = dynamic_cast<QObject &>(*tunnel).findChild<QWebSocket *>();
+        connect(socket, &QWebSocket::pong, this, [&pongs] { ++pongs; });
+        QCOMPARE(push(R"({"v":7})"), QByteArray("1 clients"));
+        QCOMPARE(push("no json"), QByteArray("1 clients"));
+        QTRY_COMPARE(received.texts, (QStringList{"127.0.0.1: 7", "127.0.0.1: 0no json"}));
+        QTRY_VERIFY(pongs >= 1);
+        QCOMPARE(device.ask("service off"), QByteArray("ok"));
+        QTRY_COMPARE(events.last(), QString("0"));
+        QVERIFY(!tunnel->isActived());
+        QCOMPARE(device.ask("service on"), QByteArray("ok"));
+        QCOMPARE(push("1"), QByteArray("0 clients")); // nothing comes back by itself
+        connectAgain();
+        QTRY_COMPARE(events.last(), QString("open"));
+        QCOMPARE(push(R"({"v":8})"), QByteArray("1 clients"));
+        QTRY_COMPARE(received.texts.mid(2), QStringList{"127.0.0.1: 8"});
+
+        const quint16 port = freePort();
+        UDPTunnel udp;
+        Received datagrams;
+        QVERIFY(udp.bind(QHostAddress::LocalHost, port) && udp.recieve(datagrams.take()));
+        udp.connectTo("127.0.0.1", port, {}, {});
+        QUdpSocket stranger;
+        QVERIFY(stranger.bind(QHostAddress("127.0.0.2")));
+        stranger.writeDatagram(R"({"v":1})", QHostAddress::LocalHost, port);
+        push(R"({"v":2})", " --udp " + QByteArray::number(port));
+        push("no json", " --udp " + QByteArray::number(port));
+        QTRY_COMPARE(datagrams.texts, (QStringList{"127.0.0.1: 2", "127.0.0.1: 0no json"}));
+    }
+
     void onlyThePeerIsHeard()
     {
         const quint16 port = freePort();
@@ -144,5 +197,5 @@ private slots:
     }
 };
 
-FPD_TEST_GUILESS(TestPushTunnels)
+FPD_TEST(TestPushTunnels)
 #include "tst_pushtunnels.moc"

@@ -1,14 +1,11 @@
 // What an item's change is as a request to the device service, to the byte, and what comes of the list of
 // cabinet files.
 
-#include "framework/communication/http/protocol4rdmsg.h"
-#include "framework/communication/http/requestbody.h"
 #include "framework/engine/paraprocess.h"
-#include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto4rd.h"
-#include "framework/resourcemanager/allurlresource.h"
 #include "framework/store/menuanalysis.h"
 #include "tests/testprogram.h"
+#include "tests/unit/framework/protocol/restclient.h"
 
 #include <thread>
 
@@ -16,55 +13,12 @@ using namespace VASK;
 
 namespace
 {
-/// Notes requests as "VERB PATH BODY" and ends them as it is told.
-class Client : public CommunicationClientInterface
-{
-public:
-    Client() : CommunicationClientInterface(ENUM_COMMUNICATION_HTTP) {}
-    int BuildHandshake(const VaskObject *, QMap<QString, QString>) override { return 0; }
-    int SendMsg(void *given) override
-    {
-        const auto &message = *static_cast<ST_Protocol4rdMsg *>(given);
-        static const QMap<int, QString> verbs{
-            {METHOD_GetTree, "GET"}, {METHOD_Put, "PUT"}, {METHOD_PostList, "POST"}, {METHOD_PutId, "PUT"}};
-        const std::string body = message.type == METHOD_PostList ? Action::bodyText(message.parameterList)
-                                                                 : Action::bodyText(message.parameters);
-        QString path =
-            AllUrlResource::getInstance()->getMapAllUrl().value(QString::fromStdString(message.key));
-        path.replace("{id}", QString::number(message.id)).remove("/api/v1/device/");
-        requests += verbs.value(message.type, "?") + ' ' + path + ' ' + QString::fromStdString(body);
-        messages.append(message);
-        return 1;
-    }
-    /// All requests since the last take, joined.
-    QString take()
-    {
-        QString text = requests.join('|');
-        requests.clear();
-        return text;
-    }
-    QStringList requests;
-    QList<ST_Protocol4rdMsg> messages;
-};
-
 QStringList logged;
 void keepLog(QtMsgType, const QMessageLogContext &, const QString &text)
 {
     logged += text;
 }
 
-QString pattern(int mode, int r, int g, int b, int line, int gray = 65)
-{
-    return QString(
-               R"(PUT screens/255/txtestpattern {"blue":%4,"gray":%6,"green":%3,"lineWidth":%5,"modeType":%1,)"
-               R"("moveDirection":0,"moveSpeed":5,"red":%2,"spaceValue":40})")
-        .arg(mode)
-        .arg(r)
-        .arg(g)
-        .arg(b)
-        .arg(line)
-        .arg(gray);
-}
 } // namespace
 
 class TestProto4rd : public QObject
@@ -77,7 +31,7 @@ private slots:
         auto *pool = ObjectPool::getInstance();
         pool->InsertData(ENUM_MENUANALYSIS, new MenuAnalysis(ENUM_MENUANALYSIS));
         pool->InsertData(ENUM_PARAPROCESS, new ParaProcess(ENUM_PARAPROCESS));
-        m_client = new Client;
+        m_client = new RestClient;
         pool->InsertData(ENUM_COMMUNICATION_HTTP, m_client);
         m_protocol = new Proto4rd(ENUM_PROTOCOINTERFER_4RD);
         pool->InsertData(ENUM_PROTOCOINTERFER_4RD, m_protocol);
@@ -317,7 +271,7 @@ private:
         store->AddMenuItem(item.index, item);
     }
 
-    Client *m_client = nullptr;
+    RestClient *m_client = nullptr;
     Proto4rd *m_protocol = nullptr;
     QtMessageHandler m_logBefore = nullptr;
 };
