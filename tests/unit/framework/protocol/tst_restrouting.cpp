@@ -3,8 +3,8 @@
 
 #include "framework/protocol/link/proto4rd.h"
 #include "tests/testprogram.h"
-#include "tests/unit/framework/engine/enginerig.h"
 #include "tests/unit/framework/protocol/restclient.h"
+#include "tests/unit/rig/enginerig.h"
 
 using namespace VASK;
 
