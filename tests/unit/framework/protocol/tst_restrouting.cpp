@@ -58,7 +58,7 @@ private slots:
         row(MENU_Test_Speed, "5", pattern(3, 255, 0, 0, 0));
         row(MENU_Test_PureColor, "1", pattern(1, 255, 0, 0, 0));
         row(MENU_Test_Brightness, "4", pattern(1, 255, 0, 0, 0, 195));
-        row(MENU_Audio_Volume, "7", "", QString("%1=7").arg(MENU_Audio_Volume));
+        row(MENU_Audio_Volume, "7", "", "Audio_Volume=7");
     }
     void values()
     {
