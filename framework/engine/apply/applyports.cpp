@@ -18,7 +18,8 @@ void applyPortLink(ParaChange &change)
 {
     change.engine.UpdatePortState(change.member);
     if (ProductionTest::m_cur_step == FACTORY_STEP_IN_OUT && change.number(change.index))
-        emit change.engine.signal_update_menuitem(en_inout_test_index(INOUT_NET1 + change.member), ITEM_PASSED);
+        emit change.engine.signal_update_menuitem(en_inout_test_index(INOUT_NET1 + change.member),
+                                                  ITEM_PASSED);
 }
 
 /// The device is primary or backup as a whole; while its ports differ the item stays.
