@@ -1,8 +1,8 @@
 // The panel that speaks to the REST service, and fpd-resource: what they ask for, to the byte, and what
 // becomes of the panel when the service is not well.
+#include "tests/rudeserver.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
-#include "tests/unit/framework/communication/rudeserver.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

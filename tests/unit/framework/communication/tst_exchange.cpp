@@ -4,9 +4,9 @@
 #include "framework/communication/http/httptunnel.h"
 #include "framework/communication/http/taskpool.h"
 #include "framework/communication/http/tunnelmanager.h"
+#include "tests/rudeserver.h"
 #include "tests/testprogram.h"
 #include "tests/unit/framework/communication/restserver.h"
-#include "tests/unit/framework/communication/rudeserver.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
