@@ -98,6 +98,7 @@ export class Pane {
       ["PC", [["heartbeat", device.cables.heartbeat, device.cables.heartbeat === "on", on => ["heartbeat", on]]]],
     ];
     return sections.flatMap(([title, rows]) => {
+      rows.sort(([one], [other]) => one.localeCompare(other, "en", { numeric: true }));
       const heading = document.createElement("h2"), list = document.createElement("ul");
       heading.textContent = title;
       list.append(...rows.flatMap(row => this.#row(...row)));
