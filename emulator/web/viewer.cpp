@@ -12,6 +12,7 @@ constexpr int mostWords = 16;              ///< of the console at once
 constexpr int mostSteps = 100;             ///< of the knob in one message
 constexpr qint64 mostUnread = 1024 * 1024; ///< bytes of answers
 constexpr quint64 longestMessage = 64 * 1024;
+constexpr int pulseMs = 2000, mostUnanswered = 3;
 
 QStringList toWords(const QJsonValue &value)
 {
@@ -38,6 +39,9 @@ Viewer::Viewer(QWebSocket *socket, Emulator &emulator, Live &live, bool mayDrive
     connect(socket, &QWebSocket::binaryMessageReceived, socket,
             [socket] { socket->close(QWebSocketProtocol::CloseCodeDatatypeNotSupported); });
     connect(socket, &QWebSocket::disconnected, this, &QObject::deleteLater);
+    connect(socket, &QWebSocket::pong, this, [this] { m_unanswered = 0; });
+    connect(&m_pulse, &QTimer::timeout, this, &Viewer::askForLife);
+    m_pulse.start(pulseMs);
     live.addViewer(this);
     connect(&live, &Live::changed, this, &Viewer::show);
     send({{"mayDrive", mayDrive}});
@@ -92,6 +96,13 @@ void Viewer::show()
 void Viewer::send(const QJsonObject &object)
 {
     m_socket->sendTextMessage(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+}
+
+void Viewer::askForLife()
+{
+    if (m_unanswered++ >= mostUnanswered)
+        return m_socket->abort();
+    m_socket->ping();
 }
 
 void Viewer::ack(const QJsonObject &)

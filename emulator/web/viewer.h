@@ -9,7 +9,8 @@
 //     word   id, words           a word of the console; {"id", "line"}... and {"id", "end", "error"} come
 //     back cancel id                  ends such a word
 //
-// One that only looks may say the first two. Main thread.
+// One that only looks may say the first two. One that shows no sign of life, such as a phone out of reach,
+// goes, and lets go of its keys. Main thread.
 #pragma once
 
 #include "emulator/web/websession.h"
@@ -17,6 +18,7 @@
 #include <QHash>
 #include <QImage>
 #include <QJsonObject>
+#include <QTimer>
 #include <QWebSocket>
 
 class Live;
@@ -34,6 +36,7 @@ private:
     void take(const QString &text);
     void show();
     void send(const QJsonObject &object);
+    void askForLife();
 
     void ack(const QJsonObject &message);
     void whole(const QJsonObject &message);
@@ -50,4 +53,6 @@ private:
     quint64 m_stateShown = 0;
     bool m_isTaking = false; ///< something has gone that it has not told to have
     QHash<int, WebSession *> m_words;
+    QTimer m_pulse;
+    int m_unanswered = 0; ///< signs of life that were asked for
 };

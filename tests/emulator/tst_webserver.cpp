@@ -52,6 +52,19 @@ QByteArray post(const QByteArray &path, const QByteArray &body, const QByteArray
            "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body;
 }
 
+/// A message as it goes over the wire, with a mask of zeros.
+QByteArray text(const QByteArray &message)
+{
+    return QByteArray("\x81") + char(0x80 | message.size()) + QByteArray(4, '\0') + message;
+}
+
+QByteArray handshake(const QByteArray &query = QByteArray())
+{
+    return "GET /api/stream" + query +
+           " HTTP/1.1\r\nHost: localhost\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
+           "Sec-WebSocket-Version: 13\r\nSec-WebSocket-Key: AAAAAAAAAAAAAAAAAAAAAA==\r\n\r\n";
+}
+
 QString tokenIn(const QString &link)
 {
     return link.section("token=", 1);
@@ -228,9 +241,6 @@ void TestWebServer::messagesEndTheirViewer_data()
     QTest::addColumn<QByteArray>("frame"); // as it goes over the wire, but for its mask of zeros
     QTest::addColumn<int>("code");
     QTest::addColumn<bool>("looks");
-    const auto text = [](const QByteArray &message) {
-        return QByteArray("\x81") + char(0x80 | message.size()) + QByteArray(4, '\0') + message;
-    };
     QTest::newRow("100 MB") << QByteArray::fromHex("81ff0000000005f5e10000000000") + "abc" << 1009 << false;
     QTest::newRow("100 MB of bytes") << QByteArray::fromHex("82ff0000000005f5e10000000000") << 1009 << false;
     QTest::newRow("no UTF-8") << text("\xff\xfe\xfd") << 1007 << false;
@@ -247,12 +257,7 @@ void TestWebServer::messagesEndTheirViewer()
     QFETCH(int, code);
     QFETCH(bool, looks);
     m_rig->panel->keys();
-    const QByteArray answer =
-        send("GET /api/stream" + QByteArray(looks ? "?view" : "") +
-                 " HTTP/1.1\r\nHost: localhost\r\nUpgrade: websocket\r\nConnection: Upgrade\r\n"
-                 "Sec-WebSocket-Version: 13\r\nSec-WebSocket-Key: AAAAAAAAAAAAAAAAAAAAAA==\r\n\r\n" +
-                 frame,
-             m_server->port());
+    const QByteArray answer = send(handshake(looks ? "?view" : "") + frame, m_server->port());
     QVERIFY2(answer.startsWith("HTTP/1.1 101"), answer);
     const QByteArray close = QByteArray(1, char(code >> 8)) + char(code & 0xff);
     QVERIFY2(answer.contains(close), answer.toHex());
@@ -285,6 +290,11 @@ void TestWebServer::aThousandConnectionsAreRefused()
 void TestWebServer::whoSaysNothingIsDropped()
 {
     QCOMPARE(send("GET / HTTP/1.1\r\n", m_server->port()), QByteArray());
+    // A viewer that is out of reach with a key down: the key goes up.
+    m_rig->panel->keys();
+    QVERIFY(send(handshake() + text(R"({"do":"hold","key":"esc","down":true})"), m_server->port())
+                .startsWith("HTTP/1.1 101"));
+    QCOMPARE(m_rig->panel->keys().size(), 2);
 }
 
 void TestWebServer::wordsNameNoFile_data()
