@@ -4,7 +4,6 @@
 #include "menu/keycodes.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 
 #include <QRegularExpression>
@@ -195,10 +194,7 @@ bool MenuWalk::atHome()
 
 bool MenuWalk::showsTitle()
 {
-    const QString title = text(table().title);
-    return m_panel.waitUntil([this, &title] {
-        return !lcdtext::find(m_panel.screen(), title, QRect(0, 0, 320, titleHeight)).isEmpty();
-    });
+    return m_panel.waitFor(text(table().title), QRect(0, 0, 320, titleHeight));
 }
 
 bool MenuWalk::speak(const QString &file)

@@ -1,7 +1,6 @@
 #include "testkit/panel.h"
 
 #include "fpd_hostlink.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "testkit/names/itemnames.h"
 #include "testkit/procfs.h"
@@ -10,9 +9,12 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QThread>
 #include <QXmlStreamReader>
+#include <algorithm>
 
 namespace
 {
@@ -58,6 +60,20 @@ bool readFields(QFile &file, QMap<QString, QString> &fields)
     }
     file.close();
     return !xml.hasError();
+}
+
+/// A text is that one or holds it, wherever its lines are broken; some of it lies in the area, if one is
+/// given.
+bool holds(const QJsonArray &texts, const QString &text, const QRect &area)
+{
+    return std::any_of(texts.begin(), texts.end(), [&](const QJsonValue &value) {
+        QString shown = value["text"].toString();
+        const QRect place(value["x"].toInt(), value["y"].toInt(), value["width"].toInt(),
+                          value["height"].toInt());
+        return (area.isNull() || area.intersects(place)) &&
+               (shown.contains(text) || QString(shown).remove('\n').contains(text) ||
+                shown.replace('\n', ' ').contains(text));
+    });
 }
 
 QString buildFolder()
@@ -190,9 +206,15 @@ bool Panel::settle()
     return true;
 }
 
+QJsonValue Panel::texts()
+{
+    const Answer answer = ask({"screen", "text", "--json"});
+    return answer.ok ? QJsonDocument::fromJson(answer.lines.value(0).toUtf8()).array() : QJsonValue();
+}
+
 bool Panel::shows(const QString &text, const QRect &area)
 {
-    return !lcdtext::find(screen(), text, area).isEmpty();
+    return holds(texts().toArray(), text, area);
 }
 
 bool Panel::waitFor(const QString &text, const QRect &area)
@@ -202,7 +224,10 @@ bool Panel::waitFor(const QString &text, const QRect &area)
 
 bool Panel::waitUntilGone(const QString &text)
 {
-    return waitUntil([this, &text] { return !shows(text); });
+    return waitUntil([this, &text] {
+        const QJsonValue seen = texts();
+        return seen.isArray() && !holds(seen.toArray(), text, QRect());
+    });
 }
 
 bool Panel::waitUntil(const std::function<bool()> &condition) const

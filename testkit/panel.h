@@ -6,6 +6,7 @@
 
 #include <QDomDocument>
 #include <QImage>
+#include <QJsonValue>
 #include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -56,8 +57,9 @@ public:
     QImage screen() const;
     /// Waits until the LCD has stood still for a moment.
     bool settle();
+    /// A text on the LCD is that one or holds it; some of it lies in the area, if one is given.
     bool shows(const QString &text, const QRect &area = QRect());
-    /// Waits until the LCD shows the text, in the area if one is given, which is faster.
+    /// Waits until it does.
     bool waitFor(const QString &text, const QRect &area = QRect());
     /// Waits until it does not.
     bool waitUntilGone(const QString &text);
@@ -93,6 +95,8 @@ public:
     void keepEvidence(const QString &name);
 
 private:
+    /// What stands on the LCD; no array if the panel does not answer.
+    QJsonValue texts();
     void readLog(int timeoutMs);
     bool isBusy();
     QDomDocument store() const;

@@ -1,7 +1,6 @@
 // What the EDID of the inputs sends, and how its two pages take turns: the standard modes and a custom one.
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
@@ -65,8 +64,7 @@ bool TestFramesEdid::chooseOther(ENUM_ConfigIndex other)
 
 bool TestFramesEdid::shows(const QString &text)
 {
-    return m_panel.waitUntil(
-        [&] { return !lcdtext::find(m_panel.screen(), text, QRect(0, 0, 320, 240)).isEmpty(); });
+    return m_panel.waitFor(text);
 }
 
 QStringList TestFramesEdid::applied()
