@@ -128,7 +128,7 @@ bool MenuWalk::cursorIsIn(int position)
 {
     static const QRegularExpression move("(?:left:| ###Right) (\\d+)");
     constexpr int looks = 100, lookMs = 10;
-    for (int look = 0; look < looks; ++look) {
+    for (int look = 0; look < looks * panelSlowness(); ++look) {
         const QStringList moves = m_panel.logLines(QString()).filter(move);
         if (moves.isEmpty() || move.match(moves.last()).captured(1).toInt() == position)
             return true;

@@ -16,16 +16,22 @@
 #include <QXmlStreamReader>
 #include <algorithm>
 
+int panelSlowness()
+{
+    static const int slowness = qMax(1, qEnvironmentVariableIntValue("FPD_SLOWNESS"));
+    return slowness;
+}
+
 namespace
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr int patienceMs = 90000;
+const int patienceMs = 90000 * panelSlowness();
 #else
-constexpr int patienceMs = 30000;
+const int patienceMs = 30000 * panelSlowness();
 #endif
 constexpr int lookMs = 10;
-constexpr int stillMs = 50;
-constexpr int busyMs = 1000;
+const int stillMs = 50 * panelSlowness();
+const int busyMs = 1000 * panelSlowness();
 const QString storeFile = "/usr/vask/etc/fpd/config/config.xml";
 
 QDomElement itemElement(const QDomDocument &store, int item)

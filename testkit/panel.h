@@ -29,6 +29,9 @@ constexpr const char *Preset = "preset";
 
 enum Direction { Left, Right };
 
+/// How many times as slow as a PC's the panel is, such as one for another processor: FPD_SLOWNESS, else 1.
+int panelSlowness();
+
 class Panel
 {
 public:
