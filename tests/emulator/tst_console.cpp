@@ -5,6 +5,8 @@
 #include "emulatorrig.h"
 #include "tests/testprogram.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <sys/stat.h>
 
@@ -29,6 +31,8 @@ private slots:
     void bytesAreTaken();
     void requestsAreRefused_data();
     void requestsAreRefused();
+    void whatIsReadIsJson_data();
+    void whatIsReadIsJson();
     void writesHaveTimes();
     void answersOfAReplayAreCompared_data();
     void answersOfAReplayAreCompared();
@@ -251,7 +255,7 @@ void TestConsole::requestsAreRefused_data()
     row("replay /dev/zero", "no plain file");
     row("replay LONG", "at most 64 MB");
     row("replay SESSION nan",
-        "usage: replay FILE [SPEED] [--check]: SPEED is \"nan\", must be 0.001 to 100000");
+        "usage: replay FILE [SPEED] [--check] [--json]: SPEED is \"nan\", must be 0.001 to 100000");
     row("replay SESSION inf", "SPEED is \"inf\"");
     for (const char *seconds : {"nan", "1e300", "-1"})
         row(QByteArray("leds --watch ") + seconds, "must be 0 to 604800");
@@ -296,6 +300,37 @@ void TestConsole::requestsAreRefused()
     QVERIFY2(answer.startsWith("error ") && answer.contains(reason), answer);
 }
 
+void TestConsole::whatIsReadIsJson_data()
+{
+    QTest::addColumn<QByteArray>("request");
+    QTest::addColumn<QByteArray>("holds"); // the first line of the answer
+    const auto row = [](const QByteArray &request, const QByteArray &holds) {
+        QTest::newRow(request) << request << holds;
+    };
+    row("panel status", R"("running":false)");
+    row("state", R"("path":"/)");
+    row("sent", R"("ns":)");
+    row("leds --watch 0", R"("leds":{"fn":"off")");
+    row("preset list", R"({"name":"Concert","preset":1,"state":"used"})");
+    row("device show", R"("cables":{"Ethernet cable":"0")");
+    row("flash read 0 2", R"({"address":"0","bytes":")");
+    row("env get colour", R"({"name":"colour","value":"blue"})");
+    row("help leds", R"("word":"leds")");
+    row("when", "[]");
+    row("replay SESSION", R"("differences":[])");
+}
+
+void TestConsole::whatIsReadIsJson()
+{
+    QFETCH(QByteArray, request);
+    QFETCH(QByteArray, holds);
+    QCOMPARE(m_rig->ask("env set colour blue"), QByteArray("ok"));
+    const auto lines = m_rig->lines(request.replace("SESSION", m_rig->file("session").toUtf8()) + " --json");
+    QVERIFY(!lines.isEmpty() && lines[0].contains(holds));
+    for (const QByteArray &line : lines)
+        QVERIFY2(!QJsonDocument::fromJson(line).isNull(), line);
+}
+
 void TestConsole::writesHaveTimes()
 {
     QVERIFY(m_rig->panel->write(0x0200001f, "0a") && m_rig->panel->write(0x02000020, "0b"));
@@ -308,6 +343,8 @@ void TestConsole::writesHaveTimes()
     const QList<QByteArray> both = {"0200001f 00 0a", plain};
     QCOMPARE(m_rig->lines("writes --plain"), both);
     QCOMPARE(m_rig->lines("WRITES --PLAIN --SINCE 60"), both);
+    const QJsonObject written = QJsonDocument::fromJson(m_rig->lines("writes --json").value(1)).object();
+    QCOMPARE(written["address"].toString() + ' ' + written["bytes"].toString(), QString("02000020 0b"));
     QCOMPARE(m_rig->lines("writes --plain --since " + time).last(), plain);
     QTRY_COMPARE(m_rig->lines("writes --plain --since " + later).size(), 0); // once that time has come
 }
