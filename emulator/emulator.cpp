@@ -9,10 +9,11 @@ constexpr const char *heardText = "StartComplate: 2";
 } // namespace
 
 Emulator::Emulator(StateFolder &stateFolder, QObject *parent)
-    : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), heldKeys(keypad), device(stateFolder.path()),
-      recorder(keypad, device), bootFlag(stateFolder.path()), panel(stateFolder.path()),
-      tools(stateFolder.path()), service(stateFolder, device), pushChannel(stateFolder),
-      lcd(stateFolder.path()), screenText(stateFolder.path(), lcd), keyRules(keypad, screenText)
+    : QObject(parent), folder(stateFolder), keypad(stateFolder.path()), heldKeys(keypad),
+      device(stateFolder.path()), recorder(keypad, device), bootFlag(stateFolder.path()),
+      panel(stateFolder.path()), tools(stateFolder.path()), service(stateFolder, device),
+      pushChannel(stateFolder), lcd(stateFolder.path()), screenText(stateFolder.path(), lcd),
+      keyRules(keypad, screenText)
 {
     m_look.setInterval(lookMs);
     connect(&m_look, &QTimer::timeout, this, &Emulator::lookIfReady);
