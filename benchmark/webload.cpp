@@ -64,7 +64,7 @@ constexpr const char *turnAndWait = R"((() => new Promise(done => {
     };
     const code = '%1';
     dispatchEvent(new KeyboardEvent('keydown', { code, key: code, cancelable: true }));
-})))()";
+}))())";
 
 /// The picture's own time is from the key word to the panel's drawing, both by the monotonic clock.
 void measureKeys(Panel &panel, int port)
@@ -82,6 +82,10 @@ void measureKeys(Panel &panel, int port)
         panel.settle();
         const QJsonArray times =
             page->value(QString(turnAndWait).arg(i % 2 ? "ArrowLeft" : "ArrowRight")).toArray();
+        if (times.size() < 3) {
+            printf("the page does not answer\n");
+            return;
+        }
         const double sentMs = panel.ask({"sent"}).lines.value(0).toDouble() / 1e6;
         own << times[2].toDouble() / 1e3 - sentMs;
         shown << times[0].toDouble() - own.last();
@@ -156,6 +160,7 @@ void measureStalled(Panel &panel, int port)
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
+    setvbuf(stdout, nullptr, _IOLBF, 0);
     const int port = freePort();
     Panel panel;
     panel.setOptions({"--web", QString::number(port)});
@@ -163,8 +168,8 @@ int main(int argc, char **argv)
         printf("the panel does not start\n");
         return 1;
     }
+    measureKeys(panel, port);
     measureViewers(panel, port);
     measureStalled(panel, port);
-    measureKeys(panel, port);
     return 0;
 }
