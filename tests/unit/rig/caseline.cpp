@@ -224,6 +224,11 @@ void runCaseLine(EngineRig &rig, const CaseLine &line, const LedPanel *leds)
 void CaseTest::initTestCase()
 {
     m_rig = makeRig();
+    const CaseLines all = lines();
+    if (std::none_of(all.begin(), all.end(), [](const CaseLine &line) {
+            return line.outcome.contains("lit ") || line.outcome.contains("dark ");
+        }))
+        return; // nobody looks at the LEDs: no driver, no thread of it
     m_leds = new LedPanel(m_rig->statePath("").toStdString());
     KeyEvent::getInstance()->InitKeyDriver(qApp);
 }

@@ -78,6 +78,9 @@ public:
         m_closer.start(0);
     }
 
+    /// What the store still brings to the disk has its folder until then.
+    ~PanelRig() override { store->endSync(); }
+
     QString statePath(const QString &name) const { return m_state.path() + name; }
 
     MenuAnalysis *store = nullptr;
