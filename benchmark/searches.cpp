@@ -4,9 +4,9 @@
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/engine/limits/videotiming.h"
 
-#include <chrono>
+#include <benchmark/benchmark.h>
 #include <cstdio>
-#include <functional>
+#include <map>
 
 using namespace VASK;
 
@@ -14,78 +14,96 @@ namespace
 {
 constexpr uint32_t highClock = 165000000;
 constexpr uint32_t lowClock = 25000000;
-constexpr int rates[] = {2300, 2398, 6000, 8500, 12000};
+const std::vector<int64_t> rates{2300, 2398, 6000, 8500, 12000};
 
-volatile int keptResult; ///< so that no call is left out
+/// Keeps of all inputs of a search the one that took longest.
+class WorstReporter : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context &) override { return true; }
 
-struct Worst {
-    double us = 0;
-    int first = 0;
-    int second = 0;
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            Worst &worst = m_worst[run.run_name.function_name];
+            if (run.GetAdjustedRealTime() > worst.us)
+                worst = {run.GetAdjustedRealTime(), run.run_name.args};
+        }
+    }
+
+    void Finalize() override
+    {
+        for (const auto &[search, worst] : m_worst)
+            std::printf("%-44s %10.1f us   at %s\n", search.c_str(), worst.us, worst.input.c_str());
+    }
+
+private:
+    struct Worst {
+        double us = 0;
+        std::string input;
+    };
+    std::map<std::string, Worst> m_worst;
 };
 
-void measure(Worst &worst, int first, int second, const std::function<int()> &search)
+void search(benchmark::State &state, int (*find)(uint32_t, int, int), uint32_t clock)
 {
-    using Clock = std::chrono::steady_clock;
-    constexpr int tries = 3; // the best of a few: what the machine does beside is not the search's
-    double best = 1e9;
-    for (int i = 0; i < tries; ++i) {
-        const auto start = Clock::now();
-        keptResult = search();
-        best = std::min(best, std::chrono::duration<double, std::micro>(Clock::now() - start).count());
-    }
-    if (best > worst.us)
-        worst = {best, first, second};
-}
-
-void report(const char *name, const Worst &worst)
-{
-    std::printf("%-28s %10.1f us   at %d, %d\n", name, worst.us, worst.first, worst.second);
-}
-
-void sizeSearch(const char *name, int (*search)(uint32_t, int, int), uint32_t clock)
-{
-    Worst worst;
-    for (int other = 0; other <= 4092; other += 31)
-        for (int rate : rates)
-            measure(worst, other, rate, [=] { return search(clock, other, rate); });
-    report(name, worst);
-}
-
-void rateSearch(const char *name, int (*search)(uint32_t, int, int), uint32_t clock)
-{
-    Worst worst;
-    for (int width = 0; width <= 4092; width += 124)
-        for (int height = 0; height <= 4092; height += 124)
-            measure(worst, width, height, [=] { return search(clock, width, height); });
-    report(name, worst);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(find(clock, int(state.range(0)), int(state.range(1))));
 }
 
 /// A count that goes down one by one from the largest that 16 bits hold.
-void screenSearch()
+void screenSearch(benchmark::State &state)
 {
-    Worst worst;
-    for (uint16_t cabinet : {0, 1, 16, 64, 480})
-        for (int rate : rates)
-            measure(worst, cabinet, rate, [=] {
-                int count = 65535;
-                while (count > 1 && (count * cabinet > 8192 ||
-                                     VideoBandwidthConstrain(uint16_t(count * cabinet), 65535, uint16_t(rate),
-                                                             wholeOutputPixelRate, 1)))
-                    --count;
-                return count;
-            });
-    report("screen counts, one by one", worst);
+    const auto cabinet = uint16_t(state.range(0));
+    const auto rate = uint16_t(state.range(1));
+    for (auto _ : state) {
+        int count = 65535;
+        while (count > 1 &&
+               (count * cabinet > 8192 ||
+                VideoBandwidthConstrain(uint16_t(count * cabinet), 65535, rate, wholeOutputPixelRate, 1)))
+            --count;
+        benchmark::DoNotOptimize(count);
+    }
+}
+
+void briefly(benchmark::internal::Benchmark *family)
+{
+    family->Unit(benchmark::kMicrosecond)->MinTime(0.001);
+}
+
+/// The other size and the rate.
+void bySize(benchmark::internal::Benchmark *family)
+{
+    briefly(family);
+    family->ArgNames({"size", "rate"})->ArgsProduct({benchmark::CreateDenseRange(0, 4092, 62), rates});
+}
+
+void byBothSizes(benchmark::internal::Benchmark *family)
+{
+    briefly(family);
+    const auto sizes = benchmark::CreateDenseRange(0, 4092, 186);
+    family->ArgNames({"width", "height"})->ArgsProduct({sizes, sizes});
+}
+
+void byCabinet(benchmark::internal::Benchmark *family)
+{
+    briefly(family);
+    family->ArgNames({"cabinet", "rate"})->ArgsProduct({{0, 1, 16, 64, 480}, rates});
 }
 } // namespace
 
-int main()
+BENCHMARK_CAPTURE(search, _CVT_GetWidthMaxValue, _CVT_GetWidthMaxValue, highClock)->Apply(bySize);
+BENCHMARK_CAPTURE(search, _CVT_GetWidthMinValue, _CVT_GetWidthMinValue, lowClock)->Apply(bySize);
+BENCHMARK_CAPTURE(search, _CVT_GetHeightMaxValue, _CVT_GetHeightMaxValue, highClock)->Apply(bySize);
+BENCHMARK_CAPTURE(search, _CVT_GetHeightMinValue, _CVT_GetHeightMinValue, lowClock)->Apply(bySize);
+BENCHMARK_CAPTURE(search, _CVT_GetframeRateMaxValue, _CVT_GetframeRateMaxValue, highClock)
+    ->Apply(byBothSizes);
+BENCHMARK_CAPTURE(search, _CVT_GetframeRateMinValue, _CVT_GetframeRateMinValue, lowClock)->Apply(byBothSizes);
+BENCHMARK(screenSearch)->Apply(byCabinet);
+
+int main(int argc, char **argv)
 {
-    sizeSearch("_CVT_GetWidthMaxValue", _CVT_GetWidthMaxValue, highClock);
-    sizeSearch("_CVT_GetWidthMinValue", _CVT_GetWidthMinValue, lowClock);
-    sizeSearch("_CVT_GetHeightMaxValue", _CVT_GetHeightMaxValue, highClock);
-    sizeSearch("_CVT_GetHeightMinValue", _CVT_GetHeightMinValue, lowClock);
-    rateSearch("_CVT_GetframeRateMaxValue", _CVT_GetframeRateMaxValue, highClock);
-    rateSearch("_CVT_GetframeRateMinValue", _CVT_GetframeRateMinValue, lowClock);
-    screenSearch();
+    benchmark::Initialize(&argc, argv);
+    WorstReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
 }
