@@ -304,7 +304,7 @@ private:
             m_timed[number].afterMs = m_clock.elapsed() - start;
         });
         QTimer::singleShot(0, box.get(), [this, number] { openTimed(number + 1); });
-        QTimer::singleShot(m_timed[number].timeMs, this,
+        QTimer::singleShot(m_timed[number].timeMs, Qt::PreciseTimer, this,
                            [this, start, number] { m_timed[number].timerMs = m_clock.elapsed() - start; });
         box->exec();
     }
