@@ -9,10 +9,10 @@
 
 namespace VASK
 {
-namespace httpexchange
-{
 namespace
 {
+using HttpPackage = HttpExchange::HttpPackage;
+
 constexpr int defaultTimeoutS = 3;
 constexpr qint64 largestAnswer = 32 * 1024 * 1024;
 constexpr const char *contentType = "application/json;charset=utf-8";
@@ -55,7 +55,7 @@ QHttpPart textPart(const char *name, const QByteArray &text)
 }
 } // namespace
 
-QString composeUrl(QString url, const StringMap &parameters, const StringMap &placeHolders)
+QString HttpExchange::composeUrl(QString url, const StringMap &parameters, const StringMap &placeHolders)
 {
     for (auto holder = placeHolders.cbegin(); holder != placeHolders.cend(); ++holder)
         url.replace('{' + holder.key() + '}', holder.value());
@@ -65,7 +65,8 @@ QString composeUrl(QString url, const StringMap &parameters, const StringMap &pl
     return query.isEmpty() ? url : url + '?' + query.join('&');
 }
 
-QNetworkRequest createRequest(const QString &address, const QString &url, const StringMap &headers)
+QNetworkRequest HttpExchange::createRequest(const QString &address, const QString &url,
+                                            const StringMap &headers)
 {
     QNetworkRequest request(QUrl(address + url));
     for (auto header = headers.cbegin(); header != headers.cend(); ++header) {
@@ -84,15 +85,15 @@ QNetworkRequest createRequest(const QString &address, const QString &url, const 
     return request;
 }
 
-QNetworkRequest createRequest(const HttpPackage &package)
+QNetworkRequest HttpExchange::createRequest(const HttpPackage &package)
 {
     return createRequest(package.address(),
                          composeUrl(package.getUrl(), package.parameters(), package.placeHolders()),
                          package.requestHeader());
 }
 
-std::unique_ptr<QHttpMultiPart> makeMultiPart(const QString &file, const QString &text,
-                                              const QList<unsigned long long> &idList)
+std::unique_ptr<QHttpMultiPart> HttpExchange::makeMultiPart(const QString &file, const QString &text,
+                                                            const QList<unsigned long long> &idList)
 {
     auto form = std::make_unique<QHttpMultiPart>();
     for (const unsigned long long id : idList) {
@@ -105,7 +106,7 @@ std::unique_ptr<QHttpMultiPart> makeMultiPart(const QString &file, const QString
     return form;
 }
 
-std::unique_ptr<QHttpMultiPart> makeMultiPart(const HttpPackage &package)
+std::unique_ptr<QHttpMultiPart> HttpExchange::makeMultiPart(const HttpPackage &package)
 {
     using Texts = std::vector<std::string>;
     const Parameters parts = package.multiPartParameters();
@@ -123,29 +124,29 @@ std::unique_ptr<QHttpMultiPart> makeMultiPart(const HttpPackage &package)
     return makeMultiPart(QString::fromStdString(files.front()), QString::fromStdString(text), ids);
 }
 
-std::chrono::milliseconds timeoutOf(const HttpPackage &package)
+std::chrono::milliseconds HttpExchange::timeoutOf(const HttpPackage &package)
 {
     constexpr int longestS = std::numeric_limits<int>::max() / 1000;
     return std::chrono::seconds(qBound(0, optionOf(package, "timeout", defaultTimeoutS), longestS));
 }
 
-QString saveToOf(const HttpPackage &package)
+QString HttpExchange::saveToOf(const HttpPackage &package)
 {
     return QString::fromStdString(optionOf(package, "saveTo", std::string()));
 }
 
-Outcome failed(const QString &reason)
+HttpExchange::Outcome HttpExchange::failed(const QString &reason)
 {
-    return {false, ResultSet::fromJson(reason.toUtf8())};
+    return {false, parseJson(reason)};
 }
 
-Outcome outcomeOf(QNetworkReply &reply, const QString &saveTo)
+HttpExchange::Outcome HttpExchange::outcomeOf(QNetworkReply &reply, const QString &saveTo)
 {
     if (reply.error() != QNetworkReply::NoError)
         return failed(reply.errorString());
     const QByteArray body = reply.readAll();
     if (saveTo.isEmpty())
-        return {true, ResultSet::fromJson(QString::fromUtf8(body.constData()).toUtf8())};
+        return {true, parseJson(QString::fromUtf8(body.constData()))};
     QSaveFile file(saveTo);
     if (!file.open(QIODevice::WriteOnly) || file.write(body) != body.size() || !file.commit())
         return failed("cannot write " + saveTo + ": " + file.errorString());
@@ -154,7 +155,7 @@ Outcome outcomeOf(QNetworkReply &reply, const QString &saveTo)
     return {true, tree};
 }
 
-void boundAnswer(QNetworkReply *reply)
+void HttpExchange::boundAnswer(QNetworkReply *reply)
 {
     reply->setReadBufferSize(largestAnswer + 1);
     QObject::connect(reply, &QNetworkReply::readyRead, reply, [reply] {
@@ -163,9 +164,8 @@ void boundAnswer(QNetworkReply *reply)
     });
 }
 
-void useNoProxy(QNetworkAccessManager &manager)
+void HttpExchange::useNoProxy(QNetworkAccessManager &manager)
 {
     manager.setProxy(QNetworkProxy(QNetworkProxy::NoProxy));
 }
-} // namespace httpexchange
 } // namespace VASK

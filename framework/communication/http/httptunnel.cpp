@@ -7,11 +7,10 @@
 namespace VASK
 {
 using Communicator_New::Ticket;
-using Communicator_New::Vask4th_New::HttpPackage;
 
 HTTPTunnel::HTTPTunnel()
 {
-    httpexchange::useNoProxy(m_manager);
+    useNoProxy(m_manager);
     // Warming up makes a reply, too, and nobody else would release it.
     m_manager.setAutoDeleteReplies(true);
 }
@@ -43,7 +42,7 @@ void HTTPTunnel::clearCache()
 QNetworkRequest HTTPTunnel::createRequest(const QString &address, const QString &url,
                                           const StringMap &headers) const
 {
-    QNetworkRequest request = httpexchange::createRequest(address, url, headers);
+    QNetworkRequest request = HttpExchange::createRequest(address, url, headers);
     if (m_sslEnabled) {
         QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
         ssl.setPeerVerifyMode(QSslSocket::VerifyNone);
@@ -60,8 +59,8 @@ HTTPTunnel::PTicket HTTPTunnel::downloadFile(Package &package, Callback callback
         return {};
     const QString url = composeUrl(wanted.getUrl(), wanted.parameters(), wanted.placeHolders());
     QNetworkRequest request = createRequest(m_address, url, wanted.requestHeader());
-    request.setTransferTimeout(int(httpexchange::timeoutOf(wanted).count()));
-    const QString saveTo = httpexchange::saveToOf(wanted);
+    request.setTransferTimeout(int(timeoutOf(wanted).count()));
+    const QString saveTo = saveToOf(wanted);
     const auto ticket = std::make_shared<Ticket>(std::move(callback));
     QNetworkReply *reply = m_manager.get(request);
     connect(reply, &QNetworkReply::downloadProgress, this, [progress](qint64 received, qint64 total) {
@@ -70,7 +69,7 @@ HTTPTunnel::PTicket HTTPTunnel::downloadFile(Package &package, Callback callback
     });
     connect(reply, &QNetworkReply::finished, this, [reply, ticket, saveTo] {
         const Callback answered = std::exchange(ticket->callback, nullptr);
-        const httpexchange::Outcome outcome = httpexchange::outcomeOf(*reply, saveTo);
+        const Outcome outcome = outcomeOf(*reply, saveTo);
         if (ticket->active && answered)
             answered(outcome.ok, outcome.tree);
     });

@@ -10,7 +10,7 @@
 
 namespace VASK
 {
-class HTTPTunnel : public QObject, public Communicator_New::Tunnel
+class HTTPTunnel : public QObject, public Communicator_New::Tunnel, private HttpExchange
 {
     Q_OBJECT
 public:
@@ -18,7 +18,8 @@ public:
     using PTicket = Communicator_New::PTicket;
     using Callback = Communicator_New::Ticket::Callback;
     using Progress = std::function<void(long received, long total)>;
-    using StringMap = httpexchange::StringMap;
+    using HttpExchange::composeUrl;
+    using HttpExchange::StringMap;
 
     HTTPTunnel();
 
@@ -37,10 +38,7 @@ public:
     void setSSLEnabled(bool enabled) { m_sslEnabled = enabled; }
     static void clearCache();
 
-    static QString composeUrl(const QString &url, const StringMap &parameters, const StringMap &placeHolders)
-    {
-        return httpexchange::composeUrl(url, parameters, placeHolders);
-    }
+    /// As the worker's, and over TLS with what that needs.
     QNetworkRequest createRequest(const QString &address, const QString &url, const StringMap &headers) const;
 
     /// Fetches a URL on this thread, past the worker and its queue: for what is long. The package's method is

@@ -13,7 +13,7 @@ void Task::run()
 {
     setPriority(QThread::HighPriority);
     QNetworkAccessManager manager;
-    httpexchange::useNoProxy(manager);
+    useNoProxy(manager);
     m_manager = &manager;
     while (m_pool.waitForRequest()) {
         auto [ticket, package] = m_pool.pop();
@@ -23,7 +23,7 @@ void Task::run()
             process(package, ticket);
         } catch (const std::exception &wrong) {
             handOver(ticket.get());
-            emit signal_finished(false, ticket, httpexchange::failed(wrong.what()).tree, package.getUrl());
+            emit signal_finished(false, ticket, failed(wrong.what()).tree, package.getUrl());
         }
     }
     m_manager = nullptr;
@@ -31,8 +31,8 @@ void Task::run()
 
 QNetworkReply *Task::begin(HttpPackage &package)
 {
-    const QNetworkRequest request = httpexchange::createRequest(package);
-    std::unique_ptr<QHttpMultiPart> form = httpexchange::makeMultiPart(package);
+    const QNetworkRequest request = createRequest(package);
+    std::unique_ptr<QHttpMultiPart> form = makeMultiPart(package);
     const QString method = package.method();
     QNetworkReply *reply = nullptr;
     if (method == "get")
@@ -52,21 +52,21 @@ QNetworkReply *Task::begin(HttpPackage &package)
 
 void Task::process(HttpPackage &package, const Communicator_New::PTicket &ticket)
 {
-    const std::chrono::milliseconds timeout = httpexchange::timeoutOf(package);
-    const QString saveTo = httpexchange::saveToOf(package);
+    const std::chrono::milliseconds timeout = timeoutOf(package);
+    const QString saveTo = saveToOf(package);
     // Not deleteLater: between two requests this thread waits for the next one and has no event loop.
     const std::unique_ptr<QNetworkReply> reply(begin(package));
     if (!reply)
         return;
     if (saveTo.isEmpty())
-        httpexchange::boundAnswer(reply.get());
+        boundAnswer(reply.get());
     QTimer::singleShot(timeout, reply.get(), [&reply] { reply->abort(); });
     QEventLoop loop;
     connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
     loop.exec();
     if (!reply->isFinished())
         return; // the process ends
-    const httpexchange::Outcome outcome = httpexchange::outcomeOf(*reply, saveTo);
+    const Outcome outcome = outcomeOf(*reply, saveTo);
     handOver(ticket.get());
     emit signal_finished(outcome.ok, ticket, outcome.tree, reply->url().toString());
 }

@@ -11,18 +11,17 @@ namespace VASK
 {
 class TaskPool;
 
-class Task : public QThread
+class Task : public QThread, private HttpExchange
 {
     Q_OBJECT
 public:
-    using HttpPackage = Communicator_New::Vask4th_New::HttpPackage;
+    using HttpExchange::composeUrl;
+    using HttpExchange::createRequest;
+    using HttpExchange::HttpPackage;
+    using HttpExchange::makeMultiPart;
+    using HttpExchange::parseJson;
 
     explicit Task(TaskPool &pool) : m_pool(pool) {}
-
-    static std::shared_ptr<ResultSet> parseJson(const QString &text)
-    {
-        return ResultSet::fromJson(text.toUtf8());
-    }
 
 signals:
     void signal_finished(bool ok, std::shared_ptr<Communicator_New::Ticket> ticket,

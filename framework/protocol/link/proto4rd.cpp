@@ -12,21 +12,19 @@ namespace
 {
 constexpr char nameSeparator = '+';
 
-void logSuccess(ENUM_MenuIndex index, const std::string &key)
-{
-    qDebug() << "succeed, index:" << int(index) << "str:" << key.c_str();
-}
-
 /// The panel keeps the user's value whatever comes of the request: its end is only logged.
 void tellEnd(ST_Protocol4rdMsg &message, ENUM_MenuIndex index, const char *failure)
 {
-    message.onSuccess = [index](const Parameters &, const std::string &key) { logSuccess(index, key); };
-    message.onListSuccess = [index](const Action::ParameterList &, const std::string &key) {
-        logSuccess(index, key);
+    const auto success = [index](const auto &, const std::string &key) {
+        qDebug() << "succeed, index:" << int(index) << "str:" << key.c_str();
     };
-    message.onIdSuccess = [index](const Parameters &, unsigned long long id, const std::string &key) {
+    const auto successWithId = [index](const auto &, unsigned long long id, const std::string &key) {
         qDebug() << "succeed, index:" << int(index) << "uid:" << id << "str:" << key.c_str();
     };
+    message.onSuccess = success;
+    message.onListSuccess = success;
+    message.onIdSuccess = successWithId;
+    message.onListIdSuccess = successWithId;
     message.onFailure = [failure] { qDebug() << failure; };
 }
 } // namespace

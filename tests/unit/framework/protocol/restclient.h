@@ -18,14 +18,23 @@ public:
     int SendMsg(void *given) override
     {
         const auto &message = *static_cast<ST_Protocol4rdMsg *>(given);
-        static const QMap<int, QString> verbs{
-            {METHOD_GetTree, "GET"}, {METHOD_Put, "PUT"}, {METHOD_PostList, "POST"}, {METHOD_PutId, "PUT"}};
-        const std::string body = message.type == METHOD_PostList ? Action::bodyText(message.parameterList)
-                                                                 : Action::bodyText(message.parameters);
+        static const QMap<int, QString> verbs{{METHOD_GetTree, "GET"},
+                                              {METHOD_Put, "PUT"},
+                                              {METHOD_PutId, "PUT"},
+                                              {METHOD_Post, "POST"},
+                                              {METHOD_PostId, "POST"}};
+        static const QMap<int, QString> listVerbs{{METHOD_PutList, "PUT"},
+                                                  {METHOD_PostList, "POST"},
+                                                  {METHOD_PutIdList, "PUT"},
+                                                  {METHOD_PostIdList, "POST"}};
+        const bool isList = listVerbs.contains(message.type);
+        const QString verb = isList ? listVerbs[message.type] : verbs.value(message.type, "?");
+        const std::string body =
+            isList ? Action::bodyText(message.parameterList) : Action::bodyText(message.parameters);
         QString path =
             AllUrlResource::getInstance()->getMapAllUrl().value(QString::fromStdString(message.key));
         path.replace("{id}", QString::number(message.id)).remove("/api/v1/device/");
-        requests += verbs.value(message.type, "?") + ' ' + path + ' ' + QString::fromStdString(body);
+        requests += verb + ' ' + path + ' ' + QString::fromStdString(body);
         messages.append(message);
         return 1;
     }
