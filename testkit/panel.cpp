@@ -1,6 +1,7 @@
 #include "testkit/panel.h"
 
 #include "fpd_hostlink.h"
+#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "testkit/names/itemnames.h"
 #include "testkit/procfs.h"
@@ -234,6 +235,18 @@ bool Panel::waitUntilGone(const QString &text)
         const QJsonValue seen = texts();
         return seen.isArray() && !holds(seen.toArray(), text, QRect());
     });
+}
+
+bool Panel::draws(const QString &text, int pixels, const QRect &area, const QString &family) const
+{
+    QFont font(family);
+    font.setPixelSize(pixels);
+    return !lcdtext::find(screen(), text, font, area).isEmpty();
+}
+
+bool Panel::waitToDraw(const QString &text, int pixels, const QRect &area, const QString &family) const
+{
+    return waitUntil([&] { return draws(text, pixels, area, family); });
 }
 
 bool Panel::waitUntil(const std::function<bool()> &condition) const

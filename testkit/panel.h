@@ -66,6 +66,11 @@ public:
     bool waitFor(const QString &text, const QRect &area = QRect());
     /// Waits until it does not.
     bool waitUntilGone(const QString &text);
+    /// The text is drawn in that one font, for what is gone before all fonts are tried and for its size.
+    bool draws(const QString &text, int pixels, const QRect &area = QRect(),
+               const QString &family = "宋体") const;
+    bool waitToDraw(const QString &text, int pixels, const QRect &area = QRect(),
+                    const QString &family = "宋体") const;
     bool waitUntil(const std::function<bool()> &condition) const;
 
     /// From here on the log is looked at.

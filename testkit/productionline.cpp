@@ -1,6 +1,5 @@
 #include "testkit/productionline.h"
 
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 
 #include <QRegularExpression>
@@ -17,13 +16,6 @@ const QStringList names[][3] = {
      {"DOWN", "UP", "ESC", "PRESET", "FN"}},
     {{"HDMI1", "HDMI2", "DVI"}, {"NET1", "NET2", "NET3", "NET4", "NET5", "NET6"}, {"USB-IN", "ETHRNET"}},
 };
-
-QFont fontOf(int pixels)
-{
-    QFont font(QString::fromUtf8("宋体"));
-    font.setPixelSize(pixels);
-    return font;
-}
 
 /// The colours of the table, by their full ink; a space for untested.
 char stateOf(const QImage &cell)
@@ -50,8 +42,7 @@ bool ProductionLine::begin()
 bool ProductionLine::waitFor(Step step)
 {
     const QString wanted = QString::fromUtf8("生产测试（%1）").arg(int(step));
-    return m_panel.waitUntil(
-        [&] { return !lcdtext::find(m_panel.screen(), wanted, fontOf(14), title).isEmpty(); });
+    return m_panel.waitToDraw(wanted, 14, title);
 }
 
 bool ProductionLine::pressKeys(const QString &but)
@@ -105,7 +96,7 @@ QString ProductionLine::table(Step step)
         int top = title.bottom() + 1;
         for (const QString &name : names[step == InOut ? 1 : 0][column]) {
             const QRect cell(columns[column], top, columns[column + 1] - columns[column], rowHeight);
-            const bool there = !lcdtext::find(screen, name, fontOf(18), cell).isEmpty();
+            const bool there = m_panel.draws(name, 18, cell);
             seen << (name + (there ? stateOf(screen.copy(cell)) : '?')).trimmed();
             top += rowHeight;
         }

@@ -2,6 +2,8 @@
 // one file whose name it is given. CTest runs each file in a process of its own.
 #pragma once
 
+#include "tests/datarows.h"
+
 #include <QTest>
 
 namespace testprogram

@@ -1,6 +1,5 @@
 // The device by the words of its console, with the panel on its bus: what happens at the device is in its
 // state, the panel takes it over, and a session can be played again.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "testkit/mirrored.h"
 #include "tests/system/systemtest.h"
@@ -55,9 +54,7 @@ private slots:
 
     void wordsChangeTheDevice_data()
     {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("line");
-        const auto row = [](const char *words, const char *line) { QTest::newRow(words) << words << line; };
+        const DataRows<QString, QString> row{"words", "line"};
         row("signal sdi on 1920x1080i@50 ycc422", "  sdi: 1920x1080i@50 ycc422");
         row("signal sdi on", "  sdi: 1920x1080i@50 ycc422");
         row("signal sdi off", "  sdi: no signal");
@@ -77,8 +74,7 @@ private slots:
     }
     void wordsChangeTheDevice()
     {
-        QFETCH(QString, words);
-        QFETCH(QString, line);
+        const auto [words, line] = fetched<QString, QString>({"words", "line"});
         const Answer answer = m_panel.ask(words.split(' '));
         QVERIFY2(answer.ok, qPrintable(answer.error));
         QVERIFY2(shown().contains(line), qPrintable(shown().join('\n')));
@@ -159,5 +155,4 @@ private:
 };
 
 FPD_TEST(TestSystemDevice)
-
 #include "tst_systemdevice.moc"

@@ -51,5 +51,4 @@ private slots:
 };
 
 FPD_TEST(TestSystemLeds)
-
 #include "tst_systemleds.moc"

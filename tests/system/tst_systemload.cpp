@@ -1,5 +1,4 @@
 // The panel while the device talks without a break and somebody presses keys: two threads work on one state.
-#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -99,5 +98,4 @@ private:
 };
 
 FPD_TEST(TestSystemLoad)
-
 #include "tst_systemload.moc"

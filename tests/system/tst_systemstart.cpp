@@ -1,5 +1,4 @@
 // How the panel starts, with everything in place and with parts of the board missing.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
@@ -80,16 +79,14 @@ private slots:
     /// The texts of the tables are shown then.
     void startsWithDamagedTexts_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::newRow("cut") << 9000 << -1;
-        QTest::newRow("offsets") << 40 << 2300;
-        QTest::newRow("messages") << 5000 << 9000;
+        const DataRows<int, int> row{"from", "to"};
+        row("cut", 9000, -1);
+        row("offsets", 40, 2300);
+        row("messages", 5000, 9000);
     }
     void startsWithDamagedTexts()
     {
-        QFETCH(int, from);
-        QFETCH(int, to);
+        const auto [from, to] = fetched<int, int>({"from", "to"});
         QFile texts(m_fresh->file(configFolder + "/fpd_ZH.qm"));
         QVERIFY(texts.open(QIODevice::ReadWrite));
         if (to < 0)

@@ -5,7 +5,6 @@
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
-#include <QDir>
 #include <QFile>
 #include <sys/resource.h>
 
@@ -50,8 +49,7 @@ protected:
 private slots:
     void damagedFilesAreRepaired_data()
     {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("how");
+        const DataRows<QStringList, QString> row{"files", "how"};
         const QList<QStringList> sets = {{"config"},
                                          {"config_backup"},
                                          {"config_factory"},
@@ -61,13 +59,12 @@ private slots:
         for (const QStringList &files : sets) {
             for (const char *how : {"wrong bytes", "empty", "cut", "garbage", "missing"})
                 if (files == sets.first() || how == QString("wrong bytes"))
-                    QTest::newRow(qPrintable(files.join("+") + " " + how)) << files << QString(how);
+                    row(files.join("+") + " " + how, files, QString(how));
         }
     }
     void damagedFilesAreRepaired()
     {
-        QFETCH(QStringList, files);
-        QFETCH(QString, how);
+        const auto [files, how] = fetched<QStringList, QString>({"files", "how"});
         for (const QString &name : allFiles)
             write(name, m_whole);
         for (const QString &name : files) {

@@ -1,6 +1,4 @@
 #include "tests/system/frames/framedrive.h"
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
 #include "testkit/loglines.h"
 
 #include <QCryptographicHash>

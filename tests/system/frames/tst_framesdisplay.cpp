@@ -1,5 +1,4 @@
 // What the rows of picture, test pattern, OSD and LED screen send when a user changes them with the keys.
-#include "menu/itemindex.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 

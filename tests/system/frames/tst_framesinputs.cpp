@@ -1,5 +1,4 @@
 // What the rows of the inputs send: picture, range, protection, sound.
-#include "menu/itemindex.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
@@ -9,14 +8,6 @@ using namespace VASK;
 using frames::le;
 using frames::path;
 using frames::twice;
-
-class TestFramesInputs : public FramesTest
-{
-    Q_OBJECT
-    QVector<NamedFrames> table() const override;
-private slots:
-    void aFastTurnIsThinnedOut();
-};
 
 namespace
 {
@@ -68,69 +59,73 @@ Path sound(ENUM_MenuIndex row)
 }
 } // namespace
 
-QVector<NamedFrames> TestFramesInputs::table() const
+class TestFramesInputs : public FramesTest
 {
-    QVector<NamedFrames> lines;
-    for (const Input &input : inputs)
-        addPicture(lines, input);
+    Q_OBJECT
+    QVector<NamedFrames> table() const override
+    {
+        QVector<NamedFrames> lines;
+        for (const Input &input : inputs)
+            addPicture(lines, input);
 
-    const QVector<NamedFrames> others{
-        {"HDMI 1: full range", path(MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull), "r1 ok",
-         "13050013 00 01"},
-        {"HDMI 1: limited", path(MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull), "r1 ok",
-         "13050013 00 00"},
-        {"HDMI 2: full range", path(MENU_InputSettings, MENU_HDMI2, MENU_HDMI2_LimitedtoFull), "r1 ok",
-         "13050027 00 01"},
-        {"DVI: full range", path(MENU_InputSettings, MENU_DVI, MENU_DVI_LimitedtoFull), "r1 ok",
-         "1305003b 00 01"},
+        const QVector<NamedFrames> others{
+            {"HDMI 1: full range", path(MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull), "r1 ok",
+             "13050013 00 01"},
+            {"HDMI 1: limited", path(MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_LimitedtoFull), "r1 ok",
+             "13050013 00 00"},
+            {"HDMI 2: full range", path(MENU_InputSettings, MENU_HDMI2, MENU_HDMI2_LimitedtoFull), "r1 ok",
+             "13050027 00 01"},
+            {"DVI: full range", path(MENU_InputSettings, MENU_DVI, MENU_DVI_LimitedtoFull), "r1 ok",
+             "1305003b 00 01"},
 
-        // The registers hold the opposite sense.
-        {"protection on", path(MENU_AdvancedSetting, MENU_HDCP), "r1 ok",
-         "13019004 00 00, 13019014 00 00, 13019024 00 00, 13019034 00 00"},
-        {"protection off", path(MENU_AdvancedSetting, MENU_HDCP), "r1 ok",
-         "13019004 00 01, 13019014 00 01, 13019024 00 01, 13019034 00 01"},
+            // The registers hold the opposite sense.
+            {"protection on", path(MENU_AdvancedSetting, MENU_HDCP), "r1 ok",
+             "13019004 00 00, 13019014 00 00, 13019024 00 00, 13019034 00 00"},
+            {"protection off", path(MENU_AdvancedSetting, MENU_HDCP), "r1 ok",
+             "13019004 00 01, 13019014 00 01, 13019024 00 01, 13019034 00 01"},
 
-        {"sound of PIP 1", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r1 ok",
-         "1300009e 00 02"},
-        {"sound of the line", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r2 ok",
-         "1300009e 00 f0"},
-        {"no sound", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r1 ok",
-         "1300009e 00 00"},
-        {"volume", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume), "R9 ok",
-         twice("1300009f 00 3b")},
-        // Not held back: each step arrives.
-        {"volume, step by step", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume), "l3 ok",
-         "1300009f 00 3a, 1300009f 00 39, 1300009f 00 38, 1300009f 00 38"},
-        // HDMI has a sound of its own, the others have none.
-        {"HDMI 1: line", sound(MENU_AudioInput_HDMI1), "r1 ok", "13019005 00 02"},
-        {"HDMI 1: own sound", sound(MENU_AudioInput_HDMI1), "r1 ok", "13019005 00 01"},
-        {"HDMI 2: line", sound(MENU_AudioInput_HDMI2), "r1 ok", "13019015 00 02"},
-        {"DVI: line", sound(MENU_AudioInput_DVI), "r1 ok", "13019025 00 02"},
-        {"DVI: none", sound(MENU_AudioInput_DVI), "r1 ok", "13019025 00 00"},
-        {"SDI: line", sound(MENU_AudioInput_SDI), "r1 ok", "13019045 00 02"},
-    };
-    return lines + others;
-}
+            {"sound of PIP 1", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r1 ok",
+             "1300009e 00 02"},
+            {"sound of the line", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r2 ok",
+             "1300009e 00 f0"},
+            {"no sound", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_AudioOutput), "r1 ok",
+             "1300009e 00 00"},
+            {"volume", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume), "R9 ok",
+             twice("1300009f 00 3b")},
+            // Not held back: each step arrives.
+            {"volume, step by step", path(MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume), "l3 ok",
+             "1300009f 00 3a, 1300009f 00 39, 1300009f 00 38, 1300009f 00 38"},
+            // HDMI has a sound of its own, the others have none.
+            {"HDMI 1: line", sound(MENU_AudioInput_HDMI1), "r1 ok", "13019005 00 02"},
+            {"HDMI 1: own sound", sound(MENU_AudioInput_HDMI1), "r1 ok", "13019005 00 01"},
+            {"HDMI 2: line", sound(MENU_AudioInput_HDMI2), "r1 ok", "13019015 00 02"},
+            {"DVI: line", sound(MENU_AudioInput_DVI), "r1 ok", "13019025 00 02"},
+            {"DVI: none", sound(MENU_AudioInput_DVI), "r1 ok", "13019025 00 00"},
+            {"SDI: line", sound(MENU_AudioInput_SDI), "r1 ok", "13019045 00 02"},
+        };
+        return lines + others;
+    }
 
-void TestFramesInputs::aFastTurnIsThinnedOut()
-{
-    const Input &hdmi1 = inputs[0];
-    QVERIFY(m_drive.reach({MENU_InputSettings, hdmi1.page, hdmi1.colour, hdmi1.brightness}));
-    QElapsedTimer turning;
-    turning.start();
-    QVERIFY(m_walk.turn(Right, 30));
-    const QStringList writes = m_drive.sent(2);
-    // The first step at once, then one in 100 ms at most, and the last step in any case.
-    constexpr int heldMs = 100;
-    QVERIFY2(writes.size() >= 2 && writes.size() <= 2 + turning.elapsed() / heldMs,
-             qPrintable(writes.join('\n')));
-    QCOMPARE(writes.first(), picture(hdmi1.number, 1, le(51, 1)));
-    QCOMPARE(writes.last(), picture(hdmi1.number, 1, le(80, 1)));
-    QVERIFY(m_walk.press(keys::Ok));
-    QCOMPARE(m_drive.sent(writes.size() + 1).mid(writes.size()),
-             QStringList{picture(hdmi1.number, 1, le(80, 1))});
-}
+private slots:
+    void aFastTurnIsThinnedOut()
+    {
+        const Input &hdmi1 = inputs[0];
+        QVERIFY(m_drive.reach({MENU_InputSettings, hdmi1.page, hdmi1.colour, hdmi1.brightness}));
+        QElapsedTimer turning;
+        turning.start();
+        QVERIFY(m_walk.turn(Right, 30));
+        const QStringList writes = m_drive.sent(2);
+        // The first step at once, then one in 100 ms at most, and the last step in any case.
+        constexpr int heldMs = 100;
+        QVERIFY2(writes.size() >= 2 && writes.size() <= 2 + turning.elapsed() / heldMs,
+                 qPrintable(writes.join('\n')));
+        QCOMPARE(writes.first(), picture(hdmi1.number, 1, le(51, 1)));
+        QCOMPARE(writes.last(), picture(hdmi1.number, 1, le(80, 1)));
+        QVERIFY(m_walk.press(keys::Ok));
+        QCOMPARE(m_drive.sent(writes.size() + 1).mid(writes.size()),
+                 QStringList{picture(hdmi1.number, 1, le(80, 1))});
+    }
+};
 
 FPD_TEST(TestFramesInputs)
-
 #include "tst_framesinputs.moc"

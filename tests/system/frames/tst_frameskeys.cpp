@@ -1,5 +1,4 @@
 // What the keys of layers, inputs, scaling and display modes send, from the home screen.
-#include "menu/itemindex.h"
 #include "tests/system/frames/layerframes.h"
 #include "tests/testprogram.h"
 

@@ -1,5 +1,4 @@
 // What the rows of the three layers and their crops send.
-#include "menu/itemindex.h"
 #include "tests/system/frames/layerframes.h"
 #include "tests/testprogram.h"
 

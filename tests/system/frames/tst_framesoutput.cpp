@@ -1,5 +1,4 @@
 // What the rows of output, synchronisation, backup and network send.
-#include "menu/itemindex.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 
@@ -107,5 +106,4 @@ void TestFramesOutput::aSendingCardHasAStartOfItsOwn()
 }
 
 FPD_TEST(TestFramesOutput)
-
 #include "tst_framesoutput.moc"

@@ -1,5 +1,4 @@
 // What the presets send: each action of their dialog, and the choice of a target for a copy.
-#include "menu/itemindex.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 

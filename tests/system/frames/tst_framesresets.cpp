@@ -1,8 +1,5 @@
 // What the resets send. One of them runs in a run of the panel, so each line has a run of its own.
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
 #include "tests/system/frames/framedrive.h"
-#include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
 #include <QRegularExpression>
@@ -18,24 +15,18 @@ protected:
 private slots:
     void resetSends_data()
     {
-        QTest::addColumn<ENUM_ConfigIndex>("root");
-        QTest::addColumn<QList<ENUM_MenuIndex>>("path");
-        QTest::addColumn<QString>("frame");
+        const DataRows<ENUM_ConfigIndex, QList<ENUM_MenuIndex>, QString> row{"root", "path", "frame"};
         using Path = QList<ENUM_MenuIndex>;
-        QTest::newRow("address kept")
-            << CONFIG_MainMenu << Path{MENU_FactoryReset, MENU_SaveIP} << "01000002 00 00";
-        QTest::newRow("user data kept")
-            << CONFIG_MainMenu << Path{MENU_FactoryReset, MENU_SaveUserData} << "01000002 00 02";
-        QTest::newRow("everything") << CONFIG_MainMenu << Path{MENU_FactoryReset, MENU_ResetAll}
-                                    << "01000002 00 01";
-        QTest::newRow("everything, by the maker")
-            << CONFIG_ProductHiddenMenu << Path{MENU_ClearAllParameters} << "01000002 00 01";
+        row("address kept", CONFIG_MainMenu, Path{MENU_FactoryReset, MENU_SaveIP}, "01000002 00 00");
+        row("user data kept", CONFIG_MainMenu, Path{MENU_FactoryReset, MENU_SaveUserData}, "01000002 00 02");
+        row("everything", CONFIG_MainMenu, Path{MENU_FactoryReset, MENU_ResetAll}, "01000002 00 01");
+        row("everything, by the maker", CONFIG_ProductHiddenMenu, Path{MENU_ClearAllParameters},
+            "01000002 00 01");
     }
     void resetSends()
     {
-        QFETCH(ENUM_ConfigIndex, root);
-        QFETCH(QList<ENUM_MenuIndex>, path);
-        QFETCH(QString, frame);
+        const auto [root, path, frame] =
+            fetched<ENUM_ConfigIndex, QList<ENUM_MenuIndex>, QString>({"root", "path", "frame"});
         m_drive.setRoot(root);
         QCOMPARE(m_drive.drive({path, "no", {}}), QString());
         // What the device tells when it is back leads to nothing.
@@ -52,5 +43,4 @@ private:
 };
 
 FPD_TEST(TestFramesResets)
-
 #include "tst_framesresets.moc"

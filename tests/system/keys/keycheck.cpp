@@ -1,7 +1,5 @@
 #include "tests/system/keys/keycheck.h"
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
-#include "menu/pageindex.h"
 #include "testkit/loglines.h"
 
 #include <QRegularExpression>

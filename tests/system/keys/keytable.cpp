@@ -1,6 +1,5 @@
 #include "tests/system/keys/keytable.h"
 #include "menu/ledindex.h"
-#include "menu/pageindex.h"
 
 #include <QMap>
 

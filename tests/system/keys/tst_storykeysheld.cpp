@@ -2,8 +2,6 @@
 #include "tests/system/keys/keystory.h"
 #include "tests/testprogram.h"
 
-#include <QTest>
-
 class TestStoryKeysHeld : public KeyStory
 {
 public:

@@ -1,8 +1,6 @@
 // The dedicated keys while the device changes its work mode under the panel, and in a panel that has started
 // as a fiber converter: it shows nothing and takes no key until the device calls it back.
-#include "menu/itemindex.h"
 #include "menu/keycodes.h"
-#include "menu/pageindex.h"
 #include "testkit/loglines.h"
 #include "tests/system/keys/keycheck.h"
 #include "tests/system/systemtest.h"
@@ -87,9 +85,9 @@ private slots:
 
     void converterIsDarkAndDeaf_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("to a sending card") << int(Sender);
-        QTest::newRow("to a video controller") << int(Controller);
+        const DataRows<int> row{"mode"};
+        row("to a sending card", Sender);
+        row("to a video controller", Controller);
     }
     void converterIsDarkAndDeaf()
     {
@@ -148,5 +146,4 @@ private:
 };
 
 FPD_TEST(TestStoryKeysModes)
-
 #include "tst_storykeysmodes.moc"

@@ -1,6 +1,5 @@
 // What the device reports as events: its services' start, a name, cabinet files, calibration, an output that
 // a PC has chosen, a self test; and what is no report, in the running panel.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
@@ -178,5 +177,4 @@ private:
 };
 
 FPD_TEST(TestPushesEvents)
-
 #include "tst_pushesevents.moc"

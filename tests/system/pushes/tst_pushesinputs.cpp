@@ -1,5 +1,4 @@
 // What the device reports of its inputs and ports, as the home screen of the running panel shows it.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
@@ -269,5 +268,4 @@ private:
 };
 
 FPD_TEST(TestPushesInputs)
-
 #include "tst_pushesinputs.moc"

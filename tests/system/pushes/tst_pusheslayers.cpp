@@ -1,6 +1,5 @@
 // What the device reports of the layers: their windows, crops, the spliced picture and the input mosaic, in
 // the running panel.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
@@ -245,5 +244,4 @@ private:
 };
 
 FPD_TEST(TestPushesLayers)
-
 #include "tst_pusheslayers.moc"

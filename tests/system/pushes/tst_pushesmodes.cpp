@@ -1,5 +1,4 @@
 // The device changes its work mode and is reset, as the running panel follows it.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
@@ -113,18 +112,15 @@ private slots:
 
     void reset_data()
     {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<bool>("keepsNetwork");
-        QTest::addColumn<bool>("keepsFn");
-        QTest::newRow("all but the network") << "00" << true << false;
-        QTest::newRow("all but network and user data") << "02" << true << true;
-        QTest::newRow("all") << "01" << false << false;
+        const DataRows<QString, bool, bool> row{"code", "keepsNetwork", "keepsFn"};
+        row("all but the network", "00", true, false);
+        row("all but network and user data", "02", true, true);
+        row("all", "01", false, false);
     }
     void reset()
     {
-        QFETCH(QString, code);
-        QFETCH(bool, keepsNetwork);
-        QFETCH(bool, keepsFn);
+        const auto [code, keepsNetwork, keepsFn] =
+            fetched<QString, bool, bool>({"code", "keepsNetwork", "keepsFn"});
         QVERIFY(m_panel.ask({"panel", "stop"}).ok);
         QVERIFY(m_panel.setStored(MENU_FnMode, "3"));
         QVERIFY(m_panel.setStored(MENU_MakerSign, "0"));
@@ -158,5 +154,4 @@ private:
 };
 
 FPD_TEST(TestPushesModes)
-
 #include "tst_pushesmodes.moc"

@@ -1,5 +1,4 @@
 // An open page follows what the device reports, and a message comes and goes with it.
-#include "menu/itemindex.h"
 #include "testkit/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
@@ -17,11 +16,7 @@ protected:
 private slots:
     void openPageFollows_data()
     {
-        QTest::addColumn<Path>("path");
-        QTest::addColumn<QString>("reports");
-        QTest::addColumn<QStringList>("rows");
-        const auto add = [](const char *name, const Path &path, const QString &reports,
-                            const QStringList &rows) { QTest::newRow(name) << path << reports << rows; };
+        const DataRows<Path, QString, QStringList> add{"path", "reports", "rows"};
         const QString gap(2 * 28, '0');
         add("brightness", {}, "02000001 4d", {"0:30"});
         add("picture", {MENU_InputSettings, MENU_HDMI1, MENU_HDMI1_InputColor}, "13050000 003d3e003fc0ff",
@@ -53,9 +48,7 @@ private slots:
     }
     void openPageFollows()
     {
-        QFETCH(Path, path);
-        QFETCH(QString, reports);
-        QFETCH(QStringList, rows);
+        const auto [path, reports, rows] = fetched<Path, QString, QStringList>({"path", "reports", "rows"});
         QVERIFY(m_walk.go(path));
         for (const QString &row : rows)
             QVERIFY2(!rowShows(row), qPrintable("shown already: " + row));
@@ -108,5 +101,4 @@ private:
 };
 
 FPD_TEST(TestPushesPages)
-
 #include "tst_pushespages.moc"

@@ -1,5 +1,4 @@
 // What the device reports of pictures, sound, on-screen display, wall and network, in the running panel.
-#include "menu/itemindex.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

@@ -1,5 +1,4 @@
 // The bus misbehaves: a packet that cannot be sent is lost alone, the order stays, and the panel goes on.
-#include "menu/itemindex.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -102,5 +101,4 @@ private:
 };
 
 FPD_TEST(TestStoryBus)
-
 #include "tst_storybus.moc"

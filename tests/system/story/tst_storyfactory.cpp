@@ -1,7 +1,5 @@
 // A worker on the line checks a finished unit from the panel alone: self test, keys, inputs and outputs, and
 // the count of passed runs. Nothing from outside takes the test from him.
-#include "menu/itemindex.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "testkit/productionline.h"
 #include "tests/system/systemtest.h"
@@ -71,10 +69,7 @@ private slots:
         m_unit->mark();
         QVERIFY(m_line->ok() && m_unit->ask({"signal", "dvi", "on"}).ok);
         // In its one font, as it is gone before all fonts are tried.
-        QFont font("宋体");
-        font.setPixelSize(18);
-        QVERIFY(m_unit->waitUntil(
-            [&] { return !lcdtext::find(m_unit->screen(), "测试全部通过，", font, message).isEmpty(); }));
+        QVERIFY(m_unit->waitToDraw("测试全部通过，", 18, message));
         picture("3-message");
         QVERIFY(m_unit->waitForLog(loglines::messageClosed));
         QVERIFY(seesInOut("HDMI1+ HDMI2+ DVI+ NET1+ NET2+ NET3+ NET4+ NET5+ NET6+ USB-IN+ ETHRNET+"));
@@ -180,5 +175,4 @@ private:
 };
 
 FPD_TEST(TestStoryFactory)
-
 #include "tst_storyfactory.moc"

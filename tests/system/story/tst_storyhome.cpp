@@ -1,5 +1,4 @@
 // The time after which a panel that nobody touches goes home, and what it spares.
-#include "menu/itemindex.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -59,5 +58,4 @@ private slots:
 };
 
 FPD_TEST(TestStoryHome)
-
 #include "tst_storyhome.moc"

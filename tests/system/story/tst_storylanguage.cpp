@@ -1,8 +1,5 @@
 // The language of the panel as its user changes it: OK held at home, a choice with the knob, and the pages
 // speak it at once, after a restart too.
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -98,10 +95,7 @@ private:
     /// In the one font of these windows, as they may be gone before all fonts are tried.
     bool showsWindow(const QString &text, const QRect &place)
     {
-        QFont font("Arial");
-        font.setPixelSize(18);
-        return m_panel.waitUntil(
-            [&] { return !lcdtext::find(m_panel.screen(), text, font, place).isEmpty(); });
+        return m_panel.waitToDraw(text, 18, place, "Arial");
     }
 
     bool asks() { return m_panel.settle() && m_panel.hold(keys::Ok) && showsWindow(askText, question); }
@@ -154,5 +148,4 @@ private:
 };
 
 FPD_TEST(TestStoryLanguage)
-
 #include "tst_storylanguage.moc"

@@ -1,6 +1,5 @@
 // The cables of the panel: the picture of the connection for every state of the links, the way home, and the
 // session of a PC with its heartbeat.
-#include "menu/itemindex.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -34,11 +33,8 @@ private slots:
 
     void pictureShowsTheLinks_data()
     {
-        QTest::addColumn<QString>("links"); ///< USB, network, loop, priority of the network
-        QTest::addColumn<QString>("picture");
-        const auto row = [](const char *links, const char *picture) {
-            QTest::newRow(links) << links << picture;
-        };
+        // links: USB, network, loop, priority of the network
+        const DataRows<QString, QString> row{"links", "picture"};
         row("0011", "none");
         row("0101", "network");
         row("0110", "loop");
@@ -119,5 +115,4 @@ private:
 };
 
 FPD_TEST(TestStoryLink)
-
 #include "tst_storylink.moc"

@@ -1,6 +1,4 @@
 // The lock of the panel's keys: the chord, the lock window, and what survives a restart.
-#include "menu/itemindex.h"
-#include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -87,14 +85,8 @@ private slots:
 
 private:
     /// In its one font: the window is up for two seconds only, and a loaded machine looks slowly.
-    bool showsWindow()
-    {
-        QFont font(QString::fromUtf8("宋体"));
-        font.setPixelSize(16);
-        return !lcdtext::find(m_panel.screen(), m_walk.text("Locked"), font, lockWindow).isEmpty();
-    }
+    bool showsWindow() { return m_panel.draws(m_walk.text("Locked"), 16, lockWindow); }
 };
 
 FPD_TEST(TestStoryLock)
-
 #include "tst_storylock.moc"

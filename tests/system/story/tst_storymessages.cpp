@@ -1,7 +1,5 @@
 // Messages have the screen: what is typed while they are up reaches no page behind, however fast it comes and
 // however many follow each other; and a PC that takes over ends all that is open.
-#include "menu/itemindex.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -46,18 +44,16 @@ class TestStoryMessages : public SystemTest
 private slots:
     void keysReachNoPageBehind_data()
     {
-        QTest::addColumn<Way>("way");
-        QTest::addColumn<QStringList>("keys");
-        QTest::newRow("a file that loads")
-            << Way{MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles, MENU_CabinetFile1}
-            << QStringList{keys::Ok, keys::Esc, "right"};
-        QTest::newRow("a preset that is saved")
-            << Way{MENU_PresetSettings, MENU_Preset3} << QStringList{"right", "left", keys::Main, keys::Fn};
+        const DataRows<Way, QStringList> row{"way", "keys"};
+        row("a file that loads",
+            Way{MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles, MENU_CabinetFile1},
+            QStringList{keys::Ok, keys::Esc, "right"});
+        row("a preset that is saved", Way{MENU_PresetSettings, MENU_Preset3},
+            QStringList{"right", "left", keys::Main, keys::Fn});
     }
     void keysReachNoPageBehind()
     {
-        QFETCH(Way, way);
-        QFETCH(QStringList, keys);
+        const auto [way, keys] = fetched<Way, QStringList>({"way", "keys"});
         QVERIFY(openMessages(way));
         for (int i = 0; m_panel.logLines(closed).size() < messagesInARow; ++i) {
             const QString &key = keys[i % keys.size()];
@@ -75,16 +71,15 @@ private slots:
 
     void aTakeOverEndsAllThatIsOpen_data()
     {
-        QTest::addColumn<Way>("way");
-        QTest::addColumn<bool>("calibration"); ///< a message of the device stands in front
-        QTest::newRow("a question") << Way{MENU_FactoryReset, MENU_SaveIP} << true;
-        QTest::newRow("the language") << Way{} << true;
-        QTest::newRow("a preset on its way") << Way{MENU_PresetSettings, MENU_Preset3} << false;
+        // calibration: a message of the device stands in front
+        const DataRows<Way, bool> row{"way", "calibration"};
+        row("a question", Way{MENU_FactoryReset, MENU_SaveIP}, true);
+        row("the language", Way{}, true);
+        row("a preset on its way", Way{MENU_PresetSettings, MENU_Preset3}, false);
     }
     void aTakeOverEndsAllThatIsOpen()
     {
-        QFETCH(Way, way);
-        QFETCH(bool, calibration);
+        const auto [way, calibration] = fetched<Way, bool>({"way", "calibration"});
         QVERIFY(m_panel.ask({"link", "eth", "1"}).ok && m_panel.settle());
         if (way.isEmpty())
             QVERIFY(asksForTheLanguage());
@@ -134,5 +129,4 @@ private:
 };
 
 FPD_TEST(TestStoryMessages)
-
 #include "tst_storymessages.moc"

@@ -1,7 +1,5 @@
 // Names and texts that the panel has not made itself, from the device, from files and from the store:
 // whatever signs they hold, the LCD shows them as they stand.
-#include "menu/itemindex.h"
-#include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -96,20 +94,20 @@ private slots:
     {
         QFETCH(int, sight);
         QVERIFY(m_walk.go(sights[sight].path));
-        QVERIFY(shows(sights[sight].text, sights[sight].place, sights[sight].pixels));
+        QVERIFY(m_panel.waitToDraw(sights[sight].text, sights[sight].pixels, sights[sight].place));
     }
 
     void aQuestionNamesThePreset()
     {
         QVERIFY(m_walk.go({MENU_PresetSettings, MENU_Preset1}));
         QVERIFY(m_panel.turn(Right) && m_panel.settle() && m_walk.press(keys::Ok));
-        QVERIFY(shows("<b>&1</b>?", message, 18));
+        QVERIFY(m_panel.waitToDraw("<b>&1</b>?", 18, message));
         QVERIFY(m_walk.answer(false));
     }
 
     void theDevicesName()
     {
-        QVERIFY(shows("<i>Wall</i>", address, 13, "Arial"));
+        QVERIFY(m_panel.waitToDraw("<i>Wall</i>", 13, address, "Arial"));
         // One that is too wide ends in dots, not inside a letter.
         constexpr int addressWidth = 126;
         const QString wide = "Wall of the town hall, <b>east</b>";
@@ -118,19 +116,9 @@ private slots:
         font.setPixelSize(13);
         const QString shown = QFontMetrics(font).elidedText(wide, Qt::ElideRight, addressWidth);
         QVERIFY(shown.endsWith(QChar(0x2026)));
-        QVERIFY(shows(shown, address, 13, "Arial"));
-    }
-
-private:
-    bool shows(const QString &text, const QRect &place, int pixels, const char *family = "宋体")
-    {
-        QFont font(QString::fromUtf8(family));
-        font.setPixelSize(pixels);
-        return m_panel.waitUntil(
-            [&] { return !lcdtext::find(m_panel.screen(), text, font, place).isEmpty(); });
+        QVERIFY(m_panel.waitToDraw(shown, 13, address, "Arial"));
     }
 };
 
 FPD_TEST(TestStoryNames)
-
 #include "tst_storynames.moc"

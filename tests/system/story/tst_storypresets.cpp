@@ -1,7 +1,5 @@
 // A user keeps what is on the wall: saves, loads, copies and clears presets, as the LCD, the store and the
 // device have it, after a restart too; and a PC takes over in the middle of it.
-#include "menu/itemindex.h"
-#include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
@@ -37,9 +35,9 @@ private slots:
         for (int preset : {2, 3}) {
             const bool stored = preset == 2;
             QVERIFY(m_walk.enter(itemOf(preset)));
-            QVERIFY(showsText(stored ? news : m_walk.text("Preset3"), wholeDialog, 20));
+            QVERIFY(m_panel.waitToDraw(stored ? news : m_walk.text("Preset3"), 20, wholeDialog));
             for (const char *action : {"Save", "Load", "Clear", "CopyTo"})
-                QVERIFY2(showsText(m_walk.text(action), wholeDialog, 20), action);
+                QVERIFY2(m_panel.waitToDraw(m_walk.text(action), 20, wholeDialog), action);
             const QList<int> places = stored ? QList<int>{2, 3, 4, 1, 2} : QList<int>{1, 1, 1};
             for (int place : places) {
                 for (int action = 1; action <= 4; ++action)
@@ -125,9 +123,9 @@ private slots:
 
     void aTakeOverLeavesAllAsItIs_data()
     {
-        QTest::addColumn<int>("steps");
-        QTest::newRow("in the dialog") << 1;
-        QTest::newRow("among the targets") << 2;
+        const DataRows<int> row{"steps"};
+        row("in the dialog", 1);
+        row("among the targets", 2);
     }
     void aTakeOverLeavesAllAsItIs()
     {
@@ -170,23 +168,15 @@ private:
     /// The message of what has been done, and then the page of the presets.
     bool tells(const QString &text)
     {
-        return showsText(m_walk.text(text), message, 18) &&
+        return m_panel.waitToDraw(m_walk.text(text), 18, message) &&
                m_panel.waitUntil([this] { return m_panel.logLines(loglines::messageClosed).size() >= 2; }) &&
                m_panel.settle() && m_walk.showsTitle();
-    }
-
-    bool showsText(const QString &text, const QRect &area, int pixels)
-    {
-        QFont font(QString::fromUtf8("宋体"));
-        font.setPixelSize(pixels);
-        return m_panel.waitUntil(
-            [&] { return !lcdtext::find(m_panel.screen(), text, font, area).isEmpty(); });
     }
 
     bool answer(const QString &question, int preset, bool yes)
     {
         const QString name = m_walk.text(m_panel.stored(itemOf(preset), "Tag"));
-        return showsText(m_walk.text(question) + name + "?", message, 18) && m_walk.answer(yes);
+        return m_panel.waitToDraw(m_walk.text(question) + name + "?", 18, message) && m_walk.answer(yes);
     }
 
     /// A preset as its row, the store and the device show it; "blank", "saved" or "used" and the name.
@@ -196,8 +186,8 @@ private:
         const QString tag = name.isEmpty() ? QString("Preset%1").arg(preset) : name;
         const QRect row(0, 24 + 36 * (preset - 1), 320, 36);
         const QString line = QString("preset %1: %2 %3").arg(preset).arg(state, name).trimmed();
-        return showsText(m_walk.text(tag), row, 22) && showsText(m_walk.text(value), row, 22) &&
-               m_panel.waitUntil([&] {
+        return m_panel.waitToDraw(m_walk.text(tag), 22, row) &&
+               m_panel.waitToDraw(m_walk.text(value), 22, row) && m_panel.waitUntil([&] {
                    return m_panel.stored(itemOf(preset)) == value &&
                           m_panel.stored(itemOf(preset), "Tag") == tag &&
                           m_panel.stored(itemOf(preset), "Enable") == "true";
@@ -214,5 +204,4 @@ private:
 };
 
 FPD_TEST(TestStoryPresets)
-
 #include "tst_storypresets.moc"

@@ -1,7 +1,5 @@
 // A user resets the panel: what survives, what comes back from the factory copy, and what the three messages
 // say by the answers of the board's tools. Each reset has a run of its own, since its last message stays.
-#include "menu/itemindex.h"
-#include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 
@@ -65,30 +63,24 @@ protected:
 private slots:
     void resetKeepsAndTells_data()
     {
-        QTest::addColumn<ENUM_MenuIndex>("reset");
-        QTest::addColumn<QList<ENUM_MenuIndex>>("kept");
-        QTest::addColumn<QStringList>("tool");
-        QTest::addColumn<QString>("outcome");
+        const DataRows<ENUM_MenuIndex, QList<ENUM_MenuIndex>, QStringList, QString> row{"reset", "kept",
+                                                                                        "tool", "outcome"};
         const QList<ENUM_MenuIndex> brand{MENU_BootLogo, MENU_MakerSign};
         const QList<ENUM_MenuIndex> address =
             brand + QList<ENUM_MenuIndex>{MENU_CommunicationMode, MENU_Net_IPAddress, MENU_Net_SubnetMask,
                                           MENU_Net_Gateway, MENU_HDCPMemory};
         const QList<ENUM_MenuIndex> userData = address + QList<ENUM_MenuIndex>{MENU_FnMode, MENU_Fn_Freeze};
-        QTest::newRow("address kept, FPGA silent")
-            << MENU_SaveIP << address << QStringList{"fpga", ""} << "FPGACommunication";
+        row("address kept, FPGA silent", MENU_SaveIP, address, QStringList{"fpga", ""}, "FPGACommunication");
         // The same answer to both questions: a version, and no mark of a memory that is well.
-        QTest::newRow("user data kept, memory fails")
-            << MENU_SaveUserData << userData << QStringList{"fpga", "FPGA version is V1"}
-            << "FPGADDRCheckError";
-        QTest::newRow("everything, all well")
-            << MENU_ResetAll << brand << QStringList{"fpga"} << "ResetSucceed";
+        row("user data kept, memory fails", MENU_SaveUserData, userData,
+            QStringList{"fpga", "FPGA version is V1"}, "FPGADDRCheckError");
+        row("everything, all well", MENU_ResetAll, brand, QStringList{"fpga"}, "ResetSucceed");
     }
     void resetKeepsAndTells()
     {
-        QFETCH(ENUM_MenuIndex, reset);
-        QFETCH(QList<ENUM_MenuIndex>, kept);
-        QFETCH(QStringList, tool);
-        QFETCH(QString, outcome);
+        const auto [reset, kept, tool, outcome] =
+            fetched<ENUM_MenuIndex, QList<ENUM_MenuIndex>, QStringList, QString>(
+                {"reset", "kept", "tool", "outcome"});
         QVERIFY(makeOwn());
         QVERIFY(m_panel.ask(QStringList{"fault", "tool"} + tool).ok);
         QVERIFY(startAgain());
@@ -140,13 +132,10 @@ private:
     /// Waits for the first line of a message.
     bool tells(const QString &message)
     {
-        QFont font(QString::fromUtf8("宋体"));
-        font.setPixelSize(18);
         const QString line = m_walk.text(message).section(QRegularExpression("\\\\r|\r|\n"), 0, 0);
-        return m_panel.waitUntil([&] { return !lcdtext::find(m_panel.screen(), line, font).isEmpty(); });
+        return m_panel.waitToDraw(line, 18);
     }
 };
 
 FPD_TEST(TestStoryReset)
-
 #include "tst_storyreset.moc"

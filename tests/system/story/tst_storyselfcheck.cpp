@@ -1,7 +1,5 @@
 // A user looks at the health of his device: the list from the menu, in both languages, of a healthy device,
 // with every fault, without an answer, and while one comes in.
-#include "menu/itemindex.h"
-#include "menu/pageindex.h"
 #include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
@@ -136,10 +134,7 @@ private:
             return false;
         m_panel.mark();
         return m_walk.answer(true) && m_panel.waitForLog(loglines::messageClosed) &&
-               m_panel.waitUntil([this] {
-                   const QFont font = fontOf(14);
-                   return !lcdtext::find(m_panel.screen(), m_walk.text("SelfTest"), font, title).isEmpty();
-               });
+               m_panel.waitToDraw(m_walk.text("SelfTest"), 14, title, m_language.font);
     }
     bool close() { return m_panel.press(keys::Esc) && m_walk.showsTitle() && m_walk.home(); }
     QFont fontOf(int pixels) const
@@ -180,5 +175,4 @@ private:
 };
 
 FPD_TEST(TestStorySelfCheck)
-
 #include "tst_storyselfcheck.moc"

@@ -1,6 +1,5 @@
 // What the device's parameter flash holds is what the panel shows after a start: every field of the memory
 // map, in three images of the flash that differ in all of them.
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
@@ -289,23 +288,15 @@ protected:
 private slots:
     void panelComesUpWithTheDevicesState_data()
     {
-        QTest::addColumn<int>("image");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("resolution");
-        QTest::addColumn<QString>("pattern");
-        const auto row = [](const char *name, int image, const char *shown, const char *size,
-                            const char *code) {
-            QTest::newRow(name) << image << QString::fromUtf8(shown) << size << code;
-        };
+        const DataRows<int, QString, QString, QString> row{"image", "name", "resolution", "pattern"};
         row("own output, no name", 0, "10.1.2.200", "1280x720@59.94", "03");
         row("output of the software, named", 1, "Hall 7", "1366x768@59.94", "12");
         row("3D, which doubles the rate", 2, "大厅屏幕", "1440x900@60", "24");
     }
     void panelComesUpWithTheDevicesState()
     {
-        QFETCH(int, image);
-        QFETCH(QString, name);
-        QFETCH(QString, resolution);
+        const auto [image, name, resolution] =
+            fetched<int, QString, QString>({"image", "name", "resolution"});
         QFETCH(QString, pattern);
         QVERIFY(startOn(image));
         QStringList wrong = wrongItems(image);
@@ -457,5 +448,4 @@ private:
 };
 
 FPD_TEST(TestStorySnapshot)
-
 #include "tst_storysnapshot.moc"

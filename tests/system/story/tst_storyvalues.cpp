@@ -1,6 +1,5 @@
 // A user changes a value of every kind with the knob, and finds it on the screen, on the bus and in the
 // store.
-#include "menu/itemindex.h"
 #include "testkit/lcdtext.h"
 #include "testkit/loglines.h"
 #include "tests/system/systemtest.h"
@@ -42,21 +41,16 @@ private slots:
 
     void numberFollowsTheKnob_data()
     {
-        QTest::addColumn<QList<ENUM_MenuIndex>>("path");
-        QTest::addColumn<int>("steps");
-        QTest::addColumn<int>("speed");
-        QTest::addColumn<QString>("value");
+        const DataRows<QList<ENUM_MenuIndex>, int, int, QString> row{"path", "steps", "speed", "value"};
         using Path = QList<ENUM_MenuIndex>;
-        QTest::newRow("whole") << Path{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume} << 2 << 1 << "52";
-        QTest::newRow("fast") << Path{MENU_SystemSetting, MENU_ReturntoHome} << 2 << 8 << "76";
-        QTest::newRow("decimal") << Path{MENU_DisplayControl, MENU_TransitionDuration} << 3 << 1 << "0.8";
+        row("whole", Path{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume}, 2, 1, "52");
+        row("fast", Path{MENU_SystemSetting, MENU_ReturntoHome}, 2, 8, "76");
+        row("decimal", Path{MENU_DisplayControl, MENU_TransitionDuration}, 3, 1, "0.8");
     }
     void numberFollowsTheKnob()
     {
-        QFETCH(QList<ENUM_MenuIndex>, path);
-        QFETCH(int, steps);
-        QFETCH(int, speed);
-        QFETCH(QString, value);
+        const auto [path, steps, speed, value] =
+            fetched<QList<ENUM_MenuIndex>, int, int, QString>({"path", "steps", "speed", "value"});
         QVERIFY(m_walk.go(path));
         QVERIFY(m_walk.turn(Right, steps, speed));
         QVERIFY(m_panel.waitFor(value, QRect(200, 24, 120, 216)));
@@ -66,18 +60,14 @@ private slots:
 
     void numberStopsAtItsLimits_data()
     {
-        QTest::addColumn<QList<ENUM_MenuIndex>>("path");
-        QTest::addColumn<QStringList>("limits");
+        const DataRows<QList<ENUM_MenuIndex>, QStringList> row{"path", "limits"};
         using Path = QList<ENUM_MenuIndex>;
-        QTest::newRow("whole") << Path{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume}
-                               << QStringList{"0", "100"};
-        QTest::newRow("decimal") << Path{MENU_DisplayControl, MENU_TransitionDuration}
-                                 << QStringList{"0.5", "2.0"};
+        row("whole", Path{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume}, QStringList{"0", "100"});
+        row("decimal", Path{MENU_DisplayControl, MENU_TransitionDuration}, QStringList{"0.5", "2.0"});
     }
     void numberStopsAtItsLimits()
     {
-        QFETCH(QList<ENUM_MenuIndex>, path);
-        QFETCH(QStringList, limits);
+        const auto [path, limits] = fetched<QList<ENUM_MenuIndex>, QStringList>({"path", "limits"});
         QVERIFY(m_walk.go(path));
         QVERIFY(m_walk.turn(Right, 20, 7)); // 7 does not divide the way to the limit
         QVERIFY(waitUntilStored(path.last(), limits[1]));
@@ -155,5 +145,4 @@ private slots:
 };
 
 FPD_TEST(TestStoryValues)
-
 #include "tst_storyvalues.moc"

@@ -8,7 +8,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
-#include <QtTest>
 
 using namespace VASK;
 
@@ -68,13 +67,13 @@ class TestMenuNumbers : public QObject
 private slots:
     void namesHaveNumbersOfTheirOwn_data()
     {
-        QTest::addColumn<QString>("header");
-        QTest::newRow("ENUM_MenuIndex") << "menu/itemindex.h";
-        QTest::newRow("ENUM_ObjectIndex") << "menu/objectindex.h";
-        QTest::newRow("ENUM_ConfigIndex") << "menu/pageindex.h";
-        QTest::newRow("ENUM_KeyCode") << "menu/keycodes.h";
-        QTest::newRow("ENUM_LedIndex") << "menu/ledindex.h";
-        QTest::newRow("RegisterAddress") << "framework/protocol/packet/registeraddress.h";
+        const DataRows<QString> row{"header"};
+        row("ENUM_MenuIndex", "menu/itemindex.h");
+        row("ENUM_ObjectIndex", "menu/objectindex.h");
+        row("ENUM_ConfigIndex", "menu/pageindex.h");
+        row("ENUM_KeyCode", "menu/keycodes.h");
+        row("ENUM_LedIndex", "menu/ledindex.h");
+        row("RegisterAddress", "framework/protocol/packet/registeraddress.h");
     }
     void namesHaveNumbersOfTheirOwn()
     {
@@ -150,5 +149,4 @@ private slots:
 };
 
 FPD_TEST_GUILESS(TestMenuNumbers)
-
 #include "tst_menunumbers.moc"

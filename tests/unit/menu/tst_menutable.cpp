@@ -8,7 +8,6 @@
 #include "tests/testprogram.h"
 
 #include <QSet>
-#include <QtTest>
 
 using namespace VASK;
 
@@ -129,5 +128,4 @@ private slots:
 };
 
 FPD_TEST_GUILESS(TestMenuTable)
-
 #include "tst_menutable.moc"

@@ -2,10 +2,6 @@
 // the other one, and no text is cut off. Each is kept as a picture under the build folder to look at.
 
 #include "framework/ui/language.h"
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/lookrig.h"
 #include "widget/dialog/dialog_msgbox.h"
@@ -235,5 +231,4 @@ private:
 };
 
 FPD_TEST(TestPageTexts)
-
 #include "tst_pagetexts.moc"

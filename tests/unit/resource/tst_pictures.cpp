@@ -8,7 +8,6 @@
 #include <QDirIterator>
 #include <QImage>
 #include <QRegularExpression>
-#include <QtTest>
 
 using namespace VASK;
 
@@ -124,8 +123,7 @@ private slots:
 
     void sizes_data()
     {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QSize>("size");
+        addColumns<QStringList, QSize>({"names", "size"});
         QWidget window;
         Ui_MainWindow home;
         home.setupUi(&window);
@@ -160,11 +158,9 @@ private slots:
             {"sceneSetting/save", "sceneSetting/load", "sceneSetting/delete", "sceneSetting/copy"});
         row("custom pictures", QSize(40, 46), numbered(custom + "on", 1, 4) + numbered(custom + "off", 1, 4));
     }
-
     void sizes()
     {
-        QFETCH(QStringList, names);
-        QFETCH(QSize, size);
+        const auto [names, size] = fetched<QStringList, QSize>({"names", "size"});
         for (const QString &name : names) {
             const QString fault = faultOf(imgPath + name + ".png", size);
             QVERIFY2(fault.isEmpty(), qPrintable(fault));

@@ -11,7 +11,6 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
-#include <QtTest>
 #include <sys/stat.h>
 
 using namespace VASK;
@@ -268,5 +267,4 @@ private:
 };
 
 FPD_TEST(TestTexts)
-
 #include "tst_texts.moc"

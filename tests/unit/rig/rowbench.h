@@ -88,3 +88,15 @@ private:
     VASK::ParaProcess m_engine{VASK::ENUM_PARAPROCESS};
     QtMessageHandler m_previous = nullptr;
 };
+
+/// Each test has a bench of its own.
+class RowTest : public QObject
+{
+    Q_OBJECT
+protected:
+    std::unique_ptr<RowBench> m_bench;
+
+private slots:
+    void init() { m_bench = std::make_unique<RowBench>(); }
+    void cleanup() { m_bench.reset(); }
+};

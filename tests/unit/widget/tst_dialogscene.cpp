@@ -1,12 +1,8 @@
 // The preset dialog under the keypad's keys: where the knob goes, and what can be chosen.
 
-#include "framework/input/keypadevent.h"
-#include "menu/keycodes.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/dialog_scene.h"
-
-#include <QLabel>
 
 using namespace VASK;
 
@@ -36,15 +32,9 @@ private slots:
 
     void knob_data()
     {
-        QTest::addColumn<QString>("disabled");
-        QTest::addColumn<int>("first");
-        QTest::addColumn<QList<int>>("turns"); ///< speeds, to the left below 0
-        QTest::addColumn<QList<int>>("focus"); ///< at first and after each turn
-        using List = QList<int>;
-        const auto row = [](const char *name, const char *disabled, int first, const List &turns,
-                            const List &focus) {
-            QTest::newRow(name) << disabled << first << turns << focus;
-        };
+        // turns: speeds, to the left below 0
+        // focus: at first and after each turn
+        const DataRows<QString, int, QList<int>, QList<int>> row{"disabled", "first", "turns", "focus"};
         row("round to the right", "", 2, {1, 1, 1, 1}, {2, 3, 4, 1, 2});
         row("round to the left", "", 2, {-1, -1, -1}, {2, 1, 4, 3});
         row("fast", "", 1, {2, 3, -9, -2, 200}, {1, 3, 1, 4, 2, 1});
@@ -56,9 +46,8 @@ private slots:
     }
     void knob()
     {
-        QFETCH(QString, disabled);
-        QFETCH(int, first);
-        QFETCH(QList<int>, turns);
+        const auto [disabled, first, turns] =
+            fetched<QString, int, QList<int>>({"disabled", "first", "turns"});
         const auto dialog = makeDialog(disabled, first);
         QList<int> seen{focused(*dialog)};
         for (int speed : qAsConst(turns)) {
@@ -89,5 +78,4 @@ private:
 };
 
 FPD_TEST(TestDialogScene)
-
 #include "tst_dialogscene.moc"

@@ -1,9 +1,6 @@
 // The production test and the self-check window by themselves: the times of an input under test, driven by
 // ticks instead of a clock, what counts as a key, the count of runs, and texts that are cut off.
 #include "framework/productiontest/selfchecklist.h"
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
 #include "sysconf.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/lookrig.h"
@@ -43,9 +40,7 @@ private slots:
 
     void stepsFollowTheSelfTest_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("step");
+        addColumns<int, int, int>({"key", "type", "step"});
         QTest::addRow("passed") << int(KEY_SELF_TEST_DONE) << int(KEY_RELEASED) << int(FACTORY_STEP_KEYS);
         QTest::addRow("failed") << int(KEY_SELF_TEST_DONE) << int(KEY_PRESSED) << int(FACTORY_STEP_SELF_TEST);
         for (int key : {KEY_OK, KEY_ESC, KEY_LOCK, KEY_SERVICE})
@@ -53,8 +48,7 @@ private slots:
     }
     void stepsFollowTheSelfTest()
     {
-        QFETCH(int, key);
-        QFETCH(int, type);
+        const auto [key, type] = fetched<int, int>({"key", "type"});
         m_test->beginSelfTest();
         send(key, KEY_TYPE(type));
         QTEST(Factory::m_cur_step.load(), "step");
@@ -85,13 +79,8 @@ private slots:
 
     void inputUnderTest_data()
     {
-        QTest::addColumn<QString>("course");
-        QTest::addColumn<QString>("colour");
-        QTest::addColumn<bool>("over");
+        const DataRows<QString, QString, bool> row{"course", "colour", "over"};
         const QString none, passed = "#17BC1E", failed = "#C40F0F";
-        const auto row = [](const char *name, const QString &course, const QString &colour, bool over) {
-            QTest::newRow(name) << course << colour << over;
-        };
         // stable, lost; 2: its two seconds are over; a number with x: so many ticks of a fifth of a second
         row("never stable", "50x", none, false);
         row("stable for ten seconds", "stable 10x 2 40x", passed, true);
@@ -139,11 +128,10 @@ private slots:
 
     void passedRunsAreCounted_data()
     {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::newRow("new unit") << QByteArray() << QByteArray("1");
-        QTest::newRow("again") << QByteArray("41") << QByteArray("42");
-        QTest::newRow("spoilt") << QByteArray("x") << QByteArray("1");
+        const DataRows<QByteArray, QByteArray> row{"before", "after"};
+        row("new unit", {}, "1");
+        row("again", "41", "42");
+        row("spoilt", "x", "1");
     }
     void passedRunsAreCounted()
     {
@@ -279,5 +267,4 @@ private:
 };
 
 FPD_TEST(TestFactory)
-
 #include "tst_factory.moc"

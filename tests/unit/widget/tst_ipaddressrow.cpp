@@ -1,30 +1,19 @@
 // The address row: number by number, the limits of each, the repair of an address, OK and ESC.
 
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/rowbench.h"
 #include "widget/row/typeipadjust.h"
 
-#include <QLabel>
-
 using namespace VASK;
 
-class TestIpAddressRow : public QObject
+class TestIpAddressRow : public RowTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_bench.reset(new RowBench); }
-    void cleanup() { m_bench.reset(); }
-
     void turning_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<int>("number");
-        QTest::addColumn<int>("clicks");
-        QTest::addColumn<QString>("end");
+        addColumns<int, QString, int, int, QString>({"index", "start", "number", "clicks", "end"});
         const auto row = [](const char *name, const char *start, int number, int clicks, const char *end,
                             int index = MENU_Net_IPAddress) {
             QTest::newRow(name) << index << start << number << clicks << end;
@@ -42,10 +31,8 @@ private slots:
     }
     void turning()
     {
-        QFETCH(int, index);
-        QFETCH(QString, start);
-        QFETCH(int, number);
-        QFETCH(int, clicks);
+        const auto [index, start, number, clicks] =
+            fetched<int, QString, int, int>({"index", "start", "number", "clicks"});
         const auto item = ENUM_MenuIndex(index);
         prepare(item, start);
         typeipadjust row(item, ENUM_OBJECT_END);
@@ -75,12 +62,7 @@ private slots:
 
     void whatIsShown_data()
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("automatic");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const char *stored, const char *automatic, const char *text) {
-            QTest::newRow(name) << stored << automatic << text;
-        };
+        const DataRows<QString, QString, QString> row{"stored", "automatic", "text"};
         row("legal", "10.0.0.7", "0", "10.0.0.7");
         row("first 0", "0.0.0.7", "0", "127.0.0.1");
         row("too large", "10.0.0.256", "0", "127.0.0.1");
@@ -92,8 +74,7 @@ private slots:
     }
     void whatIsShown()
     {
-        QFETCH(QString, stored);
-        QFETCH(QString, automatic);
+        const auto [stored, automatic] = fetched<QString, QString>({"stored", "automatic"});
         prepare(MENU_Net_Gateway, stored);
         m_bench->store().UpdataItemCurValue(MENU_Net_NetMode, automatic);
         typeipadjust row(MENU_Net_Gateway, ENUM_OBJECT_END);
@@ -125,10 +106,7 @@ private:
                 at = at < 0 ? i : 99;
         return at;
     }
-
-    std::unique_ptr<RowBench> m_bench;
 };
 
 FPD_TEST(TestIpAddressRow)
-
 #include "tst_ipaddressrow.moc"

@@ -1,10 +1,6 @@
 // The choice of the language: what its keys do, when the home screen asks for it, and what follows an answer.
 
-#include "framework/input/keypadevent.h"
 #include "framework/ui/language.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/dialog_languageselect.h"
@@ -61,9 +57,7 @@ private slots:
 
     void keysOfTheQuestion_data()
     {
-        QTest::addColumn<QList<int>>("keys");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<int>("unknown");
+        addColumns<QList<int>, int, int>({"keys", "result", "unknown"});
         const int left = KEY_KNOB_LEFT, right = KEY_KNOB_RIGHT, ok = KEY_OK, pressed = -KEY_OK;
         const auto row = [](const char *name, const QList<int> &keys, int result, int unknown = 0) {
             QTest::newRow(name) << keys << result << unknown;
@@ -79,8 +73,7 @@ private slots:
     }
     void keysOfTheQuestion()
     {
-        QFETCH(QList<int>, keys);
-        QFETCH(int, unknown);
+        const auto [keys, unknown] = fetched<QList<int>, int>({"keys", "unknown"});
         for (int key = 0; key < unknown; ++key)
             QTest::ignoreMessage(QtDebugMsg, "dialog no this handle!");
         QTEST(answer(keys), "result");
@@ -142,5 +135,4 @@ private:
 };
 
 FPD_TEST(TestLanguageDialogs)
-
 #include "tst_languagedialogs.moc"

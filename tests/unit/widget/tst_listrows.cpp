@@ -1,15 +1,11 @@
 // Lists: the way through the drop-down, disabled options, reversed lists, preview, ESC and stray values.
 
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/rowbench.h"
 #include "widget/row/typeicocombox.h"
 #include "widget/row/typemosaic.h"
 #include "widget/row/typestringcombox.h"
-
-#include <QLabel>
 
 using namespace VASK;
 
@@ -67,21 +63,13 @@ int openTables(const QWidget &page)
 }
 } // namespace
 
-class TestListRows : public QObject
+class TestListRows : public RowTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_bench.reset(new RowBench); }
-    void cleanup() { m_bench.reset(); }
-
     void choosing_data()
     {
-        QTest::addColumn<QList<int>>("off");
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<int>("clicks");
-        QTest::addColumn<QString>("end");
-        const auto row = [](const char *name, const QList<int> &off, const char *start, int clicks,
-                            const char *end) { QTest::newRow(name) << off << start << clicks << end; };
+        const DataRows<QList<int>, QString, int, QString> row{"off", "start", "clicks", "end"};
         row("next", {}, "1", 1, "2");
         row("round forwards", {}, "3", 1, "0");
         row("round backwards", {}, "0", -1, "3");
@@ -93,9 +81,7 @@ private slots:
     }
     void choosing()
     {
-        QFETCH(QList<int>, off);
-        QFETCH(QString, start);
-        QFETCH(int, clicks);
+        const auto [off, start, clicks] = fetched<QList<int>, QString, int>({"off", "start", "clicks"});
         setOptions(*m_bench, list, 4, start, disabled(4, off));
         typestringcombox row(list, ENUM_OBJECT_END);
         QWidget page;
@@ -137,15 +123,8 @@ private slots:
 
     void reports_data()
     {
-        QTest::addColumn<QString>("reported");
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<bool>("applied");
-        const auto row = [](const char *name, const char *reported, ENUM_MODE_SET_XML mode, const char *shown,
-                            const char *stored, bool applied) {
-            QTest::newRow(name) << reported << int(mode) << shown << stored << applied;
-        };
+        const DataRows<QString, int, QString, QString, bool> row{"reported", "mode", "shown", "stored",
+                                                                 "applied"};
         row("a key from the device", "2", SET_XML_DEVICE, "option 2", "1", false);
         row("a key to store", "2", SET_XML_STORE, "option 2", "2", false);
         row("a key of the user", "2", SET_XML_USER, "option 2", "2", true);
@@ -154,10 +133,8 @@ private slots:
     }
     void reports()
     {
-        QFETCH(QString, reported);
-        QFETCH(int, mode);
-        QFETCH(QString, shown);
-        QFETCH(bool, applied);
+        const auto [reported, mode, shown, applied] =
+            fetched<QString, int, QString, bool>({"reported", "mode", "shown", "applied"});
         setOptions(*m_bench, list, 4, "1");
         typestringcombox row(list, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, reported, ENUM_MODE_SET_XML(mode));
@@ -219,11 +196,7 @@ private slots:
         }
         QVERIFY(!boxes[1]->isEnabled());
     }
-
-private:
-    std::unique_ptr<RowBench> m_bench;
 };
 
 FPD_TEST(TestListRows)
-
 #include "tst_listrows.moc"

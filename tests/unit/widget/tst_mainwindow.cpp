@@ -1,20 +1,14 @@
 // The home screen: what its setters and slots show, the lock and its time, what comes up by itself, what
 // blinks, and a take-over by a PC.
 
-#include "framework/engine/brightnessedit.h"
 #include "framework/engine/homeupdater.h"
 #include "framework/productiontest/productiontest.h"
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/lock.h"
 #include "widget/home/panellock.h"
-#include "widget/page/openpage.h"
 
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QPixmapCache>
 
 using namespace VASK;
@@ -73,11 +67,11 @@ private slots:
 
     void itsStartEndsWhereSomethingIsMissing_data()
     {
-        QTest::addColumn<int>("missing");
-        QTest::addColumn<QString>("address"); ///< shown by then
-        QTest::newRow("the lock's picture") << -1 << "";
-        QTest::newRow("the transport") << int(ENUM_TRANSPORT) << "192.168.0.10";
-        QTest::newRow("a hidden menu") << int(ENUM_PRODUCT_HIDE_MENU) << "192.168.0.10";
+        // address: shown by then
+        const DataRows<int, QString> row{"missing", "address"};
+        row("the lock's picture", -1, "");
+        row("the transport", ENUM_TRANSPORT, "192.168.0.10");
+        row("a hidden menu", ENUM_PRODUCT_HIDE_MENU, "192.168.0.10");
     }
     void itsStartEndsWhereSomethingIsMissing()
     {
@@ -171,12 +165,8 @@ private slots:
     /// What is open goes, all of it, whatever a message from the device has put over it.
     void aTakeOverEndsAllThatIsOpen_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QStringList>("calls"); ///< of the row after the take-over
-        const auto row = [](const char *name, ENUM_ObjectIndex page, int row, const QStringList &calls) {
-            QTest::newRow(name) << int(page) << row << calls;
-        };
+        // calls: of the row after the take-over
+        const DataRows<int, int, QStringList> row{"page", "row", "calls"};
         row("an open list", ENUM_PAGE_PIP1, 0, {QString("EscList %1").arg(MENU_PIP1_Status)});
         row("an edited number", ENUM_PAGE_PIP1, 3, {QString("Esc %1 1").arg(MENU_PIP1_HorWidth)});
         row("the brightness", ENUM_MAIN_MENU, 0, {QString("Esc %1 1").arg(MENU_ScreenBrightness)});
@@ -185,8 +175,7 @@ private slots:
     }
     void aTakeOverEndsAllThatIsOpen()
     {
-        QFETCH(int, page);
-        QFETCH(int, row);
+        const auto [page, row] = fetched<int, int>({"page", "row"});
         const bool atHome = page == ENUM_MAIN_WINDOW;
         m_rig->answering = false;
         // What stays open is answered in the end, to be seen in what it does.
@@ -362,5 +351,4 @@ private:
 };
 
 FPD_TEST(TestMainWindow)
-
 #include "tst_mainwindow.moc"

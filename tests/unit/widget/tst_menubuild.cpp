@@ -1,10 +1,5 @@
 // The pages as the builder makes them of the menu table, with their real rows.
 
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
 
@@ -52,11 +47,10 @@ private slots:
 
     void aboutGoesByTheMakersSign_data()
     {
-        QTest::addColumn<QString>("sign");
-        QTest::addColumn<int>("rows");
-        QTest::newRow("on") << "1" << 6;
-        QTest::newRow("off") << "0" << 2;
-        QTest::newRow("on again") << "1" << 6;
+        const DataRows<QString, int> row{"sign", "rows"};
+        row("on", "1", 6);
+        row("off", "0", 2);
+        row("on again", "1", 6);
     }
     void aboutGoesByTheMakersSign()
     {
@@ -93,5 +87,4 @@ private:
 };
 
 FPD_TEST(TestMenuBuild)
-
 #include "tst_menubuild.moc"

@@ -1,11 +1,6 @@
 // The cursor of a page, and the keys on its rows and from the home screen, as far as no test of the whole
 // panel presses them.
 
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
-#include "menu/pageindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
 #include "widget/page/cabinetfiles.h"
@@ -59,11 +54,8 @@ private slots:
 
     void turns_data()
     {
-        QTest::addColumn<QByteArray>("rows");
-        QTest::addColumn<int>("start");
-        QTest::addColumn<QList<int>>("turns");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("part"); ///< of the row with parts; -1 if there is none
+        // part: of the row with parts; -1 if there is none
+        addColumns<QByteArray, int, QList<int>, int, int>({"rows", "start", "turns", "row", "part"});
         const auto row = [](const char *name, const char *rows, int start, const QList<int> &turns, int end,
                             int part = -1) {
             QTest::newRow(name) << QByteArray(rows) << start << turns << end << part;
@@ -92,9 +84,7 @@ private slots:
     void turns()
     {
         m_rig->home->hide();
-        QFETCH(QByteArray, rows);
-        QFETCH(int, start);
-        QFETCH(QList<int>, turns);
+        const auto [rows, start, turns] = fetched<QByteArray, int, QList<int>>({"rows", "start", "turns"});
         const std::unique_ptr<MenuDirectory> page(PageRig::makePage(pageOf(rows)));
         page->show();
         page->setCurrentRow(start);
@@ -158,23 +148,16 @@ private slots:
 
     void scaleKey_data()
     {
-        QTest::addColumn<QString>("scaling");
-        QTest::addColumn<bool>("fullScreenAllowed");
-        QTest::addColumn<QString>("mosaic");
-        QTest::addColumn<QStringList>("calls");
-        const auto row = [](const char *name, const char *scaling, bool allowed, const char *mosaic,
-                            const QStringList &calls) {
-            QTest::newRow(name) << scaling << allowed << mosaic << calls;
-        };
+        const DataRows<QString, bool, QString, QStringList> row{"scaling", "fullScreenAllowed", "mosaic",
+                                                                "calls"};
         row("pixels to full", "1", true, "0", {line("Set", MENU_PIP2_ScalingMode, "0 1")});
         row("full not allowed", "2", false, "0", {});
         row("mosaic", "0", true, "1", {});
     }
     void scaleKey()
     {
-        QFETCH(QString, scaling);
-        QFETCH(bool, fullScreenAllowed);
-        QFETCH(QString, mosaic);
+        const auto [scaling, fullScreenAllowed, mosaic] =
+            fetched<QString, bool, QString>({"scaling", "fullScreenAllowed", "mosaic"});
         m_rig->set(PARA_LowestLayer, "2");
         m_rig->set(MENU_ImageMosaic_Status, mosaic);
         ST_ItemInfo item;
@@ -197,9 +180,9 @@ private slots:
     /// The device may become one under a panel that is at work.
     void aConverterHearsOkEscAndTheLockOnly_data()
     {
-        QTest::addColumn<bool>("onPage");
-        QTest::newRow("at home") << false;
-        QTest::newRow("on a page") << true;
+        const DataRows<bool> row{"onPage"};
+        row("at home", false);
+        row("on a page", true);
     }
     void aConverterHearsOkEscAndTheLockOnly()
     {
@@ -293,5 +276,4 @@ private:
 };
 
 FPD_TEST(TestMenuKeys)
-
 #include "tst_menukeys.moc"

@@ -3,16 +3,11 @@
 
 #include "framework/input/keydispatcher.h"
 #include "framework/object/globaltimer.h"
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
 #include "widget/dialog/dialog_msgbox.h"
 
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QPushButton>
 
 using namespace VASK;
@@ -187,20 +182,17 @@ private slots:
 
     void keysTypedAheadAreTheMessages_data()
     {
-        QTest::addColumn<int>("message");
-        QTest::addColumn<int>("moment");
-        QTest::addColumn<int>("result");
-        QTest::newRow("before one that is answered") << int(MSG_UpdateError) << int(Worker::Before) << 1;
+        const DataRows<int, int, int> row{"message", "moment", "result"};
+        row("before one that is answered", MSG_UpdateError, int(Worker::Before), 1);
         const int waiting = MSG_Waiting;
-        QTest::newRow("before one that is not") << waiting << int(Worker::Before) << stillOpen;
-        QTest::newRow("while it comes up") << waiting << int(Worker::FirstPass) << stillOpen;
-        QTest::newRow("as it goes") << waiting << int(Worker::LastPass) << stillOpen;
-        QTest::newRow("before the next one") << waiting << int(Worker::Between) << stillOpen;
+        row("before one that is not", waiting, int(Worker::Before), stillOpen);
+        row("while it comes up", waiting, int(Worker::FirstPass), stillOpen);
+        row("as it goes", waiting, int(Worker::LastPass), stillOpen);
+        row("before the next one", waiting, int(Worker::Between), stillOpen);
     }
     void keysTypedAheadAreTheMessages()
     {
-        QFETCH(int, message);
-        QFETCH(int, moment);
+        const auto [message, moment] = fetched<int, int>({"message", "moment"});
         m_rig->home->hide();
         Worker page(*m_rig->engine, ENUM_MenuIndex(message), Worker::Moment(moment), m_keypad);
         page.show();
@@ -316,5 +308,4 @@ private:
 };
 
 FPD_TEST(TestMessages)
-
 #include "tst_messages.moc"

@@ -1,14 +1,10 @@
 // Numbers under the knob: steps, limits, decimals, and what ESC and a report do to them.
 
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/rowbench.h"
 #include "widget/row/typefloatadjust.h"
 #include "widget/row/typeintadjust.h"
-
-#include <QLabel>
 
 using namespace VASK;
 
@@ -41,30 +37,24 @@ void turn(VaskUiObject &row, ENUM_MenuIndex index, int clicks)
 }
 } // namespace
 
-class TestNumberRows : public QObject
+class TestNumberRows : public RowTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_bench.reset(new RowBench); }
-    void cleanup() { m_bench.reset(); }
-
     void wholeSteps_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<int>("clicks");
-        QTest::addColumn<QString>("end");
-        QTest::newRow("one up") << "50" << 1 << "60";
-        QTest::newRow("fast up") << "50" << 3 << "80";
-        QTest::newRow("fast down") << "50" << -3 << "20";
-        QTest::newRow("onto the maximum, not beside it") << "95" << 2 << "97";
-        QTest::newRow("onto the minimum, not beside it") << "-5" << -8 << "-13";
-        QTest::newRow("through zero") << "5" << -1 << "-5";
-        QTest::newRow("at the maximum") << "97" << 1 << "97";
+        const DataRows<QString, int, QString> row{"start", "clicks", "end"};
+        row("one up", "50", 1, "60");
+        row("fast up", "50", 3, "80");
+        row("fast down", "50", -3, "20");
+        row("onto the maximum, not beside it", "95", 2, "97");
+        row("onto the minimum, not beside it", "-5", -8, "-13");
+        row("through zero", "5", -1, "-5");
+        row("at the maximum", "97", 1, "97");
     }
     void wholeSteps()
     {
-        QFETCH(QString, start);
-        QFETCH(int, clicks);
+        const auto [start, clicks] = fetched<QString, int>({"start", "clicks"});
         setRange(*m_bench, whole, start, "-13", "97", "10");
         typeintadjust row(whole, ENUM_OBJECT_END);
         turn(row, whole, clicks);
@@ -76,20 +66,17 @@ private slots:
 
     void decimalSteps_data()
     {
-        QTest::addColumn<QString>("step");
-        QTest::addColumn<int>("clicks");
-        QTest::addColumn<QString>("end");
-        QTest::newRow("one decimal") << "0.1" << 1 << "2.6";
-        QTest::newRow("fast") << "0.1" << -5 << "2.0";
-        QTest::newRow("two decimals") << "0.05" << 1 << "2.55";
-        QTest::newRow("a step without a point keeps one") << "1" << 1 << "3.5";
-        QTest::newRow("maximum") << "0.1" << 50 << "4.0";
-        QTest::newRow("minimum") << "0.1" << -50 << "1.0";
+        const DataRows<QString, int, QString> row{"step", "clicks", "end"};
+        row("one decimal", "0.1", 1, "2.6");
+        row("fast", "0.1", -5, "2.0");
+        row("two decimals", "0.05", 1, "2.55");
+        row("a step without a point keeps one", "1", 1, "3.5");
+        row("maximum", "0.1", 50, "4.0");
+        row("minimum", "0.1", -50, "1.0");
     }
     void decimalSteps()
     {
-        QFETCH(QString, step);
-        QFETCH(int, clicks);
+        const auto [step, clicks] = fetched<QString, int>({"step", "clicks"});
         setRange(*m_bench, decimal, "2.5", "1.0", "4.0", step);
         typefloatadjust row(decimal, ENUM_OBJECT_END);
         turn(row, decimal, clicks);
@@ -108,12 +95,7 @@ private slots:
     /// No input is known here, so the engine would allow no crop at all.
     void aReportedCropStandsAsItIs_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("reported");
-        QTest::addColumn<QString>("shown");
-        const auto row = [](const char *name, int index, const char *reported, const char *shown) {
-            QTest::newRow(name) << index << reported << shown;
-        };
+        const DataRows<int, QString, QString> row{"index", "reported", "shown"};
         row("main layer", MENU_MainLayerCrop_HorWidth, "500", "500");
         row("PIP 2", MENU_PIP2Crop_InitialY, "500", "500");
         row("not beyond its own limits", MENU_PIP1Crop_HorWidth, "40000", "0");
@@ -121,9 +103,7 @@ private slots:
     }
     void aReportedCropStandsAsItIs()
     {
-        QFETCH(int, index);
-        QFETCH(QString, reported);
-        QFETCH(QString, shown);
+        const auto [index, reported, shown] = fetched<int, QString, QString>({"index", "reported", "shown"});
         typeintadjust row(ENUM_MenuIndex(index), ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, reported, SET_XML_DEVICE);
         QVERIFY(shows(row, shown));
@@ -188,11 +168,7 @@ private slots:
         QVERIFY(shows(row, "62 mm"));
         QCOMPARE(m_bench->value(whole), QString("62"));
     }
-
-private:
-    std::unique_ptr<RowBench> m_bench;
 };
 
 FPD_TEST(TestNumberRows)
-
 #include "tst_numberrows.moc"

@@ -1,9 +1,7 @@
 // Rows with parts: how the cursor comes in, walks and leaves, and what OK acts on; and the rows that only
 // act.
 
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/rowbench.h"
 #include "widget/row/typeapply.h"
@@ -13,7 +11,6 @@
 #include "widget/row/typefourpic.h"
 #include "widget/row/typetwostringcombox.h"
 
-#include <QLabel>
 #include <QPushButton>
 
 using namespace VASK;
@@ -32,26 +29,17 @@ int walk(VaskUiObject &row, ENUM_MenuIndex index, int clicks, bool end = false)
 }
 } // namespace
 
-class TestPartsRows : public QObject
+class TestPartsRows : public RowTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_bench.reset(new RowBench); }
-    void cleanup() { m_bench.reset(); }
-
     void walking_data()
     {
-        QTest::addColumn<QList<int>>("before"); // clicks that bring the cursor to its start
-        QTest::addColumn<int>("clicks");
-        QTest::addColumn<bool>("end");
-        QTest::addColumn<int>("left");
-        QTest::addColumn<int>("applied"); // 0: the cursor has left the row
+        // before: clicks that bring the cursor to its start
+        // applied: 0: the cursor has left the row
+        const DataRows<QList<int>, int, bool, int, int> row{"before", "clicks", "end", "left", "applied"};
         const int apply = MENU_Mosaic_Apply;
         const int reset = apply + 1;
-        const auto row = [](const char *name, const QList<int> &before, int clicks, bool end, int left,
-                            int applied) {
-            QTest::newRow(name) << before << clicks << end << left << applied;
-        };
         row("in from the left", {}, 1, false, 0, apply);
         row("in from the right", {}, -1, false, 0, reset);
         row("in by two from the left", {}, 2, false, 0, reset);
@@ -66,10 +54,8 @@ private slots:
     }
     void walking()
     {
-        QFETCH(QList<int>, before);
-        QFETCH(int, clicks);
-        QFETCH(bool, end);
-        QFETCH(int, applied);
+        const auto [before, clicks, end, applied] =
+            fetched<QList<int>, int, bool, int>({"before", "clicks", "end", "applied"});
         typeapplyreset row(MENU_Mosaic_Apply, ENUM_OBJECT_END);
         for (int move : before)
             walk(row, MENU_Mosaic_Apply, move);
@@ -192,10 +178,7 @@ private:
             shown += label->isVisible() && label->text().isEmpty();
         return shown;
     }
-
-    std::unique_ptr<RowBench> m_bench;
 };
 
 FPD_TEST(TestPartsRows)
-
 #include "tst_partsrows.moc"

@@ -2,20 +2,14 @@
 // with each option of its list, with its list open, and disabled: nothing is cut off or overlaps, the cursor
 // is seen, all texts of a kind stand on one line. FPD_LOOKS=folder saves contact sheets of them to look at.
 
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/menutypes.h"
-#include "menu/pageindex.h"
 #include "testkit/contactsheet.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/lookrig.h"
 #include "widget/page/pagetable.h"
 #include "widget/row/icocomboxtable.h"
-#include "widget/row/pagerow.h"
 #include "widget/row/stringcomboxtable.h"
 
 #include <QSet>
-#include <functional>
 
 using namespace VASK;
 
@@ -462,5 +456,4 @@ private:
 };
 
 FPD_TEST(TestRowLooks)
-
 #include "tst_rowlooks.moc"

@@ -99,39 +99,32 @@ private slots:
 
     void urls_data()
     {
-        QTest::addColumn<QString>("url");
-        QTest::addColumn<Texts>("parameters");
-        QTest::addColumn<Texts>("holders");
-        QTest::addColumn<QString>("composed");
+        const DataRows<QString, Texts, Texts, QString> row{"url", "parameters", "holders", "composed"};
         using Map = Texts;
-        QTest::newRow("id") << "/c/{id}/g/{id}" << Map{} << Map{{"id", "5"}} << "/c/5/g/5";
-        QTest::newRow("no value") << "/c/{id}" << Map{} << Map{{"ID", "5"}} << "/c/{id}";
-        QTest::newRow("query") << "/a" << Map{{"y", "3"}, {"x", "1 2"}} << Map{} << "/a?x=1%202&y=3";
-        QTest::newRow("coded") << "/a" << Map{{"k&", "ü="}} << Map{} << "/a?k%26=%C3%BC%3D";
+        row("id", "/c/{id}/g/{id}", Map{}, Map{{"id", "5"}}, "/c/5/g/5");
+        row("no value", "/c/{id}", Map{}, Map{{"ID", "5"}}, "/c/{id}");
+        row("query", "/a", Map{{"y", "3"}, {"x", "1 2"}}, Map{}, "/a?x=1%202&y=3");
+        row("coded", "/a", Map{{"k&", "ü="}}, Map{}, "/a?k%26=%C3%BC%3D");
     }
     void urls()
     {
-        QFETCH(QString, url);
-        QFETCH(Texts, parameters);
-        QFETCH(Texts, holders);
+        const auto [url, parameters, holders] =
+            fetched<QString, Texts, Texts>({"url", "parameters", "holders"});
         QTEST(HTTPTunnel::composeUrl(url, parameters, holders), "composed");
     }
 
     void theWire_data()
     {
-        QTest::addColumn<QString>("method");
-        QTest::addColumn<QByteArray>("body");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("get") << "get" << QByteArray("ignored") << "GET /p/7";
-        QTest::newRow("put") << "put" << QByteArray("{\"v\":1}") << "PUT /p/7 {\"v\":1}";
-        QTest::newRow("post") << "post" << QByteArray("[]") << "POST /p/7 []";
-        QTest::newRow("del") << "del" << QByteArray() << "DELETE /p/7";
+        const DataRows<QString, QByteArray, QString> row{"method", "body", "line"};
+        row("get", "get", "ignored", "GET /p/7");
+        row("put", "put", "{\"v\":1}", "PUT /p/7 {\"v\":1}");
+        row("post", "post", "[]", "POST /p/7 []");
+        row("del", "del", {}, "DELETE /p/7");
     }
     void theWire()
     {
         m_server->answer(R"({"code":5,"data":[1]})");
-        QFETCH(QString, method);
-        QFETCH(QByteArray, body);
+        const auto [method, body] = fetched<QString, QByteArray>({"method", "body"});
         HttpPackage sent = package(method.toLatin1(), "/p/{id}", body);
         sent.addPlaceHolders("id", "7");
         sent.addRequestHeader("X-Token", "{token}");
@@ -166,28 +159,17 @@ private slots:
 
     void whatGoesWrong_data()
     {
-        QTest::addColumn<QString>("service");
-        QTest::addColumn<QString>("answer");
-        QTest::newRow("absent") << "absent"
-                                << "failed Connection refused";
-        QTest::newRow("no port") << "no port"
-                                 << "failed Connection refused";
-        QTest::newRow("silent") << "silent"
-                                << "failed Operation canceled";
-        QTest::newRow("cut") << "cut"
-                             << "failed Connection closed";
-        QTest::newRow("half an answer") << "half"
-                                        << "failed Connection closed";
-        QTest::newRow("no HTTP") << "garbage"
-                                 << "failed Connection closed";
-        QTest::newRow("status") << "500"
-                                << "failed Error transferring";
-        QTest::newRow("no JSON") << "no JSON"
-                                 << "ok <html>";
-        QTest::newRow("large") << "large"
-                               << "ok ";
-        QTest::newRow("too large") << "too large"
-                                   << "failed Operation canceled";
+        const DataRows<QString, QString> row{"service", "answer"};
+        row("absent", "absent", "failed Connection refused");
+        row("no port", "no port", "failed Connection refused");
+        row("silent", "silent", "failed Operation canceled");
+        row("cut", "cut", "failed Connection closed");
+        row("half an answer", "half", "failed Connection closed");
+        row("no HTTP", "garbage", "failed Connection closed");
+        row("status", "500", "failed Error transferring");
+        row("no JSON", "no JSON", "ok <html>");
+        row("large", "large", "ok ");
+        row("too large", "too large", "failed Operation canceled");
     }
     void whatGoesWrong()
     {

@@ -68,11 +68,7 @@ private slots:
 
     void answersBecomeTrees_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("tree");
-        const auto row = [](const char *json, const char *tree) {
-            QTest::newRow(json) << QByteArray(json) << tree;
-        };
+        const DataRows<QByteArray, QString> row{"json", "tree"};
         row(R"({"b":[1,-2,3],"a":{"x":null}})", "{a{x=n} b{=i1 =i-2 =i3}}");
         row(R"([1,2.5,"t",true])", "{=i1 =f2.5 =st =b1}");
         row(R"("text")", "{=stext}");
@@ -119,9 +115,7 @@ private slots:
 
     void pathsAndConditions_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("found");
-        const auto row = [](const char *path, const char *found) { QTest::newRow(path) << path << found; };
+        const DataRows<QString, QString> row{"path", "found"};
         row("a.b", "b=i7");
         row("a.b.c", "b=i7");
         row(".a..b.", "b=i7");
@@ -175,17 +169,15 @@ private slots:
 
     void theEnvelope_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<bool>("good");
-        QTest::newRow("success") << R"({"code":0})" << 0 << true;
-        QTest::newRow("failure") << R"({"code":5})" << 5 << false;
-        QTest::newRow("a string is no number") << R"({"code":"0"})" << 0 << false;
-        QTest::newRow("huge") << R"({"code":1e300})" << std::numeric_limits<int>::max() << false;
-        QTest::newRow("part of one") << R"({"code":0.5})" << 0 << false;
-        QTest::newRow("array") << R"([{"code":0}])" << 0 << false;
-        QTest::newRow("no json") << "{" << 0 << false;
-        QTest::newRow("empty") << "" << 0 << false;
+        const DataRows<QString, int, bool> row{"text", "code", "good"};
+        row("success", R"({"code":0})", 0, true);
+        row("failure", R"({"code":5})", 5, false);
+        row("a string is no number", R"({"code":"0"})", 0, false);
+        row("huge", R"({"code":1e300})", std::numeric_limits<int>::max(), false);
+        row("part of one", R"({"code":0.5})", 0, false);
+        row("array", R"([{"code":0}])", 0, false);
+        row("no json", "{", 0, false);
+        row("empty", "", 0, false);
     }
     void theEnvelope()
     {
@@ -196,9 +188,8 @@ private slots:
 
     void variantsThereAndBack_data()
     {
-        QTest::addColumn<QByteArray>("reader");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("again"); // empty: refused
+        // again: empty: refused
+        addColumns<QByteArray, QString, QByteArray>({"reader", "text", "again"});
         const auto row = [](const char *reader, const char *text, const char *again) {
             QTest::addRow("%s %s", reader, text) << QByteArray(reader) << text << QByteArray(again);
         };
@@ -218,8 +209,7 @@ private slots:
     }
     void variantsThereAndBack()
     {
-        QFETCH(QByteArray, reader);
-        QFETCH(QString, text);
+        const auto [reader, text] = fetched<QByteArray, QString>({"reader", "text"});
         JsonUtil::Map map{{"kept", 1}};
         JsonUtil::List list{1};
         const QMap<QByteArray, bool> read{

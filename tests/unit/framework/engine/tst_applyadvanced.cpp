@@ -1,17 +1,9 @@
 // The advanced screen configuration: the page with the record of one port, and the records of all.
 
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
-
-class TestApplyAdvanced : public CaseTest
-{
-    CaseLines lines() const override;
-    void begin() override;
-};
 
 namespace
 {
@@ -98,15 +90,15 @@ const CaseLines table{
 };
 } // namespace
 
-CaseLines TestApplyAdvanced::lines() const
+class TestApplyAdvanced : public CaseTest
 {
-    return table;
-}
+    CaseLines lines() const override { return table; }
 
-void TestApplyAdvanced::begin()
-{
-    m_rig->reset();
-    m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
-}
+    void begin() override
+    {
+        m_rig->reset();
+        m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
+    }
+};
 
 FPD_TEST(TestApplyAdvanced)

@@ -1,25 +1,10 @@
 // The output, 3D, network and colour as the user and as the device bring their values: what is handed to the
 // protocol, what the row is told, what is asked, what follows and what can be chosen then.
 
-#include "menu/itemindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
-
-class TestApplyCases : public CaseTest
-{
-    Q_OBJECT
-    CaseLines lines() const override;
-    void begin() override;
-
-private slots:
-    void otherModel_data();
-    void otherModel();
-    void refusedAddressComesBackFromTheDevice_data();
-    void refusedAddressComesBackFromTheDevice();
-    void brandIsShown();
-};
 
 namespace
 {
@@ -231,80 +216,78 @@ const CaseLines otherLines{
 };
 } // namespace
 
-CaseLines TestApplyCases::lines() const
+class TestApplyCases : public CaseTest
 {
-    static const CaseLines all = syncLines + outputLines + networkLines + otherLines;
-    return all;
-}
+    Q_OBJECT
+    CaseLines lines() const override
+    {
+        static const CaseLines all = syncLines + outputLines + networkLines + otherLines;
+        return all;
+    }
 
-void TestApplyCases::begin()
-{
-    m_rig->reset();
-    for (ENUM_MenuIndex width : {PARA_OutputWidth, PARA_ReportedWidth})
-        m_rig->process(width, 1920);
-    for (ENUM_MenuIndex height : {PARA_OutputHeight, PARA_ReportedHeight})
-        m_rig->process(height, 1080);
-    m_rig->process(PARA_OutputRate, 6000);
-    // The first input runs at 60 Hz, the second at 59.94 Hz, the third is silent, the reference at 50 Hz.
-    m_rig->input(0, 97, 3, 1920, 1080, 16667);
-    m_rig->input(1, 98, 3, 1920, 1080, 16683);
-    m_rig->input(2, 105, 0, 0, 0, 0);
-    m_rig->input(8, 254, 3, 1920, 1080, 20000);
-}
+    void begin() override
+    {
+        m_rig->reset();
+        for (ENUM_MenuIndex width : {PARA_OutputWidth, PARA_ReportedWidth})
+            m_rig->process(width, 1920);
+        for (ENUM_MenuIndex height : {PARA_OutputHeight, PARA_ReportedHeight})
+            m_rig->process(height, 1080);
+        m_rig->process(PARA_OutputRate, 6000);
+        // The first input runs at 60 Hz, the second at 59.94 Hz, the third is silent, the reference at 50 Hz.
+        m_rig->input(0, 97, 3, 1920, 1080, 16667);
+        m_rig->input(1, 98, 3, 1920, 1080, 16683);
+        m_rig->input(2, 105, 0, 0, 0, 0);
+        m_rig->input(8, 254, 3, 1920, 1080, 20000);
+    }
 
-void TestApplyCases::otherModel_data()
-{
-    addCaseLines(stereoLines);
-}
+private slots:
+    void otherModel_data() { addCaseLines(stereoLines); }
 
-/// One with the pages of 3D and of a second DVI input.
-void TestApplyCases::otherModel()
-{
-    QFETCH(int, row);
-    m_rig->addRows({CONFIG_Mode3D, CONFIG_Mode3DMore, CONFIG_DVI2_InputColor});
-    runCaseLine(*m_rig, stereoLines.at(row));
-}
+    /// One with the pages of 3D and of a second DVI input.
+    void otherModel()
+    {
+        QFETCH(int, row);
+        m_rig->addRows({CONFIG_Mode3D, CONFIG_Mode3DMore, CONFIG_DVI2_InputColor});
+        runCaseLine(*m_rig, stereoLines.at(row));
+    }
 
-void TestApplyCases::refusedAddressComesBackFromTheDevice_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("address") << address("127.0.0.1", "255.0.0.0", "127.0.0.2") << "IpErr";
-    QTest::newRow("address and mask") << address("127.0.0.1", "255.0.255.0", "127.0.0.2") << "IpMaskErr";
-    QTest::newRow("gateway") << address("192.168.0.10", "255.255.255.0", "192.168.1.1") << "GateWayErr";
-}
+    void refusedAddressComesBackFromTheDevice_data()
+    {
+        const DataRows<QString, QString> row{"before", "message"};
+        row("address", address("127.0.0.1", "255.0.0.0", "127.0.0.2"), "IpErr");
+        row("address and mask", address("127.0.0.1", "255.0.255.0", "127.0.0.2"), "IpMaskErr");
+        row("gateway", address("192.168.0.10", "255.255.255.0", "192.168.1.1"), "GateWayErr");
+    }
+    void refusedAddressComesBackFromTheDevice()
+    {
+        const auto [before, message] = fetched<QString, QString>({"before", "message"});
+        QByteArray image(0x3000, '\0');
+        image.replace(0x2000 + 6, 20, QByteArray::fromHex("0a00000005000900ff00ff00ff0000000a000501"));
+        QFile flash(m_rig->statePath(hostlink::flashFile));
+        QVERIFY(flash.open(QIODevice::WriteOnly) && flash.write(image) > 0);
+        flash.close();
+        const QString left = "leaves Net_{IPAddress=10.0.5.9 SubnetMask=255.255.255.0 Gateway=10.0.5.1}";
+        runCaseLine(*m_rig, {"", before, "user Net_Apply=0",
+                             "asks " + message + "; reloads Net_{IPAddress= SubnetMask= Gateway=}; " + left});
+        flash.remove();
+    }
 
-void TestApplyCases::refusedAddressComesBackFromTheDevice()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, message);
-    QByteArray image(0x3000, '\0');
-    image.replace(0x2000 + 6, 20, QByteArray::fromHex("0a00000005000900ff00ff00ff0000000a000501"));
-    QFile flash(m_rig->statePath(hostlink::flashFile));
-    QVERIFY(flash.open(QIODevice::WriteOnly) && flash.write(image) > 0);
-    flash.close();
-    const QString left = "leaves Net_{IPAddress=10.0.5.9 SubnetMask=255.255.255.0 Gateway=10.0.5.1}";
-    runCaseLine(*m_rig, {"", before, "user Net_Apply=0",
-                         "asks " + message + "; reloads Net_{IPAddress= SubnetMask= Gateway=}; " + left});
-    flash.remove();
-}
-
-void TestApplyCases::brandIsShown()
-{
-    const auto *sign = m_rig->home->findChild<QLabel *>("labDeviceName");
-    m_rig->fromUser(MENU_MakerSign, "0");
-    QVERIFY(sign->isHidden());
-    m_rig->fromUser(MENU_MakerSign, "1");
-    QVERIFY(!sign->isHidden());
-    m_rig->fromDevice(MENU_MakerSign, "0");
-    QVERIFY(sign->isHidden());
-    m_rig->home->SetDevNameState(COMMON_ON);
-    m_rig->forget();
-    m_rig->fromDevice(MENU_MakerSign, "0"); // no change
-    QVERIFY(!sign->isHidden());
-    QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
-}
+    void brandIsShown()
+    {
+        const auto *sign = m_rig->home->findChild<QLabel *>("labDeviceName");
+        m_rig->fromUser(MENU_MakerSign, "0");
+        QVERIFY(sign->isHidden());
+        m_rig->fromUser(MENU_MakerSign, "1");
+        QVERIFY(!sign->isHidden());
+        m_rig->fromDevice(MENU_MakerSign, "0");
+        QVERIFY(sign->isHidden());
+        m_rig->home->SetDevNameState(COMMON_ON);
+        m_rig->forget();
+        m_rig->fromDevice(MENU_MakerSign, "0"); // no change
+        QVERIFY(!sign->isHidden());
+        QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
+    }
+};
 
 FPD_TEST(TestApplyCases)
-
 #include "tst_applycases.moc"

@@ -1,24 +1,10 @@
 // The quick screen configuration, the way to its page and to the advanced one's, and low latency, which not
 // every screen allows.
 
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
-
-class TestApplyConfiguration : public CaseTest
-{
-    Q_OBJECT
-    CaseLines lines() const override;
-    void begin() override;
-
-private slots:
-    void onePageAsks();
-    void lowLatencyEndsSync_data();
-    void lowLatencyEndsSync();
-};
 
 namespace
 {
@@ -117,64 +103,64 @@ const CaseLines latencyLines{
 };
 } // namespace
 
-CaseLines TestApplyConfiguration::lines() const
+class TestApplyConfiguration : public CaseTest
 {
-    static const CaseLines all = pageLines + formLines + latencyLines;
-    return all;
-}
-
-void TestApplyConfiguration::begin()
-{
-    m_rig->reset();
-    m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
-    for (int row = MENU_Advanced_EthernetPort; row <= MENU_Advanced_Apply; ++row)
-        m_rig->store->UpdataItemEnable(ENUM_MenuIndex(row), true);
-}
-
-void TestApplyConfiguration::onePageAsks()
-{
-    const auto asking = [] {
-        return QString("%1%2")
-            .arg(g_dialogConfig[MENU_QuickConfiguration].enabled ? "quick" : "")
-            .arg(g_dialogConfig[MENU_AdvancedCfg].enabled ? "advanced" : "");
-    };
-    m_rig->process(PARA_PortLink, 1);
-    for (auto mode : {SET_XML_USER, SET_XML_DEVICE}) {
-        m_rig->engine->SetParaToXml("1", MENU_Advanced_Status, mode);
-        QCOMPARE(asking(), QString("quick"));
-        m_rig->engine->SetParaToXml("0", MENU_Advanced_Status, mode);
-        QCOMPARE(asking(), QString("advanced"));
-        m_rig->engine->SetParaToXml("1", MENU_Advanced_Status, mode);
-        m_rig->engine->SetParaToXml("", MENU_QuickConfiguration, mode);
-        QCOMPARE(asking(), QString("advanced"));
-        m_rig->engine->SetParaToXml("", MENU_AdvancedCfg, mode);
-        QCOMPARE(asking(), QString("advanced"));
+    Q_OBJECT
+    CaseLines lines() const override
+    {
+        static const CaseLines all = pageLines + formLines + latencyLines;
+        return all;
     }
-}
 
-void TestApplyConfiguration::lowLatencyEndsSync_data()
-{
-    QTest::addColumn<int>("periodUs");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("follows the input")
-        << 16683 << "leaves Sync_Status=0 OutputRate=5994; screen 1920x1080@59.94";
-    QTest::newRow("no rate") << 0 << "leaves Sync_Status=0 OutputRate=6000; screen 1920x1080@60";
-}
+    void begin() override
+    {
+        m_rig->reset();
+        m_rig->store->UpdataItemEnable(MENU_Mode3D, false);
+        for (int row = MENU_Advanced_EthernetPort; row <= MENU_Advanced_Apply; ++row)
+            m_rig->store->UpdataItemEnable(ENUM_MenuIndex(row), true);
+    }
 
-void TestApplyConfiguration::lowLatencyEndsSync()
-{
-    QFETCH(int, periodUs);
-    QFETCH(QString, after);
-    m_rig->input(0, 97, 3, 1920, 1080, periodUs);
-    const QString before =
-        whole +
-        "MainLayer_InputSource=0 OutputWidth=1920 OutputHeight=1080 Sync_Status=1 WorkMode=2 OutputRate=";
-    runCaseLine(*m_rig, {"", before + (periodUs ? "6000" : "0"), "user LowLatency=1",
-                         "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; sends Sync_Status=0 "
-                         "LowLatency=1; reloads Sync_Status=0; " +
-                             after});
-}
+private slots:
+    void onePageAsks()
+    {
+        const auto asking = [] {
+            return QString("%1%2")
+                .arg(g_dialogConfig[MENU_QuickConfiguration].enabled ? "quick" : "")
+                .arg(g_dialogConfig[MENU_AdvancedCfg].enabled ? "advanced" : "");
+        };
+        m_rig->process(PARA_PortLink, 1);
+        for (auto mode : {SET_XML_USER, SET_XML_DEVICE}) {
+            m_rig->engine->SetParaToXml("1", MENU_Advanced_Status, mode);
+            QCOMPARE(asking(), QString("quick"));
+            m_rig->engine->SetParaToXml("0", MENU_Advanced_Status, mode);
+            QCOMPARE(asking(), QString("advanced"));
+            m_rig->engine->SetParaToXml("1", MENU_Advanced_Status, mode);
+            m_rig->engine->SetParaToXml("", MENU_QuickConfiguration, mode);
+            QCOMPARE(asking(), QString("advanced"));
+            m_rig->engine->SetParaToXml("", MENU_AdvancedCfg, mode);
+            QCOMPARE(asking(), QString("advanced"));
+        }
+    }
+
+    void lowLatencyEndsSync_data()
+    {
+        const DataRows<int, QString> row{"periodUs", "after"};
+        row("follows the input", 16683, "leaves Sync_Status=0 OutputRate=5994; screen 1920x1080@59.94");
+        row("no rate", 0, "leaves Sync_Status=0 OutputRate=6000; screen 1920x1080@60");
+    }
+    void lowLatencyEndsSync()
+    {
+        const auto [periodUs, after] = fetched<int, QString>({"periodUs", "after"});
+        m_rig->input(0, 97, 3, 1920, 1080, periodUs);
+        const QString before =
+            whole +
+            "MainLayer_InputSource=0 OutputWidth=1920 OutputHeight=1080 Sync_Status=1 WorkMode=2 OutputRate=";
+        runCaseLine(*m_rig, {"", before + (periodUs ? "6000" : "0"), "user LowLatency=1",
+                             "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; sends Sync_Status=0 "
+                             "LowLatency=1; reloads Sync_Status=0; " +
+                                 after});
+    }
+};
 
 FPD_TEST(TestApplyConfiguration)
-
 #include "tst_applyconfiguration.moc"

@@ -85,23 +85,20 @@ class TestApplyDisplay : public CaseTest
     }
 
 private slots:
-    void patternPageTakesThePlace();
+    /// No row of this model opens them.
+    void patternPageTakesThePlace()
+    {
+        const auto page = [](ENUM_ObjectIndex number) { return poolObject<MenuDirectory>(number); };
+        m_rig->fromUser(MENU_Test_Type, "2");
+        MenuDirectory *grid = page(ENUM_PAGE_TestGrid);
+        QVERIFY(grid && page(ENUM_PAGE_TestPattern) == grid && grid->isVisible());
+        m_rig->fromUser(MENU_Test_Type, "1");
+        MenuDirectory *gradient = page(ENUM_PAGE_TestGradient);
+        QVERIFY(!grid->isVisible() && page(ENUM_PAGE_TestPattern) == gradient);
+        QVERIFY(gradient->parentScreen() == page(ENUM_PAGE_DisplayControl));
+        gradient->hide();
+    }
 };
 
-/// No row of this model opens them.
-void TestApplyDisplay::patternPageTakesThePlace()
-{
-    const auto page = [](ENUM_ObjectIndex number) { return poolObject<MenuDirectory>(number); };
-    m_rig->fromUser(MENU_Test_Type, "2");
-    MenuDirectory *grid = page(ENUM_PAGE_TestGrid);
-    QVERIFY(grid && page(ENUM_PAGE_TestPattern) == grid && grid->isVisible());
-    m_rig->fromUser(MENU_Test_Type, "1");
-    MenuDirectory *gradient = page(ENUM_PAGE_TestGradient);
-    QVERIFY(!grid->isVisible() && page(ENUM_PAGE_TestPattern) == gradient);
-    QVERIFY(gradient->parentScreen() == page(ENUM_PAGE_DisplayControl));
-    gradient->hide();
-}
-
 FPD_TEST(TestApplyDisplay)
-
 #include "tst_applydisplay.moc"

@@ -2,7 +2,6 @@
 // rate, LEDs, colour sampling, the backup of the ports.
 
 #include "framework/productiontest/productiontest.h"
-#include "menu/itemindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
 
@@ -243,5 +242,4 @@ void TestApplyInputs::productionTest()
 }
 
 FPD_TEST(TestApplyInputs)
-
 #include "tst_applyinputs.moc"

@@ -1,12 +1,8 @@
 // The four resets: what survives, what comes back, what the user is told, and once in a run of the program.
 
-#include "menu/itemindex.h"
-#include "menu/menutypes.h"
-#include "menu/objectindex.h"
 #include "netstatus.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
-#include "tests/unit/rig/datarows.h"
 
 using namespace VASK;
 
@@ -80,11 +76,72 @@ class TestApplyReset : public CaseTest
     }
 
 private slots:
-    void clearsPictures_data();
-    void clearsPictures();
-    void tellsTheOutcome_data();
-    void tellsTheOutcome();
-    void clearAll();
+    void clearsPictures_data()
+    {
+        addColumns<int, bool>({"reset", "cleared"});
+        addRow("save IP", MENU_SaveIP, true);
+        addRow("save user data", MENU_SaveUserData, false);
+        addRow("reset all", MENU_ResetAll, true);
+        addRow("clear all", MENU_ClearAllParameters, true);
+    }
+    void clearsPictures()
+    {
+        const auto [reset, cleared] = fetched<int, bool>({"reset", "cleared"});
+        const QString name = m_rig->path("/usr/vask/etc/osd/one.bmp");
+        QFile picture(name);
+        QVERIFY(picture.open(QIODevice::WriteOnly));
+        m_rig->fromUser(ENUM_MenuIndex(reset), "0");
+        QCOMPARE(!QFile::exists(name), cleared);
+    }
+
+    void tellsTheOutcome_data()
+    {
+        addColumns<QString, QString>({"script", "outcome"});
+        addRow("no version", "echo FPGA version", "FPGACommunication");
+        addRow("memory check failed", "case $1 in -v) echo 'FPGA version is V1';; r) echo 0x00;; esac",
+               "FPGADDRCheckError");
+    }
+    void tellsTheOutcome()
+    {
+        const auto [script, outcome] = fetched<QString, QString>({"script", "outcome"});
+        tool("fpga", qPrintable(script));
+        m_rig->fromUser(MENU_SaveIP, "0");
+        QCOMPARE(m_rig->messages, (QStringList{"IsResting", outcome}));
+    }
+
+    void clearAll()
+    {
+        QFile standard(m_rig->path("/usr/vask/etc/logo/logo_vask.bmp"));
+        QVERIFY(standard.open(QIODevice::WriteOnly));
+        standard.write("standard");
+        standard.close();
+        set_pc_connect_priority(0);
+        m_rig->set(MENU_ScreenBrightness, "13");
+        m_rig->set(MENU_BootLogo, "0");
+        m_rig->store->updateActivittyItem();
+        // On a slow machine the store's own write would come before the look at the file.
+        m_rig->store->findChild<QTimer *>()->stop();
+        m_rig->fromUser(MENU_ClearAllParameters, "0");
+
+        auto contents = [this](const char *name) {
+            QFile file(m_rig->path(name));
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QCOMPARE(contents("/usr/vask/etc/logo/logo.bmp"), QByteArray("standard"));
+        QCOMPARE(contents("/usr/vask/etc/fpd/config/config.xml"),
+                 contents("/usr/vask/etc/fpd/config/config_factory.xml"));
+        m_rig->store->restartUpdateTimer();
+        // A later write does not bring the old values back.
+        m_rig->store->updateActivittyItem();
+        MenuAnalysis next(ENUM_MENUANALYSIS);
+        next.initlize();
+        QString brightness;
+        next.GetItemCurValue(MENU_ScreenBrightness, brightness);
+        QCOMPARE(brightness, QString("60"));
+        QCOMPARE(get_pc_connect_priority(), 1);
+        QCOMPARE(m_rig->device->sent.take(), QStringList{"ResetAll="});
+        QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
+    }
 
 private:
     /// What a shell tool of the board prints.
@@ -97,77 +154,5 @@ private:
     }
 };
 
-void TestApplyReset::clearsPictures_data()
-{
-    addColumns<int, bool>({"reset", "cleared"});
-    addRow("save IP", MENU_SaveIP, true);
-    addRow("save user data", MENU_SaveUserData, false);
-    addRow("reset all", MENU_ResetAll, true);
-    addRow("clear all", MENU_ClearAllParameters, true);
-}
-
-void TestApplyReset::clearsPictures()
-{
-    QFETCH(int, reset);
-    QFETCH(bool, cleared);
-    const QString name = m_rig->path("/usr/vask/etc/osd/one.bmp");
-    QFile picture(name);
-    QVERIFY(picture.open(QIODevice::WriteOnly));
-    m_rig->fromUser(ENUM_MenuIndex(reset), "0");
-    QCOMPARE(!QFile::exists(name), cleared);
-}
-
-void TestApplyReset::tellsTheOutcome_data()
-{
-    addColumns<QString, QString>({"script", "outcome"});
-    addRow("no version", "echo FPGA version", "FPGACommunication");
-    addRow("memory check failed", "case $1 in -v) echo 'FPGA version is V1';; r) echo 0x00;; esac",
-           "FPGADDRCheckError");
-}
-
-void TestApplyReset::tellsTheOutcome()
-{
-    QFETCH(QString, script);
-    QFETCH(QString, outcome);
-    tool("fpga", qPrintable(script));
-    m_rig->fromUser(MENU_SaveIP, "0");
-    QCOMPARE(m_rig->messages, (QStringList{"IsResting", outcome}));
-}
-
-void TestApplyReset::clearAll()
-{
-    QFile standard(m_rig->path("/usr/vask/etc/logo/logo_vask.bmp"));
-    QVERIFY(standard.open(QIODevice::WriteOnly));
-    standard.write("standard");
-    standard.close();
-    set_pc_connect_priority(0);
-    m_rig->set(MENU_ScreenBrightness, "13");
-    m_rig->set(MENU_BootLogo, "0");
-    m_rig->store->updateActivittyItem();
-    // On a slow machine the store's own write would come before the look at the file.
-    m_rig->store->findChild<QTimer *>()->stop();
-    m_rig->fromUser(MENU_ClearAllParameters, "0");
-
-    auto contents = [this](const char *name) {
-        QFile file(m_rig->path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    QCOMPARE(contents("/usr/vask/etc/logo/logo.bmp"), QByteArray("standard"));
-    QCOMPARE(contents("/usr/vask/etc/fpd/config/config.xml"),
-             contents("/usr/vask/etc/fpd/config/config_factory.xml"));
-    m_rig->store->restartUpdateTimer();
-    // A later write does not bring the old values back.
-    m_rig->store->updateActivittyItem();
-    MenuAnalysis next(ENUM_MENUANALYSIS);
-    next.initlize();
-    QString brightness;
-    next.GetItemCurValue(MENU_ScreenBrightness, brightness);
-    QCOMPARE(brightness, QString("60"));
-    QCOMPARE(get_pc_connect_priority(), 1);
-    QCOMPARE(m_rig->device->sent.take(), QStringList{"ResetAll="});
-    QCOMPARE(m_rig->messages, (QStringList{"IsResting", "ResetSucceed"}));
-}
-
 FPD_TEST(TestApplyReset)
-
 #include "tst_applyreset.moc"

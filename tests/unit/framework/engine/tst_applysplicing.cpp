@@ -1,6 +1,5 @@
 // Splicing: what it takes from the layers, what it gives back, and the area that this device loads.
 
-#include "menu/itemindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
 #include "tests/unit/rig/layerrig.h"

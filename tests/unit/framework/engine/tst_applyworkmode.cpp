@@ -2,11 +2,9 @@
 // another.
 
 #include "framework/input/keyevent.h"
-#include "menu/itemindex.h"
 #include "menu/ledindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
-#include "tests/unit/rig/ledpanel.h"
 
 using namespace VASK;
 
@@ -65,7 +63,7 @@ const QString nowCard = "of SendingCard: SendingCard=1 SendingCard=1; ",
 const QString shows = nowCard + "name DVI; visible labWindowOffDisplay_2; ";
 const CaseLines cardLines{
     {"input", "MainLayer_InputSource=0", "user SendingCard=1",
-     shows + "picture 1280x1024@59.94; screen 1920x1200@59.94; leaves OutputRate=5994"},
+     shows + "picture 1280x1024@59.94; screen 1920x1200@59.94; dark SCALE; leaves OutputRate=5994"},
     {"input, no rate", "MainLayer_InputSource=0 InputRecordFirst+19=0", "user SendingCard=1",
      shows + "picture 1280x1024@60; screen 1920x1200@60; leaves OutputRate=6000"},
     {"input, no signal", "MainLayer_InputSource=0 InputRecordFirst+16=0 InputRecordFirst+19=20000",
@@ -118,35 +116,105 @@ const CaseLines backLines{
     {"PIP 2 is on", "MainLayer_InputSource/4+; " + card + "PIP2_Status=1", "user VideoController=1",
      nowController + "leaves MainLayerTransition- TransitionDuration- MainLayer_InputSource/4-; hidden "
                      "labWindowOffDisplay_3"},
+    {"maker's sign", fiber + "user MakerSign=0; MakerSign=1", "user VideoController=1",
+     nowController + "visible labDeviceName"},
+    {"no maker's sign", fiber + "user MakerSign=1; MakerSign=0", "user VideoController=1",
+     nowController + "hidden labDeviceName"},
     {"lists", "MainLayer_InputSource/4+; " + card, "user VideoController=1",
      nowController + "leaves MainLayer_InputSource/4+ Sync_{Source/1+ Source/2+ Source/3+} "
                      "Audio_{AudioOutput/2+ AudioOutput/3+}"},
 };
-
-const CaseLines &allLines()
-{
-    static const CaseLines lines = modeLines + cardLines + backLines;
-    return lines;
-}
 } // namespace
 
-class TestApplyWorkMode : public QObject
+class TestApplyWorkMode : public CaseTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase();
-    void cleanupTestCase() { delete m_rig; }
-    void init();
-    void cleanup();
+    /// On a model with the pages of the work mode and of 3D.
+    EngineRig *makeRig() const override
+    {
+        auto *rig = new EngineRig;
+        rig->addRows({CONFIG_WorkingMode, CONFIG_Mode3D});
+        return rig;
+    }
+    void begin() override
+    {
+        m_rig->reset();
+        caseline::prepare(*m_rig, "OutputWidth=1920 OutputHeight=1200 OutputRate=6000");
+        m_rig->input(fallback, 105, 3, 1280, 1024, 16683);
+        ParaProcess::bHaveSDI = true;
+    }
+    CaseLines lines() const override
+    {
+        static const CaseLines all = modeLines + cardLines + backLines;
+        return all;
+    }
 
-    void valueIsApplied_data();
-    void valueIsApplied();
-    void syncSourcesWithoutSdi();
-    void cardEndsTheScalingLed();
-    void reportedModeReachesTheRow();
-    void fiberTakesTheLeds();
-    void fiberGivesTheHomeScreenBack();
-    void makerSignComesBack();
+private slots:
+    void cleanup()
+    {
+        KeyEvent::LightFiber(false);
+        m_rig->home->hide();
+    }
+
+    void syncSourcesWithoutSdi()
+    {
+        ParaProcess::bHaveSDI = false;
+        runCaseLine(*m_rig, {"", card, "user VideoController=1",
+                             nowController + "leaves Sync_{Source/1+ Source/2+ Source/3-}"});
+    }
+
+    void cardEndsTheScalingLed()
+    {
+        KeyEvent::SendLedCommand(LED_SCALE, LED_ON);
+        m_rig->fromUser(MENU_SendingCard, "1");
+        QVERIFY(!m_leds->lit(LED_SCALE));
+    }
+
+    void reportedModeReachesTheRow()
+    {
+        ParaProcess::init_20m_flg = true;
+        m_rig->fromDevice(MENU_SendingCard, "");
+        QCOMPARE(m_rig->value(MENU_WorkMode), QString("2"));
+        QVERIFY(m_rig->reported.take().contains("SendingCard="));
+        QCOMPARE(sentOf({"SendingCard", "SendingCardMode"}),
+                 (QStringList{"SendingCard=1", "SendingCardMode=1"}));
+        m_rig->fromDevice(MENU_VideoController, "");
+        QCOMPARE(m_rig->value(MENU_WorkMode), QString("0"));
+        QCOMPARE(sentOf({"VideoController", "SendingCardMode"}), QStringList{"SendingCardMode=0"});
+    }
+
+    void fiberTakesTheLeds()
+    {
+        KeyEvent::SendLedCommand(LED_TEST, LED_ON);
+        m_rig->fromUser(MENU_FiberConverter, "1");
+        QVERIFY(!m_leds->lit(LED_TEST));
+        KeyEvent::SendLedCommand(LED_TEST, LED_ON);
+        QVERIFY(!m_leds->lit(LED_TEST));
+        m_rig->fromUser(MENU_VideoController, "1");
+        QVERIFY(m_leds->lit(LED_TEST));
+        KeyEvent::SendLedCommand(LED_TEST, LED_OFF);
+    }
+
+    void fiberGivesTheHomeScreenBack()
+    {
+        MenuDirectory *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU);
+        for (Mode to : {Controller, Sender})
+            for (bool pageOpen : {true, false}) {
+                begin();
+                startIn(Fiber);
+                menu->setParentScreen(nullptr);
+                if (pageOpen) {
+                    m_rig->home->show();
+                    menu->show();
+                    QApplication::setActiveWindow(menu);
+                }
+                m_rig->fromUser(modeItems[to], "1");
+                QCOMPARE(m_rig->home->isVisible(), !pageOpen);
+                QVERIFY(menu->parentScreen() == m_rig->home);
+                menu->hide();
+                m_rig->home->hide();
+            }
+    }
 
 private:
     /// The device works in a mode from the start on.
@@ -164,117 +232,7 @@ private:
                 sent << line;
         return sent;
     }
-    EngineRig *m_rig = nullptr;
-    LedPanel *m_leds = nullptr;
 };
 
-/// On a model with the pages of the work mode and of 3D.
-void TestApplyWorkMode::initTestCase()
-{
-    m_rig = new EngineRig;
-    m_rig->addRows({CONFIG_WorkingMode, CONFIG_Mode3D});
-    m_leds = new LedPanel(m_rig->statePath("").toStdString());
-    KeyEvent::getInstance()->InitKeyDriver(qApp);
-}
-
-void TestApplyWorkMode::init()
-{
-    m_rig->reset();
-    m_rig->process(PARA_OutputWidth, 1920);
-    m_rig->process(PARA_OutputHeight, 1200);
-    m_rig->process(PARA_OutputRate, 6000);
-    m_rig->input(fallback, 105, 3, 1280, 1024, 16683);
-    ParaProcess::bHaveSDI = true;
-}
-
-void TestApplyWorkMode::cleanup()
-{
-    KeyEvent::LightFiber(false);
-    m_rig->home->hide();
-}
-
-void TestApplyWorkMode::valueIsApplied_data()
-{
-    addCaseLines(allLines());
-}
-
-void TestApplyWorkMode::valueIsApplied()
-{
-    QFETCH(int, row);
-    runCaseLine(*m_rig, allLines().at(row));
-}
-
-void TestApplyWorkMode::syncSourcesWithoutSdi()
-{
-    ParaProcess::bHaveSDI = false;
-    runCaseLine(*m_rig, {"", card, "user VideoController=1",
-                         nowController + "leaves Sync_{Source/1+ Source/2+ Source/3-}"});
-}
-
-void TestApplyWorkMode::cardEndsTheScalingLed()
-{
-    KeyEvent::SendLedCommand(LED_SCALE, LED_ON);
-    m_rig->fromUser(MENU_SendingCard, "1");
-    QVERIFY(!m_leds->lit(LED_SCALE));
-}
-
-void TestApplyWorkMode::reportedModeReachesTheRow()
-{
-    ParaProcess::init_20m_flg = true;
-    m_rig->fromDevice(MENU_SendingCard, "");
-    QCOMPARE(m_rig->value(MENU_WorkMode), QString("2"));
-    QVERIFY(m_rig->reported.take().contains("SendingCard="));
-    QCOMPARE(sentOf({"SendingCard", "SendingCardMode"}), (QStringList{"SendingCard=1", "SendingCardMode=1"}));
-    m_rig->fromDevice(MENU_VideoController, "");
-    QCOMPARE(m_rig->value(MENU_WorkMode), QString("0"));
-    QCOMPARE(sentOf({"VideoController", "SendingCardMode"}), QStringList{"SendingCardMode=0"});
-}
-
-void TestApplyWorkMode::fiberTakesTheLeds()
-{
-    KeyEvent::SendLedCommand(LED_TEST, LED_ON);
-    m_rig->fromUser(MENU_FiberConverter, "1");
-    QVERIFY(!m_leds->lit(LED_TEST));
-    KeyEvent::SendLedCommand(LED_TEST, LED_ON);
-    QVERIFY(!m_leds->lit(LED_TEST));
-    m_rig->fromUser(MENU_VideoController, "1");
-    QVERIFY(m_leds->lit(LED_TEST));
-    KeyEvent::SendLedCommand(LED_TEST, LED_OFF);
-}
-
-void TestApplyWorkMode::fiberGivesTheHomeScreenBack()
-{
-    MenuDirectory *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU);
-    for (Mode to : {Controller, Sender})
-        for (bool pageOpen : {true, false}) {
-            init();
-            startIn(Fiber);
-            menu->setParentScreen(nullptr);
-            if (pageOpen) {
-                m_rig->home->show();
-                menu->show();
-                QApplication::setActiveWindow(menu);
-            }
-            m_rig->fromUser(modeItems[to], "1");
-            QCOMPARE(m_rig->home->isVisible(), !pageOpen);
-            QVERIFY(menu->parentScreen() == m_rig->home);
-            menu->hide();
-            m_rig->home->hide();
-        }
-}
-
-void TestApplyWorkMode::makerSignComesBack()
-{
-    const auto *name = m_rig->home->findChild<QLabel *>("labDeviceName");
-    for (const char *sign : {"1", "0"}) {
-        startIn(Fiber);
-        m_rig->set(MENU_MakerSign, sign);
-        m_rig->home->SetDevNameState(sign[0] == '1' ? COMMON_OFF : COMMON_ON);
-        m_rig->fromUser(MENU_VideoController, "1");
-        QCOMPARE(name->isHidden(), sign[0] == '0');
-    }
-}
-
 FPD_TEST(TestApplyWorkMode)
-
 #include "tst_applyworkmode.moc"

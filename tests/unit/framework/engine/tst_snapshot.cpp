@@ -2,10 +2,8 @@
 // the home screen makes of it.
 
 #include "framework/engine/presets.h"
-#include "menu/itemindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
-#include "tests/unit/rig/datarows.h"
 
 #include <QTextCodec>
 
@@ -57,10 +55,83 @@ class TestSnapshot : public CaseTest
     CaseLines lines() const override { return table; }
 
 private slots:
-    void presets();
-    void cutImageTakesNothingAway();
-    void deviceName_data();
-    void deviceName();
+    void presets()
+    {
+        auto preset = [this](int number, const QByteArray &name) {
+            const int record = 0x3000 + 0x1200 * number;
+            put(record + 10, 168, 1);
+            m_rig->writeFlash(record + 512, name);
+        };
+        preset(0, "Evening show");
+        preset(2, QTextCodec::codecForName("GB2312")->fromUnicode(QString::fromUtf8("会议室")));
+        preset(9, QByteArray());
+        preset(4, QByteArray(40, 'x'));
+        put(0x2F10, 2, 1);
+        m_rig->store->UpdataItemEnable(MENU_Preset1, false); // its copy was never ended
+        start();
+        QVERIFY(m_rig->enabled(MENU_Preset1));
+        const QString used = ":/resource/image/sceneSetting/sceneused.png";
+        const QString unused = ":/resource/image/sceneSetting/sceneunused.png";
+        const struct {
+            int number;
+            QString tag, value, icon;
+        } rows[] = {
+            {0, "Evening show", "Saved", unused},
+            {1, "Preset2", "Blank", unused},
+            {2, QString::fromUtf8("会议室"), "Used", used},
+            {4, QString(19, 'x'), "Saved", unused},
+            {9, "Preset10", "Saved", unused},
+        };
+        for (const auto &row : rows) {
+            const ST_ItemInfo item = m_rig->info(ENUM_MenuIndex(MENU_Preset1 + row.number));
+            QCOMPARE(item.tag, row.tag);
+            QCOMPARE(item.value, row.value);
+            QCOMPARE(item.icon, row.icon);
+        }
+        QCOMPARE(m_rig->value(PARA_PresetInUse), QString("2"));
+    }
+
+    /// Presets, address and name are read from the flash anew: of one that ends too early they stay as they
+    /// are.
+    void cutImageTakesNothingAway()
+    {
+        put(0x2F10, 3, 1); // another one is in use
+        put(0x3000 + 10, 168, 1);
+        for (int part : {0, 1, 2, 3})
+            put(0x2006 + 2 * part, part == 0 ? 10 : part, 2);
+        put(0xD14000, 154, 1);
+        put(0xD14100, 'n', 2);
+        start();
+        const QString preset = m_rig->value(MENU_Preset1);
+        QCOMPARE(preset, QString("Saved"));
+        const QString address = m_rig->value(MENU_Net_IPAddress);
+        QCOMPARE(address, QString("10.1.2.3"));
+
+        QVERIFY(QFile::resize(m_rig->statePath(hostlink::flashFile), 0x2010));
+        start();
+        m_rig->set(MENU_Net_IPAddress, "10.9.9.9");
+        m_rig->engine->UpdateIp();
+        QCOMPARE(m_rig->value(MENU_Preset1), preset);
+        QVERIFY(m_rig->engine->presets().isNamed(0));
+        QCOMPARE(m_rig->value(MENU_Net_IPAddress), address);
+        QCOMPARE(m_rig->home->deviceName(), QString("n"));
+    }
+
+    void deviceName_data()
+    {
+        addColumns<QString, QString>({"name", "shown"});
+        addRow("beyond the first plane", QString::fromUtf8("𠀋屏"), QString::fromUtf8("𠀋屏"));
+        addRow("full field", QString(40, 'n'), QString(32, 'n'));
+    }
+    void deviceName()
+    {
+        QFETCH(QString, name);
+        put(0xD14000, 154, 1);
+        for (int i = 0; i < qMin(name.size(), 32); ++i)
+            put(0xD14100 + 2 * i, name.at(i).unicode(), 2);
+        start();
+        QTEST(m_rig->home->deviceName(), "shown");
+    }
 
 private:
     /// Little-endian bytes at an address of the image.
@@ -79,84 +150,5 @@ private:
     }
 };
 
-void TestSnapshot::presets()
-{
-    auto preset = [this](int number, const QByteArray &name) {
-        const int record = 0x3000 + 0x1200 * number;
-        put(record + 10, 168, 1);
-        m_rig->writeFlash(record + 512, name);
-    };
-    preset(0, "Evening show");
-    preset(2, QTextCodec::codecForName("GB2312")->fromUnicode(QString::fromUtf8("会议室")));
-    preset(9, QByteArray());
-    preset(4, QByteArray(40, 'x'));
-    put(0x2F10, 2, 1);
-    m_rig->store->UpdataItemEnable(MENU_Preset1, false); // its copy was never ended
-    start();
-    QVERIFY(m_rig->enabled(MENU_Preset1));
-    const QString used = ":/resource/image/sceneSetting/sceneused.png";
-    const QString unused = ":/resource/image/sceneSetting/sceneunused.png";
-    const struct {
-        int number;
-        QString tag, value, icon;
-    } rows[] = {
-        {0, "Evening show", "Saved", unused},
-        {1, "Preset2", "Blank", unused},
-        {2, QString::fromUtf8("会议室"), "Used", used},
-        {4, QString(19, 'x'), "Saved", unused},
-        {9, "Preset10", "Saved", unused},
-    };
-    for (const auto &row : rows) {
-        const ST_ItemInfo item = m_rig->info(ENUM_MenuIndex(MENU_Preset1 + row.number));
-        QCOMPARE(item.tag, row.tag);
-        QCOMPARE(item.value, row.value);
-        QCOMPARE(item.icon, row.icon);
-    }
-    QCOMPARE(m_rig->value(PARA_PresetInUse), QString("2"));
-}
-
-/// Presets, address and name are read from the flash anew: of one that ends too early they stay as they are.
-void TestSnapshot::cutImageTakesNothingAway()
-{
-    put(0x2F10, 3, 1); // another one is in use
-    put(0x3000 + 10, 168, 1);
-    for (int part : {0, 1, 2, 3})
-        put(0x2006 + 2 * part, part == 0 ? 10 : part, 2);
-    put(0xD14000, 154, 1);
-    put(0xD14100, 'n', 2);
-    start();
-    const QString preset = m_rig->value(MENU_Preset1);
-    QCOMPARE(preset, QString("Saved"));
-    const QString address = m_rig->value(MENU_Net_IPAddress);
-    QCOMPARE(address, QString("10.1.2.3"));
-
-    QVERIFY(QFile::resize(m_rig->statePath(hostlink::flashFile), 0x2010));
-    start();
-    m_rig->set(MENU_Net_IPAddress, "10.9.9.9");
-    m_rig->engine->UpdateIp();
-    QCOMPARE(m_rig->value(MENU_Preset1), preset);
-    QVERIFY(m_rig->engine->presets().isNamed(0));
-    QCOMPARE(m_rig->value(MENU_Net_IPAddress), address);
-    QCOMPARE(m_rig->home->deviceName(), QString("n"));
-}
-
-void TestSnapshot::deviceName_data()
-{
-    addColumns<QString, QString>({"name", "shown"});
-    addRow("beyond the first plane", QString::fromUtf8("𠀋屏"), QString::fromUtf8("𠀋屏"));
-    addRow("full field", QString(40, 'n'), QString(32, 'n'));
-}
-
-void TestSnapshot::deviceName()
-{
-    QFETCH(QString, name);
-    put(0xD14000, 154, 1);
-    for (int i = 0; i < qMin(name.size(), 32); ++i)
-        put(0xD14100 + 2 * i, name.at(i).unicode(), 2);
-    start();
-    QTEST(m_rig->home->deviceName(), "shown");
-}
-
 FPD_TEST(TestSnapshot)
-
 #include "tst_snapshot.moc"

@@ -14,7 +14,6 @@
 #include <QTemporaryDir>
 #include <QWidget>
 #include <QtEndian>
-#include <QtTest>
 #include <fcntl.h>
 #include <poll.h>
 
@@ -245,5 +244,4 @@ private:
 };
 
 FPD_TEST(TestKeyEvent)
-
 #include "tst_keyevent.moc"

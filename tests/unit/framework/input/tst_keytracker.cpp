@@ -4,7 +4,6 @@
 #include "menu/keycodes.h"
 #include "tests/testprogram.h"
 
-#include <QtTest>
 #include <atomic>
 #include <thread>
 
@@ -71,11 +70,7 @@ private slots:
     /// 'p' presses and 'r' releases a key, 'w' waits so many milliseconds.
     void stories_data()
     {
-        QTest::addColumn<QString>("story");
-        QTest::addColumn<QString>("events");
-        const auto row = [](const char *name, const QString &story, const QString &events) {
-            QTest::newRow(name) << story << events;
-        };
+        const DataRows<QString, QString> row{"story", "events"};
         row("short press", "p34 w200 r34", "34p 34r");
         row("just short", "p34 w2990 r34 w4000", "34p 34r");
         row("long press, release swallowed", "p34 w3000 w5000 r34", "34p 34L");
@@ -97,7 +92,6 @@ private slots:
         row("keys of no chord", "p2 p3 w3000 r2 r3", "2p 3p 2L 3L");
         row("a held key beside the chord", "p2 p34 p35 w3000 r2", "2p 34p 35p 2L 18L");
     }
-
     void stories()
     {
         QFETCH(QString, story);
@@ -159,5 +153,4 @@ private slots:
 };
 
 FPD_TEST_GUILESS(TestKeyTracker)
-
 #include "tst_keytracker.moc"

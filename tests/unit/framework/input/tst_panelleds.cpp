@@ -4,8 +4,6 @@
 #include "menu/ledindex.h"
 #include "tests/testprogram.h"
 
-#include <QtTest>
-
 using namespace VASK;
 
 namespace
@@ -196,5 +194,4 @@ private slots:
 };
 
 FPD_TEST_GUILESS(TestPanelLeds)
-
 #include "tst_panelleds.moc"

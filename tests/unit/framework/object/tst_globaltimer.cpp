@@ -1,14 +1,9 @@
 // The way home when no key comes: from where the panel goes home, what it ends on the way, and when it stays.
 
-#include "framework/engine/brightnessedit.h"
 #include "framework/object/globaltimer.h"
 #include "framework/productiontest/productiontest.h"
-#include "menu/itemindex.h"
-#include "menu/keycodes.h"
-#include "menu/objectindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/pagerig.h"
-#include "widget/page/openpage.h"
 
 #include <QDialog>
 
@@ -142,5 +137,4 @@ private:
 };
 
 FPD_TEST(TestGlobalTimer)
-
 #include "tst_globaltimer.moc"

@@ -3,14 +3,12 @@
 #include "framework/object/transport.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/store/menuanalysis.h"
-#include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 
 #include <QPointer>
-#include <QtTest>
 #include <thread>
 
 using namespace VASK;
@@ -154,5 +152,4 @@ private slots:
 };
 
 FPD_TEST(TestObjectPool)
-
 #include "tst_objectpool.moc"

@@ -10,13 +10,11 @@
 #include "menu/objectindex.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
-#include "tests/unit/rig/datarows.h"
 #include "tests/unit/rig/frames.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QtTest>
 
 using namespace VASK;
 using frames::number;
@@ -86,139 +84,128 @@ class TestApipc : public QObject
 {
     Q_OBJECT
 private slots:
-    void header();
-    void unpack();
-    void wholeMessage();
-    void labels_data();
-    void labels();
-    void road();
+    void header()
+    {
+        const QByteArray payload(21, '\x33');
+        IpcHeaderInfo info(&payload, 21, 0x010A3900, 1, 0, 0, 1, 28);
+        QByteArray assembled;
+        QVERIFY(info.AssembleMessage(assembled));
+        QCOMPARE(assembled,
+                 QByteArray::fromHex("00390A01 01000000 31000000 00000000 00000000 0100 1C00 15000000") +
+                     payload);
+
+        const QByteArray tooShort(19, '\x33');
+        assembled = "untouched";
+        QVERIFY(!IpcHeaderInfo(&tooShort).AssembleMessage(assembled));
+        QVERIFY(!IpcHeaderInfo().AssembleMessage(assembled));
+        QCOMPARE(assembled, QByteArray("untouched"));
+    }
+
+    void unpack()
+    {
+        const QByteArray whole = message(28, 1, packet(7));
+        QByteArray payload = "behind";
+        QVERIFY(!IpcHeaderInfo().UnpackMessage(whole.constData(), 47, payload));
+        QCOMPARE(payload, QByteArray("behind"));
+        QVERIFY(IpcHeaderInfo().UnpackMessage(whole.constData(), 48, payload));
+        QCOMPARE(payload, packet(7) + "behind");
+    }
+
+    void wholeMessage()
+    {
+        const QByteArray good = message(28, 1, packet(1));
+        const QByteArray whole[] = {good, good + "x", message(7, 5, {})};
+        for (const QByteArray &bytes : whole)
+            QVERIFY2(isWholeIpcMessage(bytes.constData(), uint(bytes.size())), bytes.toHex());
+        // Payload cut, header cut, length out of range.
+        const QByteArray cut[] = {good.chopped(1), good.left(27),
+                                  good.left(24) + number(0xFFFFFFFF, 4) + packet(1)};
+        for (const QByteArray &bytes : cut)
+            QVERIFY2(!isWholeIpcMessage(bytes.constData(), uint(bytes.size())), bytes.toHex());
+    }
+
+    void labels_data()
+    {
+        addColumns<int, int, int, QString>({"large", "small", "packets", "update"});
+        addRow("packet, answered", 28, 0, 1, "");
+        addRow("packet, sent", 28, 1, 1, "");
+        addRow("packet, other", 28, 2, 0, "");
+        addRow("packet, minus one", 28, 0xFFFF, 0, "");
+        addRow("progress", 7, 4, 0, "0 25442");
+        addRow("progress done", 7, 5, 0, "1 0");
+        addRow("progress, other", 7, 6, 0, "");
+        addRow("USB disk", 29, 4, 0, "");
+        addRow("USB disk, network", 29, 5, 0, "");
+        addRow("unknown", 30, 1, 0, "");
+    }
+    void labels()
+    {
+        const auto [large, small, packets] = fetched<int, int, int>({"large", "small", "packets"});
+        ApipcSocket socket;
+        QSignalSpy received(&socket, &ApipcSocket::receivedInfos);
+        QSignalSpy updated(&socket, &ApipcSocket::signal_update);
+        const QByteArray payload("bc, and so on up to twenty bytes");
+        socket.dispatch(message(large, small, payload));
+        QCOMPARE(received.count(), packets);
+        if (packets > 0)
+            QCOMPARE(received.first().first().toByteArray(), payload);
+        QStringList updates;
+        for (const auto &call : updated)
+            updates << QString("%1 %2").arg(call.at(0).toInt()).arg(call.at(1).toInt());
+        QTEST(updates.join(", "), "update");
+    }
+
+    /// The threads at the bus run until the process ends, so this is one test from the start on.
+    void road()
+    {
+        RecordingProtocol protocol;
+        ObjectPool::getInstance()->InsertData(ENUM_PROTOCOINTERFER_3RD, &protocol);
+        APiPCService service(ENUM_COMMUNICATION_APIPC);
+        service.ApipcInit();
+        QCOMPARE(service.Initalize(), 1);
+        QCOMPARE(service.SendMsg(nullptr), 0);
+
+        FarEnd device;
+        QVERIFY(device.waitForPanel());
+        QByteArray tooShort(19, 'x'), empty, whole = packet(1);
+        for (QByteArray *bytes : {&tooShort, &empty, &whole})
+            QCOMPARE(service.SendMsg(bytes), 1);
+        QCOMPARE(device.message(),
+                 QByteArray::fromHex("00390A01 01000000 30000000 00000000 00000000 0100 1C00 14000000") +
+                     whole);
+        arrivals(protocol, device);
+        service.Terminate();
+        ObjectPool::getInstance()->RemoveByIndex(ENUM_PROTOCOINTERFER_3RD);
+    }
 
 private:
-    void arrivals(RecordingProtocol &protocol, FarEnd &device);
+    void arrivals(RecordingProtocol &protocol, FarEnd &device)
+    {
+        device.push("short");
+        device.push(message(28, 1, packet(1)).left(40)); // cut
+        device.push(message(30, 1, packet(2)));          // about something else
+        QList<QByteArray> expected;
+        const auto pushMany = [&](int count) {
+            for (int n = 0; n < count; ++n) {
+                expected += packet(n) + number(quint32(expected.size()), 4);
+                device.push(message(28, n % 2, expected.last()));
+            }
+        };
+        pushMany(200);
+        QVERIFY(QTest::qWaitFor([&] { return protocol.arrived.size() >= 200; }, 5000));
+        QCOMPARE(protocol.arrived, expected);
+
+        // Nobody keeps up: what comes now waits on its way, more of it than any one queue takes, and comes
+        // later.
+        protocol.busy = true;
+        pushMany(3000);
+        QTest::qWait(100);
+        QCOMPARE(protocol.arrived.size(), 200);
+        protocol.busy = false;
+        QVERIFY(QTest::qWaitFor([&] { return protocol.arrived.size() >= 3200; }, 5000));
+        QCOMPARE(protocol.arrived, expected);
+    }
 };
 
-void TestApipc::header()
-{
-    const QByteArray payload(21, '\x33');
-    IpcHeaderInfo info(&payload, 21, 0x010A3900, 1, 0, 0, 1, 28);
-    QByteArray assembled;
-    QVERIFY(info.AssembleMessage(assembled));
-    QCOMPARE(assembled,
-             QByteArray::fromHex("00390A01 01000000 31000000 00000000 00000000 0100 1C00 15000000") +
-                 payload);
-
-    const QByteArray tooShort(19, '\x33');
-    assembled = "untouched";
-    QVERIFY(!IpcHeaderInfo(&tooShort).AssembleMessage(assembled));
-    QVERIFY(!IpcHeaderInfo().AssembleMessage(assembled));
-    QCOMPARE(assembled, QByteArray("untouched"));
-}
-
-void TestApipc::unpack()
-{
-    const QByteArray whole = message(28, 1, packet(7));
-    QByteArray payload = "behind";
-    QVERIFY(!IpcHeaderInfo().UnpackMessage(whole.constData(), 47, payload));
-    QCOMPARE(payload, QByteArray("behind"));
-    QVERIFY(IpcHeaderInfo().UnpackMessage(whole.constData(), 48, payload));
-    QCOMPARE(payload, packet(7) + "behind");
-}
-
-void TestApipc::wholeMessage()
-{
-    const QByteArray good = message(28, 1, packet(1));
-    const QByteArray whole[] = {good, good + "x", message(7, 5, {})};
-    for (const QByteArray &bytes : whole)
-        QVERIFY2(isWholeIpcMessage(bytes.constData(), uint(bytes.size())), bytes.toHex());
-    // Payload cut, header cut, length out of range.
-    const QByteArray cut[] = {good.chopped(1), good.left(27),
-                              good.left(24) + number(0xFFFFFFFF, 4) + packet(1)};
-    for (const QByteArray &bytes : cut)
-        QVERIFY2(!isWholeIpcMessage(bytes.constData(), uint(bytes.size())), bytes.toHex());
-}
-
-void TestApipc::labels_data()
-{
-    addColumns<int, int, int, QString>({"large", "small", "packets", "update"});
-    addRow("packet, answered", 28, 0, 1, "");
-    addRow("packet, sent", 28, 1, 1, "");
-    addRow("packet, other", 28, 2, 0, "");
-    addRow("packet, minus one", 28, 0xFFFF, 0, "");
-    addRow("progress", 7, 4, 0, "0 25442");
-    addRow("progress done", 7, 5, 0, "1 0");
-    addRow("progress, other", 7, 6, 0, "");
-    addRow("USB disk", 29, 4, 0, "");
-    addRow("USB disk, network", 29, 5, 0, "");
-    addRow("unknown", 30, 1, 0, "");
-}
-
-void TestApipc::labels()
-{
-    QFETCH(int, large);
-    QFETCH(int, small);
-    QFETCH(int, packets);
-    ApipcSocket socket;
-    QSignalSpy received(&socket, &ApipcSocket::receivedInfos);
-    QSignalSpy updated(&socket, &ApipcSocket::signal_update);
-    const QByteArray payload("bc, and so on up to twenty bytes");
-    socket.dispatch(message(large, small, payload));
-    QCOMPARE(received.count(), packets);
-    if (packets > 0)
-        QCOMPARE(received.first().first().toByteArray(), payload);
-    QStringList updates;
-    for (const auto &call : updated)
-        updates << QString("%1 %2").arg(call.at(0).toInt()).arg(call.at(1).toInt());
-    QTEST(updates.join(", "), "update");
-}
-
-/// The threads at the bus run until the process ends, so this is one test from the start on.
-void TestApipc::road()
-{
-    RecordingProtocol protocol;
-    ObjectPool::getInstance()->InsertData(ENUM_PROTOCOINTERFER_3RD, &protocol);
-    APiPCService service(ENUM_COMMUNICATION_APIPC);
-    service.ApipcInit();
-    QCOMPARE(service.Initalize(), 1);
-    QCOMPARE(service.SendMsg(nullptr), 0);
-
-    FarEnd device;
-    QVERIFY(device.waitForPanel());
-    QByteArray tooShort(19, 'x'), empty, whole = packet(1);
-    for (QByteArray *bytes : {&tooShort, &empty, &whole})
-        QCOMPARE(service.SendMsg(bytes), 1);
-    QCOMPARE(device.message(),
-             QByteArray::fromHex("00390A01 01000000 30000000 00000000 00000000 0100 1C00 14000000") + whole);
-    arrivals(protocol, device);
-    service.Terminate();
-    ObjectPool::getInstance()->RemoveByIndex(ENUM_PROTOCOINTERFER_3RD);
-}
-
-void TestApipc::arrivals(RecordingProtocol &protocol, FarEnd &device)
-{
-    device.push("short");
-    device.push(message(28, 1, packet(1)).left(40)); // cut
-    device.push(message(30, 1, packet(2)));          // about something else
-    QList<QByteArray> expected;
-    const auto pushMany = [&](int count) {
-        for (int n = 0; n < count; ++n) {
-            expected += packet(n) + number(quint32(expected.size()), 4);
-            device.push(message(28, n % 2, expected.last()));
-        }
-    };
-    pushMany(200);
-    QVERIFY(QTest::qWaitFor([&] { return protocol.arrived.size() >= 200; }, 5000));
-    QCOMPARE(protocol.arrived, expected);
-
-    // Nobody keeps up: what comes now waits on its way, more of it than any one queue takes, and comes later.
-    protocol.busy = true;
-    pushMany(3000);
-    QTest::qWait(100);
-    QCOMPARE(protocol.arrived.size(), 200);
-    protocol.busy = false;
-    QVERIFY(QTest::qWaitFor([&] { return protocol.arrived.size() >= 3200; }, 5000));
-    QCOMPARE(protocol.arrived, expected);
-}
-
 FPD_TEST(TestApipc)
-
 #include "tst_apipc.moc"

@@ -2,10 +2,7 @@
 
 #include "framework/protocol/bus/datagram.h"
 #include "tests/testprogram.h"
-#include "tests/unit/rig/datarows.h"
 #include "tests/unit/rig/frames.h"
-
-#include <QtTest>
 
 using namespace VASK;
 using frames::number;
@@ -84,9 +81,7 @@ void TestDatagram::kinds_data()
 
 void TestDatagram::kinds()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, kind);
-    QFETCH(QByteArray, packet);
+    const auto [bytes, kind, packet] = fetched<QByteArray, int, QByteArray>({"bytes", "kind", "packet"});
     const Datagram datagram = sortDatagram(bytes);
     QCOMPARE(int(datagram.kind), kind);
     QCOMPARE(datagram.packet, packet);

@@ -3,19 +3,7 @@
 #include "framework/protocol/send/gammacurve.h"
 #include "tests/testprogram.h"
 
-#include <QtTest>
-
 using namespace VASK;
-
-class TestGammaCurve : public QObject
-{
-    Q_OBJECT
-private slots:
-    void everyGammaOfTheMenu();
-    void outOfRange();
-    void depthRatioAndLimit();
-    void firstStepCanBeRaised();
-};
 
 namespace
 {
@@ -46,44 +34,49 @@ quint32 weightedSum(const QVector<int> &table)
 
 } // namespace
 
-void TestGammaCurve::everyGammaOfTheMenu()
+class TestGammaCurve : public QObject
 {
-    for (const Golden &g : golden)
-        QCOMPARE(weightedSum(CountGammaCurve(g.tenths / 10.0, 12, 1.0, 0)), g.sum);
-}
+    Q_OBJECT
+private slots:
+    void everyGammaOfTheMenu()
+    {
+        for (const Golden &g : golden)
+            QCOMPARE(weightedSum(CountGammaCurve(g.tenths / 10.0, 12, 1.0, 0)), g.sum);
+    }
 
-void TestGammaCurve::outOfRange()
-{
-    const QVector<int> standard = CountGammaCurve(2.8, 12, 1.0, 0);
-    QCOMPARE(CountGammaCurve(0.9, 12, 1.0, 0), standard);
-    QCOMPARE(CountGammaCurve(4.1, 12, 1.0, 0), standard);
-    QCOMPARE(CountGammaCurve(2.8, 12, 1.1, 0), standard);
-    QCOMPARE(CountGammaCurve(2.8, 12, -0.5, 0), standard);
-}
+    void outOfRange()
+    {
+        const QVector<int> standard = CountGammaCurve(2.8, 12, 1.0, 0);
+        QCOMPARE(CountGammaCurve(0.9, 12, 1.0, 0), standard);
+        QCOMPARE(CountGammaCurve(4.1, 12, 1.0, 0), standard);
+        QCOMPARE(CountGammaCurve(2.8, 12, 1.1, 0), standard);
+        QCOMPARE(CountGammaCurve(2.8, 12, -0.5, 0), standard);
+    }
 
-void TestGammaCurve::depthRatioAndLimit()
-{
-    QCOMPARE(CountGammaCurve(1.0, 16, 1.0, 0).last(), 65535);
-    QCOMPARE(CountGammaCurve(1.0, 16, 1.0, 0)[128], int(65535 * (128 / 255.0) + 0.5));
-    QCOMPARE(CountGammaCurve(1.0, 24, 1.0, 0).last(), 65535);
-    QCOMPARE(CountGammaCurve(1.0, 20, 1.0, 0).last(), 65535);
-    QCOMPARE(CountGammaCurve(1.0, 8, 1.0, 0).last(), 65280);  // 8 bits of 16 are left
-    QCOMPARE(CountGammaCurve(1.0, 12, 0.5, 0).last(), 32752); // half, cut to 12 bits
-    QCOMPARE(CountGammaCurve(2.2, 12, 1.0, 40000).last(), 40000);
-    QCOMPARE(CountGammaCurve(2.2, 12, 1.0, 40000)[100], CountGammaCurve(2.2, 12, 1.0, 0)[100]);
-}
+    void depthRatioAndLimit()
+    {
+        QCOMPARE(CountGammaCurve(1.0, 16, 1.0, 0).last(), 65535);
+        QCOMPARE(CountGammaCurve(1.0, 16, 1.0, 0)[128], int(65535 * (128 / 255.0) + 0.5));
+        QCOMPARE(CountGammaCurve(1.0, 24, 1.0, 0).last(), 65535);
+        QCOMPARE(CountGammaCurve(1.0, 20, 1.0, 0).last(), 65535);
+        QCOMPARE(CountGammaCurve(1.0, 8, 1.0, 0).last(), 65280);  // 8 bits of 16 are left
+        QCOMPARE(CountGammaCurve(1.0, 12, 0.5, 0).last(), 32752); // half, cut to 12 bits
+        QCOMPARE(CountGammaCurve(2.2, 12, 1.0, 40000).last(), 40000);
+        QCOMPARE(CountGammaCurve(2.2, 12, 1.0, 40000)[100], CountGammaCurve(2.2, 12, 1.0, 0)[100]);
+    }
 
-void TestGammaCurve::firstStepCanBeRaised()
-{
-    const QVector<int> flat = CountGammaCurve(2.8, 12, 1.0, 0);
-    QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Off, GRAY_Plain, 0), flat);
-    QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Base18, GRAY_Plain, 0)[1], flat[1] + 64);
-    QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Off, GRAY_Base18, 0)[1], flat[1] + 64);
-    QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Base19, GRAY_Plain, 0)[1], flat[1] + 128);
-    QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Base19, GRAY_Plain, 0)[2], flat[2]);
-    QCOMPARE(GetGammaBaseParameters(0, LOWGRAY_Base18, GRAY_Plain), 0);
-    QCOMPARE(GetGammaBaseParameters(17, LOWGRAY_Base18, GRAY_Plain), 0);
-}
+    void firstStepCanBeRaised()
+    {
+        const QVector<int> flat = CountGammaCurve(2.8, 12, 1.0, 0);
+        QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Off, GRAY_Plain, 0), flat);
+        QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Base18, GRAY_Plain, 0)[1], flat[1] + 64);
+        QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Off, GRAY_Base18, 0)[1], flat[1] + 64);
+        QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Base19, GRAY_Plain, 0)[1], flat[1] + 128);
+        QCOMPARE(CountGammaCurve(2.8, 12, 1.0, LOWGRAY_Base19, GRAY_Plain, 0)[2], flat[2]);
+        QCOMPARE(GetGammaBaseParameters(0, LOWGRAY_Base18, GRAY_Plain), 0);
+        QCOMPARE(GetGammaBaseParameters(17, LOWGRAY_Base18, GRAY_Plain), 0);
+    }
+};
 
 FPD_TEST_APPLESS(TestGammaCurve)
 #include "tst_gammacurve.moc"

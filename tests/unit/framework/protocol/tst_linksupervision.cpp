@@ -7,10 +7,8 @@
 #include "framework/protocol/link/linksupervision.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
-#include "tests/unit/rig/datarows.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
 using namespace VASK;
 
@@ -51,167 +49,154 @@ class TestLinkSupervision : public QObject
     Q_OBJECT
 private slots:
     void init() { setCables(0, 0, 0, 0); }
-    void table_data();
-    void table();
-    void nothingChanged();
-    void unlockRepeatsWithoutLink();
-    void secondCableLeavesTheTimerAlone();
-    void everyPollTellsItsCables();
-    void silentHost();
-    void unplugged();
-};
 
-void TestLinkSupervision::table_data()
-{
-    addColumns<int, int, int, int, int, bool, bool>(
-        {"usb", "ethernet", "loop", "priority", "shown", "goesHome", "unlinked"});
-    // What is shown: 0 network, 1 USB loop, 2 nothing connected, 3 USB. All sixteen states.
-    const int rows[][7] = {
-        {0, 0, 0, 0, 2, 1, 1}, {0, 0, 0, 1, 2, 1, 1}, {0, 0, 1, 0, 2, 1, 1}, {0, 0, 1, 1, 2, 1, 1},
-        {0, 1, 0, 0, 0, 1, 0}, {0, 1, 0, 1, 0, 1, 0}, {0, 1, 1, 0, 1, 1, 0}, {0, 1, 1, 1, 1, 1, 0},
-        {1, 0, 0, 0, 3, 1, 0}, {1, 0, 0, 1, 3, 1, 0}, {1, 0, 1, 0, 1, 1, 0}, {1, 0, 1, 1, 1, 1, 0},
-        {1, 1, 0, 0, 3, 0, 0}, {1, 1, 0, 1, 0, 0, 0}, {1, 1, 1, 0, 1, 0, 0}, {1, 1, 1, 1, 1, 0, 0},
-    };
-    for (const auto &r : rows)
-        addRow(QString("usb %1 eth %2 loop %3 priority %4").arg(r[0]).arg(r[1]).arg(r[2]).arg(r[3]), r[0],
-               r[1], r[2], r[3], r[4], bool(r[5]), bool(r[6]));
-}
-
-void TestLinkSupervision::table()
-{
-    QFETCH(int, usb);
-    QFETCH(int, ethernet);
-    QFETCH(int, loop);
-    QFETCH(int, priority);
-    QFETCH(int, shown);
-    QFETCH(bool, goesHome);
-    QFETCH(bool, unlinked);
-
-    // From the opposite of every value, so that the state is a change; any non-zero value counts.
-    Watched w;
-    setCables(1, 0, 0, 0);
-    w.tick();
-    setCables(!usb, !ethernet, !loop, !priority);
-    w.tick();
-    setCables(usb * 3, ethernet * 4, loop * 5, priority * 6);
-    w.tick();
-    QCOMPARE(w.shown, QList<int>{shown});
-    QCOMPARE(w.home.count(), int(goesHome));
-    QCOMPARE(w.lost.count(), int(unlinked));
-    // With both cables in, the flag stays what it was; here it was set while both were out.
-    QCOMPARE(w.link.isUnlinked(), unlinked || (usb && ethernet));
-}
-
-void TestLinkSupervision::nothingChanged()
-{
-    Watched w;
-    w.tick();
-    QVERIFY(w.shown.isEmpty());
-    QCOMPARE(w.home.count(), 0);
-    setCables(1, 0, 0, 0);
-    w.tick();
-    w.tick();
-    QVERIFY(w.shown.isEmpty());
-    QCOMPARE(w.home.count(), 0);
-}
-
-void TestLinkSupervision::unlockRepeatsWithoutLink()
-{
-    Watched w;
-    w.link.slot_Unlock();
-    QCOMPARE(w.home.count(), 0); // nothing has been lost yet
-    setCables(0, 0, 1, 0);
-    w.tick();
-    w.home.clear();
-    w.link.slot_Unlock();
-    w.link.slot_Unlock();
-    QCOMPARE(w.home.count(), 2);
-    setCables(0, 1, 0, 0);
-    w.tick();
-    w.home.clear();
-    w.link.slot_Unlock();
-    QCOMPARE(w.home.count(), 0);
-}
-
-void TestLinkSupervision::secondCableLeavesTheTimerAlone()
-{
-    Watched w;
-    QVERIFY(!w.link.unlockTimer().isActive());
-    setCables(1, 1, 0, 0);
-    w.tick();
-    QVERIFY(!w.link.unlockTimer().isActive());
-    setCables(1, 0, 0, 0);
-    w.tick();
-    QVERIFY(w.link.unlockTimer().isActive());
-    QCOMPARE(w.link.unlockTimer().interval(), 5000);
-    // The preference alone, with one cable in, runs the row of that cable again.
-    setCables(1, 0, 0, 1);
-    w.tick();
-    QCOMPARE(w.shown, QList<int>{3});
-    QCOMPARE(w.home.count(), 1);
-}
-
-/// The production test counts a cable that was in before it looked.
-void TestLinkSupervision::everyPollTellsItsCables()
-{
-    Watched w;
-    QStringList told;
-    connect(&w.link, &LinkSupervision::usbPolled,
-            [&told](int state) { told << QString("usb %1").arg(state); });
-    connect(&w.link, &LinkSupervision::ethernetPolled,
-            [&told](int state) { told << QString("eth %1").arg(state); });
-    setCables(7, 0, 0, 0);
-    w.tick();
-    w.tick();
-    setCables(0, 2, 0, 0);
-    w.tick();
-    QCOMPARE(told, (QStringList{"usb 7", "eth 0", "usb 7", "eth 0", "usb 0", "eth 2"}));
-}
-
-/// The tick after a packet sees it; fifteen more are not enough, sixteen are. A packet in between starts
-/// anew.
-void TestLinkSupervision::silentHost()
-{
-    HostSession session;
-    QSignalSpy ended(&session, &HostSession::over);
-    const auto tick = [&session](int times) {
-        for (int i = 0; i < times; ++i)
-            session.slot_Heartbeat();
-    };
-    tick(1);
-    QVERIFY(!session.isActive()); // a tick starts nothing
-    for (int round = 1; round <= 2; ++round) {
-        session.heartbeat();
-        QVERIFY(session.isActive());
-        tick(10);
-        session.heartbeat();
-        tick(16);
-        QVERIFY(session.isActive());
-        QCOMPARE(ended.count(), round - 1);
-        tick(1);
-        QVERIFY(!session.isActive());
-        QCOMPARE(ended.count(), round);
+    void table_data()
+    {
+        addColumns<int, int, int, int, int, bool, bool>(
+            {"usb", "ethernet", "loop", "priority", "shown", "goesHome", "unlinked"});
+        // What is shown: 0 network, 1 USB loop, 2 nothing connected, 3 USB. All sixteen states.
+        const int rows[][7] = {
+            {0, 0, 0, 0, 2, 1, 1}, {0, 0, 0, 1, 2, 1, 1}, {0, 0, 1, 0, 2, 1, 1}, {0, 0, 1, 1, 2, 1, 1},
+            {0, 1, 0, 0, 0, 1, 0}, {0, 1, 0, 1, 0, 1, 0}, {0, 1, 1, 0, 1, 1, 0}, {0, 1, 1, 1, 1, 1, 0},
+            {1, 0, 0, 0, 3, 1, 0}, {1, 0, 0, 1, 3, 1, 0}, {1, 0, 1, 0, 1, 1, 0}, {1, 0, 1, 1, 1, 1, 0},
+            {1, 1, 0, 0, 3, 0, 0}, {1, 1, 0, 1, 0, 0, 0}, {1, 1, 1, 0, 1, 0, 0}, {1, 1, 1, 1, 1, 0, 0},
+        };
+        for (const auto &r : rows)
+            addRow(QString("usb %1 eth %2 loop %3 priority %4").arg(r[0]).arg(r[1]).arg(r[2]).arg(r[3]), r[0],
+                   r[1], r[2], r[3], r[4], bool(r[5]), bool(r[6]));
     }
-}
+    void table()
+    {
+        const auto [usb, ethernet, loop, priority, shown, goesHome, unlinked] =
+            fetched<int, int, int, int, int, bool, bool>(
+                {"usb", "ethernet", "loop", "priority", "shown", "goesHome", "unlinked"});
 
-void TestLinkSupervision::unplugged()
-{
-    HostSession session;
-    QSignalSpy ended(&session, &HostSession::over);
-    session.DealNetorUsbLink(false); // without a session nothing is remembered
-    session.heartbeat();
-    session.slot_Heartbeat();
-    QVERIFY(session.isActive());
-    session.DealNetorUsbLink(true);
-    session.slot_Heartbeat();
-    QVERIFY(session.isActive());
-    session.DealNetorUsbLink(false);
-    QVERIFY(session.isActive());
-    session.heartbeat(); // too late: the cable is out
-    session.slot_Heartbeat();
-    QVERIFY(!session.isActive());
-    QCOMPARE(ended.count(), 1);
-}
+        // From the opposite of every value, so that the state is a change; any non-zero value counts.
+        Watched w;
+        setCables(1, 0, 0, 0);
+        w.tick();
+        setCables(!usb, !ethernet, !loop, !priority);
+        w.tick();
+        setCables(usb * 3, ethernet * 4, loop * 5, priority * 6);
+        w.tick();
+        QCOMPARE(w.shown, QList<int>{shown});
+        QCOMPARE(w.home.count(), int(goesHome));
+        QCOMPARE(w.lost.count(), int(unlinked));
+        // With both cables in, the flag stays what it was; here it was set while both were out.
+        QCOMPARE(w.link.isUnlinked(), unlinked || (usb && ethernet));
+    }
+
+    void nothingChanged()
+    {
+        Watched w;
+        w.tick();
+        QVERIFY(w.shown.isEmpty());
+        QCOMPARE(w.home.count(), 0);
+        setCables(1, 0, 0, 0);
+        w.tick();
+        w.tick();
+        QVERIFY(w.shown.isEmpty());
+        QCOMPARE(w.home.count(), 0);
+    }
+
+    void unlockRepeatsWithoutLink()
+    {
+        Watched w;
+        w.link.slot_Unlock();
+        QCOMPARE(w.home.count(), 0); // nothing has been lost yet
+        setCables(0, 0, 1, 0);
+        w.tick();
+        w.home.clear();
+        w.link.slot_Unlock();
+        w.link.slot_Unlock();
+        QCOMPARE(w.home.count(), 2);
+        setCables(0, 1, 0, 0);
+        w.tick();
+        w.home.clear();
+        w.link.slot_Unlock();
+        QCOMPARE(w.home.count(), 0);
+    }
+
+    void secondCableLeavesTheTimerAlone()
+    {
+        Watched w;
+        QVERIFY(!w.link.unlockTimer().isActive());
+        setCables(1, 1, 0, 0);
+        w.tick();
+        QVERIFY(!w.link.unlockTimer().isActive());
+        setCables(1, 0, 0, 0);
+        w.tick();
+        QVERIFY(w.link.unlockTimer().isActive());
+        QCOMPARE(w.link.unlockTimer().interval(), 5000);
+        // The preference alone, with one cable in, runs the row of that cable again.
+        setCables(1, 0, 0, 1);
+        w.tick();
+        QCOMPARE(w.shown, QList<int>{3});
+        QCOMPARE(w.home.count(), 1);
+    }
+
+    /// The production test counts a cable that was in before it looked.
+    void everyPollTellsItsCables()
+    {
+        Watched w;
+        QStringList told;
+        connect(&w.link, &LinkSupervision::usbPolled,
+                [&told](int state) { told << QString("usb %1").arg(state); });
+        connect(&w.link, &LinkSupervision::ethernetPolled,
+                [&told](int state) { told << QString("eth %1").arg(state); });
+        setCables(7, 0, 0, 0);
+        w.tick();
+        w.tick();
+        setCables(0, 2, 0, 0);
+        w.tick();
+        QCOMPARE(told, (QStringList{"usb 7", "eth 0", "usb 7", "eth 0", "usb 0", "eth 2"}));
+    }
+
+    /// The tick after a packet sees it; fifteen more are not enough, sixteen are. A packet in between starts
+    /// anew.
+    void silentHost()
+    {
+        HostSession session;
+        QSignalSpy ended(&session, &HostSession::over);
+        const auto tick = [&session](int times) {
+            for (int i = 0; i < times; ++i)
+                session.slot_Heartbeat();
+        };
+        tick(1);
+        QVERIFY(!session.isActive()); // a tick starts nothing
+        for (int round = 1; round <= 2; ++round) {
+            session.heartbeat();
+            QVERIFY(session.isActive());
+            tick(10);
+            session.heartbeat();
+            tick(16);
+            QVERIFY(session.isActive());
+            QCOMPARE(ended.count(), round - 1);
+            tick(1);
+            QVERIFY(!session.isActive());
+            QCOMPARE(ended.count(), round);
+        }
+    }
+
+    void unplugged()
+    {
+        HostSession session;
+        QSignalSpy ended(&session, &HostSession::over);
+        session.DealNetorUsbLink(false); // without a session nothing is remembered
+        session.heartbeat();
+        session.slot_Heartbeat();
+        QVERIFY(session.isActive());
+        session.DealNetorUsbLink(true);
+        session.slot_Heartbeat();
+        QVERIFY(session.isActive());
+        session.DealNetorUsbLink(false);
+        QVERIFY(session.isActive());
+        session.heartbeat(); // too late: the cable is out
+        session.slot_Heartbeat();
+        QVERIFY(!session.isActive());
+        QCOMPARE(ended.count(), 1);
+    }
+};
 
 FPD_TEST_GUILESS(TestLinkSupervision)
 #include "tst_linksupervision.moc"

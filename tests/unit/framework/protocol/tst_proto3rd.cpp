@@ -17,14 +17,12 @@
 #include "menu/objectindex.h"
 #include "platform/host/statefile.h"
 #include "tests/testprogram.h"
-#include "tests/unit/rig/datarows.h"
 #include "tests/unit/rig/frames.h"
 #include "widget/page/menudirectoty.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSignalSpy>
-#include <QtTest>
 
 using namespace VASK;
 
@@ -108,159 +106,148 @@ class TestProto3rd : public QObject
 {
     Q_OBJECT
 private slots:
-    void hostTakesOver_data();
-    void hostTakesOver();
-    void hostWithoutEngine();
-    void unpluggedInSession();
-    void answersAndRequests();
-    void productionTestSeesSockets();
-    void cabinetList();
-    void snapshotObjectNeedsEngine();
+    void hostTakesOver_data()
+    {
+        addColumns<QString, QByteArray, int>({"workMode", "datagram", "returns"});
+        addRow("heartbeat, controller", controller, heartbeat(), 1);
+        addRow("heartbeat, sending card", sendingCard, heartbeat(), 1);
+        addRow("heartbeat, fiber converter", fiber, heartbeat(), 0);
+        addRow("pushed write, controller", controller, pushedWrite(0x13000001), 1);
+        addRow("pushed write, fiber converter", fiber, pushedWrite(0x13000001), 0);
+        addRow("pushed write that says nothing", controller, pushedWrite(0x0200003F), 0);
+        addRow("damaged", controller, pushedWrite(0x13000001).replace(19, 1, "x"), 0);
+        addRow("report", controller, frames::report(0x13000001, "\x01"), 0);
+    }
+    void hostTakesOver()
+    {
+        const auto [workMode, datagram, returns] =
+            fetched<QString, QByteArray, int>({"workMode", "datagram", "returns"});
+        Bench bench(workMode);
+        setCables(0, 0);
+        bench.protocol.initialize();
+        bench.protocol.slot_ReceivePackHandle(datagram);
+        bench.protocol.slot_notifyThreadFun(false);
+        QCOMPARE(bench.returns(), QList<bool>{false}.mid(0, returns));
+    }
+
+    /// Before there is an engine a host is believed.
+    void hostWithoutEngine()
+    {
+        Proto3rd protocol(ENUM_PROTOCOINTERFER_3RD);
+        QSignalSpy home(&protocol, &Proto3rd::signal_return_main);
+        protocol.slot_ReceivePackHandle(heartbeat());
+        QCOMPARE(home.count(), 1);
+        QCOMPARE(home.first().first().toBool(), false);
+    }
+
+    void unpluggedInSession()
+    {
+        Bench bench(controller);
+        setCables(1, 0);
+        bench.protocol.initialize();
+        QVERIFY(
+            QTest::qWaitFor([&] { return bench.returns() == QList<bool>{true}; }, 3000)); // the cable is in
+        bench.protocol.slot_ReceivePackHandle(heartbeat());
+        QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 2; }, 1000));
+        bench.home.clear();
+        setCables(0, 0);
+        // One for the lost cable, one for the session that ends with it.
+        QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 2; }, 4000));
+        QCOMPARE(bench.returns(), QList<bool>({true, true}));
+    }
+
+    void answersAndRequests()
+    {
+        Bench bench(controller);
+        setCables(0, 0);
+        bench.protocol.initialize();
+        PackageBase::serialNum = 10;
+        using P = TGProtocolParser3rd;
+        bench.protocol.InsertPackToRequestList(P::Set_CommonWrite("\x01", 0x13000001, "a")); // 10
+        bench.protocol.InsertReadPackToRequestList(P::Get_ScannerParam(0x02000001, 1, 0));   // 11
+        bench.protocol.InsertPackToRequestList(P::Set_CommonWrite("\x01", 0x13000001, "b")); // 12
+        bench.protocol.InsertReadPackToRequestList(P::Get_ScannerParam(0x02000001, 1, 0));   // 13
+        QCOMPARE(bench.protocol.matchRequest(12), 2);
+
+        // A report that answers nothing leaves the list alone; it reaches the engine, as the brightness in
+        // per cent.
+        bench.protocol.slot_ReceivePackHandle(frames::report(0x02000001, "\x80", 1, 200));
+        QVERIFY(QTest::qWaitFor(
+            [&] { return bench.engine.GetParaFromIndex(MENU_ScreenBrightness) == QString("50"); }, 3000));
+        QCOMPARE(bench.protocol.matchRequest(10), 0);
+
+        // An answer to a read retires it and all that is older.
+        bench.protocol.slot_ReceivePackHandle(frames::report(0x02000001, "\xFF", 1, 11));
+        QVERIFY(QTest::qWaitFor(
+            [&] { return bench.engine.GetParaFromIndex(MENU_ScreenBrightness) == QString("100"); }, 3000));
+        QCOMPARE(bench.protocol.matchRequest(10), -1);
+        QCOMPARE(bench.protocol.matchRequest(11), -1);
+        QCOMPARE(bench.protocol.matchRequest(12), 0);
+
+        // So does an answer to a write that comes in a message; by itself it is dropped.
+        frames::Fields f;
+        f.header = QByteArray::fromHex("aa55");
+        f.serial = 12;
+        f.address = 0x13000001;
+        bench.protocol.slot_ReceivePackHandle(frames::frame(f));
+        bench.protocol.slot_notifyThreadFun(false);
+        QCOMPARE(bench.protocol.matchRequest(12), 0);
+        bench.protocol.slot_ReceivePackHandle(inMessage(frames::frame(f)));
+        bench.protocol.slot_notifyThreadFun(false);
+        QCOMPARE(bench.protocol.matchRequest(12), -1);
+        QCOMPARE(bench.protocol.matchRequest(13), 0);
+    }
+
+    void productionTestSeesSockets()
+    {
+        Bench bench(controller);
+        QList<QPair<int, int>> passed;
+        connect(&bench.protocol, &Proto3rd::signal_update_menuitem,
+                [&](en_inout_test_index index, en_item_state state) {
+                    passed += {index, state};
+                });
+        setCables(0, 0);
+        bench.protocol.initialize();
+        ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
+        setCables(1, 0);
+        QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 1; }, 3000));
+        QCOMPARE(passed.size(), 0);
+        // What is in before the step begins counts as well as what comes; what goes out takes nothing back.
+        ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
+        QVERIFY(QTest::qWaitFor([&] { return passed.contains({INOUT_USB_IN, ITEM_PASSED}); }, 3000));
+        QVERIFY(!passed.contains({INOUT_ETHERNET, ITEM_PASSED}));
+        setCables(0, 1);
+        QVERIFY(QTest::qWaitFor([&] { return passed.contains({INOUT_ETHERNET, ITEM_PASSED}); }, 3000));
+        ProductionTest::m_cur_step = FACTORY_STEP_NONE;
+        QVERIFY(std::all_of(passed.cbegin(), passed.cend(),
+                            [](auto cell) { return cell.second == ITEM_PASSED; }));
+    }
+
+    void cabinetList()
+    {
+        const QString file = board::filePath("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName");
+        QDir().mkpath(QFileInfo(file).path());
+        QFile index(file);
+        QVERIFY(index.open(QIODevice::WriteOnly));
+        index.write(QByteArray("A\0", 2).leftJustified(64, '\0') + QByteArray(64, '\0'));
+        index.close();
+        Proto3rd protocol(ENUM_PROTOCOINTERFER_3RD);
+        QString value;
+        QCOMPARE(protocol.GetValueByIndexSYN(MENU_LoadCabFiles, &value), 1);
+        QCOMPARE(value, QString("A"));
+        QCOMPARE(protocol.GetValueByIndexSYN(MENU_ScreenBrightness, &value), 1);
+        QCOMPARE(value, QString("A"));
+        index.remove();
+    }
+
+    void snapshotObjectNeedsEngine()
+    {
+        ProtoMemory20M memory(ENUM_PROTOMEMORY_20M);
+        QCOMPARE(memory.initialize(), 0);
+        Bench bench(controller);
+        QCOMPARE(memory.initialize(), 1);
+    }
 };
 
-void TestProto3rd::hostTakesOver_data()
-{
-    addColumns<QString, QByteArray, int>({"workMode", "datagram", "returns"});
-    addRow("heartbeat, controller", controller, heartbeat(), 1);
-    addRow("heartbeat, sending card", sendingCard, heartbeat(), 1);
-    addRow("heartbeat, fiber converter", fiber, heartbeat(), 0);
-    addRow("pushed write, controller", controller, pushedWrite(0x13000001), 1);
-    addRow("pushed write, fiber converter", fiber, pushedWrite(0x13000001), 0);
-    addRow("pushed write that says nothing", controller, pushedWrite(0x0200003F), 0);
-    addRow("damaged", controller, pushedWrite(0x13000001).replace(19, 1, "x"), 0);
-    addRow("report", controller, frames::report(0x13000001, "\x01"), 0);
-}
-
-void TestProto3rd::hostTakesOver()
-{
-    QFETCH(QString, workMode);
-    QFETCH(QByteArray, datagram);
-    QFETCH(int, returns);
-    Bench bench(workMode);
-    setCables(0, 0);
-    bench.protocol.initialize();
-    bench.protocol.slot_ReceivePackHandle(datagram);
-    bench.protocol.slot_notifyThreadFun(false);
-    QCOMPARE(bench.returns(), QList<bool>{false}.mid(0, returns));
-}
-
-/// Before there is an engine a host is believed.
-void TestProto3rd::hostWithoutEngine()
-{
-    Proto3rd protocol(ENUM_PROTOCOINTERFER_3RD);
-    QSignalSpy home(&protocol, &Proto3rd::signal_return_main);
-    protocol.slot_ReceivePackHandle(heartbeat());
-    QCOMPARE(home.count(), 1);
-    QCOMPARE(home.first().first().toBool(), false);
-}
-
-void TestProto3rd::unpluggedInSession()
-{
-    Bench bench(controller);
-    setCables(1, 0);
-    bench.protocol.initialize();
-    QVERIFY(QTest::qWaitFor([&] { return bench.returns() == QList<bool>{true}; }, 3000)); // the cable is in
-    bench.protocol.slot_ReceivePackHandle(heartbeat());
-    QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 2; }, 1000));
-    bench.home.clear();
-    setCables(0, 0);
-    // One for the lost cable, one for the session that ends with it.
-    QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 2; }, 4000));
-    QCOMPARE(bench.returns(), QList<bool>({true, true}));
-}
-
-void TestProto3rd::answersAndRequests()
-{
-    Bench bench(controller);
-    setCables(0, 0);
-    bench.protocol.initialize();
-    PackageBase::serialNum = 10;
-    using P = TGProtocolParser3rd;
-    bench.protocol.InsertPackToRequestList(P::Set_CommonWrite("\x01", 0x13000001, "a")); // 10
-    bench.protocol.InsertReadPackToRequestList(P::Get_ScannerParam(0x02000001, 1, 0));   // 11
-    bench.protocol.InsertPackToRequestList(P::Set_CommonWrite("\x01", 0x13000001, "b")); // 12
-    bench.protocol.InsertReadPackToRequestList(P::Get_ScannerParam(0x02000001, 1, 0));   // 13
-    QCOMPARE(bench.protocol.matchRequest(12), 2);
-
-    // A report that answers nothing leaves the list alone; it reaches the engine, as the brightness in per
-    // cent.
-    bench.protocol.slot_ReceivePackHandle(frames::report(0x02000001, "\x80", 1, 200));
-    QVERIFY(QTest::qWaitFor(
-        [&] { return bench.engine.GetParaFromIndex(MENU_ScreenBrightness) == QString("50"); }, 3000));
-    QCOMPARE(bench.protocol.matchRequest(10), 0);
-
-    // An answer to a read retires it and all that is older.
-    bench.protocol.slot_ReceivePackHandle(frames::report(0x02000001, "\xFF", 1, 11));
-    QVERIFY(QTest::qWaitFor(
-        [&] { return bench.engine.GetParaFromIndex(MENU_ScreenBrightness) == QString("100"); }, 3000));
-    QCOMPARE(bench.protocol.matchRequest(10), -1);
-    QCOMPARE(bench.protocol.matchRequest(11), -1);
-    QCOMPARE(bench.protocol.matchRequest(12), 0);
-
-    // So does an answer to a write that comes in a message; by itself it is dropped.
-    frames::Fields f;
-    f.header = QByteArray::fromHex("aa55");
-    f.serial = 12;
-    f.address = 0x13000001;
-    bench.protocol.slot_ReceivePackHandle(frames::frame(f));
-    bench.protocol.slot_notifyThreadFun(false);
-    QCOMPARE(bench.protocol.matchRequest(12), 0);
-    bench.protocol.slot_ReceivePackHandle(inMessage(frames::frame(f)));
-    bench.protocol.slot_notifyThreadFun(false);
-    QCOMPARE(bench.protocol.matchRequest(12), -1);
-    QCOMPARE(bench.protocol.matchRequest(13), 0);
-}
-
-void TestProto3rd::productionTestSeesSockets()
-{
-    Bench bench(controller);
-    QList<QPair<int, int>> passed;
-    connect(&bench.protocol, &Proto3rd::signal_update_menuitem,
-            [&](en_inout_test_index index, en_item_state state) {
-                passed += {index, state};
-            });
-    setCables(0, 0);
-    bench.protocol.initialize();
-    ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
-    setCables(1, 0);
-    QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 1; }, 3000));
-    QCOMPARE(passed.size(), 0);
-    // What is in before the step begins counts as well as what comes; what goes out takes nothing back.
-    ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
-    QVERIFY(QTest::qWaitFor([&] { return passed.contains({INOUT_USB_IN, ITEM_PASSED}); }, 3000));
-    QVERIFY(!passed.contains({INOUT_ETHERNET, ITEM_PASSED}));
-    setCables(0, 1);
-    QVERIFY(QTest::qWaitFor([&] { return passed.contains({INOUT_ETHERNET, ITEM_PASSED}); }, 3000));
-    ProductionTest::m_cur_step = FACTORY_STEP_NONE;
-    QVERIFY(
-        std::all_of(passed.cbegin(), passed.cend(), [](auto cell) { return cell.second == ITEM_PASSED; }));
-}
-
-void TestProto3rd::cabinetList()
-{
-    const QString file = board::filePath("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName");
-    QDir().mkpath(QFileInfo(file).path());
-    QFile index(file);
-    QVERIFY(index.open(QIODevice::WriteOnly));
-    index.write(QByteArray("A\0", 2).leftJustified(64, '\0') + QByteArray(64, '\0'));
-    index.close();
-    Proto3rd protocol(ENUM_PROTOCOINTERFER_3RD);
-    QString value;
-    QCOMPARE(protocol.GetValueByIndexSYN(MENU_LoadCabFiles, &value), 1);
-    QCOMPARE(value, QString("A"));
-    QCOMPARE(protocol.GetValueByIndexSYN(MENU_ScreenBrightness, &value), 1);
-    QCOMPARE(value, QString("A"));
-    index.remove();
-}
-
-void TestProto3rd::snapshotObjectNeedsEngine()
-{
-    ProtoMemory20M memory(ENUM_PROTOMEMORY_20M);
-    QCOMPARE(memory.initialize(), 0);
-    Bench bench(controller);
-    QCOMPARE(memory.initialize(), 1);
-}
-
 FPD_TEST(TestProto3rd)
-
 #include "tst_proto3rd.moc"

@@ -81,12 +81,7 @@ private slots:
 
     void answers_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QByteArray>("asMap");
-        QTest::addColumn<QByteArray>("asList");
-        const auto row = [](const char *name, const char *json, const char *asMap, const char *asList) {
-            QTest::newRow(name) << QByteArray(json) << QByteArray(asMap) << QByteArray(asList);
-        };
+        const DataRows<QByteArray, QByteArray, QByteArray> row{"json", "asMap", "asList"};
         row("object", R"({"data":{"a":{"b":[1,2.5]},"n":null}})", R"({"a":{"b":[1,2.5]},"n":null})",
             R"([{"a":{"b":[1,2.5]},"n":null}])");
         row("array", R"({"data":[1,"t",true]})", R"({"data":[1,"t",true]})", R"([1,"t",true])");
@@ -149,12 +144,11 @@ private slots:
 
     void aGroupWaitsForItsLastAnswer_data()
     {
-        QTest::addColumn<int>("delayMs");
-        QTest::addColumn<int>("count");
-        QTest::newRow("quick") << 0 << 3;
-        QTest::newRow("slow") << 100 << 3;
-        QTest::newRow("too slow for all") << 400 << 2;
-        QTest::newRow("silent") << 3000 << 0;
+        const DataRows<int, int> row{"delayMs", "count"};
+        row("quick", 0, 3);
+        row("slow", 100, 3);
+        row("too slow for all", 400, 2);
+        row("silent", 3000, 0);
     }
     void aGroupWaitsForItsLastAnswer()
     {

@@ -7,7 +7,6 @@
 #include "framework/communication/http/httpservice.h"
 #include "framework/communication/http/requestbody.h"
 #include "framework/communication/http/tunnelmanager.h"
-#include "framework/resourcemanager/allurlresource.h"
 #include "framework/resourcemanager/ticket.h"
 #include "tests/testprogram.h"
 #include "tests/unit/framework/communication/restserver.h"
@@ -86,20 +85,6 @@ private slots:
     }
     void cleanupTestCase() { m_server.reset(); }
 
-    void theCatalogue()
-    {
-        const QMap<QString, QString> all = AllUrlResource::getInstance()->getMapAllUrl();
-        QCOMPARE(all.size(), 392);
-        QMap<QString, int> holders;
-        static const QRegularExpression holder("\\{\\w+\\}");
-        for (auto row = all.cbegin(); row != all.cend(); ++row) {
-            QVERIFY2(row.value().startsWith("/api/v1/"), qPrintable(row.key()));
-            for (auto found = holder.globalMatch(row.value()); found.hasNext();)
-                ++holders[found.next().captured()];
-        }
-        QCOMPARE(holders, (QMap<QString, int>{{"{id}", 213}, {"{outputid}", 5}, {"{type}", 1}}));
-    }
-
     void bodies()
     {
         Parameters all = body({{"a.b", 1}, {"a.c", -2}});
@@ -124,12 +109,7 @@ private slots:
 
     void verbs_data()
     {
-        QTest::addColumn<Send>("send");
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("note");
-        const auto row = [](const char *name, const Send &send, const char *line, const char *note) {
-            QTest::newRow(name) << send << QString(line) << QString(note);
-        };
+        const DataRows<Send, QString, QString> row{"send", "line", "note"};
         static const Parameters one = body({{"v", 1}});
         static const ParameterList list{one, one};
         static Parameters texts = one;
@@ -243,9 +223,9 @@ private slots:
 
     void aGroupFinishesOnce_data()
     {
-        QTest::addColumn<bool>("oneFails");
-        QTest::newRow("all good") << false;
-        QTest::newRow("one fails") << true;
+        const DataRows<bool> row{"oneFails"};
+        row("all good", false);
+        row("one fails", true);
     }
     void aGroupFinishesOnce()
     {
@@ -276,14 +256,12 @@ private slots:
 
     void oneAfterTheOther_data()
     {
-        QTest::addColumn<QString>("next");
-        QTest::addColumn<QStringList>("lines");
+        const DataRows<QString, QStringList> row{"next", "lines"};
         const QString first = "GET /api/v1/device/screens/1/gamma";
-        QTest::newRow("nothing") << "nothing" << QStringList{first};
-        QTest::newRow("another") << "another" << QStringList{first, "GET /api/v1/device/screens/2/solid"};
-        QTest::newRow("a group") << "group"
-                                 << QStringList{first, "GET /api/v1/device/screens/2/solid",
-                                                "GET /api/v1/device/screens/2/xbit"};
+        row("nothing", "nothing", QStringList{first});
+        row("another", "another", QStringList{first, "GET /api/v1/device/screens/2/solid"});
+        row("a group", "group",
+            QStringList{first, "GET /api/v1/device/screens/2/solid", "GET /api/v1/device/screens/2/xbit"});
     }
     void oneAfterTheOther()
     {

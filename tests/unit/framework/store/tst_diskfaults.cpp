@@ -59,9 +59,7 @@ private slots:
 
     void everyCallFails_data()
     {
-        QTest::addColumn<int>("error");
-        QTest::addColumn<bool>("goesOn");
-        QTest::addColumn<bool>("isDamaged");
+        addColumns<int, bool, bool>({"error", "goesOn", "isDamaged"});
         const auto row = [](const char *name, int error, bool goesOn, bool isDamaged = false) {
             QTest::newRow(name) << error << goesOn << isDamaged;
         };
@@ -76,9 +74,7 @@ private slots:
     }
     void everyCallFails()
     {
-        QFETCH(int, error);
-        QFETCH(bool, goesOn);
-        QFETCH(bool, isDamaged);
+        const auto [error, goesOn, isDamaged] = fetched<int, bool, bool>({"error", "goesOn", "isDamaged"});
         int call = 1;
         for (bool hasHit = true; hasHit; ++call) {
             write("config.xml", isDamaged ? m_before.left(5000) : m_before);
@@ -130,5 +126,4 @@ private:
 };
 
 FPD_TEST(TestDiskFaults)
-
 #include "tst_diskfaults.moc"

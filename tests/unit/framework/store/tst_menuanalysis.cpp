@@ -250,5 +250,4 @@ private:
 };
 
 FPD_TEST(TestMenuAnalysis)
-
 #include "tst_menuanalysis.moc"

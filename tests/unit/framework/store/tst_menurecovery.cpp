@@ -6,7 +6,6 @@
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <csignal>
 #include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -146,19 +145,16 @@ private slots:
 
     void damage_data()
     {
-        QTest::addColumn<int>("damage");
-        QTest::addColumn<int>("files");
+        addColumns<int, int>({"damage", "files"});
         // Every damage in each of the files, and one of them in all combinations.
         for (int damage = 0; damage < damages.size(); ++damage)
             for (int files = CONFIG; files < (CONFIG | BACKUP | FACTORY); ++files)
                 if (damage == 0 || files == CONFIG || files == (BACKUP | FACTORY))
                     QTest::addRow("%s, files %d", damages[damage].first, files) << damage << files;
     }
-
     void damage()
     {
-        QFETCH(int, damage);
-        QFETCH(int, files);
+        const auto [damage, files] = fetched<int, int>({"damage", "files"});
         for (int file = 0; file < names.size(); ++file) {
             if (!(files & 1 << file))
                 continue;
@@ -196,11 +192,10 @@ private slots:
     /// A file that lacks what the other has, or has it twice, is nothing that a save has written.
     void aStoreThatIsNotAsItWasSaved_data()
     {
-        QTest::addColumn<QByteArray>("how");
-        QTest::addColumn<QString>("found");
-        QTest::newRow("an item is gone") << QByteArray("gone") << "37";
-        QTest::newRow("an item stands there twice") << QByteArray("twice") << "38";
-        QTest::newRow("an item stands in another") << QByteArray("inside") << "38";
+        const DataRows<QByteArray, QString> row{"how", "found"};
+        row("an item is gone", "gone", "37");
+        row("an item stands there twice", "twice", "38");
+        row("an item stands in another", "inside", "38");
     }
     void aStoreThatIsNotAsItWasSaved()
     {
@@ -234,17 +229,15 @@ private slots:
     /// again.
     void aFullDisk_data()
     {
-        QTest::addColumn<int>("damaged");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("config.xml") << int(CONFIG) << "37";
-        QTest::newRow("the backup") << int(BACKUP) << "37";
-        QTest::newRow("config.xml and the backup") << (CONFIG | BACKUP) << "60";
-        QTest::newRow("no file") << 0 << "37";
+        const DataRows<int, QString> row{"damaged", "expected"};
+        row("config.xml", CONFIG, "37");
+        row("the backup", BACKUP, "37");
+        row("config.xml and the backup", (CONFIG | BACKUP), "60");
+        row("no file", 0, "37");
     }
     void aFullDisk()
     {
-        QFETCH(int, damaged);
-        QFETCH(QString, expected);
+        const auto [damaged, expected] = fetched<int, QString>({"damaged", "expected"});
         for (int file = 0; file < names.size(); ++file)
             if (damaged & 1 << file)
                 write(names[file], contents(names[file]).left(5000));
@@ -316,5 +309,4 @@ private:
 };
 
 FPD_TEST(TestMenuRecovery)
-
 #include "tst_menurecovery.moc"

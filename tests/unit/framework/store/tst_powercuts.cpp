@@ -319,5 +319,4 @@ static void beInNoHurry()
 }
 
 FPD_TEST_IN(TestPowerCuts, Gui, beInNoHurry)
-
 #include "tst_powercuts.moc"

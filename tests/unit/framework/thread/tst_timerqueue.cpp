@@ -5,7 +5,6 @@
 
 #include <QMap>
 #include <QSemaphore>
-#include <QtTest>
 #include <thread>
 
 using namespace VASK;
