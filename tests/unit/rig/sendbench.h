@@ -15,14 +15,6 @@
 
 #include <QtTest>
 
-#if defined(__SANITIZE_ADDRESS__)
-// These tests look for leaks at their end; what the offscreen platform leaves behind is Qt's own.
-extern "C" const char *__lsan_default_suppressions()
-{
-    return "leak:libqoffscreen\n";
-}
-#endif
-
 namespace VASK
 {
 class RecordingClient : public CommunicationClientInterface
