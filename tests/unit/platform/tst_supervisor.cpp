@@ -42,8 +42,7 @@ private slots:
     void tells()
     {
         const auto [name, period, process, sign] =
-            fetched<QByteArray, QByteArray, Who, int>(
-                {"name", "period", "process", "sign"});
+            fetched<QByteArray, QByteArray, Who, int>({"name", "period", "process", "sign"});
         const bool heard =
             (name.startsWith('/') || name.startsWith('@')) && name != longName && !name.endsWith("-gone");
         QFile::remove(m_folder.filePath("notify"));
