@@ -72,7 +72,8 @@ bool RestService::open()
     m_server->set_socket_options(ownPort);
     m_server->new_task_queue = [] { return new httplib::ThreadPool(threads); };
     m_server->set_payload_max_length(longestBody);
-    m_server->set_keep_alive_max_count(1); // so that the end need not wait for an idle connection
+    m_server->set_keep_alive_max_count(1);
+    m_server->set_keep_alive_timeout(1); // s: so long the end waits for a connection that was never used
     m_server->set_tcp_nodelay(true);
     const auto handler = [this](const httplib::Request &request, httplib::Response &response) {
         serve(request, response);
