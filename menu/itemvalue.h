@@ -5,15 +5,18 @@
 
 namespace VASK
 {
+inline const QString switchOff = QStringLiteral("0");
+inline const QString switchOn = QStringLiteral("1");
+
 /// Neither holds for an item that nobody has.
 /// @{
 inline bool isOn(const QString &value)
 {
-    return value == QLatin1String("1");
+    return value == switchOn;
 }
 inline bool isOff(const QString &value)
 {
-    return value == QLatin1String("0");
+    return value == switchOff;
 }
 /// @}
 } // namespace VASK

@@ -5,6 +5,7 @@
 #include "framework/engine/limits/bandwidth.h"
 #include "framework/input/keyevent.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 #include "menu/ledindex.h"
 #include "menu/objectindex.h"
 
@@ -110,7 +111,7 @@ void closePips(ParaChange &change)
     for (int layer = 1; layer < layerCount; ++layer) {
         const ENUM_MenuIndex status = nth(MENU_MainLayer_Status, layer, STRIDE_Layer);
         change.enable(status, true);
-        showAndSend(change, status, "0");
+        showAndSend(change, status, switchOff);
     }
     emit change.engine.signal_Update_LedState();
 }
@@ -155,14 +156,14 @@ void dimSynchronization(ParaChange &change)
     change.home().showSyncSource(change.info(MENU_Sync_Source).params.value("0"));
     change.syncState(SYN_OFF);
     showAndSend(change, MENU_Sync_Source, "0");
-    showAndSend(change, MENU_Sync_Status, "0");
+    showAndSend(change, MENU_Sync_Status, switchOff);
     enableAll(change, {MENU_HDMIOutput}, false);
 }
 
 void dimStereo(ParaChange &change)
 {
     if (change.isOn(MENU_Mode3D_Status))
-        showAndSend(change, MENU_Mode3D_Status, "0");
+        showAndSend(change, MENU_Mode3D_Status, switchOff);
     enableAll(change, {MENU_Mode3D}, false);
 }
 
@@ -204,7 +205,7 @@ void takeVideoPath(ParaChange &change)
 {
     enableAll(change, {MENU_OutputFrameRate}, false);
     change.enable(MENU_MainLayer_Status, false);
-    showAndSend(change, MENU_MainLayer_Status, "1");
+    showAndSend(change, MENU_MainLayer_Status, switchOn);
     change.windowState(0, true);
     closePips(change);
     showAndSend(change, MENU_Audio_AudioOutput, "1");
@@ -219,7 +220,7 @@ void takeVideoPath(ParaChange &change)
     dimSynchronization(change);
     dimStereo(change);
     change.enable(MENU_InputBackup_Mosaic, false);
-    showAndSend(change, MENU_InputBackup_Mosaic, "0");
+    showAndSend(change, MENU_InputBackup_Mosaic, switchOff);
     enableMosaicBackup(false);
     followFallbackInput(change);
 }

@@ -1,12 +1,14 @@
 // The labels of the home screen and where they stand. Made once by the home screen, on the GUI thread.
 #pragma once
 
+#include "menu/itemfamilies.h"
+
 #include <QLabel>
 
 class Ui_MainWindow
 {
 public:
-    static constexpr int layerCount = 3;
+    static constexpr int layerCount = VASK::FAMILY_Layer.count;
     static constexpr int portCount = 6;
     static constexpr int width = 320; ///< pixels
     static constexpr int height = 240;

@@ -16,8 +16,6 @@ namespace VASK
 {
 namespace
 {
-const QString on = QStringLiteral("1");
-const QString off = QStringLiteral("0");
 
 int layerOfKey(unsigned char key)
 {
@@ -58,7 +56,7 @@ void keypadLayerEvent(QWidget *screen, unsigned char key)
         return;
     const PanelLayer &layer = panelLayers[size_t(number)];
     if (!isOn(*engine, layer) && (number == mainLayer || !mainLayerShowsMosaic(*engine)))
-        setRow(layer.statusRow, layer.items.status, on);
+        setRow(layer.statusRow, layer.items.status, switchOn);
     openMenuPath(screen, {ENUM_MAIN_MENU, ENUM_PAGE_LayerSettings, layer.page});
 }
 
@@ -71,7 +69,7 @@ void keypadLayerLongEvent(QWidget *, unsigned char key)
     const PanelLayer &layer = panelLayers[size_t(number)];
     if (!isOn(*engine, layer))
         return;
-    setRow(layer.statusRow, layer.items.status, off);
+    setRow(layer.statusRow, layer.items.status, switchOff);
     showLayerLeds(OpenPage::layer());
 }
 

@@ -4,6 +4,7 @@
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
 
+#include "menu/itemvalue.h"
 #include <QVector>
 
 namespace VASK
@@ -51,9 +52,9 @@ void applyPair(ParaChange &change)
 void resetBackup(ParaChange &change)
 {
     for (ENUM_MenuIndex item : {MENU_InputBackup_Status, MENU_InputBackup_HDMI1}) {
-        change.set(item, "0");
+        change.set(item, switchOff);
         change.eachWidget(item, [item](VaskUiObject &widget) { widget.UpdateALLUI(item); });
-        change.send(item, "0");
+        change.send(item, switchOff);
     }
     showArrows(MENU_InputBackup_HDMI1, false);
 }

@@ -7,6 +7,7 @@
 #include "framework/engine/limits/limits.h"
 #include "framework/thread/handover.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 namespace VASK
 {
@@ -26,8 +27,8 @@ void freeStereo(ParaChange &change)
 
 void configureByHand(ParaChange &change)
 {
-    change.set(MENU_SoftwareConfigured, "0");
-    change.set(MENU_OutputMode, "0");
+    change.set(MENU_SoftwareConfigured, switchOff);
+    change.set(MENU_OutputMode, switchOff);
     freeStereo(change);
 }
 
@@ -44,9 +45,9 @@ void returnToQuickForm(ParaChange &change)
 {
     const bool quick = change.isOn(MENU_ScreenConfigKind);
     askBeforeOpening(change, MENU_AdvancedCfg);
-    change.set(MENU_ScreenConfigKind, "0");
+    change.set(MENU_ScreenConfigKind, switchOff);
     change.send(MENU_Quick_FlowWay, change.item(MENU_Quick_FlowWay));
-    change.show(MENU_Advanced_Status, "0");
+    change.show(MENU_Advanced_Status, switchOff);
     enableAdvancedForm(change, false);
     configureByHand(change);
     keepLowLatencyIf(change, !quick || quickFormSuitsLowLatency(change));

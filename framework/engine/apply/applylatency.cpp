@@ -6,6 +6,7 @@
 #include "framework/engine/layers.h"
 #include "framework/ui/homestates.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 namespace VASK
 {
@@ -31,9 +32,9 @@ void keepLowLatencyIf(ParaChange &change, bool suits)
 {
     if (suits || !change.isOn(MENU_LowLatency))
         return;
-    change.set(MENU_LowLatency, "0");
+    change.set(MENU_LowLatency, switchOff);
     change.refresh(MENU_LowLatency);
-    change.send(MENU_LowLatency, "0");
+    change.send(MENU_LowLatency, switchOff);
     change.dialog(MSG_FlowWayClosesLowLatency);
 }
 
@@ -41,7 +42,7 @@ namespace
 {
 void stayOff(ParaChange &change)
 {
-    change.set(MENU_LowLatency, "0");
+    change.set(MENU_LowLatency, switchOff);
     change.refresh(MENU_LowLatency);
 }
 
@@ -50,8 +51,8 @@ bool syncGivesWay(ParaChange &change)
 {
     if (!change.confirmed(MSG_OpenLowLatencyNeedsSyncOff))
         return false;
-    change.show(MENU_Sync_Status, "0");
-    change.send(MENU_Sync_Status, "0");
+    change.show(MENU_Sync_Status, switchOff);
+    change.send(MENU_Sync_Status, switchOff);
     const int rate = DeviceView(change.engine).outputRate();
     change.redoResolution(rate);
     change.syncState(SYN_OFF);

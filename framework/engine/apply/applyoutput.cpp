@@ -5,6 +5,7 @@
 
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 namespace VASK
 {
@@ -100,13 +101,13 @@ void syncOn(ParaChange &change)
     if (device.workMode() == WORK_SENDER && change.isOn(MENU_LowLatency) &&
         g_dialogConfig.contains(MSG_SyncNeedsLowLatencyOff)) {
         if (!change.confirmed(MSG_SyncNeedsLowLatencyOff)) {
-            change.set(MENU_Sync_Status, "0");
+            change.set(MENU_Sync_Status, switchOff);
             change.refresh(MENU_Sync_Status);
             return;
         }
-        change.set(MENU_LowLatency, "0");
+        change.set(MENU_LowLatency, switchOff);
         change.refresh(MENU_LowLatency);
-        change.send(MENU_LowLatency, "0");
+        change.send(MENU_LowLatency, switchOff);
     }
     const QString source = change.item(MENU_Sync_Source);
     const int input = source == referenceRow ? device.inputOfCode(INPUT_SyncReference) : source.toInt();
@@ -127,7 +128,7 @@ void applySync(ParaChange &change)
 /// Work that the whole output has to follow the chosen mode.
 void followChosenMode(ParaChange &change, const ChosenOutput &output)
 {
-    change.set(MENU_OutputMode, "1");
+    change.set(MENU_OutputMode, switchOn);
     change.set(PARA_OutputWidth, QString::number(output.width));
     change.set(PARA_OutputHeight, QString::number(output.height));
     change.home().showResolution(
@@ -136,13 +137,13 @@ void followChosenMode(ParaChange &change, const ChosenOutput &output)
     change.enable(MENU_Mode3D, false);
     change.refresh(MENU_Mode3D);
     if (change.isOn(MENU_Mode3D_Status)) {
-        change.show(MENU_Mode3D_Status, "0");
-        change.send(MENU_Mode3D_Status, "0");
+        change.show(MENU_Mode3D_Status, switchOff);
+        change.send(MENU_Mode3D_Status, switchOff);
     }
     for (const LayerItems &layer : layers)
         if (change.item(layer.scaling) == fullScreen)
             takeSize(change, layer, {output.width, output.height});
-    change.send(MENU_Output_Mode, "1");
+    change.send(MENU_Output_Mode, switchOn);
     if (change.isOn(MENU_ImageMosaic_Status))
         for (ENUM_MenuIndex scaling : {MENU_PIP1_ScalingMode, MENU_PIP2_ScalingMode})
             if (change.info(scaling).params1.value("0") != optionEnable)
@@ -160,8 +161,8 @@ void applyOutput(ParaChange &change)
     if (change.isOn(MENU_Output_Mode)) {
         followChosenMode(change, output);
     } else {
-        change.set(MENU_OutputMode, "0");
-        change.send(MENU_Output_Mode, "0");
+        change.set(MENU_OutputMode, switchOff);
+        change.send(MENU_Output_Mode, switchOff);
     }
     change.tail();
 }

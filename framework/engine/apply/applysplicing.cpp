@@ -4,6 +4,7 @@
 #include "framework/engine/layers.h"
 #include "menu/itemindex.h"
 
+#include "menu/itemvalue.h"
 namespace VASK
 {
 namespace
@@ -70,7 +71,7 @@ void putPipAside(ParaChange &change, const LayerItems &pip)
 void requireSync(ParaChange &change)
 {
     if (!change.isOn(MENU_Sync_Status))
-        showAndSend(change, MENU_Sync_Status, "1");
+        showAndSend(change, MENU_Sync_Status, switchOn);
 }
 
 void splice(ParaChange &change)

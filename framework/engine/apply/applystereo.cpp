@@ -6,6 +6,7 @@
 #include "framework/engine/righteye.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 namespace VASK
 {
@@ -76,7 +77,7 @@ void applyStereo(ParaChange &change)
     const bool on = change.turnsOn();
     const bool doubles = on && change.number(MENU_Mode3D_Format) != FrameSequential;
     if (doubles && change.fromUser() && overloads(change)) {
-        change.set(MENU_Mode3D_Status, "0");
+        change.set(MENU_Mode3D_Status, switchOff);
         change.refresh(MENU_Mode3D_Status);
         change.dialog(MSG_OverLoad);
         return;

@@ -5,6 +5,7 @@
 
 #include "framework/input/keyevent.h"
 #include "menu/itemindex.h"
+#include "menu/itemvalue.h"
 
 namespace VASK
 {
@@ -127,7 +128,7 @@ void applySender(ParaChange &change)
     enterMode(change, WORK_SENDER);
     if (change.isOn(MENU_OutputMode)) {
         change.send(MENU_OutputFrameRate, change.chosenOption(MENU_OutputFrameRate));
-        change.set(MENU_OutputMode, "0");
+        change.set(MENU_OutputMode, switchOff);
     }
     change.send(MENU_SendingCard, "1");
     change.send(EVENT_SendingCardMode, "1");

@@ -64,7 +64,7 @@ void setStartValues(const ParaProcess &engine, MenuAnalysis &store)
     addRightEyeItems(store);
     resetDisplayItems(store);
     if (isOff(engine.GetParaFromIndex(MENU_HDCPMemory)))
-        store.UpdataItemCurValue(MENU_HDCP, "0");
+        store.UpdataItemCurValue(MENU_HDCP, switchOff);
     markFnFunction(engine, store);
 }
 
