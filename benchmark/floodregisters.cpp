@@ -1,5 +1,7 @@
 // The registers of the flood, a row each.
 #include "benchmark/flood.h"
+#include "framework/protocol/packet/registeraddress.h"
+#include "framework/protocol/snapshot/snapshotmap.h"
 #include "menu/itemindex.h"
 
 using namespace VASK;
@@ -84,7 +86,8 @@ FloodRegister either(quint32 address, int item, int code0, int code1)
 
 FloodRegister brightness()
 {
-    return {0x02000001, 1, [](int number) { return QByteArray(1, char(number)); },
+    return {REG_Set_AcceptCardLightnessData, TARGET_Scanner,
+            [](int number) { return QByteArray(1, char(number)); },
             [](int number) {
                 return Items{{MENU_ScreenBrightness, QString::number(int((number & 0xFF) / 2.55 + 0.5))}};
             }};
@@ -92,7 +95,7 @@ FloodRegister brightness()
 
 FloodRegister address()
 {
-    return {0x13000006, 0,
+    return {REG_Set_NetCommunicateData, TARGET_Sender,
             [](int number) {
                 QByteArray bytes = QByteArray::fromHex("c000a80000000000ff00ff00ff000000c0a80001");
                 bytes[6] = char(number % 250);
@@ -112,24 +115,25 @@ QVector<FloodRegister> ports()
         quint32 link, backup, engaged;
         int count;
     };
-    constexpr Group groups[] = {{0x0200001F, 0x02000018, 0x0200001E, 4},
-                                {0x0200009F, 0x02000098, 0x0200009E, 4},
-                                {0x02000126, 0x02000100, 0x02000120, 2}};
+    constexpr Group groups[] = {
+        {REG_PortLink_Group1, REG_PortBackup_Group1, REG_PortBackupEngaged_Group1, 4},
+        {REG_PortLink_Group2, REG_PortBackup_Group2, REG_PortBackupEngaged_Group2, 4},
+        {REG_PortLink_Group3, REG_PortBackup_Group3, REG_PortBackupEngaged_Group3, 2}};
     for (int g = 0; g < 3; ++g) {
         const Group &group = groups[g];
         list += {flags(group.link, PARA_PortLink + 4 * g, group.count),
                  switches(group.backup, PARA_PortBackup + 4 * g, group.count, 0x80),
                  flags(group.engaged, PARA_PortBackupEngaged + 4 * g, group.count, 1, 2),
-                 flags(0x020001F6 + g, PARA_OPT1BackupEngaged + 4 * g, group.count, 1, 2),
-                 flags(0x020001F9 + g, PARA_OPT2BackupEngaged + 4 * g, group.count, 1, 2)};
+                 flags(REG_OPT1BackupEngaged + g, PARA_OPT1BackupEngaged + 4 * g, group.count, 1, 2),
+                 flags(REG_OPT2BackupEngaged + g, PARA_OPT2BackupEngaged + 4 * g, group.count, 1, 2)};
     }
     for (int g = 0; g < 2; ++g) {
         const int count = g == 0 ? 8 : 2;
-        list += {flags(0x020001F2 + g, PARA_OPT1PortLink + 8 * g, count),
-                 flags(0x020001F4 + g, PARA_OPT2PortLink + 8 * g, count),
-                 flags(0x020001E0 + g, PARA_PortActive + 8 * g, count, 0, 1, true)};
+        list += {flags(REG_OPT1PortLink + g, PARA_OPT1PortLink + 8 * g, count),
+                 flags(REG_OPT2PortLink + g, PARA_OPT2PortLink + 8 * g, count),
+                 flags(REG_PortActive + g, PARA_PortActive + 8 * g, count, 0, 1, true)};
     }
-    list += flags(0x020001D7, PARA_OPT1Link, 2);
+    list += flags(REG_OPTLink, PARA_OPT1Link, 2);
     return list;
 }
 
@@ -139,19 +143,19 @@ QVector<FloodRegister> layers()
     for (int n = 0; n < 3; ++n) {
         const int base = MENU_MainLayer_Status + STRIDE_Layer * n;
         const auto item = [base](ENUM_MenuIndex ofMain) { return base + ofMain - MENU_MainLayer_Status; };
-        list += record(0x13020010 + 48 * n, 48,
-                       {{item(MENU_MainLayer_InitialX), 5, 4, 0, 400},
-                        {item(MENU_MainLayer_InitialY), 9, 4, 0, 400},
-                        {item(MENU_MainLayer_HorWidth), 13, 4, 300, 500},
-                        {item(MENU_MainLayer_VerHeight), 17, 4, 300, 500},
-                        {item(MENU_MainLayer_Opacity), 47, 1, 0, 100}});
+        list += record(REG_Set_SenderFormsStatusData + WINDOW_Stride * n, WINDOW_Stride,
+                       {{item(MENU_MainLayer_InitialX), WINDOW_X, 4, 0, 400},
+                        {item(MENU_MainLayer_InitialY), WINDOW_Y, 4, 0, 400},
+                        {item(MENU_MainLayer_HorWidth), WINDOW_Width, 4, 300, 500},
+                        {item(MENU_MainLayer_VerHeight), WINDOW_Height, 4, 300, 500},
+                        {item(MENU_MainLayer_Opacity), WINDOW_Opacity, 1, 0, 100}});
         const int crop = MENU_MainLayerCrop_Status + STRIDE_Crop * n;
-        list += record(0x13024014 + 132 * n, 16,
-                       {{crop, 2, 1, 0, 2},
-                        {crop + 1, 7, 2, 300, 500},
-                        {crop + 2, 9, 2, 300, 500},
-                        {crop + 3, 3, 2, 0, 300},
-                        {crop + 4, 5, 2, 0, 300}});
+        list += record(REG_Set_SenderInterception + CROP_LayerStride * n, CROP_InputStride,
+                       {{crop, CROP_Status, 1, 0, 2},
+                        {crop + 1, CROP_Width, 2, 300, 500},
+                        {crop + 2, CROP_Height, 2, 300, 500},
+                        {crop + 3, CROP_X, 2, 0, 300},
+                        {crop + 4, CROP_Y, 2, 0, 300}});
     }
     return list;
 }
@@ -162,14 +166,14 @@ QVector<FloodRegister> pictures()
     constexpr ENUM_MenuIndex first[] = {MENU_HDMI1_Brightness, MENU_HDMI2_Brightness, MENU_DVI_Brightness,
                                         MENU_DVI2_Brightness, MENU_SDI_Brightness};
     for (int k = 0; k < 5; ++k)
-        list += record(0x13050000 + 20 * k, 7,
-                       {{first[k], 1, 1, 0, 100},
-                        {first[k] + 1, 2, 1, 0, 100},
-                        {first[k] + 2, 4, 1, 0, 100},
-                        {first[k] + 3, 5, 2, 0, 180}});
+        list += record(REG_Set_ScreenQulityReset + PICTURE_Stride * k, PICTURE_Hue + 2,
+                       {{first[k], PICTURE_Brightness, 1, 0, 100},
+                        {first[k] + 1, PICTURE_Contrast, 1, 0, 100},
+                        {first[k] + 2, PICTURE_Saturation, 1, 0, 100},
+                        {first[k] + 3, PICTURE_Hue, 2, 0, 180}});
     for (int k = 0; k < 8; ++k)
-        list += k < 2 ? either(0x13019015 + 16 * k, MENU_AudioInput_HDMI1 + k, 1, 2)
-                      : either(0x13019015 + 16 * k, MENU_AudioInput_HDMI1 + k, 0, 1);
+        list += k < 2 ? either(REG_InputAudio + STEP_InputAudio * k, MENU_AudioInput_HDMI1 + k, 1, 2)
+                      : either(REG_InputAudio + STEP_InputAudio * k, MENU_AudioInput_HDMI1 + k, 0, 1);
     return list;
 }
 
@@ -178,36 +182,37 @@ QVector<FloodRegister> settings()
     return {
         brightness(),
         address(),
-        either(0x1300001A, MENU_Net_NetMode, 0, 168),
-        record(0x13040003, 6,
+        either(REG_Set_DHCPSwitchData, MENU_Net_NetMode, 0, 168),
+        record(REG_OutputResolution, 6,
                {{PARA_ReportedWidth, 0, 2, 800, 1000},
                 {PARA_ReportedHeight, 2, 2, 600, 500},
                 {PARA_OutputRate, 4, 2, 2400, 4000}}),
-        record(0x13040010, 9,
-               {{PARA_ReportedWidthAlias, 3, 2, 800, 1000},
-                {PARA_ReportedHeightAlias, 5, 2, 600, 500},
-                {PARA_ReportedRate, 7, 2, 2400, 4000}}),
-        record(0x02100006, 4, {{PARA_CabinetWidth, 0, 2, 64, 200}, {PARA_CabinetHeight, 2, 2, 64, 200}}),
-        record(0x1300009F, 1, {{MENU_Audio_Volume, 0, 1, 0, 101}}),
-        record(0x1300009D, 1, {{PARA_GenlockState, 0, 1, 0, 5}}),
-        record(0x13411000, 40,
+        record(REG_SenderOutput, 9,
+               {{PARA_ReportedWidthAlias, OUTPUT_Width, 2, 800, 1000},
+                {PARA_ReportedHeightAlias, OUTPUT_Height, 2, 600, 500},
+                {PARA_ReportedRate, OUTPUT_Rate, 2, 2400, 4000}}),
+        record(CabinetWidthAddr, 4,
+               {{PARA_CabinetWidth, 0, 2, 64, 200}, {PARA_CabinetHeight, 2, 2, 64, 200}}),
+        record(REG_Set_AudioSettingVolume, 1, {{MENU_Audio_Volume, 0, 1, 0, 101}}),
+        record(REG_GenlockState, 1, {{PARA_GenlockState, 0, 1, 0, 5}}),
+        record(REG_Set_OSD_Switch, 40,
                {{MENU_OSDState, 0, 1, 0, 2},
                 {MENU_OSDChoice, 3, 1, 0, 8},
                 {MENU_OSDInitialX, 32, 4, 0, 500},
                 {MENU_OSDInitialY, 36, 4, 0, 500}}),
-        either(0x02000074, MENU_LowLatency, 0, 'x'),
-        either(0x01000088, MENU_Mapping, 0, 5),
-        either(0x02000039, MENU_Mode3D_Status, 0, 168),
-        either(0x02000041, MENU_Mode3D_EyePriority, 100, 50),
-        either(0x02000042, MENU_Mode3D_Format, 40, 8),
-        record(0x02000089, 2, {{MENU_Mode3D_RightEyeStart, 0, 2, 0, 2000}}),
+        either(REG_Set_LowLatency, MENU_LowLatency, 0, 'x'),
+        either(MappingAddr, MENU_Mapping, 0, 5),
+        either(REG_Set_3DStatusChanged, MENU_Mode3D_Status, 0, 168),
+        either(REG_Set_3DEyePriorChanged, MENU_Mode3D_EyePriority, 100, 50),
+        either(REG_Set_3DSourceFormatChanged, MENU_Mode3D_Format, 40, 8),
+        record(REG_RightEyeStart, 2, {{MENU_Mode3D_RightEyeStart, 0, 2, 0, 2000}}),
     };
 }
 
 /// 1920x1080 in every input, its period as the number.
 FloodRegister inputRecord(int n, int code)
 {
-    return {quint32(0x13010001 + 32 * n), 0,
+    return {quint32(REG_InputRecord + STEP_InputRecord * n), TARGET_Sender,
             [code](int number) {
                 QByteArray bytes = QByteArray::fromHex("0000038007380400000000").leftJustified(32, '\0');
                 bytes[0] = char(code);
@@ -241,6 +246,6 @@ const QVector<FloodRegister> &inputRegisters()
 
 const QVector<quint32> &pictureRegisters()
 {
-    static const QVector<quint32> list{0x13400000, 0x13400003, 0x13400006, 0x13400010, 0x13400015};
+    static const QVector<quint32> list{REG_MovingPictures, 0x13400003, 0x13400006, 0x13400010, 0x13400015};
     return list;
 }

@@ -1,11 +1,14 @@
 #include "benchmark/soaksession.h"
 
 #include "benchmark/flood.h"
+#include "framework/protocol/packet/registeraddress.h"
 #include "menu/keycodes.h"
 
 #include <QMap>
 #include <QVector>
 #include <random>
+
+using namespace VASK;
 
 namespace
 {
@@ -111,18 +114,17 @@ private:
         // Values that a device changes on its own; sizes and windows it leaves to the user.
         const QVector<FloodRegister> &registers = foldingRegisters();
         const FloodRegister &row = registers[between(0, registers.size() - 1)];
-        const bool isSize = row.address == 0x13040003 || row.address == 0x13040010 ||
-                            row.address == 0x02100006 || row.address >> 8 == 0x130200 ||
+        const bool isSize = row.address == REG_OutputResolution || row.address == REG_SenderOutput ||
+                            row.address == CabinetWidthAddr || row.address >> 8 == 0x130200 ||
                             row.address >> 12 == 0x13024;
         if (isSize)
             return;
         const QByteArray bytes = row.bytes(between(0, 1000));
-        constexpr quint32 format = 0x02000042, rightEyeStart = 0x02000089, startOfTop = 0x0200008B;
-        if (row.address == format)
+        if (row.address == REG_Set_3DSourceFormatChanged)
             m_isTop = bytes[0] == topAndBottom;
         const bool isStartOfTop =
-            row.address == rightEyeStart && m_isTop; // that of the format in use is told
-        add(at, isStartOfTop ? startOfTop : row.address, row.deviceType, bytes);
+            row.address == REG_RightEyeStart && m_isTop; // that of the format in use is told
+        add(at, isStartOfTop ? row.address + STEP_RightEyeStart : row.address, row.deviceType, bytes);
     }
 
     /// A source is plugged in or pulled.
