@@ -27,7 +27,7 @@ QStringList walkThrough(bool english, const QString &folder)
     Panel panel;
     // The first start makes the store in which the language is set.
     if (!panel.powerDevice() || !panel.start() || !panel.ask({"panel", "stop"}).ok ||
-        !setLanguage(panel, english) || !panel.start() || !panel.ask({"wait", "ready"}).ok)
+        !setLanguage(panel, english) || !panel.start() || !panel.ask({"wait", "settled"}).ok)
         return {"the panel does not start"};
     Tour tour(panel, english ? "fpd_EN" : "fpd_ZH", folder);
     panel.press("in1"); // the input with a signal

@@ -212,10 +212,8 @@ void Device::keep(const wire::Frame &request)
 bool Device::send(const Report &report, bool isAnswer)
 {
     const bool taken = pushRead(report.address, report.bytes, report.deviceType, 0);
-    if (taken) {
-        m_model.noteTold(report);
+    if (taken)
         emit reported(report, isAnswer);
-    }
     return taken;
 }
 

@@ -81,11 +81,6 @@ Reports DeviceModel::adopt(const Report &report)
     return row && row->follow ? row->follow(m_registers) : Reports();
 }
 
-void DeviceModel::noteTold(const Report &report)
-{
-    layers::noteTold(m_registers, report);
-}
-
 QStringList DeviceModel::describe() const
 {
     QStringList lines;

@@ -17,8 +17,6 @@ public:
     Reports reports() const;
     /// Takes over what a report tells, so that the device holds it, too; what it reports because of it.
     Reports adopt(const Report &report);
-    /// A report has gone to a panel.
-    void noteTold(const Report &report);
     /// The whole state in plain text: a heading a subject, "  what: value" a line.
     QStringList describe() const;
 

@@ -8,7 +8,7 @@ namespace layers
 namespace
 {
 constexpr quint32 firstRecord = 0x13020010;
-/// The windows as the panel knows them, record by record: the device's own notes, which no panel asks for.
+/// The windows as the panel has written them, record by record: the device's own notes, which no panel asks for.
 constexpr quint32 firstKnownRecord = 0xF0020010;
 constexpr quint32 sendingCardStart = 0x020001F0; ///< x and y of the one window of a sending card
 constexpr int startLength = 8;
@@ -107,13 +107,6 @@ Reports reportUnknown(const Registers &registers)
             list.append({recordAddress(layer), window});
     }
     return list;
-}
-
-void noteTold(Registers &registers, const Report &report)
-{
-    for (int layer = 0; layer < count; ++layer)
-        if (report.deviceType == sendingSide && report.address == recordAddress(layer))
-            registers.write(knownAddress(layer), report.bytes.leftJustified(recordLength, '\0', true));
 }
 
 quint32 recordAddress(int layer)

@@ -21,8 +21,7 @@ QByteArray record(const Layer &layer);
 constexpr int recordLength = 48;
 quint32 recordAddress(int layer);
 const char *nameOf(int layer);
-/// The windows that stand otherwise than the panel knows them, from its writes and from what it was told.
+/// The windows that stand otherwise than the panel has written them. That it was told of one is not enough:
+/// it may have been switched off before it stored that.
 Reports reportUnknown(const Registers &registers);
-/// The panel has been told of a window.
-void noteTold(Registers &registers, const Report &report);
 } // namespace layers

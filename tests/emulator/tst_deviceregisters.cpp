@@ -144,23 +144,21 @@ private slots:
         ModelRig rig;
         const auto toldAtStart = [&rig] {
             QList<uint> layers;
-            for (const Report &report : rig.model.reports()) {
+            for (const Report &report : rig.model.reports())
                 if (report.address >> 8 == 0x130200)
                     layers << (report.address - 0x13020010) / 48;
-                rig.model.noteTold(report);
-            }
             return layers;
         };
+        const QByteArray window = "0a000000ecffffff80020000e0010000";
         QCOMPARE(toldAtStart(), (QList<uint>{0, 1, 2})); // a panel that has never met this device
+        QCOMPARE(toldAtStart(), (QList<uint>{0, 1, 2})); // or was switched off before it stored that
+        for (quint32 layer : {0, 1, 2})
+            rig.write(0x13020015 + 48 * layer, window); // the panel's own
         QCOMPARE(toldAtStart(), QList<uint>());
-        rig.write(0x13020015, "0a000000ecffffff80020000e0010000"); // the panel's own
-        QCOMPARE(toldAtStart(), QList<uint>());
-        rig.write(0x13510100, "01"); // a preset with PIP 1
-        QCOMPARE(toldAtStart(), (QList<uint>{0, 1}));
-        const Report cut{0x13020070, QByteArray(2, 1)}; // the panel takes what is missing for 0
-        rig.model.adopt(cut);
-        rig.model.noteTold(cut);
-        QCOMPARE(toldAtStart(), QList<uint>{2});
+        rig.write(0x13510100, "01"); // a preset
+        QCOMPARE(toldAtStart(), (QList<uint>{0, 1, 2}));
+        rig.write(0x13020045, window);
+        QCOMPARE(toldAtStart(), (QList<uint>{0, 2}));
         rig.write(0x01000002, "01");
         QCOMPARE(toldAtStart(), (QList<uint>{0, 1, 2}));
     }
