@@ -29,6 +29,15 @@ template <typename... Values> void addRow(const QString &name, const Values &...
     (addCell(row, values), ...);
 }
 
+/// A row each, with its own name as the one cell.
+template <typename Cell = QString>
+void addNames(const char *column, std::initializer_list<const char *> names)
+{
+    QTest::addColumn<Cell>(column);
+    for (const char *name : names)
+        QTest::newRow(name) << Cell(name);
+}
+
 /// Columns whose rows are converted to their types.
 template <typename... Types> class DataRows
 {
