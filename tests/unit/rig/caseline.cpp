@@ -1,6 +1,8 @@
 #include "tests/unit/rig/caseline.h"
 
 #include "framework/input/keyevent.h"
+#include "framework/input/keypadevent.h"
+#include "menu/keycodes.h"
 #include "menu/ledindex.h"
 #include "netstatus.h"
 
@@ -15,27 +17,45 @@ QStringList caseline::wordsOf(const QString &text)
 
 namespace
 {
-/// Not the value but what an item keeps beside it: "X/PixValue=", "X/PerBase=".
-bool ownField(const QString &state)
+/// The item of a field or of a row of a list.
+ST_ItemInfo ownerOf(const EngineRig &rig, const QString &state)
 {
-    return state.contains("/PixValue=") || state.contains("/PerBase=");
+    const QString name = state.section('=', 0, 0);
+    return name.contains('/') ? rig.info(itemnames::item(name.section('/', 0, 0))) : ST_ItemInfo();
 }
 
-QString &fieldOf(ST_ItemInfo &item, const QString &state)
+/// Not the value but what an item keeps beside it: "X/PixValue=", "X/PerBase=", "X/Tag=", "X/Icon=".
+QString *ownField(ST_ItemInfo &item, const QString &state)
 {
-    return state.contains("/PixValue=") ? item.pixValue : item.perBase;
+    const QMap<QString, QString *> fields{
+        {"PixValue", &item.pixValue}, {"PerBase", &item.perBase}, {"Tag", &item.tag}, {"Icon", &item.icon}};
+    return fields.value(state.section('=', 0, 0).section('/', 1));
 }
 } // namespace
+
+void caseline::pressKeys(QWidget &window, const QString &keys)
+{
+    static const QMap<QString, unsigned char> codes{
+        {"left", KEY_KNOB_LEFT}, {"right", KEY_KNOB_RIGHT}, {"ok", KEY_OK}, {"preset", KEY_PRESET}};
+    for (const QString &key : keys.split(' ')) {
+        const bool isKnob = key == "left" || key == "right"; // which has no release
+        KeypadEvent event(isKnob ? KEY_PRESSED : KEY_RELEASED, codes.value(key), 1, false);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+}
 
 void caseline::prepare(EngineRig &rig, const QString &states)
 {
     for (const QString &state : wordsOf(states)) {
         const bool on = state.endsWith('+');
         const QString place = state.chopped(1);
-        if (ownField(state))
-            rig.store->changeItem(itemnames::item(state.section('/', 0, 0)), [&state](ST_ItemInfo &item) {
-                fieldOf(item, state) = state.section('=', 1);
-            });
+        ST_ItemInfo own = ownerOf(rig, state);
+        if (QString *field = ownField(own, state)) {
+            *field = state.section('=', 1);
+            rig.store->updataMenuItem(own.index, own);
+        } else if (state.endsWith('!') || state.endsWith('?'))
+            rig.store->UpdataItemCurChoice(itemnames::item(place),
+                                           state.endsWith('!') ? SELECTED : UNSELECTED);
         else if (state.contains('='))
             rig.engine->SetParaToXml(state.section('=', 1), itemnames::item(state.section('=', 0, 0)),
                                      SET_XML_STORE);
@@ -55,10 +75,9 @@ namespace
 {
 bool stands(EngineRig &rig, const QString &state)
 {
-    if (ownField(state)) {
-        ST_ItemInfo item = rig.info(itemnames::item(state.section('/', 0, 0)));
-        return fieldOf(item, state) == state.section('=', 1);
-    }
+    ST_ItemInfo own = ownerOf(rig, state);
+    if (const QString *field = ownField(own, state))
+        return *field == state.section('=', 1);
     if (state.contains('='))
         return rig.value(itemnames::item(state.section('=', 0, 0))) == state.section('=', 1);
     const QString place = state.chopped(1);
@@ -92,6 +111,14 @@ void step(EngineRig &rig, const QString &text)
     } else if (words[0] == "start") {
         rig.engine->InitReadParaFrom20M();
         rig.engine->InitializeMainWindow();
+    } else if (words[0] == "initialize") {
+        rig.engine->Initialize();
+    } else if (words[0] == "home") {
+        rig.engine->InitializeMainWindow();
+    } else if (words[0] == "dialog") {
+        rig.operate = [line](QDialog &dialog) { pressKeys(dialog, line); };
+    } else if (words[0] == "load") {
+        rig.engine->QuickLoadScene(number(1));
     } else if (words[0] == "mode") {
         rig.engine->UpdataDispMode(number(1));
     } else if (words[0] == "started") {
@@ -132,6 +159,17 @@ void comparePorts(const EngineRig &rig, const QString &states)
     QCOMPARE(found, states);
 }
 
+/// As they are noted when they are told to load all of their item again.
+QStringList rowsOf(ENUM_MenuIndex item)
+{
+    QStringList rows;
+    for (const ST_MenuConfig &page : qAsConst(g_config))
+        for (const st_MenuItemInfo &row : page.rowsMap)
+            if (row.menuIndex == item)
+                rows << itemnames::line(item, QString::number(row.itemObject));
+    return rows;
+}
+
 void comparePart(EngineRig &rig, const LedPanel *leds, const QString &verb, const QString &rest)
 {
     static const QMap<QString, const char *> labels{
@@ -146,6 +184,11 @@ void comparePart(EngineRig &rig, const LedPanel *leds, const QString &verb, cons
         const QStringList reloaded = rig.reloaded.take();
         for (const QString &line : wordsOf(rest))
             QVERIFY2(reloaded.contains(line), qPrintable(line));
+    } else if (verb == "redraws") {
+        const QStringList redrawn = rig.redrawn.take();
+        for (const QString &item : wordsOf(rest))
+            for (const QString &row : rowsOf(itemnames::item(item)))
+                QVERIFY2(redrawn.contains(row), qPrintable(row));
     } else if (verb == "leaves") {
         compareStates(rig, rest);
     } else if (verb == "visible" || verb == "hidden") {
@@ -154,7 +197,8 @@ void comparePart(EngineRig &rig, const LedPanel *leds, const QString &verb, cons
     } else if (verb == "looks") {
         QCOMPARE(rig.looks, wordsOf(rest));
     } else if (verb == "text") {
-        QCOMPARE(rig.value(itemnames::item(rest.section('=', 0, 0))), rest.section('=', 1));
+        for (const QString &state : rest.split(", "))
+            QCOMPARE(rig.value(itemnames::item(state.section('=', 0, 0))), state.section('=', 1));
     } else if (verb == "options") {
         const ST_ItemInfo list = rig.info(itemnames::item(rest.section('=', 0, 0)));
         QCOMPARE(list.params.values().join(' '), rest.section('=', 1));
@@ -212,11 +256,12 @@ void runCaseLine(EngineRig &rig, const CaseLine &line, const LedPanel *leds)
         QCOMPARE(sent, wordsOf(parts.take("sends")));
         QCOMPARE(rig.reported.take(), wordsOf(parts.take("tells")));
     }
-    const QStringList asked = wordsOf(parts.take("asks"));
+    const QString asked = parts.take("asks");
     if (asked.isEmpty())
-        QCOMPARE(rig.messages, asked);
+        QCOMPARE(rig.messages.join(' '), asked);
     else
-        QTRY_COMPARE(rig.messages, asked); // one that a report raises comes by way of the home screen
+        QTRY_COMPARE(rig.messages.join(' '),
+                     asked); // one that a report raises comes by way of the home screen
     for (auto part = parts.cbegin(); part != parts.cend() && !QTest::currentTestFailed(); ++part)
         comparePart(rig, leds, part.key(), part.value());
 }

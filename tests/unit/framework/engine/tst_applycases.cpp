@@ -140,17 +140,21 @@ QString address(const QString &ip, const QString &mask, const QString &gateway)
 {
     return QString("Net_{IPAddress=%1 SubnetMask=%2 Gateway=%3}").arg(ip, mask, gateway);
 }
+// What the device has instead of an address that is refused.
+const QString inTheDevice = "flash 2006 0a00000005000900ff00ff00ff0000000a000501; ";
+const QString comesBack = "; reloads Net_{IPAddress= SubnetMask= Gateway=}; leaves " +
+                          address("10.0.5.9", "255.255.255.0", "10.0.5.1");
 const CaseLines networkLines{
-    {"automatic", "DhcpDone=1", "device Net_NetMode=1",
-     "tells Net_NetMode=1; leaves DhcpDone=0 " + rowsOff + "; ip WaitIP"},
+    {"wrong address", inTheDevice + address("127.0.0.1", "255.0.0.0", "127.0.0.2"), "user Net_Apply=0",
+     "asks IpErr" + comesBack},
+    {"wrong address and mask", inTheDevice + address("127.0.0.1", "255.0.255.0", "127.0.0.2"),
+     "user Net_Apply=0", "asks IpMaskErr" + comesBack},
+    {"wrong gateway", inTheDevice + address("192.168.0.10", "255.255.255.0", "192.168.1.1"),
+     "user Net_Apply=0", "asks GateWayErr" + comesBack},
     {"automatic", "DhcpDone=1", "user Net_NetMode=1",
      "sends Net_NetMode=1; leaves DhcpDone=0 " + rowsOff + "; ip WaitIP"},
-    {"manual", "Net_IPAddress=10.0.0.7", "device Net_NetMode=0",
-     "tells Net_NetMode=0; leaves " + rowsOn + "; ip 10.0.0.7"},
     {"manual", "Net_{IPAddress=10.0.0.7 Reset-}", "user Net_NetMode=0",
      "sends Net_NetMode=0; leaves " + rowsOn + "; ip 10.0.0.7"},
-    {"address", "", "device Net_IPAddress=10.0.0.8",
-     "tells Net_IPAddress=10.0.0.8; leaves DhcpDone=1; ip 10.0.0.8"},
     {"address", "", "user Net_IPAddress=10.0.0.9", "sends Net_IPAddress=10.0.0.9; leaves DhcpDone=0"},
     {"applied", "", "device Net_Apply=0", done + "tells Net_Apply=0; ip 192.168.0.10"},
     {"automatic, applied", "Net_NetMode=1", "device Net_Apply=0", "tells Net_Apply=0"},
@@ -211,6 +215,11 @@ const CaseLines otherLines{
     {"self test", "", "device SelfTest=1", "sends SelfTest=1"},
     {"OSD picture that is there", "OSDChoice/4-", "device OSDPictureFirst+4=1",
      "reloads OSDChoice=; leaves OSDChoice/4+"},
+    {"LAN first", "", "user CommunicationMode=0", "priority 1"},
+    {"USB first", "", "user CommunicationMode=1", "priority 0"},
+    {"no maker's sign", "", "user MakerSign=0", "hidden labDeviceName"},
+    {"no maker's sign", "", "device MakerSign=0", "hidden labDeviceName"},
+    {"maker's sign", "user MakerSign=0", "user MakerSign=1", "visible labDeviceName"},
     {"calibration", "", "user SoftCalibrate=1", ""},
     {"of no case", "", "device ScreenConfigKind=0", "leaves ScreenConfigKind=0"},
 };
@@ -249,43 +258,6 @@ private slots:
         QFETCH(int, row);
         m_rig->addRows({CONFIG_Mode3D, CONFIG_Mode3DMore, CONFIG_DVI2_InputColor});
         runCaseLine(*m_rig, stereoLines.at(row));
-    }
-
-    void refusedAddressComesBackFromTheDevice_data()
-    {
-        const DataRows<QString, QString> row{"before", "message"};
-        row("address", address("127.0.0.1", "255.0.0.0", "127.0.0.2"), "IpErr");
-        row("address and mask", address("127.0.0.1", "255.0.255.0", "127.0.0.2"), "IpMaskErr");
-        row("gateway", address("192.168.0.10", "255.255.255.0", "192.168.1.1"), "GateWayErr");
-    }
-    void refusedAddressComesBackFromTheDevice()
-    {
-        const auto [before, message] = fetched<QString, QString>({"before", "message"});
-        QByteArray image(0x3000, '\0');
-        image.replace(0x2000 + 6, 20, QByteArray::fromHex("0a00000005000900ff00ff00ff0000000a000501"));
-        QFile flash(m_rig->statePath(hostlink::flashFile));
-        QVERIFY(flash.open(QIODevice::WriteOnly) && flash.write(image) > 0);
-        flash.close();
-        const QString left = "leaves Net_{IPAddress=10.0.5.9 SubnetMask=255.255.255.0 Gateway=10.0.5.1}";
-        runCaseLine(*m_rig, {"", before, "user Net_Apply=0",
-                             "asks " + message + "; reloads Net_{IPAddress= SubnetMask= Gateway=}; " + left});
-        flash.remove();
-    }
-
-    void brandIsShown()
-    {
-        const auto *sign = m_rig->home->findChild<QLabel *>("labDeviceName");
-        m_rig->fromUser(MENU_MakerSign, "0");
-        QVERIFY(sign->isHidden());
-        m_rig->fromUser(MENU_MakerSign, "1");
-        QVERIFY(!sign->isHidden());
-        m_rig->fromDevice(MENU_MakerSign, "0");
-        QVERIFY(sign->isHidden());
-        m_rig->home->SetDevNameState(COMMON_ON);
-        m_rig->forget();
-        m_rig->fromDevice(MENU_MakerSign, "0"); // no change
-        QVERIFY(!sign->isHidden());
-        QCOMPARE(m_rig->device->sent.take() + m_rig->reported.take(), QStringList());
     }
 };
 

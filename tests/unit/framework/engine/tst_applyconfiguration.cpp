@@ -87,6 +87,12 @@ const QString quick = whole + "ScreenConfigKind=1 LowLatency=0 ", unfit = quick 
 const QString lastPort = ports + "AdvancedPort10_Y=8 "; // its Y
 const QString opens = "sends LowLatency=1; asks OpenLowLatencyTip",
               refused = "asks CantOpenLowLatencyTip; leaves LowLatency=0";
+const QString synchronised = whole +
+                             "MainLayer_InputSource=0 OutputWidth=1920 OutputHeight=1080 Sync_Status=1 "
+                             "WorkMode=2 OutputRate=";
+const QString endsSync =
+    "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; sends Sync_Status=0 LowLatency=1; "
+    "reloads Sync_Status=0; leaves Sync_Status=0 ";
 const CaseLines latencyLines{
     {"off", unfit, "user LowLatency=0", "sends LowLatency=0"},
     {"off", "", "device LowLatency=0", "tells LowLatency=0"},
@@ -97,6 +103,10 @@ const CaseLines latencyLines{
     {"on, advanced does not suit", lastPort, "user LowLatency=1", refused},
     {"on, software has configured", lastPort + "SoftwareConfigured=1", "user LowLatency=1", opens},
     {"on beside sync", quick + "Sync_Status=1", "user LowLatency=1", opens + "; leaves Sync_Status=1"},
+    {"on ends sync, follows the input", "input 0 97 3 1920 1080 16683; " + synchronised + "6000",
+     "user LowLatency=1", endsSync + "OutputRate=5994; screen 1920x1080@59.94"},
+    {"on ends sync, no rate", "input 0 97 3 1920 1080 0; " + synchronised + "0", "user LowLatency=1",
+     endsSync + "OutputRate=6000; screen 1920x1080@60"},
     // The message has gone by itself.
     {"on beside sync, sending card", quick + "Sync_Status=1 WorkMode=2", "user LowLatency=1",
      "asks OpenLowLatencyNeedToCloseSyn; answers 2; leaves LowLatency=0 Sync_Status=1"},
@@ -140,25 +150,6 @@ private slots:
             m_rig->engine->SetParaToXml("", MENU_AdvancedCfg, mode);
             QCOMPARE(asking(), QString("advanced"));
         }
-    }
-
-    void lowLatencyEndsSync_data()
-    {
-        const DataRows<int, QString> row{"periodUs", "after"};
-        row("follows the input", 16683, "leaves Sync_Status=0 OutputRate=5994; screen 1920x1080@59.94");
-        row("no rate", 0, "leaves Sync_Status=0 OutputRate=6000; screen 1920x1080@60");
-    }
-    void lowLatencyEndsSync()
-    {
-        const auto [periodUs, after] = fetched<int, QString>({"periodUs", "after"});
-        m_rig->input(0, 97, 3, 1920, 1080, periodUs);
-        const QString before =
-            whole +
-            "MainLayer_InputSource=0 OutputWidth=1920 OutputHeight=1080 Sync_Status=1 WorkMode=2 OutputRate=";
-        runCaseLine(*m_rig, {"", before + (periodUs ? "6000" : "0"), "user LowLatency=1",
-                             "asks OpenLowLatencyNeedToCloseSyn OpenLowLatencyTip; sends Sync_Status=0 "
-                             "LowLatency=1; reloads Sync_Status=0; " +
-                                 after});
     }
 };
 

@@ -1,15 +1,12 @@
-// Pages that the engine opens, closes or fills by itself, what start-up puts on the home screen, and that the
+// Pages that the engine opens and closes by itself, what start-up puts on the home screen, and that the
 // production test has the screen to itself.
 
-#include "framework/input/keypadevent.h"
 #include "framework/productiontest/productiontest.h"
-#include "menu/keycodes.h"
 #include "menu/pageindex.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/enginerig.h"
 
 #include <QSignalSpy>
-#include <QTableView>
 #include <memory>
 
 using namespace VASK;
@@ -33,11 +30,9 @@ private slots:
     void cleanup()
     {
         ProductionTest::m_cur_step = FACTORY_STEP_NONE;
-        for (ENUM_ObjectIndex number :
-             {ENUM_PAGE_CustomPictures, ENUM_PAGE_SnapshotSlots, ENUM_PAGE_LoadCabFiles})
+        for (ENUM_ObjectIndex number : {ENUM_PAGE_CustomPictures, ENUM_PAGE_SnapshotSlots})
             if (page(number))
                 page(number)->hide();
-        QDir(m_rig->path("/usr/vask/etc/fpd/cabCfg")).removeRecursively();
     }
 
     void snapshotPageOpensAndCloses()
@@ -52,43 +47,6 @@ private slots:
             QVERIFY(!page(ENUM_PAGE_SnapshotSlots)->isVisible());
             QVERIFY(page(ENUM_PAGE_CustomPictures)->isVisible());
         }
-    }
-
-    void listOfFilesFillsTheOpenPage()
-    {
-        for (int files : {1, 8, 9, 3, 0, 5}) {
-            cleanup();
-            bringFiles(files);
-            open(ENUM_PAGE_LoadCabFiles);
-            m_rig->fromDevice(EVENT_CabinetListLoaded, "1");
-            const auto *table = page(ENUM_PAGE_LoadCabFiles)->findChild<QTableView *>();
-            QVERIFY(table);
-            for (int row = 0; row < MenuDirectory::fileRowCount; ++row) {
-                const auto item = ENUM_MenuIndex(MENU_CabinetFile1 + row);
-                QCOMPARE(table->isRowHidden(row), row >= files);
-                QCOMPARE(m_rig->enabled(item), row < files);
-                if (row >= files)
-                    continue;
-                QCOMPARE(m_rig->value(item), QString("wall%1.rcfgx").arg(row));
-                QCOMPARE(m_rig->info(item).perBase, QString::number(row));
-                const auto index = ENUM_ObjectIndex(ENUM_ROW_CabinetFile1 + row);
-                QVERIFY(dynamic_cast<QWidget *>(ObjectPool::getInstance()->GetObject(index))->isEnabled());
-            }
-            for (int key : {KEY_KNOB_RIGHT, KEY_KNOB_LEFT}) { // a page without rows has nowhere to go
-                KeypadEvent turn(KEY_PRESSED, key, 1, false);
-                QCoreApplication::sendEvent(page(ENUM_PAGE_LoadCabFiles), &turn);
-            }
-        }
-    }
-
-    void listOfFilesLeavesAClosedPageAlone()
-    {
-        bringFiles(1);
-        open(ENUM_PAGE_CustomPictures);
-        const QString before = m_rig->value(MENU_CabinetFile1);
-        m_rig->fromDevice(EVENT_CabinetListLoaded, "1");
-        QCOMPARE(m_rig->value(MENU_CabinetFile1), before);
-        QVERIFY(m_rig->enabled(MENU_CabinetFile8));
     }
 
     void layerFollowsItsInput()
@@ -160,25 +118,6 @@ private:
         QVERIFY(QTest::qWaitForWindowExposed(page(number)));
         QApplication::setActiveWindow(page(number));
         QCOMPARE(QApplication::activeWindow(), page(number));
-    }
-
-    /// The folder of the cabinet files, with so many files and their index.
-    void bringFiles(int count)
-    {
-        const QString folder = m_rig->path("/usr/vask/etc/fpd/cabCfg");
-        QVERIFY(QDir().mkpath(folder));
-        constexpr int fieldBytes = 64;
-        QByteArray index;
-        for (int i = 0; i < count; ++i) {
-            const QString name = QString("wall%1.rcfgx").arg(i);
-            QFile file(folder + "/" + name);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            QByteArray field(reinterpret_cast<const char *>(name.utf16()), name.size() * 2);
-            index += field + QByteArray(fieldBytes - field.size(), '\0');
-        }
-        QFile file(folder + "/AllCabCfgFileName");
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(index), qint64(index.size()));
     }
 
     EngineRig *m_rig = nullptr;

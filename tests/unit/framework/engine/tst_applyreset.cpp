@@ -94,21 +94,6 @@ private slots:
         QCOMPARE(!QFile::exists(name), cleared);
     }
 
-    void tellsTheOutcome_data()
-    {
-        addColumns<QString, QString>({"script", "outcome"});
-        addRow("no version", "echo FPGA version", "FPGACommunication");
-        addRow("memory check failed", "case $1 in -v) echo 'FPGA version is V1';; r) echo 0x00;; esac",
-               "FPGADDRCheckError");
-    }
-    void tellsTheOutcome()
-    {
-        const auto [script, outcome] = fetched<QString, QString>({"script", "outcome"});
-        tool("fpga", qPrintable(script));
-        m_rig->fromUser(MENU_SaveIP, "0");
-        QCOMPARE(m_rig->messages, (QStringList{"IsResting", outcome}));
-    }
-
     void clearAll()
     {
         QFile standard(m_rig->path("/usr/vask/etc/logo/logo_vask.bmp"));

@@ -106,15 +106,6 @@ private slots:
         QCOMPARE(m_rig->reported.take(), (QStringList{"Audio_Volume=50", "Audio_Volume=50"}));
     }
 
-    void communicationMode()
-    {
-        m_rig->fromUser(MENU_CommunicationMode, "0");
-        QCOMPARE(get_pc_connect_priority(), 1);
-        m_rig->fromUser(MENU_CommunicationMode, "1");
-        QCOMPARE(get_pc_connect_priority(), 0);
-        QCOMPARE(m_rig->device->sent.take(), QStringList());
-    }
-
     void languageSwitch()
     {
         m_rig->store->UpdataItemCurChoice(MENU_LanguageEn, SELECTED);
@@ -156,26 +147,6 @@ private slots:
         QCOMPARE(calibrates.count() + returns.count(), 0);
     }
 
-    void servicesStart()
-    {
-        QFile environment(m_rig->statePath(hostlink::environmentFile));
-        QVERIFY(environment.open(QIODevice::WriteOnly));
-        environment.write("ver_rootfs=V9.8.7\n");
-        environment.close();
-        m_rig->set(MENU_HDCPMemory, "0");
-        m_rig->set(MENU_Net_NetMode, "1");
-        m_rig->fromDevice(EVENT_SenderServiceStarted, "2");
-        QCOMPARE(m_rig->device->sent.take(), QStringList());
-        // The sequence runs every time.
-        for (int start = 0; start < 2; ++start) {
-            m_rig->fromDevice(EVENT_VideoServiceStarted, "1");
-            QCOMPARE(m_rig->device->sent.take(), (QStringList{"HDCP=0", "Net_NetMode=1"}));
-            QVERIFY(m_rig->reported.take().contains("About_VersionValue=V9.8.7"));
-        }
-        QVERIFY(m_rig->home->deviceStarted());
-        QCOMPARE(m_rig->value(MENU_About_VersionValue), QString("V9.8.7"));
-    }
-
     void syncIsCheckedAtStart()
     {
         const struct {
@@ -197,21 +168,6 @@ private slots:
                 continue;
             QCOMPARE(problems.first().first().value<qint8>(), qint8(row.problem));
             QCOMPARE(problems.first().last().toString(), QString("4"));
-        }
-    }
-
-    void sdiMenu()
-    {
-        for (bool has : {false, true}) {
-            m_rig->engine->HideSdiMenu(has);
-            QCOMPARE(bool(ParaProcess::bHaveSDI), has);
-            QCOMPARE(m_rig->enabled(MENU_SDI), has);
-            QCOMPARE(m_rig->enabled(MENU_AudioInput_SDI), has);
-            for (ENUM_MenuIndex list : {MENU_MainLayer_InputSource, MENU_PIP1_InputSource,
-                                        MENU_PIP2_InputSource, MENU_Sync_Source}) {
-                QCOMPARE(m_rig->rowEnabled(list, 3), has);
-                QVERIFY(m_rig->rowEnabled(list, 2));
-            }
         }
     }
 

@@ -10,8 +10,6 @@ using namespace VASK;
 
 namespace
 {
-enum Mode { Controller, Fiber, Sender };
-constexpr ENUM_MenuIndex modeItems[] = {MENU_VideoController, MENU_FiberConverter, MENU_SendingCard};
 constexpr int fallback = 2;
 
 /// Each of the items with a sign behind it.
@@ -163,74 +161,25 @@ private slots:
                              nowController + "leaves Sync_{Source/1+ Source/2+ Source/3-}"});
     }
 
-    void cardEndsTheScalingLed()
-    {
-        KeyEvent::SendLedCommand(LED_SCALE, LED_ON);
-        m_rig->fromUser(MENU_SendingCard, "1");
-        QVERIFY(!m_leds->lit(LED_SCALE));
-    }
-
-    void reportedModeReachesTheRow()
-    {
-        ParaProcess::init_20m_flg = true;
-        m_rig->fromDevice(MENU_SendingCard, "");
-        QCOMPARE(m_rig->value(MENU_WorkMode), QString("2"));
-        QVERIFY(m_rig->reported.take().contains("SendingCard="));
-        QCOMPARE(sentOf({"SendingCard", "SendingCardMode"}),
-                 (QStringList{"SendingCard=1", "SendingCardMode=1"}));
-        m_rig->fromDevice(MENU_VideoController, "");
-        QCOMPARE(m_rig->value(MENU_WorkMode), QString("0"));
-        QCOMPARE(sentOf({"VideoController", "SendingCardMode"}), QStringList{"SendingCardMode=0"});
-    }
-
-    void fiberTakesTheLeds()
-    {
-        KeyEvent::SendLedCommand(LED_TEST, LED_ON);
-        m_rig->fromUser(MENU_FiberConverter, "1");
-        QVERIFY(!m_leds->lit(LED_TEST));
-        KeyEvent::SendLedCommand(LED_TEST, LED_ON);
-        QVERIFY(!m_leds->lit(LED_TEST));
-        m_rig->fromUser(MENU_VideoController, "1");
-        QVERIFY(m_leds->lit(LED_TEST));
-        KeyEvent::SendLedCommand(LED_TEST, LED_OFF);
-    }
-
     void fiberGivesTheHomeScreenBack()
     {
         MenuDirectory *menu = poolObject<MenuDirectory>(ENUM_MAIN_MENU);
-        for (Mode to : {Controller, Sender})
+        for (ENUM_MenuIndex to : {MENU_VideoController, MENU_SendingCard})
             for (bool pageOpen : {true, false}) {
                 begin();
-                startIn(Fiber);
+                m_rig->fromUser(MENU_FiberConverter, "1");
                 menu->setParentScreen(nullptr);
                 if (pageOpen) {
                     m_rig->home->show();
                     menu->show();
                     QApplication::setActiveWindow(menu);
                 }
-                m_rig->fromUser(modeItems[to], "1");
+                m_rig->fromUser(to, "1");
                 QCOMPARE(m_rig->home->isVisible(), !pageOpen);
                 QVERIFY(menu->parentScreen() == m_rig->home);
                 menu->hide();
                 m_rig->home->hide();
             }
-    }
-
-private:
-    /// The device works in a mode from the start on.
-    void startIn(Mode mode)
-    {
-        if (mode != Controller)
-            m_rig->fromUser(modeItems[mode], "1");
-        m_rig->forget();
-    }
-    QStringList sentOf(const QStringList &items)
-    {
-        QStringList sent;
-        for (const QString &line : m_rig->device->sent.take())
-            if (items.contains(line.section('=', 0, 0)))
-                sent << line;
-        return sent;
     }
 };
 

@@ -8,38 +8,55 @@
 
 using namespace VASK;
 
-class TestEngineStart : public QObject
+namespace
+{
+const QString values = "HDMI1_EDIDChoice=0 HDMI2_EDIDChoice=0 DVI_EDIDChoice=0 DVI2_EDIDChoice=0 "
+                       "Test_{Type=0 PureColor=5 Gradient=0 Grid=0 Brightness=3 Spacing=5 Speed=3} ";
+const QString otherValues = QString(values).replace(QRegularExpression("=\\d"), "=1") +
+                            "HDMI1_ColorSample=1 HDMI2_ColorSample=1 DVI_ColorSample=1 DVI2_ColorSample=1 "
+                            "SDI_ColorSample=1 ";
+const QString hears = "of Layout:; leaves ";
+const QString shownPip = "PIP1_{Status=1 InputSource=2} WorkMode=";
+
+CaseLines table()
+{
+    CaseLines lines{
+        {"display items start anew",
+         otherValues +
+             "MainLayer_InputCrop+ PIP1_InputCrop+ PIP2_InputCrop+ Freeze- FTB- TestPattern- Normal? "
+             "Freeze! FTB! Audio_Volume=7",
+         "initialize",
+         "text HDMI1_ColorSample=RGB 4:4:4, HDMI2_ColorSample=RGB 4:4:4, DVI_ColorSample=RGB 4:4:4, "
+         "DVI2_ColorSample=RGB 4:4:4, SDI_ColorSample=YCbCr 4:2:2; " +
+             hears + values +
+             "Audio_Volume=7 MainLayer_InputCrop- PIP1_InputCrop- PIP2_InputCrop- Freeze+ FTB+ TestPattern+ "
+             "Normal! Freeze? FTB?"},
+        {"HDCP is not kept over a power cut", "HDCPMemory=0 HDCP=1", "initialize", hears + "HDCP=0"},
+        {"HDCP is kept", "HDCPMemory=1 HDCP=1", "initialize", hears + "HDCP=1"},
+        {"a sending card leaves the PIPs alone", shownPip + "2", "home", "of Layout:; name2 untouched"},
+        {"a controller does not", shownPip + "0", "home", "of Layout:; name2 DVI"},
+        {"lowest layer", "PIP1_{Status=1 Priority=0} MainLayer_Priority=1", "home", hears + "LowestLayer=1"},
+    };
+    const QStringList functions{"Synchronization", "HDMIOutput", "FTB", "Freeze", "TestPattern"};
+    for (const QString &function : functions)
+        lines << CaseLine{"Fn is marked",
+                          QString("Fn_%1? FnMode=%2").arg(function).arg(functions.indexOf(function)),
+                          "initialize", hears + "Fn_" + function + '!'};
+    return lines;
+}
+} // namespace
+
+class TestEngineStart : public CaseTest
 {
     Q_OBJECT
-private slots:
-    void initTestCase() { m_rig = new EngineRig; }
-    void cleanupTestCase() { delete m_rig; }
-    void init() { m_rig->reset(); }
-
-    void displayItemsStartAnew()
+    CaseLines lines() const override { return table(); }
+    void begin() override
     {
-        const QString values = "HDMI1_EDIDChoice=0 HDMI2_EDIDChoice=0 DVI_EDIDChoice=0 DVI2_EDIDChoice=0 "
-                               "Test_{Type=0 PureColor=5 Gradient=0 Grid=0 Brightness=3 Spacing=5 Speed=3}";
-        const ENUM_MenuIndex samplings[] = {MENU_HDMI1_ColorSample, MENU_HDMI2_ColorSample,
-                                            MENU_DVI_ColorSample, MENU_DVI2_ColorSample,
-                                            MENU_SDI_ColorSample};
-        caseline::prepare(*m_rig, QString(values).replace(QRegularExpression("=\\d"), "=1"));
-        for (ENUM_MenuIndex sampling : samplings)
-            m_rig->set(sampling, "1");
-        caseline::prepare(
-            *m_rig,
-            "MainLayer_InputCrop+ PIP1_InputCrop+ PIP2_InputCrop+ Freeze- FTB- TestPattern- Audio_Volume=7");
-        for (ENUM_MenuIndex mode : {MENU_Normal, MENU_Freeze, MENU_FTB})
-            m_rig->store->UpdataItemCurChoice(mode, mode == MENU_Normal ? UNSELECTED : SELECTED);
-        m_rig->engine->Initialize();
-        for (ENUM_MenuIndex sampling : samplings)
-            QCOMPARE(m_rig->value(sampling),
-                     QString(sampling == MENU_SDI_ColorSample ? "YCbCr 4:2:2" : "RGB 4:4:4"));
-        caseline::compareStates(
-            *m_rig, values + " Audio_Volume=7 MainLayer_InputCrop- PIP1_InputCrop- PIP2_InputCrop- "
-                             "Freeze+ FTB+ TestPattern+ Normal! Freeze? FTB?");
+        m_rig->reset();
+        m_rig->home->SetLayerName(LAYER_PIP1, "untouched");
     }
 
+private slots:
     void processDataStartEmpty()
     {
         for (int index = PARA_CabinetWidth; index < PARA_END; ++index)
@@ -47,30 +64,8 @@ private slots:
         QCOMPARE(m_rig->value(PARA_GenlockState), QString("1"));
         m_rig->engine->Initialize();
         for (int index = PARA_CabinetWidth; index < PARA_END; ++index)
-            QVERIFY2(m_rig->value(ENUM_MenuIndex(index)) == "0", QByteArray::number(index));
+            QVERIFY2(m_rig->value(ENUM_MenuIndex(index)) == "0", qPrintable(itemnames::name(index)));
     }
-
-    void hdcpThatIsNotKeptIsOff()
-    {
-        for (const char *memory : {"0", "1"}) { // not kept over a power cut, kept
-            m_rig->set(MENU_HDCPMemory, memory);
-            m_rig->set(MENU_HDCP, "1");
-            m_rig->engine->Initialize();
-            QCOMPARE(m_rig->value(MENU_HDCP), QString(memory));
-        }
-    }
-
-    void fnFunctionIsMarked()
-    {
-        for (int function = 0; function < 5; ++function) {
-            const auto item = ENUM_MenuIndex(MENU_Fn_Synchronization + function);
-            m_rig->store->UpdataItemCurChoice(item, UNSELECTED);
-            m_rig->set(MENU_FnMode, QString::number(function));
-            m_rig->engine->Initialize();
-            QCOMPARE(m_rig->choice(item), SELECTED);
-        }
-    }
-
     void otherConfigurationIsAskedFor()
     {
         for (bool quickAsks : {false, true}) {
@@ -80,7 +75,6 @@ private slots:
             QCOMPARE(bool(g_dialogConfig[MENU_AdvancedCfg].enabled), !quickAsks);
         }
     }
-
     void versionOfTheEnvironment()
     {
         const QMap<QByteArray, QString> versions{
@@ -122,28 +116,6 @@ private slots:
         QTEST(states.first().first().toInt(), "state");
     }
 
-    void sendingCardLeavesPipsAlone()
-    {
-        m_rig->set(MENU_PIP1_Status, "1");
-        m_rig->set(MENU_PIP1_InputSource, "2");
-        m_rig->home->SetLayerName(LAYER_PIP1, "as it was");
-        m_rig->set(MENU_WorkMode, "2");
-        m_rig->engine->InitializeMainWindow();
-        QCOMPARE(m_rig->shown("labLayerSrc2_Name"), QString("as it was"));
-        m_rig->set(MENU_WorkMode, "0");
-        m_rig->engine->InitializeMainWindow();
-        QCOMPARE(m_rig->shown("labLayerSrc2_Name"), QString("DVI"));
-    }
-
-    void lowestLayerIsFound()
-    {
-        m_rig->set(MENU_PIP1_Status, "1");
-        m_rig->set(MENU_PIP1_Priority, "0");
-        m_rig->set(MENU_MainLayer_Priority, "1");
-        m_rig->engine->InitializeMainWindow();
-        QCOMPARE(m_rig->value(PARA_LowestLayer), QString("1"));
-    }
-
 private:
     bool shows(const char *label, const QString &picture) const
     {
@@ -151,7 +123,6 @@ private:
         const QPixmap wanted(":/resource/image/mainWindow/" + picture);
         return found && !wanted.isNull() && found->pixmap(Qt::ReturnByValue).toImage() == wanted.toImage();
     }
-    EngineRig *m_rig = nullptr;
 };
 
 FPD_TEST(TestEngineStart)

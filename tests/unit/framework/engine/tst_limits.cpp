@@ -2,11 +2,9 @@
 // the rates that can be chosen, and the rate that an output takes.
 
 #include "tests/testprogram.h"
-#include "tests/unit/rig/enginerig.h"
+#include "tests/unit/rig/caseline.h"
 
 using namespace VASK;
-
-using State = QMap<int, int>; ///< items and process data that a limit reads
 
 namespace
 {
@@ -14,28 +12,16 @@ enum Stereo { off, doubling, sequential };
 
 /// A wall of cabinets of that size on the second port, at 60 Hz: 4,108,800 dots a picture with blanking,
 /// 659,722 dots a port; 3D halves both.
-State wall(int cabinet, Stereo stereo = off, const State &more = {})
+QString wall(int cabinet, Stereo stereo = off)
 {
-    State state{{PARA_CabinetWidth, cabinet},
-                {PARA_CabinetHeight, cabinet},
-                {PARA_OutputRate, 6000},
-                {MENU_Mode3D_Status, stereo != off},
-                {MENU_Mode3D_Format, stereo == sequential ? 2 : 0},
-                {MENU_Quick_CabinetRow, 8},
-                {MENU_Quick_CabinetCol, 15},
-                {MENU_Quick_FlowWay, 0},
-                {MENU_Advanced_EthernetPort, 2},
-                {MENU_Advanced_CabinetRow, 2},
-                {MENU_Advanced_CabinetCol, 2},
-                {MENU_Advanced_HorOffset, 0},
-                {MENU_Advanced_VerOffset, 0}};
-    for (auto entry = more.cbegin(); entry != more.cend(); ++entry)
-        state[entry.key()] = entry.value();
-    return state;
+    return QString("CabinetWidth=%1 CabinetHeight=%1 OutputRate=6000 Mode3D_{Status=%2 Format=%3} "
+                   "Quick_{CabinetRow=8 CabinetCol=15 FlowWay=0} Advanced_{EthernetPort=2 CabinetRow=2 "
+                   "CabinetCol=2 HorOffset=0 VerOffset=0} ")
+        .arg(cabinet)
+        .arg(stereo == off ? 0 : 1)
+        .arg(stereo == sequential ? 2 : 0);
 }
 } // namespace
-
-Q_DECLARE_METATYPE(State)
 
 class TestLimits : public QObject
 {
@@ -52,93 +38,79 @@ private slots:
 
     void screenLimits_data()
     {
-        // most: what stays; one more becomes this, and so does much more
-        const DataRows<State, int, int> row{"state", "index", "most"};
-        const State output{{PARA_OutputWidth, 1920}, {PARA_OutputHeight, 1080}};
-        row("load area width", output, MENU_ImageMosaic_LoadAreaWidth, 1920);
-        row("load area height", output, MENU_ImageMosaic_LoadAreaHeight, 1080);
-        const State area{{MENU_ImageMosaic_LoadAreaWidth, 1000}, {MENU_ImageMosaic_LoadAreaHeight, 500}};
-        row("load area X", area, MENU_ImageMosaic_LoadAreaInitialX, 31768);
-        row("load area Y", area, MENU_ImageMosaic_LoadAreaInitialY, 32268);
-        row("mosaic width", {{MENU_Mosaic_Height, 1080}}, MENU_Mosaic_Width, 2048);
-        row("mosaic height", {{MENU_Mosaic_Width, 2048}}, MENU_Mosaic_Height, 1080);
+        // limit: an item and the most that stays of it; one more becomes this, and so does much more
+        addColumns<QString, QString>({"state", "limit"});
+        const auto row = [](const char *name, const QString &state, const QString &limit) {
+            addRow(QString("%1: %2").arg(name, limit), state, limit);
+        };
+        const QString output = "OutputWidth=1920 OutputHeight=1080";
+        row("load area", output, "ImageMosaic_LoadAreaWidth=1920");
+        row("load area", output, "ImageMosaic_LoadAreaHeight=1080");
+        const QString area = "ImageMosaic_{LoadAreaWidth=1000 LoadAreaHeight=500}";
+        row("load area", area, "ImageMosaic_LoadAreaInitialX=31768");
+        row("load area", area, "ImageMosaic_LoadAreaInitialY=32268");
+        row("mosaic", "Mosaic_Height=1080", "Mosaic_Width=2048");
+        row("mosaic", "Mosaic_Width=2048", "Mosaic_Height=1080");
         // 24 Hz stands at row 1: the clock carries more than the 4092 that a size may have, and 460 us of
         // blanking are 46 lines, which bring 4050 lines to 4096
-        row("EDID width", {{MENU_HDMI2_EDIDHeight, 600}, {MENU_HDMI2_EDIDCustomRate, 1}},
-            MENU_HDMI2_EDIDWidth, 4092);
-        row("EDID height", {{MENU_DVI2_EDIDWidth, 800}, {MENU_DVI2_EDIDCustomRate, 1}}, MENU_DVI2_EDIDHeight,
-            4049);
-
+        row("EDID", "HDMI2_{EDIDHeight=600 EDIDCustomRate=1}", "HDMI2_EDIDWidth=4092");
+        row("EDID", "DVI2_{EDIDWidth=800 EDIDCustomRate=1}", "DVI2_EDIDHeight=4049");
         // The device has 8192 lines of 10240 pixels, and 1024 cabinets a port.
-        row("quick rows by lines", wall(128, off, {{MENU_Quick_CabinetCol, 2}}), MENU_Quick_CabinetRow, 64);
-        row("quick columns by pixels", wall(128, off, {{MENU_Quick_CabinetRow, 2}}), MENU_Quick_CabinetCol,
-            80);
-        row("port's rows by lines", wall(128, off, {{MENU_Advanced_VerOffset, 8192 - 384}}),
-            MENU_Advanced_CabinetRow, 3);
-        row("port's columns by pixels", wall(128, off, {{MENU_Advanced_HorOffset, 10240 - 256}}),
-            MENU_Advanced_CabinetCol, 2);
-        row("port's X by pixels", wall(128), MENU_Advanced_HorOffset, 9984);
-        row("port's Y by lines", wall(128), MENU_Advanced_VerOffset, 7936);
-        row("cabinets of a port", wall(1, off, {{MENU_Advanced_CabinetCol, 32}}), MENU_Advanced_CabinetRow,
-            32);
-
+        row("by lines", wall(128) + "Quick_CabinetCol=2", "Quick_CabinetRow=64");
+        row("by pixels", wall(128) + "Quick_CabinetRow=2", "Quick_CabinetCol=80");
+        row("by lines", wall(128) + "Advanced_VerOffset=7808", "Advanced_CabinetRow=3");
+        row("by pixels", wall(128) + "Advanced_HorOffset=9984", "Advanced_CabinetCol=2");
+        row("by pixels", wall(128), "Advanced_HorOffset=9984");
+        row("by lines", wall(128), "Advanced_VerOffset=7936");
+        row("cabinets of a port", wall(1) + "Advanced_CabinetCol=32", "Advanced_CabinetRow=32");
         // 15 columns are 1952 dots with blanking: 2104 lines, 1052 when doubled, 20 of them blank
-        row("quick rows", wall(128), MENU_Quick_CabinetRow, 16);
-        row("quick rows, doubled", wall(128, doubling), MENU_Quick_CabinetRow, 8);
-        row("quick rows, sequential", wall(128, sequential), MENU_Quick_CabinetRow, 16);
+        row("by the picture", wall(128), "Quick_CabinetRow=16");
+        row("doubled", wall(128, doubling), "Quick_CabinetRow=8");
+        row("sequential", wall(128, sequential), "Quick_CabinetRow=16");
         // 8 rows are 1044 lines with blanking: 3935 dots, 1967 when doubled
-        row("quick columns", wall(128), MENU_Quick_CabinetCol, 30);
-        row("quick columns, doubled", wall(128, doubling), MENU_Quick_CabinetCol, 15);
-        row("quick columns, sequential", wall(128, sequential), MENU_Quick_CabinetCol, 30);
-
-        const State total50{{MENU_Quick_CabinetRow, 10}, {MENU_Quick_CabinetCol, 5}};
-        row("port one", wall(128, off, total50), MENU_Quick_PortOneCab, 40);
-        row("port one, doubled", wall(128, doubling, total50), MENU_Quick_PortOneCab, 20);
-        row("port one, sequential", wall(128, sequential, total50), MENU_Quick_PortOneCab, 40);
-        row("port one, all that there are",
-            wall(128, off, {{MENU_Quick_CabinetRow, 3}, {MENU_Quick_CabinetCol, 4}}), MENU_Quick_PortOneCab,
-            12);
-        row("port one, cabinet unknown", wall(0, doubling, total50), MENU_Quick_PortOneCab, 50);
-
+        row("by the picture", wall(128), "Quick_CabinetCol=30");
+        row("doubled", wall(128, doubling), "Quick_CabinetCol=15");
+        row("sequential", wall(128, sequential), "Quick_CabinetCol=30");
+        const QString total50 = "Quick_{CabinetRow=10 CabinetCol=5}";
+        row("by the port", wall(128) + total50, "Quick_PortOneCab=40");
+        row("doubled", wall(128, doubling) + total50, "Quick_PortOneCab=20");
+        row("sequential", wall(128, sequential) + total50, "Quick_PortOneCab=40");
+        row("all that there are", wall(128) + "Quick_{CabinetRow=3 CabinetCol=4}", "Quick_PortOneCab=12");
+        row("cabinet unknown", wall(0, doubling) + total50, "Quick_PortOneCab=50");
         // 256 lines: 2577 dots a port, 1288 when doubled
-        row("port's rows", wall(128), MENU_Advanced_CabinetRow, 20);
-        row("port's rows, doubled", wall(128, doubling), MENU_Advanced_CabinetRow, 10);
-        row("port's columns", wall(128), MENU_Advanced_CabinetCol, 20);
-        row("port's columns, doubled", wall(128, doubling), MENU_Advanced_CabinetCol, 10);
-        row("port's columns, sequential", wall(128, sequential), MENU_Advanced_CabinetCol, 20);
-        row("port's rows, cabinet unknown", wall(0, doubling, {{MENU_Advanced_CabinetCol, 8}}),
-            MENU_Advanced_CabinetRow, 128);
-        row("port's columns, cabinet unknown", wall(0, off, {{MENU_Advanced_CabinetRow, 32}}),
-            MENU_Advanced_CabinetCol, 32);
-
+        row("by the port", wall(128), "Advanced_CabinetRow=20");
+        row("doubled", wall(128, doubling), "Advanced_CabinetRow=10");
+        row("by the port", wall(128), "Advanced_CabinetCol=20");
+        row("doubled", wall(128, doubling), "Advanced_CabinetCol=10");
+        row("sequential", wall(128, sequential), "Advanced_CabinetCol=20");
+        row("cabinet unknown", wall(0, doubling) + "Advanced_CabinetCol=8", "Advanced_CabinetRow=128");
+        row("cabinet unknown", wall(0) + "Advanced_CabinetRow=32", "Advanced_CabinetCol=32");
         // The first port has 1920 lines, 1940 with blanking: the wall may be 2084 pixels wide; and the other
         // way round. The doubling does not count here.
-        const State tall{{MENU_AdvancedPort1_Rows, 15}};
-        const State wide{{MENU_AdvancedPort1_Cols, 15}};
-        row("port's columns beside a tall port", wall(128, off, tall), MENU_Advanced_CabinetCol, 16);
-        row("port's rows beside a wide port", wall(128, off, wide), MENU_Advanced_CabinetRow, 16);
-        row("port's X beside a tall port", wall(128, off, tall), MENU_Advanced_HorOffset, 2084 - 128);
-        row("port's X beside a tall port, doubled", wall(128, doubling, tall), MENU_Advanced_HorOffset,
-            2084 - 128);
-        row("port's Y beside a wide port", wall(128, off, wide), MENU_Advanced_VerOffset, 2084 - 128);
-        const State full{{MENU_AdvancedPort1_Rows, 64}, {MENU_AdvancedPort1_Cols, 64}};
-        row("one column beside a port that takes all", wall(128, off, full), MENU_Advanced_CabinetCol, 1);
-        row("no X beside a port that takes all", wall(128, off, full), MENU_Advanced_HorOffset, 0);
-
+        const QString tall = "AdvancedPort1_Rows=15", wide = "AdvancedPort1_Cols=15";
+        row("beside a tall port", wall(128) + tall, "Advanced_CabinetCol=16");
+        row("beside a wide port", wall(128) + wide, "Advanced_CabinetRow=16");
+        row("beside a tall port", wall(128) + tall, "Advanced_HorOffset=1956");
+        row("beside a tall port, doubled", wall(128, doubling) + tall, "Advanced_HorOffset=1956");
+        row("beside a wide port", wall(128) + wide, "Advanced_VerOffset=1956");
+        const QString full = "AdvancedPort1_{Rows=64 Cols=64}";
+        row("beside a port that takes all", wall(128) + full, "Advanced_CabinetCol=1");
+        row("beside a port that takes all", wall(128) + full, "Advanced_HorOffset=0");
         // 2048 lines, 2068 with blanking: 1954 pixels, 960 when doubled. 2048 pixels: 1955 lines, 967.
-        const State low{{MENU_Advanced_VerOffset, 2048 - 256}};
-        const State right{{MENU_Advanced_HorOffset, 2048 - 256}};
-        row("port's X", wall(128, off, low), MENU_Advanced_HorOffset, 1954 - 256);
-        row("port's X, doubled", wall(128, doubling, low), MENU_Advanced_HorOffset, 960 - 256);
-        row("port's X, sequential", wall(128, sequential, low), MENU_Advanced_HorOffset, 1954 - 256);
-        row("port's Y", wall(128, off, right), MENU_Advanced_VerOffset, 1955 - 256);
-        row("port's Y, doubled", wall(128, doubling, right), MENU_Advanced_VerOffset, 967 - 256);
-        row("port's X, cabinet unknown", wall(0), MENU_Advanced_HorOffset, 10240);
-        row("port's Y, cabinet unknown", wall(0, doubling), MENU_Advanced_VerOffset, 8192);
+        const QString low = "Advanced_VerOffset=1792", right = "Advanced_HorOffset=1792";
+        row("by the picture", wall(128) + low, "Advanced_HorOffset=1698");
+        row("doubled", wall(128, doubling) + low, "Advanced_HorOffset=704");
+        row("sequential", wall(128, sequential) + low, "Advanced_HorOffset=1698");
+        row("by the picture", wall(128) + right, "Advanced_VerOffset=1699");
+        row("doubled", wall(128, doubling) + right, "Advanced_VerOffset=711");
+        row("cabinet unknown", wall(0), "Advanced_HorOffset=10240");
+        row("cabinet unknown", wall(0, doubling), "Advanced_VerOffset=8192");
     }
     void screenLimits()
     {
-        const auto [state, index, most] = fetched<State, int, int>({"state", "index", "most"});
+        const auto [state, limit] = fetched<QString, QString>({"state", "limit"});
+        const ENUM_MenuIndex index = itemnames::item(limit.section('=', 0, 0));
+        const int most = limit.section('=', 1).toInt();
         put(state);
         QCOMPARE(permitted(index, most), most);
         QCOMPARE(permitted(index, most + 1), most);
@@ -153,11 +125,10 @@ private slots:
         for (int i = 0; i < 3; ++i) {
             m_rig->input(i, 97 + i, 3, 1900 + 2 - i, 1000 + 2 - i, 16667);
             const int crop = MENU_MainLayerCrop_HorWidth + i * STRIDE_Crop;
-            put({{MENU_MainLayer_InputSource + i * STRIDE_Layer, 2 - i},
-                 {crop, 1600},
-                 {crop + 1, 800},
-                 {crop + 2, 100},
-                 {crop + 3, 50}});
+            put(line(MENU_MainLayer_InputSource + i * STRIDE_Layer, 2 - i));
+            const int crops[] = {1600, 800, 100, 50};
+            for (int field = 0; field < 4; ++field)
+                put(line(crop + field, crops[field]));
         }
         for (int layer = 0; layer < 3; ++layer) {
             const int width = 1900 + layer, height = 1000 + layer;
@@ -183,17 +154,17 @@ private slots:
         const int rate = width + 2;
         // At 60 Hz: 165e6 / 60 / (1080 + 39) = 2457.5 dots a line; 165e6 / 60 / 2080 = 1322.1 lines, 39
         // blank.
-        put({{width, 1920}, {height, 1080}, {rate, 9}});
+        put(line(width, 1920) + line(height, 1080) + line(rate, 9));
         QCOMPARE(permitted(width, 2296), 2296);
         QCOMPARE(permitted(width, 2298), 2296);
         QCOMPARE(permitted(height, 1283), 1283);
         QCOMPARE(permitted(height, 1284), 1283);
         // At 24 Hz and 600 lines the slow clock asks for 25e6 / 24 / 639 = 1630.2 dots.
-        put({{height, 600}, {rate, 1}});
+        put(line(height, 600) + line(rate, 1));
         QCOMPARE(permitted(width, 800), 1471);
         QCOMPARE(permitted(width, 1472), 1472);
         // The rates of this input, and of no other: 1920x1080 up to 71 Hz.
-        put({{height, 1080}});
+        put(line(height, 1080));
         m_rig->forget();
         QCOMPARE(permitted(rate, 1), 1);
         for (int other = 0; other < 4; ++other) {
@@ -212,11 +183,11 @@ private slots:
         rates.value = "0";
         m_rig->store->updataMenuItem(MENU_HDMI1_EDIDCustomRate, rates);
         // Twelve times the store's 64-byte units: 0x10000000 / 512 = 524288 of them hold a frame.
-        put({{MENU_HDMI1_EDIDHeight, 4092}});
+        put("HDMI1_EDIDHeight=4092");
         QCOMPARE(permitted(MENU_HDMI1_EDIDWidth, 4092), 2730);
         QCOMPARE(permitted(MENU_HDMI1_EDIDWidth, 2730), 2730);
         QCOMPARE(permitted(MENU_HDMI1_EDIDWidth, 2731), 2729); // stays odd
-        put({{MENU_HDMI1_EDIDWidth, 4092}});
+        put("HDMI1_EDIDWidth=4092");
         QCOMPARE(permitted(MENU_HDMI1_EDIDHeight, 4092), 2730);
     }
 
@@ -236,14 +207,14 @@ private slots:
         m_rig->fromDevice(PARA_ReportedHeight, "1080");
         QCOMPARE(areaAndRate(), QString("1920x1080, 120 Hz 0"));
         // The software's output: 1024x768 at 60 Hz.
-        put({{MENU_Output_Mode, 1}});
+        put("Output_Mode=1");
         m_rig->fromDevice(MENU_Output_Resolution, "0");
-        put({{MENU_Output_FrameRate, 3}});
+        put("Output_FrameRate=3");
         m_rig->fromUser(MENU_Output_Apply, "");
         QCOMPARE(areaAndRate(), QString("1024x768, 120 Hz 1"));
         QCOMPARE(m_rig->value(PARA_OutputRate), QString("6000"));
         // Back to the own one: the device tells its size.
-        put({{MENU_Output_Mode, 0}});
+        put("Output_Mode=0");
         m_rig->fromUser(MENU_Output_Apply, "");
         m_rig->fromDevice(PARA_ReportedHeight, "1080");
         QCOMPARE(areaAndRate(), QString("1920x1080, 120 Hz 0"));
@@ -251,15 +222,15 @@ private slots:
 
     void valuesBesideTheirMost()
     {
-        put({{PARA_OutputRate, 6000}}); // the cabinet is unknown
+        put("OutputRate=6000"); // the cabinet is unknown
         QCOMPARE(permitted(MENU_Quick_CabinetRow, 200), 200);
         QCOMPARE(permitted(MENU_Quick_CabinetCol, 200), 200);
-        put({{PARA_CabinetWidth, 128}, {PARA_CabinetHeight, 128}, {MENU_Quick_CabinetCol, 20}});
+        put("CabinetWidth=128 CabinetHeight=128 Quick_CabinetCol=20");
         QCOMPARE(permitted(MENU_Quick_CabinetRow, 0), 1);
-        put({{MENU_Quick_CabinetRow, 10}});
+        put("Quick_CabinetRow=10");
         QCOMPARE(permitted(MENU_Quick_PortOneCab, 10), 34);      // its share of six
         QCOMPARE(permitted(MENU_MainLayerCrop_HorWidth, 64), 0); // of nothing
-        put({{MENU_HDMI1_EDIDHeight, 1080}, {MENU_DVI_EDIDWidth, 1920}});
+        put("HDMI1_EDIDHeight=1080 DVI_EDIDWidth=1920");
         QCOMPARE(permitted(MENU_HDMI1_EDIDWidth, 1921), 1921);
         QCOMPARE(permitted(MENU_HDMI1_EDIDWidth, 700), 800);
         QCOMPARE(permitted(MENU_DVI_EDIDHeight, 500), 600);
@@ -270,12 +241,8 @@ private slots:
     {
         // 34 cabinets are the share of six; rounded up to columns (20) 40, to rows (10) 40, to rows (45) 45.
         for (bool byRows : {false, true}) {
-            put({{PARA_CabinetWidth, 128},
-                 {PARA_CabinetHeight, 128},
-                 {PARA_OutputRate, 6000},
-                 {MENU_Quick_CabinetRow, 45},
-                 {MENU_Quick_CabinetCol, 4},
-                 {MENU_Quick_FlowWay, byRows}});
+            put("CabinetWidth=128 CabinetHeight=128 OutputRate=6000 Quick_{CabinetRow=45 CabinetCol=4} " +
+                line(MENU_Quick_FlowWay, byRows));
             // What may be dialled stays; the load of the whole lines is only warned of.
             QCOMPARE(m_rig->engine->CalParaLimit("30", MENU_Quick_PortOneCab), QString("30"));
             QCOMPARE(m_rig->messages, byRows ? QStringList{"OverLoad"} : QStringList());
@@ -288,9 +255,9 @@ private slots:
             int stereo, format, lastRow; ///< the fastest that can be chosen
         } rows[] = {{0, 0, 14}, {1, 0, 7}, {1, 2, 14}};
         // (1920 + 33) * (1080 + 20) = 2,148,300 dots: 114.75 Hz, half of it when 3D doubles
-        put({{PARA_OutputWidth, 1920}, {PARA_OutputHeight, 1080}});
+        put("OutputWidth=1920 OutputHeight=1080");
         for (const auto &expected : rows) {
-            put({{MENU_Mode3D_Status, expected.stereo}, {MENU_Mode3D_Format, expected.format}});
+            put(line(MENU_Mode3D_Status, expected.stereo) + line(MENU_Mode3D_Format, expected.format));
             QCOMPARE(m_rig->engine->CalParaLimit("9", MENU_OutputFrameRate), QString("9"));
             for (int row = 0; row < 17; ++row)
                 QCOMPARE(m_rig->rowEnabled(MENU_OutputFrameRate, row), row <= expected.lastRow);
@@ -301,7 +268,7 @@ private slots:
     void edidRateRows()
     {
         // 800x600: 25e6 / 960 / 629 lines = 41.1 Hz; the ceiling is 120
-        put({{MENU_HDMI2_EDIDWidth, 800}, {MENU_HDMI2_EDIDHeight, 600}});
+        put("HDMI2_EDIDWidth=800 HDMI2_EDIDHeight=600");
         const QString before = m_rig->value(MENU_HDMI2_EDIDCustomRate);
         QCOMPARE(m_rig->engine->CalParaLimit(before, MENU_HDMI2_EDIDCustomRate), before);
         const ST_ItemInfo list = m_rig->info(MENU_HDMI2_EDIDCustomRate);
@@ -315,7 +282,7 @@ private slots:
 
     void edidRatesThatAreNone()
     {
-        put({{MENU_HDMI1_EDIDWidth, 1920}, {MENU_HDMI1_EDIDHeight, 1080}});
+        put("HDMI1_EDIDWidth=1920 HDMI1_EDIDHeight=1080");
         for (const char *rate : {"-60", "-0.01", "0", "0.001", "0.02", "nan", "inf", "1e30", "fast"}) {
             ST_ItemInfo rates = m_rig->info(MENU_HDMI1_EDIDCustomRate);
             rates.params["0"] = rate;
@@ -330,13 +297,12 @@ private slots:
 
     void outputFollowsSource()
     {
-        const State output{{MENU_WorkMode, 0}, {PARA_OutputWidth, 1920}, {PARA_OutputHeight, 1080}};
-        const State sender{{MENU_WorkMode, 2}};
-        const State heavy{{PARA_OutputHeight, 2160}}; // (2160 + 20) * (1921 + 31) * 60 = 255e6
-        const State stereo{{MENU_Mode3D_Status, 1}, {MENU_Mode3D_Format, 0}};
+        const QString output = "WorkMode=0 OutputWidth=1920 OutputHeight=1080", sender = "WorkMode=2",
+                      heavy = "OutputHeight=2160", // (2160 + 20) * (1921 + 31) * 60 = 255e6
+            stereo = "Mode3D_{Status=1 Format=0}";
         const struct {
             const char *name;
-            State state;
+            QString state;
             int rate, outputRate, taken;
         } rows[] = {
             {"equal", {}, 6000, 6000, 6000},
@@ -357,12 +323,8 @@ private slots:
     }
 
 private:
-    void put(const State &state)
-    {
-        for (auto entry = state.cbegin(); entry != state.cend(); ++entry)
-            m_rig->engine->SetParaToXml(QString::number(entry.value()), ENUM_MenuIndex(entry.key()),
-                                        SET_XML_STORE);
-    }
+    void put(const QString &state) { caseline::prepare(*m_rig, state); }
+    static QString line(int item, int value) { return itemnames::line(item, QString::number(value)) + ' '; }
     int permitted(int index, int value)
     {
         return m_rig->engine->CalParaLimit(QString::number(value), ENUM_MenuIndex(index)).toInt();

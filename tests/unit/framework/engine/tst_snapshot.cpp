@@ -5,8 +5,6 @@
 #include "tests/testprogram.h"
 #include "tests/unit/rig/caseline.h"
 
-#include <QTextCodec>
-
 using namespace VASK;
 
 namespace
@@ -24,6 +22,18 @@ const QString signalsAre = "ScreenBrightness=42 Sync_Source=1 MainLayer_InputSou
                            "; input 0 97 3 1920 1080 40000 1; input 1 98 3 1920 1080 16667; "
                            "input 8 254 3 1920 1080 20000; ";
 const QString isThere = "of Layout:; bright 42%; sync HDMI2; screen ";
+/// One that the device keeps, from 1, with a name of these bytes.
+QString preset(int number, const QByteArray &name)
+{
+    const int record = 0x3000 + 0x1200 * (number - 1);
+    return QString("flash %1 a8; flash %2 %3; ")
+        .arg(record + 10, 0, 16)
+        .arg(record + 512, 0, 16)
+        .arg(QString(name.toHex()));
+}
+const QString meetingRoom = QString::fromUtf8("会议室");
+const QString icon = "/Icon=:/resource/image/sceneSetting/";
+
 const CaseLines table{
     {"unknown pattern is a colour", "", "flash 2005 33; start",
      "of Layout:; leaves TestPatternFamily=0 Test_PureColor=5"},
@@ -43,6 +53,14 @@ const CaseLines table{
      "flash 0 00; start",
      "of Layout:; name HDMI2; picture 1920x1080@50; visible labWindowOffDisplay_2; name3 DVI; picture3 No "
      "Signal"},
+    // The copy of the first was never ended.
+    {"presets", "Preset1-",
+     preset(1, "Evening") + preset(3, QByteArray::fromHex("bbe1d2e9cad2")) + preset(5, QByteArray(40, 'x')) +
+         preset(10, "") + "flash 2f10 02; start",
+     "of Layout:; leaves PresetInUse=2 Preset1+ Preset1=Saved Preset1/Tag=Evening Preset1" + icon +
+         "sceneunused.png Preset2=Blank Preset2/Tag=Preset2 Preset3=Used Preset3/Tag=" + meetingRoom +
+         " Preset3" + icon + "sceneused.png Preset5=Saved Preset5/Tag=" + QString(19, 'x') +
+         " Preset10=Saved Preset10/Tag=Preset10"},
     // Three tries for the first block.
     {"unreadable block keeps what was read", "flash 209f 21; start; fault 3",
      "flash 209f 2c; flash 2f10 07; start", "of Layout:; leaves Audio_Volume=33 PresetInUse=7"},
@@ -55,42 +73,6 @@ class TestSnapshot : public CaseTest
     CaseLines lines() const override { return table; }
 
 private slots:
-    void presets()
-    {
-        auto preset = [this](int number, const QByteArray &name) {
-            const int record = 0x3000 + 0x1200 * number;
-            put(record + 10, 168, 1);
-            m_rig->writeFlash(record + 512, name);
-        };
-        preset(0, "Evening show");
-        preset(2, QTextCodec::codecForName("GB2312")->fromUnicode(QString::fromUtf8("会议室")));
-        preset(9, QByteArray());
-        preset(4, QByteArray(40, 'x'));
-        put(0x2F10, 2, 1);
-        m_rig->store->UpdataItemEnable(MENU_Preset1, false); // its copy was never ended
-        start();
-        QVERIFY(m_rig->enabled(MENU_Preset1));
-        const QString used = ":/resource/image/sceneSetting/sceneused.png";
-        const QString unused = ":/resource/image/sceneSetting/sceneunused.png";
-        const struct {
-            int number;
-            QString tag, value, icon;
-        } rows[] = {
-            {0, "Evening show", "Saved", unused},
-            {1, "Preset2", "Blank", unused},
-            {2, QString::fromUtf8("会议室"), "Used", used},
-            {4, QString(19, 'x'), "Saved", unused},
-            {9, "Preset10", "Saved", unused},
-        };
-        for (const auto &row : rows) {
-            const ST_ItemInfo item = m_rig->info(ENUM_MenuIndex(MENU_Preset1 + row.number));
-            QCOMPARE(item.tag, row.tag);
-            QCOMPARE(item.value, row.value);
-            QCOMPARE(item.icon, row.icon);
-        }
-        QCOMPARE(m_rig->value(PARA_PresetInUse), QString("2"));
-    }
-
     /// Presets, address and name are read from the flash anew: of one that ends too early they stay as they
     /// are.
     void cutImageTakesNothingAway()
