@@ -78,25 +78,6 @@ private slots:
     }
     void cleanupTestCase() { m_server.reset(); }
 
-    void packagesAreAttributes()
-    {
-        HttpPackage made;
-        QVERIFY(!made.value("base", "uri").isValid() && made.isEmpty());
-        made.addParameters("a", "1");
-        made.setParameters({{"b", "2"}});
-        made.addRequestHeader("a", "1");
-        made.addRequestHeader("a", "2");
-        QCOMPARE(made.parameters(), (QMap<QString, QString>{{"a", "1"}, {"b", "2"}}));
-        QCOMPARE(made.requestHeader(), (QMap<QString, QString>{{"a", "2"}}));
-        HttpPackage copy = made;
-        Parameters parts;
-        parts.body.insert("text", "x");
-        copy.setMultiPartParameters(parts);
-        QVERIFY(copy == made);
-        copy.setUrl("/x");
-        QVERIFY(!(copy == made));
-    }
-
     void urls_data()
     {
         const DataRows<QString, Texts, Texts, QString> row{"url", "parameters", "holders", "composed"};

@@ -198,48 +198,6 @@ private slots:
         QCOMPARE(bench.protocol.matchRequest(13), 0);
     }
 
-    void productionTestSeesSockets()
-    {
-        Bench bench(controller);
-        QList<QPair<int, int>> passed;
-        connect(&bench.protocol, &Proto3rd::signal_update_menuitem,
-                [&](en_inout_test_index index, en_item_state state) {
-                    passed += {index, state};
-                });
-        setCables(0, 0);
-        bench.protocol.initialize();
-        ProductionTest::m_cur_step = FACTORY_STEP_KEYS;
-        setCables(1, 0);
-        QVERIFY(QTest::qWaitFor([&] { return bench.home.count() == 1; }, 3000));
-        QCOMPARE(passed.size(), 0);
-        // What is in before the step begins counts as well as what comes; what goes out takes nothing back.
-        ProductionTest::m_cur_step = FACTORY_STEP_IN_OUT;
-        QVERIFY(QTest::qWaitFor([&] { return passed.contains({INOUT_USB_IN, ITEM_PASSED}); }, 3000));
-        QVERIFY(!passed.contains({INOUT_ETHERNET, ITEM_PASSED}));
-        setCables(0, 1);
-        QVERIFY(QTest::qWaitFor([&] { return passed.contains({INOUT_ETHERNET, ITEM_PASSED}); }, 3000));
-        ProductionTest::m_cur_step = FACTORY_STEP_NONE;
-        QVERIFY(std::all_of(passed.cbegin(), passed.cend(),
-                            [](auto cell) { return cell.second == ITEM_PASSED; }));
-    }
-
-    void cabinetList()
-    {
-        const QString file = board::filePath("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName");
-        QDir().mkpath(QFileInfo(file).path());
-        QFile index(file);
-        QVERIFY(index.open(QIODevice::WriteOnly));
-        index.write(QByteArray("A\0", 2).leftJustified(64, '\0') + QByteArray(64, '\0'));
-        index.close();
-        Proto3rd protocol(ENUM_PROTOCOINTERFER_3RD);
-        QString value;
-        QCOMPARE(protocol.GetValueByIndexSYN(MENU_LoadCabFiles, &value), 1);
-        QCOMPARE(value, QString("A"));
-        QCOMPARE(protocol.GetValueByIndexSYN(MENU_ScreenBrightness, &value), 1);
-        QCOMPARE(value, QString("A"));
-        index.remove();
-    }
-
     void snapshotObjectNeedsEngine()
     {
         ProtoMemory20M memory(ENUM_PROTOMEMORY_20M);

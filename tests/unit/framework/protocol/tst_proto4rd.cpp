@@ -1,11 +1,15 @@
 // What an item's change is as a request to the device service, to the byte, and what comes of the list of
 // cabinet files.
 
+#include "framework/communication/http/protocol4rdmsg.h"
+#include "framework/communication/http/requestbody.h"
 #include "framework/engine/paraprocess.h"
+#include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto4rd.h"
+#include "framework/resourcemanager/allurlresource.h"
 #include "framework/store/menuanalysis.h"
+#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
-#include "tests/unit/framework/protocol/restclient.h"
 
 #include <thread>
 
@@ -19,6 +23,53 @@ void keepLog(QtMsgType, const QMessageLogContext &, const QString &text)
     logged += text;
 }
 
+/// Notes requests as "VERB PATH BODY"; the test ends them.
+class RestClient : public CommunicationClientInterface
+{
+public:
+    RestClient() : CommunicationClientInterface(ENUM_COMMUNICATION_HTTP) {}
+    int BuildHandshake(const VaskObject *, QMap<QString, QString>) override { return 0; }
+    int SendMsg(void *given) override
+    {
+        const auto &message = *static_cast<ST_Protocol4rdMsg *>(given);
+        static const QList<int> puts{METHOD_Put, METHOD_PutId}, posts{METHOD_Post, METHOD_PostId},
+            putLists{METHOD_PutList, METHOD_PutIdList}, postLists{METHOD_PostList, METHOD_PostIdList};
+        const bool isList = (putLists + postLists).contains(message.type);
+        const QString verb = message.type == METHOD_GetTree               ? "GET"
+                             : (puts + putLists).contains(message.type)   ? "PUT"
+                             : (posts + postLists).contains(message.type) ? "POST"
+                                                                          : "?";
+        const std::string body =
+            isList ? Action::bodyText(message.parameterList) : Action::bodyText(message.parameters);
+        QString path =
+            AllUrlResource::getInstance()->getMapAllUrl().value(QString::fromStdString(message.key));
+        path.replace("{id}", QString::number(message.id)).remove("/api/v1/device/");
+        requests += verb + ' ' + path + ' ' + QString::fromStdString(body);
+        messages.append(message);
+        return 1;
+    }
+    /// All requests since the last take, joined.
+    QString take()
+    {
+        QString text = requests.join('|');
+        requests.clear();
+        return text;
+    }
+    QStringList requests;
+    QList<ST_Protocol4rdMsg> messages;
+};
+
+/// The request of a pattern, "MODE:RGB:WIDTH", on a screen with that gray, a spacing of 40 and a speed of 5.
+QString pattern(const QString &shown, int gray = 65)
+{
+    const QStringList words = shown.split(':');
+    const auto part = [&words](int i) { return QString(words[1][i] == '1' ? "255" : "0"); };
+    return QString(
+               R"(PUT screens/255/txtestpattern {"blue":%4,"gray":%6,"green":%3,"lineWidth":%5,"modeType":%1,)"
+               R"("moveDirection":0,"moveSpeed":5,"red":%2,"spaceValue":40})")
+        .arg(words[0], part(0), part(1), part(2), words[2])
+        .arg(gray);
+}
 } // namespace
 
 class TestProto4rd : public QObject
@@ -36,21 +87,11 @@ private slots:
         m_protocol = new Proto4rd(ENUM_PROTOCOINTERFER_4RD);
         pool->InsertData(ENUM_PROTOCOINTERFER_4RD, m_protocol);
         QCOMPARE(m_protocol->initialize(), 1);
-        for (const auto &[item, value] :
-             std::initializer_list<std::pair<int, const char *>>{{MENU_Quick_CabinetRow, "2"},
-                                                                 {MENU_Quick_CabinetCol, "3"},
-                                                                 {MENU_Quick_PortOneCab, "6"},
-                                                                 {MENU_Quick_FlowWay, "x"},
-                                                                 {MENU_Color_R, "10"},
-                                                                 {MENU_Color_G, "20"},
-                                                                 {MENU_Color_B, "30"},
-                                                                 {MENU_Test_PureColor, "1"},
-                                                                 {MENU_Test_Gradient, "4"},
-                                                                 {MENU_Test_Grid, "5"},
-                                                                 {MENU_Test_Brightness, "2"},
-                                                                 {MENU_Test_Spacing, "40"},
-                                                                 {MENU_Test_Speed, "5"}})
-            set(item, value);
+        const QString values =
+            "Quick_{CabinetRow=2 CabinetCol=3 PortOneCab=6 FlowWay=x} Color_{R=10 G=20 B=30} "
+            "Test_{PureColor=1 Gradient=4 Grid=5 Brightness=2 Spacing=40 Speed=5}";
+        for (const QString &line : itemnames::expanded(values).split(' '))
+            set(itemnames::item(line.section('=', 0, 0)), line.section('=', 1));
         for (int port = 0; port < 10; ++port)
             for (int field = 0; field < 5; ++field)
                 set(MENU_AdvancedPort1_Rows + 5 * port + field, QString::number(100 * port + field));
@@ -65,81 +106,55 @@ private slots:
 
     void items_data()
     {
-        QTest::addColumn<int>("item");
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("request");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("failure");
-        const auto row = [](int item, const QString &value, const QString &request, const char *failure = "",
-                            int result = 1) {
-            QTest::addRow("%d=%s", item, qPrintable(value))
-                << item << value << request << result << QString(failure);
-        };
-        const char *bright = "http return : brightness set faild error";
-        const char *solid = "http return : ScreenSolid set faild error";
-        const char *mode = "http return : SCREEN Mode faild error";
-        const char *quick = "http return : quick screen set faild error";
-        row(MENU_ScreenBrightness, "100", R"(PUT cabinets/16777215/brightness {"value":255})", bright);
-        row(MENU_ScreenBrightness, "50", R"(PUT cabinets/16777215/brightness {"value":127})", bright);
-        row(MENU_ScreenBrightness, "0", R"(PUT cabinets/16777215/brightness {"value":0})", bright);
-        row(MENU_ScreenBrightness, "x", R"(PUT cabinets/16777215/brightness {"value":0})", bright);
-        row(MENU_SavetoRVCard, "", R"(PUT cabinets/16777215/solid {"type":0})", solid);
-        row(MENU_Normal, "1", R"(PUT screens/255/displaymode {"value":0})", mode);
-        row(MENU_Freeze, "1", R"(PUT screens/255/displaymode {"value":2})", mode);
-        row(MENU_FTB, "1", R"(PUT screens/255/displaymode {"value":1})", mode);
-        row(MENU_LowLatency, "1", R"(PUT screens/255/lowlatency {"enable":true})",
-            "http return : low delay set faild error");
-        row(MENU_LowLatency, "0", R"(PUT screens/255/lowlatency {"enable":false})",
-            "http return : low delay set faild error");
-        for (int item = MENU_Quick_CabinetRow; item <= MENU_Quick_FlowWay; ++item)
-            row(item, "9",
+        addColumns<QString, QString, QString, int>({"change", "request", "failure", "result"});
+        const auto row = [](const QString &change, const QString &request, const QString &failure = {},
+                            int result = 1) { addRow(change, change, request, failure, result); };
+        const QString cabinets = "PUT cabinets/16777215/", screens = "PUT screens/255/";
+        const QString solid = "ScreenSolid set", mode = "SCREEN Mode", bright = "brightness set";
+        row("ScreenBrightness=50", cabinets + R"(brightness {"value":127})", bright);
+        row("ScreenBrightness=x", cabinets + R"(brightness {"value":0})", bright);
+        row("SavetoRVCard=", cabinets + R"(solid {"type":0})", solid);
+        row("Normal=1", screens + R"(displaymode {"value":0})", mode);
+        row("Freeze=1", screens + R"(displaymode {"value":2})", mode);
+        row("FTB=1", screens + R"(displaymode {"value":1})", mode);
+        row("LowLatency=1", screens + R"(lowlatency {"enable":true})", "low delay set");
+        for (const char *item : {"CabinetRow", "CabinetCol", "PortOneCab", "FlowWay"})
+            row(QString("Quick_%1=9").arg(item),
                 R"(PUT screens/autoconfiguration/base {"LayoutType":0,"colCount":3,"port1CabinetCount":6,"rowCount":2})",
-                quick);
-        row(MENU_CabinetFile1, "1+file+x", R"(PUT cabinets/16777215/sendcfgfile {"fileName":"1+file+x"})",
-            bright);
-        row(MENU_CabinetFile8, "file", R"(PUT cabinets/16777215/sendcfgfile {"fileName":"file"})", bright);
-        row(MENU_Mapping, "1", R"(PUT cabinets/16777215/mapping {"enable":true})",
-            "http return : Mapping set faild error");
-        for (const char *sent : {"2.25 2.3", "2.86 2.9", "2.85 2.8", "1.0 1.0"}) {
-            const QStringList values = QString(sent).split(' ');
-            row(MENU_Color_Gamma, values[0],
-                R"(PUT cabinets/16777215/gamma {"type":3,"value":)" + values[1] + '}', solid);
+                "quick screen set");
+        row("CabinetFile1=1+file+x", cabinets + R"(sendcfgfile {"fileName":"1+file+x"})", bright);
+        row("CabinetFile8=file", cabinets + R"(sendcfgfile {"fileName":"file"})", bright);
+        row("Mapping=1", cabinets + R"(mapping {"enable":true})", "Mapping set");
+        for (const QString sent : {"2.25 2.3", "2.86 2.9", "2.85 2.8", "1.0 1.0"})
+            row("Color_Gamma=" + sent.section(' ', 0, 0),
+                cabinets + R"(gamma {"type":3,"value":)" + sent.section(' ', 1) + '}', solid);
+        for (const char *channel : {"R", "G", "B"})
+            row(QString("Color_%1=99").arg(channel), cabinets + R"(rgbbrightness {"b":30,"g":20,"r":10})",
+                "SCREEN color");
+        for (const char *silent :
+             {"ScreenSetting", "LoadCabFiles", "FTBDuration", "AdvancedCfg", "LEDScreenColor",
+              "Test_VaskImage", "Advanced_Reset", "Color_ColorTemp", "Color_Reset"})
+            row(silent + QString("=1"), "");
+        // Mode, colour and the width of the lines, by the values of the item.
+        const QString patterns[] = {
+            "PureColor pure 1:000:0 1:100:0 1:010:0 1:001:0 1:111:0 11:111:1 12:111:1 10:111:1",
+            "Gradient grad 3:100:0 3:010:0 3:001:0 3:111:0 2:100:0 2:010:0 2:001:0 2:111:0",
+            "Grid grid 5:111:1 4:111:1 7:111:1 8:111:1 6:111:1 9:111:1"};
+        for (const QString &family : patterns) {
+            const QStringList words = family.split(' ');
+            for (int value = 0; value < words.size() - 2; ++value)
+                row(QString("Test_%1=%2").arg(words[0]).arg(value), pattern(words[value + 2]),
+                    "Test " + words[1]);
         }
-        for (int item = MENU_Color_R; item <= MENU_Color_B; ++item)
-            row(item, "99", R"(PUT cabinets/16777215/rgbbrightness {"b":30,"g":20,"r":10})",
-                "http return : SCREEN color faild error");
-        for (int item :
-             {MENU_ScreenSetting, MENU_LoadCabFiles, MENU_FTBDuration, MENU_AdvancedCfg, MENU_LEDScreenColor,
-              MENU_Test_VaskImage, MENU_Advanced_Reset, MENU_Color_ColorTemp, MENU_Color_Reset})
-            row(item, "1", "");
-
-        const char *pure = "http return : Test pure faild error";
-        const char *grad = "http return : Test grad faild error";
-        const char *grid = "http return : Test grid faild error";
-        const QString colours[] = {pattern(1, 0, 0, 0, 0),        pattern(1, 255, 0, 0, 0),
-                                   pattern(1, 0, 255, 0, 0),      pattern(1, 0, 0, 255, 0),
-                                   pattern(1, 255, 255, 255, 0),  pattern(11, 255, 255, 255, 1),
-                                   pattern(12, 255, 255, 255, 1), pattern(10, 255, 255, 255, 1)};
-        const QString gradients[] = {pattern(3, 255, 0, 0, 0), pattern(3, 0, 255, 0, 0),
-                                     pattern(3, 0, 0, 255, 0), pattern(3, 255, 255, 255, 0),
-                                     pattern(2, 255, 0, 0, 0), pattern(2, 0, 255, 0, 0),
-                                     pattern(2, 0, 0, 255, 0), pattern(2, 255, 255, 255, 0)};
-        for (int i = 0; i < 8; ++i) {
-            row(MENU_Test_PureColor, QString::number(i), colours[i], pure);
-            row(MENU_Test_Gradient, QString::number(i), gradients[i], grad);
-        }
-        const int gridModes[] = {5, 4, 7, 8, 6, 9};
-        for (int i = 0; i < 6; ++i)
-            row(MENU_Test_Grid, QString::number(i), pattern(gridModes[i], 255, 255, 255, 1), grid);
-        for (const char *beyond : {"2326 8", "2327 8", "2328 6", "2326 -1"})
-            row(QString(beyond).section(' ', 0, 0).toInt(), QString(beyond).section(' ', 1), "", "", 0);
+        for (const char *beyond : {"Test_PureColor=8", "Test_Gradient=8", "Test_Grid=6", "Test_PureColor=-1"})
+            row(beyond, "", "", 0);
     }
     void items()
     {
-        QFETCH(int, item);
-        QFETCH(QString, value);
-        QFETCH(QString, request);
-        QTEST(m_protocol->HandleMenuValueChanged(ENUM_MenuIndex(item), value), "result");
+        const auto [change, request, failure] =
+            fetched<QString, QString, QString>({"change", "request", "failure"});
+        const ENUM_MenuIndex item = itemnames::item(change.section('=', 0, 0));
+        QTEST(m_protocol->HandleMenuValueChanged(item, change.section('=', 1)), "result");
         QCOMPARE(m_client->take(), request);
         if (request.isEmpty()) {
             const bool isPattern = item >= MENU_Test_PureColor && item <= MENU_Test_Grid;
@@ -149,15 +164,13 @@ private slots:
         logged.clear();
         const ST_Protocol4rdMsg &message = m_client->messages.last();
         message.onFailure();
-        QFETCH(QString, failure);
-        QCOMPARE(logged, QStringList{failure});
+        QCOMPARE(logged, QStringList{"http return : " + failure + " faild error"});
         if (message.type == METHOD_PutId)
             message.onIdSuccess({}, message.id, message.key);
         else
             message.onSuccess({}, message.key);
         QVERIFY(logged.last().startsWith("succeed, index:"));
     }
-
     void allPortsAtOnce()
     {
         QCOMPARE(m_protocol->HandleMenuValueChanged(MENU_Advanced_Apply, "1"), 1);
@@ -176,20 +189,16 @@ private slots:
 
     void thePatternOnShowGoesOutAgain_data()
     {
-        QTest::addColumn<QString>("family");
-        QTest::addColumn<QString>("request");
-        QTest::newRow("colour") << "0" << pattern(1, 255, 0, 0, 0);
-        QTest::newRow("gradient") << "1" << pattern(2, 255, 0, 0, 0);
-        QTest::newRow("grid") << "2" << pattern(9, 255, 255, 255, 1);
-        QTest::newRow("picture") << "3"
-                                 << "";
-        QTest::newRow("none") << "255"
-                              << "";
+        const DataRows<QString, QString> row{"family", "request"};
+        row("colour", "0", pattern("1:100:0"));
+        row("gradient", "1", pattern("2:100:0"));
+        row("grid", "2", pattern("9:111:1"));
+        row("picture", "3", "");
+        row("none", "255", "");
     }
     void thePatternOnShowGoesOutAgain()
     {
-        QFETCH(QString, family);
-        QFETCH(QString, request);
+        const auto [family, request] = fetched<QString, QString>({"family", "request"});
         engine()->SaveProcessData(family, PARA_TestPatternFamily);
         for (int item = MENU_Test_Brightness; item <= MENU_Test_Speed; ++item) {
             QCOMPARE(m_protocol->HandleMenuValueChanged(ENUM_MenuIndex(item), "9"),
@@ -206,7 +215,7 @@ private slots:
         for (int level = 1; level <= 4; ++level) {
             set(MENU_Test_Brightness, QString::number(level));
             m_protocol->HandleMenuValueChanged(MENU_Test_PureColor, "1");
-            QCOMPARE(m_client->take(), pattern(1, 255, 0, 0, 0, grays[level - 1]));
+            QCOMPARE(m_client->take(), pattern("1:100:0", grays[level - 1]));
         }
     }
 
