@@ -92,21 +92,6 @@ private slots:
         QCOMPARE(places.doubled(), QString());
     }
 
-    /// Registers may begin at one address; those that also end together are one.
-    void registersStandOnce()
-    {
-        static const QRegularExpression row("FPD_(WRITE|READ)\\w*\\((\\w+), ([^)]*)\\)");
-        Places<QString> places;
-        auto found = row.globalMatch(source("framework/protocol/packet/registercatalogue.def"));
-        while (found.hasNext()) {
-            const QRegularExpressionMatch match = found.next();
-            if (match.captured(3).startsWith("0x"))
-                places.take(match.captured(1) + ' ' + match.captured(3), match.captured(2));
-        }
-        QVERIFY(!places.isEmpty());
-        QCOMPARE(places.doubled(), QString());
-    }
-
     /// A register's number stands in the catalogue or, with a name of its own, beside it, and nowhere else.
     void registersStandInTheCatalogue()
     {

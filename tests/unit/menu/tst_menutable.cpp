@@ -1,10 +1,12 @@
 // The menu as data: what the builder, the store and the rows rely on.
 
+#include "framework/store/menushown.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
+#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 
 #include <QSet>
@@ -13,22 +15,9 @@ using namespace VASK;
 
 namespace
 {
-const QList<ENUM_ConfigIndex> roots{CONFIG_MainMenu, CONFIG_UserHiddenMenu, CONFIG_ProductHiddenMenu};
-
 bool hasOptions(ENUM_ControlType type)
 {
     return type == TYPE_STRINGCOMBOX || type == TYPE_ICOCOMBOX;
-}
-
-/// All pages that the builder makes from the roots.
-QList<ENUM_ConfigIndex> builtPages()
-{
-    QList<ENUM_ConfigIndex> pages = roots;
-    for (int i = 0; i < pages.size(); ++i)
-        for (const st_MenuItemInfo &row : g_config[pages[i]].rowsMap)
-            if (row.controlType == TYPE_SUBPAGE)
-                pages << row.subPage;
-    return pages;
 }
 } // namespace
 
@@ -43,7 +32,7 @@ private slots:
             QVERIFY2(!page.title.isEmpty() && !page.styleSheet.isEmpty(), qPrintable(page.title));
             QVERIFY2(page.rows <= page.rowsMap.size(), qPrintable(page.title));
             for (const st_MenuItemInfo &row : page.rowsMap) {
-                QVERIFY2(g_MenuXmlConfig.contains(row.menuIndex), qPrintable(QString::number(row.menuIndex)));
+                QVERIFY2(g_MenuXmlConfig.contains(row.menuIndex), qPrintable(itemnames::name(row.menuIndex)));
                 const bool opens = row.controlType == TYPE_SUBPAGE;
                 QCOMPARE(row.subPage != CONFIG_END, opens);
                 if (row.menuIndex == MENU_SavetoRVCard)
@@ -86,7 +75,7 @@ private slots:
         for (const ST_MenuConfig &page : g_config)
             for (const st_MenuItemInfo &row : page.rowsMap) {
                 const ST_ItemInfo &item = g_MenuXmlConfig[row.menuIndex];
-                const QByteArray name = QByteArray::number(item.index);
+                const QByteArray name = itemnames::name(item.index).toUtf8();
                 QCOMPARE(item.index, row.menuIndex);
                 if (row.controlType == TYPE_INTADJUST || row.controlType == TYPE_FLOATADJUST) {
                     QVERIFY2(item.step.toDouble() > 0, name);

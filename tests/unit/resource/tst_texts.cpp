@@ -6,6 +6,7 @@
 #include "menu/menutypes.h"
 #include "menuconfig_k2860.h"
 #include "tests/testprogram.h"
+#include "tests/unit/rig/lookrig.h"
 
 #include <QDirIterator>
 #include <QTemporaryDir>
@@ -18,12 +19,6 @@ using namespace VASK;
 namespace
 {
 using Texts = QMap<QString, QString>;
-
-struct Language {
-    const char *name;
-    const char *file;
-};
-constexpr Language languages[] = {{"English", "fpd_EN"}, {"Chinese", "fpd_ZH"}};
 
 /// Texts that no row and no message of the table holds.
 constexpr const char *elsewhere[] = {"Yes",       "No",       "Check",  "Locked",          "Unlocked",
@@ -42,7 +37,8 @@ bool isLiteral(const QString &text)
 
 QString translationFile(const Language &language, const char *suffix)
 {
-    return QCoreApplication::applicationDirPath() + "/../translation/" + language.file + suffix;
+    return QCoreApplication::applicationDirPath() + "/../translation/" +
+           QString(language.file).replace(".qm", suffix);
 }
 
 /// The texts as they went into the compiler.
@@ -160,9 +156,8 @@ private slots:
     void everyKeyHasAText_data() { eachLanguage(); }
     void everyKeyHasAText()
     {
-        QFETCH(int, number);
         QTranslator translator;
-        QVERIFY(translator.load(translationFile(languages[number], ".qm")));
+        QVERIFY(translator.load(translationFile(languageOfRow(), ".qm")));
         const QSet<QString> keys = allKeys();
         QStringList without;
         for (const QString &key : qAsConst(keys))
@@ -174,9 +169,8 @@ private slots:
     void noTextIsLeftOver_data() { eachLanguage(); }
     void noTextIsLeftOver()
     {
-        QFETCH(int, number);
         const QSet<QString> keys = allKeys();
-        const QStringList written = readTexts(languages[number]).keys();
+        const QStringList written = readTexts(languageOfRow()).keys();
         QVERIFY(!written.isEmpty());
         const QStringList leftOver = (QSet<QString>(written.begin(), written.end()) - keys).values();
         QVERIFY2(leftOver.isEmpty(), qPrintable(leftOver.join(", ")));
@@ -255,14 +249,6 @@ private slots:
         QVERIFY(!texts.loadFile(name));
         QVERIFY(huge.resize(0));
         QVERIFY(!texts.loadFile(name));
-    }
-
-private:
-    static void eachLanguage()
-    {
-        QTest::addColumn<int>("number");
-        for (int number = 0; number < 2; ++number)
-            QTest::newRow(languages[number].name) << number;
     }
 };
 

@@ -161,8 +161,7 @@ private slots:
         QVERIFY(!runningTimers());
     }
 
-    /// The device is set up for a known picture, and its report moves neither cursor nor scroll bar of an
-    /// open list.
+    /// The device is set up for a known picture.
     void knownPicture()
     {
         m_test->InitDisp(FACTORY_STEP_IN_OUT);
@@ -195,27 +194,6 @@ private slots:
         QVERIFY(rows >= 30);
         QCOMPARE(list->count(), rows);
         QCOMPARE(cutTexts(window), QStringList());
-
-        // The knob stops at both ends; a report moves neither cursor nor scroll bar.
-        const auto turn = [&](unsigned char key, int steps) {
-            for (; steps > 0; --steps) {
-                KeypadEvent event(KEY_PRESSED, key, 3, false);
-                QCoreApplication::sendEvent(&window, &event);
-            }
-        };
-        turn(KEY_KNOB_LEFT, 2);
-        QCOMPARE(list->currentRow(), 0);
-        turn(KEY_KNOB_RIGHT, 40);
-        QCOMPARE(list->currentRow(), rows - 1);
-        turn(KEY_KNOB_LEFT, rows - 21);
-        const int scrolled = list->verticalScrollBar()->value();
-        SelfCheckList::setResult(20, "1.4.3", "error");
-        SelfCheckList::setResult(rows + 1, "a row more", "error");
-        emit m_rig->engine->signal_selfcheck_filled();
-        QCOMPARE(list->count(), rows + 1);
-        QCOMPARE(list->currentRow(), 20);
-        QCOMPARE(list->verticalScrollBar()->value(), scrolled);
-        QVERIFY(list->itemWidget(list->item(20))->findChildren<QLabel *>().last()->text() == "1.4.3");
     }
 
 private:

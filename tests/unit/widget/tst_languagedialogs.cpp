@@ -100,9 +100,7 @@ private slots:
 
     void itDoesNotAskWhen_data()
     {
-        QTest::addColumn<QString>("situation");
-        for (const char *situation : {"locked", "taken over", "behind a message", "behind a page"})
-            QTest::newRow(situation) << QString(situation);
+        addNames("situation", {"locked", "taken over", "behind a message", "behind a page"});
     }
     void itDoesNotAskWhen()
     {

@@ -162,43 +162,6 @@ private slots:
         QVERIFY(!m_rig->home->isTakenOver());
     }
 
-    /// What is open goes, all of it, whatever a message from the device has put over it.
-    void aTakeOverEndsAllThatIsOpen_data()
-    {
-        // calls: of the row after the take-over
-        const DataRows<int, int, QStringList> row{"page", "row", "calls"};
-        row("an open list", ENUM_PAGE_PIP1, 0, {QString("EscList %1").arg(MENU_PIP1_Status)});
-        row("an edited number", ENUM_PAGE_PIP1, 3, {QString("Esc %1 1").arg(MENU_PIP1_HorWidth)});
-        row("the brightness", ENUM_MAIN_MENU, 0, {QString("Esc %1 1").arg(MENU_ScreenBrightness)});
-        row("a question", ENUM_PAGE_FactoryReset, 0, {});
-        row("the choice of the language", ENUM_MAIN_WINDOW, 0, {});
-    }
-    void aTakeOverEndsAllThatIsOpen()
-    {
-        const auto [page, row] = fetched<int, int>({"page", "row"});
-        const bool atHome = page == ENUM_MAIN_WINDOW;
-        m_rig->answering = false;
-        // What stays open is answered in the end, to be seen in what it does.
-        QTimer::singleShot(1000, m_rig->home, [this] { m_rig->answering = true; });
-        QTimer::singleShot(0, m_rig->home, [this] {
-            notes().clear();
-            m_rig->home->slot_update(0, 0);
-            m_rig->home->slot_ReturnToMainSoft(false);
-        });
-        MenuDirectory *open = nullptr;
-        if (!atHome) {
-            open = PageRig::open(ENUM_ObjectIndex(page), m_rig->home);
-            open->setCurrentRow(row);
-        }
-        atHome ? m_rig->hold(KEY_OK) : m_rig->press(KEY_OK);
-        QTRY_VERIFY(m_rig->home->isLocked());
-        QCOMPARE(m_rig->messages, QStringList());
-        QVERIFY(!QApplication::activeModalWidget());
-        QCOMPARE(m_rig->shown(), m_rig->home);
-        QVERIFY(!open || !open->isEditing());
-        QTEST(notes(), "calls");
-    }
-
     void aLockOfTheUsersOwnSurvivesATakeOversEnd()
     {
         m_rig->hold(KEY_LOCK);

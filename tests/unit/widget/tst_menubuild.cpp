@@ -68,20 +68,6 @@ private slots:
         QCOMPARE(m_rig->shown(), page);
     }
 
-    void aFastKnobKeepsUp()
-    {
-        MenuDirectory *page = PageRig::open(ENUM_PAGE_MainLayer, m_rig->home);
-        QElapsedTimer time;
-        time.start();
-        constexpr int steps = 50;
-        for (int i = 0; i < steps; ++i) {
-            m_rig->turn(i / 9 % 2 ? -1 : 1);
-            page->repaint();
-        }
-        // Fifty steps a second with a wide reserve for the board.
-        QVERIFY2(time.elapsed() < 250, qPrintable(QString::number(time.elapsed())));
-    }
-
 private:
     std::unique_ptr<PageRig> m_rig;
 };

@@ -107,18 +107,6 @@ private slots:
         QCOMPARE(notes(), (QStringList{on, off, on, off, on}));
     }
 
-    void onlyFilesThatAreThereAreReached()
-    {
-        MenuDirectory *files = PageRig::open(ENUM_PAGE_LoadCabFiles, m_rig->home);
-        showCabinetFiles(*files, {"a", "b", "c"});
-        for (int i = 0; i < 5; ++i)
-            m_rig->turn(1);
-        QCOMPARE(files->currentRow(), 2);
-        files->setRowCount(MenuDirectory::fileRowCount);
-        m_rig->turn(8);
-        QCOMPARE(files->currentRow(), 2);
-    }
-
     void rowsThatDoNotAnswer()
     {
         MenuDirectory *page = PageRig::open(ENUM_PAGE_HDMI1_Attributes, m_rig->home);

@@ -71,80 +71,45 @@ private slots:
         QCOMPARE(sent, 1);
     }
 
-    void sameStateIsSentOnce()
+    /// Steps as play() takes them, behind an x how often the driver was told, behind a = the LEDs that are
+    /// lit.
+    void stories_data()
     {
+        const DataRows<QString> row{"story"};
+        row("the same state is sent once", "6- x1; 6- x0; 6~ x1; 6+ x0; 6? x1; 6+ x1; 6~ x0; tick x1; 6~ x1; "
+                                           "fail; 6- x1; 6- x1; well; 6- x1; 6- x0");
+        row("LEDs that do not exist", "16+ 255! 40^ x0 =; 2+ = 2");
+        row("in step and nothing else", "tick x0; 1+ 3~ tick 9~; tick x1 = 1; tick x1 = 1 3 9; tick x1 = 1; "
+                                        "tick x1 = 1 3 9; 3- 9+ tick tick = 1 9");
+        row("a flash is not remembered", "4~ 5! 4? = 5; fiber video = 4");
+        row("a fiber keeps them for later",
+            "0+ 1~ 2+ fiber =; 2- 14+ tick fiber =; video = 0 1 14; video x0; "
+            "14- = 0 1");
+        row("the factory test has them to itself", "0+ test =; 1+ =; 7^ = 7; test =; fiber video = 0 1");
+    }
+    void stories()
+    {
+        QFETCH(QString, story);
         Panel panel;
-        const auto sends = [&panel](enLedStatus state) {
+        static const QRegularExpression part("^(.*?)(?: x(\\d+))?(?: =(.*))?$");
+        for (const QString &text : story.split("; ")) {
+            const QRegularExpressionMatch step = part.match(text);
             const int before = panel.blocks.size();
-            panel.leds.set(6, state);
-            return panel.blocks.size() - before;
-        };
-        QCOMPARE(sends(LED_OFF), 1); // nobody knows how the driver starts
-        QCOMPARE(sends(LED_OFF), 0);
-        QCOMPARE(sends(LED_BLINK), 1);
-        QCOMPARE(sends(LED_ON), 0);
-        panel.leds.flash(6, LED_OFF);
-        QCOMPARE(sends(LED_ON), 1);
-        QCOMPARE(sends(LED_BLINK), 0);
-        panel.leds.blink(); // dark by now
-        QCOMPARE(sends(LED_BLINK), 1);
-        panel.result = 1;
-        QCOMPARE(sends(LED_OFF), 1);
-        QCOMPARE(sends(LED_OFF), 1); // the driver did not take it
-        panel.result = 0;
-        QCOMPARE(sends(LED_OFF), 1);
-        QCOMPARE(sends(LED_OFF), 0);
-    }
-
-    void ledsThatDoNotExist()
-    {
-        Panel panel;
-        QCOMPARE(panel.leds.set(16, LED_ON), 0);
-        QCOMPARE(panel.leds.flash(255, LED_ON), 0);
-        QCOMPARE(panel.leds.setInTest(40, LED_ON), 0);
-        panel.leds.sendBitMap(LED_ON, {{16, LED_ON}, {2, LED_ON}});
-        QCOMPARE(panel.lit, lit({2}));
-    }
-
-    void blinkingInStepAndNothingElse()
-    {
-        Panel panel;
-        panel.leds.blink();
-        QVERIFY(panel.blocks.isEmpty());
-        panel.leds.set(1, LED_ON);
-        panel.leds.set(3, LED_BLINK);
-        panel.leds.blink();
-        panel.leds.set(9, LED_BLINK);
-        for (int second = 0; second < 6; ++second) {
-            const bool first = panel.lit[3] == '1';
-            const int sent = panel.blocks.size();
-            panel.leds.blink();
-            QCOMPARE(panel.blocks.size(), sent + 1);
-            QCOMPARE(panel.lit, first ? lit({1}) : lit({1, 3, 9}));
+            for (const QString &word : step.captured(1).split(' '))
+                play(panel, word);
+            if (!step.captured(2).isEmpty())
+                QVERIFY2(panel.blocks.size() - before == step.captured(2).toInt(), qPrintable(text));
+            QList<int> leds;
+            for (const QString &led : step.captured(3).split(' ', Qt::SkipEmptyParts))
+                leds << led.toInt();
+            if (text.contains('='))
+                QVERIFY2(panel.lit == lit(leds), qPrintable(text));
         }
-        panel.leds.set(3, LED_OFF);
-        panel.leds.set(9, LED_ON);
-        panel.leds.blink();
-        panel.leds.blink();
-        QCOMPARE(panel.lit, lit({1, 9}));
     }
-
-    void aFlashIsNotRemembered()
-    {
-        Panel panel;
-        panel.leds.set(4, LED_BLINK);
-        panel.leds.flash(5, LED_ON);
-        panel.leds.flash(4, LED_OFF);
-        QCOMPARE(panel.lit, lit({5}));
-        panel.leds.giveToFiber(true);
-        panel.leds.giveToFiber(false);
-        QCOMPARE(panel.lit, lit({4}));
-    }
-
     void bitMapTakesItsStateAndBlinking()
     {
         Panel panel;
-        const QList<LedStatus> list{{0, LED_ON}, {1, LED_OFF}, {2, LED_BLINK}, {10, LED_ON}};
+        const QList<LedStatus> list{{0, LED_ON}, {1, LED_OFF}, {2, LED_BLINK}, {10, LED_ON}, {16, LED_ON}};
         panel.leds.sendBitMap(LED_ON, list);
         QCOMPARE(panel.lit, lit({0, 2, 10}));
         panel.leds.sendBitMap(LED_OFF, list);
@@ -152,44 +117,28 @@ private slots:
         QCOMPARE(panel.blocks.size(), 2);
     }
 
-    void fiberModeKeepsTheLedsForLater()
+private:
+    /// An LED on (+), off (-), blinking (~), flashed on (!) or off (?), on in the test (^); or a word.
+    static void play(Panel &panel, const QString &word)
     {
-        Panel panel;
-        panel.leds.set(0, LED_ON);
-        panel.leds.set(1, LED_BLINK);
-        panel.leds.set(2, LED_ON);
-        panel.leds.giveToFiber(true);
-        QCOMPARE(panel.lit, lit({}));
-        QCOMPARE(panel.leds.set(2, LED_OFF), 0);
-        panel.leds.set(14, LED_ON);
-        panel.leds.blink();
-        panel.leds.giveToFiber(true);
-        QCOMPARE(panel.lit, lit({}));
-        panel.leds.giveToFiber(false);
-        QCOMPARE(panel.lit, lit({0, 1, 14}));
-        const int sent = panel.blocks.size();
-        panel.leds.giveToFiber(false);
-        QCOMPARE(panel.blocks.size(), sent);
-        panel.leds.set(14, LED_OFF);
-        QCOMPARE(panel.lit, lit({0, 1}));
-    }
-
-    void theFactoryTestHasTheLedsToItself()
-    {
-        Panel panel;
-        panel.leds.set(0, LED_ON);
-        panel.leds.giveToTest();
-        QCOMPARE(panel.lit, lit({}));
-        panel.leds.set(1, LED_ON);
-        QCOMPARE(panel.lit, lit({}));
-        panel.leds.setInTest(7, LED_ON);
-        QCOMPARE(panel.lit, lit({7}));
-        panel.leds.giveToTest();
-        QCOMPARE(panel.lit, lit({}));
-        // What was remembered is the state before the test.
-        panel.leds.giveToFiber(true);
-        panel.leds.giveToFiber(false);
-        QCOMPARE(panel.lit, lit({0, 1}));
+        const auto led = static_cast<unsigned char>(word.chopped(1).toInt());
+        const QMap<QString, std::function<void()>> acts{
+            {"tick", [&] { panel.leds.blink(); }},
+            {"fiber", [&] { panel.leds.giveToFiber(true); }},
+            {"video", [&] { panel.leds.giveToFiber(false); }},
+            {"test", [&] { panel.leds.giveToTest(); }},
+            {"fail", [&] { panel.result = 1; }},
+            {"well", [&] { panel.result = 0; }},
+            {"+", [&] { panel.leds.set(led, LED_ON); }},
+            {"-", [&] { panel.leds.set(led, LED_OFF); }},
+            {"~", [&] { panel.leds.set(led, LED_BLINK); }},
+            {"!", [&] { panel.leds.flash(led, LED_ON); }},
+            {"?", [&] { panel.leds.flash(led, LED_OFF); }},
+            {"^", [&] { panel.leds.setInTest(led, LED_ON); }},
+        };
+        const auto act = acts.find(word[0].isDigit() ? word.right(1) : word);
+        QVERIFY2(act != acts.end(), qPrintable(word));
+        (*act)();
     }
 };
 

@@ -84,12 +84,7 @@ private slots:
         QVERIFY(m_rig->home->isVisible());
     }
 
-    void whereItStays_data()
-    {
-        QTest::addColumn<QString>("where");
-        for (const char *where : {"home", "presets", "dialog", "factory test", "no menu"})
-            QTest::newRow(where) << QString(where);
-    }
+    void whereItStays_data() { addNames("where", {"home", "presets", "dialog", "factory test", "no menu"}); }
     void whereItStays()
     {
         QFETCH(QString, where);
