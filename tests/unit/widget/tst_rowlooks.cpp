@@ -1,6 +1,7 @@
 // Every row of every page in both languages as the cursor comes to it, under edit with its longest values,
 // with each option of its list, with its list open, and disabled: nothing is cut off or overlaps, the cursor
-// is seen, all texts of a kind stand on one line. FPD_LOOKS=folder saves contact sheets of them to look at.
+// is seen, all texts of a kind stand on one line. FPD_LOOKS=folder saves contact sheets of them to look at,
+// and each by itself to be compared.
 
 #include "testkit/contactsheet.h"
 #include "tests/testprogram.h"
@@ -167,6 +168,7 @@ private:
         for (auto config = g_config.cbegin(); config != g_config.cend(); ++config) {
             m_page = m_rig->pageOf(config.key());
             QVERIFY(m_page);
+            m_page->ensurePolished(); // its table is made when it is needed
             m_table = m_page->findChild<QTableWidget *>();
             m_name = QString("%1 %2").arg(int(config.key()), 2, 10, QChar('0')).arg(config->title);
             m_engineMoved = true;
@@ -190,7 +192,8 @@ private:
         m_kept.clear();
         if (m_folder.isEmpty())
             return;
-        QDir().mkpath(m_folder);
+        m_single = name;
+        QDir().mkpath(m_single);
         m_strips.reset(new ContactSheet(name + "-rows", 4, 25, stripSize));
         m_pages.reset(new ContactSheet(name + "-pages", 5, 5, m_rig->home->size()));
     }
@@ -374,9 +377,13 @@ private:
             return;
         const QImage part = m_picture.copy(place);
         const QByteArray bits(reinterpret_cast<const char *>(part.constBits()), int(part.sizeInBytes()));
-        if (!m_kept.contains(bits))
-            sheet->add(part);
+        if (m_kept.contains(bits))
+            return;
         m_kept << bits;
+        sheet->add(part);
+        const QString name =
+            QString("%1 %2 %3 %4.png").arg(m_kept.size(), 4, 10, QChar('0')).arg(m_name, m_item.tag, m_state);
+        part.save(m_single + '/' + QString(name).replace('/', '_'));
     }
 
     /// Draws the page and checks the row under the cursor.
@@ -444,6 +451,7 @@ private:
     std::unique_ptr<ContactSheet> m_strips;
     std::unique_ptr<ContactSheet> m_pages;
     QSet<QByteArray> m_kept;
+    QString m_single; ///< folder of each picture by itself
     QStringList m_faults;
     MenuDirectory *m_page = nullptr;
     QTableWidget *m_table = nullptr;
