@@ -23,8 +23,9 @@ bool MenuAnalysis::initlize()
     m_path = StoreFiles::folder();
     qDebug() << "xml path:" << StoreFiles::config();
     StoreFiles::tidy();
-    if (IsEixstFile())
-        loadFiles();
+    StoreText config;
+    if (IsEixstFile(config))
+        loadFiles(config);
     else
         createFromTable();
     if (!m_updateTimer) {

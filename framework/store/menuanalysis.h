@@ -88,10 +88,12 @@ private:
     void addMenuItem(ENUM_MenuIndex index, const ST_ItemInfo &item);
     void deleteMenuItem(ENUM_MenuIndex index);
 
-    bool IsEixstFile();
+    /// Brings config.xml in order; what is found in it, if it needed no repair.
+    bool IsEixstFile(StoreText &config);
     static bool CheckXmlfileIsVaild(const QString &name, StoreText &store);
     static bool checkStore(const QString &name, StoreText &store);
-    void loadFiles();
+    void loadFiles(const StoreText &config);
+    bool loadStore(const QString &name, StoreText store);
     void createFromTable();
     void addItemsOfTable();
     void repairFactoryFile();
@@ -99,8 +101,9 @@ private:
     void addItemsOfBackup();
     void takeFilesBack();
 
-    QMap<ENUM_MenuIndex, ST_ItemInfo> itemsOf(const QDomDocument &document) const;
-    void tidyDocument();
+    void readDocument();
+    bool tidy(StoreText &store) const;
+    void tidyDocument(QDomDocument &document) const;
     void takeItems(const QMap<ENUM_MenuIndex, ST_ItemInfo> &loaded);
     bool CreateMeunFile();
     bool createXmlFile();
@@ -124,11 +127,15 @@ private:
     /// The files were out of reach at the start, and the memory holds the table: nothing is written over
     /// them.
     std::atomic<bool> m_isBlind{false};
+    /// Nobody has looked yet whether the factory copy is whole: that waits until the panel stands.
+    std::atomic<bool> m_isFactoryUnseen{false};
 
     /// Guards the document for the length of a load or a snapshot, never while the disk is waited for. Taken
     /// before m_mutex, never inside it.
     QMutex m_documentMutex;
     QDomDocument m_xmldoc;
+    /// What the document is to be made of, once something of it is to be changed; empty by then.
+    QString m_documentText;
 
     /// Guards the item map and the three lists for one access.
     mutable QMutex m_mutex;

@@ -21,9 +21,8 @@ void syncAfter(bool isCopied)
 }
 } // namespace
 
-bool MenuAnalysis::IsEixstFile()
+bool MenuAnalysis::IsEixstFile(StoreText &config)
 {
-    StoreText config;
     StoreText backup;
     if (checkStore(StoreFiles::config(), config)) {
         if (StoreFiles::contents(StoreFiles::config()) == StoreFiles::contents(StoreFiles::backup()))
@@ -35,6 +34,7 @@ bool MenuAnalysis::IsEixstFile()
             syncAfter(StoreFiles::copyConfigToBackup());
         return true;
     }
+    config = StoreText();
     if (checkStore(StoreFiles::backup(), backup)) {
         syncAfter(StoreFiles::copyBackupToConfig());
         return true;
@@ -95,7 +95,8 @@ void MenuAnalysis::createFromTable()
 /// since.
 void MenuAnalysis::takeFilesBack()
 {
-    if (!IsEixstFile()) {
+    StoreText config;
+    if (!IsEixstFile(config)) {
         m_isBlind = StoreFiles::areOutOfReach();
         return;
     }
@@ -105,16 +106,16 @@ void MenuAnalysis::takeFilesBack()
         current = m_items;
     }
     m_isBlind = false;
-    loadFiles();
+    loadFiles(config);
     for (auto item = current.begin(); item != current.end(); ++item)
         if (!(g_MenuXmlConfig.value(item.key()) == *item) && !updataMenuItem(item.key(), *item))
             AddMenuItem(item.key(), *item);
 }
 
 /// If config.xml could not be brought back, a copy counts until there is room for it.
-void MenuAnalysis::loadFiles()
+void MenuAnalysis::loadFiles(const StoreText &config)
 {
-    if (LoadXmlFile(StoreFiles::config())) {
+    if (loadStore(StoreFiles::config(), config)) {
         addItemsOfBackup();
     } else {
         qDebug() << "LoadXmlFile fail!" << StoreFiles::config();
@@ -126,7 +127,7 @@ void MenuAnalysis::loadFiles()
         QMutexLocker lock(&m_documentMutex);
         offerDocument();
     }
-    repairFactoryFile();
+    m_isFactoryUnseen = true;
     addHiddenItems();
 }
 
@@ -134,13 +135,11 @@ void MenuAnalysis::loadFiles()
 /// nothing.
 void MenuAnalysis::addItemsOfBackup()
 {
-    QDomDocument backup;
     StoreText store;
     if (StoreFiles::contents(StoreFiles::config()) == StoreFiles::contents(StoreFiles::backup()) ||
-        !checkStore(StoreFiles::backup(), store) || !backup.setContent(store.text))
+        !checkStore(StoreFiles::backup(), store) || !tidy(store))
         return;
-    const QMap<ENUM_MenuIndex, ST_ItemInfo> items = itemsOf(backup);
-    for (auto item = items.cbegin(); item != items.cend(); ++item)
+    for (auto item = store.records.cbegin(); item != store.records.cend(); ++item)
         AddMenuItem(item.key(), item.value());
 }
 
@@ -180,6 +179,7 @@ bool MenuAnalysis::CreateMeunFile()
 bool MenuAnalysis::createXmlFile()
 {
     QMutexLocker lock(&m_documentMutex);
+    m_documentText.clear();
     m_xmldoc = emptyMenuDocument();
     return !m_isBlind && saveDataToFile(StoreFiles::config());
 }
@@ -199,19 +199,24 @@ bool MenuAnalysis::saveDataToFile(const QString &name)
 
 bool MenuAnalysis::LoadXmlFile(const QString &name)
 {
+    return loadStore(name, StoreText());
+}
+
+/// With what has just been found in the file, if that is known.
+bool MenuAnalysis::loadStore(const QString &name, StoreText store)
+{
     qDebug() << "load xml:" << name;
     QByteArray bytes;
-    if (StoreFiles::read(name, bytes) != StoreFiles::READ) {
+    if (!store.isStore() && StoreFiles::read(name, bytes) != StoreFiles::READ) {
         qDebug() << "open file fail!" << name;
         return false;
     }
-    StoreText store = readStoreText(bytes);
-    QDomDocument document;
-    int line = int(store.line);
-    int column = int(store.column);
-    if (!store.isWellFormed() || !document.setContent(store.text, &store.error, &line, &column)) {
-        qDebug() << "m_xmldoc open fail!" << name << "errorStr:" << store.error << ",errorLine" << line
-                 << "errorCol" << column;
+    if (!store.isStore())
+        store = readStoreText(bytes);
+    const bool isTidy = store.isTidy;
+    if (!store.isWellFormed() || !tidy(store)) {
+        qDebug() << "m_xmldoc open fail!" << name << "errorStr:" << store.error << ",errorLine" << store.line
+                 << "errorCol" << store.column;
         return false;
     }
     if (!store.isStore()) {
@@ -220,20 +225,56 @@ bool MenuAnalysis::LoadXmlFile(const QString &name)
     }
     QMutexLocker documentLock(&m_documentMutex);
     m_files.withdraw(); // of the document before this one
-    m_xmldoc = document;
-    if (!store.isTidy) {
-        tidyDocument();
+    m_xmldoc = QDomDocument();
+    m_documentText = store.text;
+    if (!isTidy)
         offerDocument();
-    }
-    takeItems(itemsOf(m_xmldoc));
+    qDebug() << "xmlNodeList.count()" << store.elements;
+    for (const XmlComplaint &complaint : qAsConst(store.complaints))
+        qDebug() << complaint.what << complaint.text;
+    takeItems(store.records);
     return true;
+}
+
+/// A document takes its time and many times the memory of its text, and nobody needs it before something is
+/// saved. Called under the document's lock.
+void MenuAnalysis::readDocument()
+{
+    if (m_documentText.isEmpty())
+        return;
+    QString error;
+    if (!m_xmldoc.setContent(m_documentText, &error)) {
+        qDebug() << "m_xmldoc open fail!" << error;
+        m_xmldoc = emptyMenuDocument(); // the items are known, and go into a new one
+        QMutexLocker lock(&m_mutex);
+        for (auto item = m_items.cbegin(); item != m_items.cend(); ++item)
+            cacheList.insert(item.key(), item.value());
+    }
+    m_documentText.clear();
+}
+
+/// A store that is not as a save writes it becomes one that is, by its document. False if it cannot be read.
+bool MenuAnalysis::tidy(StoreText &store) const
+{
+    if (store.isTidy || !store.isStore())
+        return true;
+    QDomDocument document;
+    int line = 0, column = 0;
+    if (!document.setContent(store.text, &store.error, &line, &column)) {
+        store.line = line;
+        store.column = column;
+        return false;
+    }
+    tidyDocument(document);
+    store = readStoreText(menuDocumentText(document));
+    return store.isWellFormed();
 }
 
 /// Of several elements with one number the last counts, here and in every later save: the others go. One that
 /// stands in another would go with that at its first change.
-void MenuAnalysis::tidyDocument()
+void MenuAnalysis::tidyDocument(QDomDocument &document) const
 {
-    QDomElement root = m_xmldoc.documentElement();
+    QDomElement root = document.documentElement();
     const QDomNodeList found = root.elementsByTagName(m_elementNames[XML_ITEMS]);
     QVector<QDomElement> elements;
     for (int i = 0; i < found.count(); ++i)
@@ -250,25 +291,6 @@ void MenuAnalysis::tidyDocument()
             root.removeChild(old);
         old = element;
     }
-}
-
-QMap<ENUM_MenuIndex, ST_ItemInfo> MenuAnalysis::itemsOf(const QDomDocument &document) const
-{
-    const QDomNodeList elements = document.documentElement().elementsByTagName(m_elementNames[XML_ITEMS]);
-    const int count = elements.count();
-    qDebug() << "xmlNodeList.count()" << count;
-    QMap<ENUM_MenuIndex, ST_ItemInfo> items;
-    for (int i = 0; i < count; ++i) {
-        const QDomElement element = elements.at(i).toElement();
-        ST_ItemInfo item;
-        if (!isItemNumber(element.attribute(m_elementNames[XML_INDEX]), item.index)) {
-            qDebug() << "no item of that number:" << element.attribute(m_elementNames[XML_INDEX]);
-            continue;
-        }
-        menuItemFromXml(element, m_elementNames, item);
-        items.insert(item.index, item);
-    }
-    return items;
 }
 
 void MenuAnalysis::takeItems(const QMap<ENUM_MenuIndex, ST_ItemInfo> &loaded)

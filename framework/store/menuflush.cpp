@@ -18,14 +18,16 @@ void logTime()
 bool MenuAnalysis::hasChanges()
 {
     QMutexLocker lock(&m_mutex);
-    return m_isBlind || m_files.hasWork() || !cacheList.isEmpty() || !m_activityElementList.isEmpty() ||
-           !m_deleteItemList.isEmpty();
+    return m_isBlind || m_isFactoryUnseen || m_files.hasWork() || !cacheList.isEmpty() ||
+           !m_activityElementList.isEmpty() || !m_deleteItemList.isEmpty();
 }
 
 void MenuAnalysis::slot_updateXml()
 {
     if (m_isBlind)
         takeFilesBack();
+    if (m_isFactoryUnseen.exchange(false))
+        repairFactoryFile();
     const auto hasEntries = [this](const auto &list) {
         QMutexLocker lock(&m_mutex);
         return !list.isEmpty();
@@ -83,6 +85,7 @@ bool MenuAnalysis::updateActivittyItem()
                     changed.append({index, m_items[index]});
             m_activityElementList.clear();
         }
+        readDocument();
         QHash<int, QDomElement> elements = elementsByIndex();
         for (const auto &item : qAsConst(changed))
             modityItemToXML(item.first, item.second, elements);
@@ -94,6 +97,7 @@ bool MenuAnalysis::updateActivittyItem()
 void MenuAnalysis::updateDeleteItem()
 {
     QMutexLocker documentLock(&m_documentMutex);
+    readDocument();
     QList<ENUM_MenuIndex> deleted;
     {
         QMutexLocker lock(&m_mutex);
@@ -109,6 +113,7 @@ void MenuAnalysis::updateDeleteItem()
 /// After a load that failed there is no document yet; the items of the widgets grow into a new one.
 void MenuAnalysis::ensureDocument()
 {
+    readDocument();
     if (m_xmldoc.documentElement().isNull())
         m_xmldoc = emptyMenuDocument();
 }
@@ -149,6 +154,7 @@ QHash<int, QDomElement> MenuAnalysis::elementsByIndex() const
 /// Called under the document's lock: the order of the snapshots is that of the changes.
 void MenuAnalysis::offerDocument()
 {
+    readDocument();
     if (!m_xmldoc.isNull())
         m_files.offer(menuDocumentText(m_xmldoc));
 }

@@ -1,7 +1,6 @@
 #include "framework/store/menuxml.h"
 #include "menu/itemindex.h"
 
-#include <QDebug>
 #include <QTextStream>
 
 namespace VASK
@@ -100,57 +99,35 @@ void appendMap(QDomDocument &document, QDomElement &parent, const XmlNames &name
     parent.appendChild(child);
 }
 
-void readMap(const QDomElement &element, const XmlNames &names, QMap<QString, QString> &map)
+bool readFlag(const QString &text, bool &flag)
 {
-    for (QDomElement param = element.firstChildElement(names[XML_PARAM]); !param.isNull();
-         param = param.nextSiblingElement(names[XML_PARAM])) {
-        const QString key = param.attribute(names[XML_PARAMNAME]);
-        if (!key.isEmpty())
-            map.insert(key, param.text());
-    }
+    const bool isFlag = text == "true" || text == "false";
+    if (isFlag)
+        flag = text == "true";
+    return isFlag;
 }
 
-void readFlag(const QString &text, const FlagField &flag, ST_ItemInfo &item)
-{
-    if (text == "true" || text == "false")
-        item.*flag.field = text == "true";
-    else
-        qDebug() << flag.complaint << text;
-}
-
-void readNumber(const QString &text, const NumberField &number, ST_ItemInfo &item)
+bool readNumber(const QString &text, int &number)
 {
     bool isNumber = false;
     const int value = text.toInt(&isNumber);
-    if (isNumber && value >= 0 && value <= tableLimit)
-        item.*number.field = value;
-    else
-        qDebug() << number.complaint << text;
+    const bool fits = isNumber && value >= 0 && value <= tableLimit;
+    if (fits)
+        number = value;
+    return fits;
 }
 
 template <class Table, class Read>
 bool readFrom(const Table &table, const XmlNames &names, const QString &tag, Read read)
 {
     for (const auto &row : table)
-        if (names[row.name] == tag) {
+        if (*names.constFind(row.name) == tag) {
             read(row);
             return true;
         }
     return false;
 }
 
-void readChild(const QDomElement &child, const XmlNames &names, ST_ItemInfo &item)
-{
-    const QString tag = child.tagName();
-    const auto readText = [&](const TextField &row) { item.*row.field = child.text(); };
-    const bool known =
-        readFrom(firstTexts, names, tag, readText) || readFrom(lastTexts, names, tag, readText) ||
-        readFrom(numbers, names, tag, [&](const NumberField &row) { readNumber(child.text(), row, item); }) ||
-        readFrom(flags, names, tag, [&](const FlagField &row) { readFlag(child.text(), row, item); }) ||
-        readFrom(maps, names, tag, [&](const MapField &row) { readMap(child, names, item.*row.field); });
-    if (!known)
-        qDebug() << "no this tagName:" << tag;
-}
 } // namespace
 
 XmlNames menuXmlNames()
@@ -190,12 +167,12 @@ QDomDocument emptyMenuDocument()
 QByteArray menuDocumentText(const QDomDocument &document)
 {
     constexpr int indent = 4;
-    QByteArray bytes;
-    QTextStream stream(&bytes);
+    // Into a text, as a stream into bytes would encode line by line.
+    QString text;
+    QTextStream stream(&text);
     stream.setCodec("UTF-8");
     document.save(stream, indent);
-    stream.flush();
-    return bytes;
+    return text.toUtf8();
 }
 
 QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
@@ -216,9 +193,28 @@ QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, 
     return element;
 }
 
-void menuItemFromXml(const QDomElement &element, const XmlNames &names, ST_ItemInfo &item)
+void takeXmlField(const XmlField &child, const XmlNames &names, ST_ItemInfo &item,
+                  QVector<XmlComplaint> &complaints)
 {
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        readChild(child, names, item);
+    const QString &tag = child.tag;
+    const auto takeText = [&](const TextField &row) { item.*row.field = child.text; };
+    const auto takeNumber = [&](const NumberField &row) {
+        if (!readNumber(child.text, item.*row.field))
+            complaints.append({row.complaint, child.text});
+    };
+    const auto takeFlag = [&](const FlagField &row) {
+        if (!readFlag(child.text, item.*row.field))
+            complaints.append({row.complaint, child.text});
+    };
+    const auto takeMap = [&](const MapField &row) {
+        for (auto entry = child.params.cbegin(); entry != child.params.cend(); ++entry)
+            (item.*row.field).insert(entry.key(), entry.value());
+    };
+    const bool known = readFrom(firstTexts, names, tag, takeText) ||
+                       readFrom(lastTexts, names, tag, takeText) ||
+                       readFrom(numbers, names, tag, takeNumber) || readFrom(flags, names, tag, takeFlag) ||
+                       readFrom(maps, names, tag, takeMap);
+    if (!known)
+        complaints.append({"no this tagName:", tag});
 }
 } // namespace VASK

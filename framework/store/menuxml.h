@@ -8,6 +8,7 @@
 #include <QDomDocument>
 #include <QMap>
 #include <QString>
+#include <QVector>
 
 namespace VASK
 {
@@ -57,7 +58,20 @@ QByteArray menuDocumentText(const QDomDocument &document);
 QDomElement CreateMenuItemConfig(QDomDocument &document, const XmlNames &names, ENUM_MenuIndex index,
                                  const ST_ItemInfo &item);
 
-/// Fills the fields from the children, in any order. What it cannot read is logged and leaves the field as it
-/// was.
-void menuItemFromXml(const QDomElement &element, const XmlNames &names, ST_ItemInfo &item);
+/// A child of an item as it stands in the file: its text, and of a map its entries.
+struct XmlField {
+    QString tag;
+    QString text;
+    QMap<QString, QString> params;
+};
+
+/// What cannot be read, to be logged by whoever takes the item.
+struct XmlComplaint {
+    const char *what;
+    QString text;
+};
+
+/// Fills the field from the child. What it cannot read leaves the field as it was.
+void takeXmlField(const XmlField &child, const XmlNames &names, ST_ItemInfo &item,
+                  QVector<XmlComplaint> &complaints);
 } // namespace VASK

@@ -1,10 +1,8 @@
 #include "framework/store/storetext.h"
 
-#include "framework/store/menuxml.h"
-#include "menu/itemindex.h"
-
 #include <QTextCodec>
 #include <QXmlStreamReader>
+#include <algorithm>
 
 namespace VASK
 {
@@ -14,6 +12,8 @@ namespace
 constexpr int elementLimit = 100000;
 constexpr int depthLimit = 16;
 constexpr int itemDepth = 2;
+constexpr int fieldDepth = 3;
+constexpr int paramDepth = 4;
 
 /// The text if it is UTF-8 throughout. Whatever encoding a document says it has, it is read as this.
 bool decode(const QByteArray &bytes, QString &text)
@@ -32,7 +32,13 @@ public:
     {
         m_result.isTidy = true;
         while (!m_reader.atEnd()) {
-            switch (m_reader.readNext()) {
+            const QXmlStreamReader::TokenType token = m_reader.readNext();
+            if (token == QXmlStreamReader::Characters) {
+                characters();
+                continue;
+            }
+            endText();
+            switch (token) {
             case QXmlStreamReader::DTD:
                 m_reader.raiseError("a document type");
                 break;
@@ -40,7 +46,7 @@ public:
                 startElement();
                 break;
             case QXmlStreamReader::EndElement:
-                --m_depth;
+                endElement();
                 break;
             default:
                 break;
@@ -48,6 +54,8 @@ public:
         }
         if (m_reader.hasError())
             fail();
+        if (!m_result.isTidy)
+            m_result.records.clear();
     }
 
 private:
@@ -55,16 +63,75 @@ private:
     {
         if (++m_depth > depthLimit || ++m_elements > elementLimit)
             m_reader.raiseError("more elements than a store has");
-        const QString name = m_reader.qualifiedName().toString();
+        const QStringRef name = m_reader.qualifiedName();
         if (m_depth == 1)
             m_isList = name == QLatin1String(menuXmlRoot);
-        if (m_depth == 1 || name != m_names[XML_ITEMS] || !m_isList)
-            return;
+        else if (m_isList && name == m_itemTag)
+            startItem();
+        else if (m_isInItem)
+            startPart(name);
+    }
+
+    void startItem()
+    {
+        ++m_result.elements;
+        const QString number = m_reader.attributes().value(m_names[XML_INDEX]).toString();
         ENUM_MenuIndex index = MENU_END;
-        if (!isItemNumber(m_reader.attributes().value(m_names[XML_INDEX]).toString(), index))
+        if (!isItemNumber(number, index)) {
+            m_result.complaints.append({"no item of that number:", number});
             return;
+        }
         m_result.isTidy &= m_depth == itemDepth && !m_result.items.contains(index);
         m_result.items.insert(index);
+        m_isInItem = true;
+        m_item = ST_ItemInfo();
+        m_item.index = index;
+    }
+
+    void startPart(const QStringRef &name)
+    {
+        if (m_depth == fieldDepth) {
+            m_field = {name.toString(), {}, {}};
+        } else if (m_depth == paramDepth) {
+            m_param = name == m_paramTag ? m_reader.attributes().value(m_names[XML_PARAMNAME]).toString()
+                                         : QString();
+            m_paramBegin = m_field.text.size();
+        }
+    }
+
+    void endElement()
+    {
+        if (m_isInItem && m_depth == paramDepth && !m_param.isEmpty())
+            m_field.params.insert(m_param, m_field.text.mid(m_paramBegin));
+        else if (m_isInItem && m_depth == fieldDepth)
+            takeXmlField(m_field, m_names, m_item, m_result.complaints);
+        else if (m_isInItem && m_depth == itemDepth) {
+            m_result.records.insert(m_item.index, m_item);
+            m_isInItem = false;
+        }
+        --m_depth;
+    }
+
+    /// A text ends with the next tag; of blanks alone it is none, unless they are marked as text.
+    void characters()
+    {
+        if (!m_isInItem || m_depth < fieldDepth)
+            return;
+        if (m_reader.isCDATA()) {
+            endText();
+            m_field.text += m_reader.text();
+        } else {
+            m_text += m_reader.text();
+        }
+    }
+
+    void endText()
+    {
+        if (m_text.isEmpty())
+            return;
+        if (std::any_of(m_text.cbegin(), m_text.cend(), [](QChar c) { return !c.isSpace(); }))
+            m_field.text += m_text;
+        m_text.clear();
     }
 
     void fail()
@@ -74,11 +141,20 @@ private:
         m_result.column = m_reader.columnNumber();
         m_result.text.clear();
         m_result.items.clear();
+        m_result.isTidy = false;
     }
 
     StoreText &m_result;
     QXmlStreamReader m_reader;
     const XmlNames m_names = menuXmlNames();
+    const QString m_itemTag = m_names[XML_ITEMS];
+    const QString m_paramTag = m_names[XML_PARAM];
+    bool m_isInItem = false; ///< one with a number
+    ST_ItemInfo m_item;
+    XmlField m_field;
+    QString m_param; ///< the key of the entry that is being read, empty for none
+    int m_paramBegin = 0;
+    QString m_text; ///< since the last tag
     int m_depth = 0;
     int m_elements = 0;
     bool m_isList = false;

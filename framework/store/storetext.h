@@ -1,11 +1,17 @@
-// A look at the bytes of a store's file before anything is built from them: whether they are one document of
-// the store's form, and which items stand in it. What comes from a worn disk or from a stranger can neither
-// hold up the start nor fill the memory. Without state.
+// A look at the bytes of a store's file: whether they are one document of the store's form, and which items
+// stand in it with what values. One pass over the text; a document is made only of what has passed. What
+// comes from a worn disk or from a stranger can neither hold up the start nor fill the memory. Without state.
 #pragma once
 
+#include "framework/store/menuxml.h"
+#include "menu/itemindex.h"
+#include "menuconfig_k2860.h"
+
 #include <QByteArray>
+#include <QMap>
 #include <QSet>
 #include <QString>
+#include <QVector>
 
 namespace VASK
 {
@@ -17,8 +23,11 @@ struct StoreText {
     QString error; ///< what is wrong with it, and where
     qint64 line = 0;
     qint64 column = 0;
+    int elements = 0;    ///< that are items by their name
     QSet<int> items;     ///< the numbers that count
     bool isTidy = false; ///< each of them once and below the root, as a save writes them
+    QMap<ENUM_MenuIndex, ST_ItemInfo> records; ///< the items of a tidy store
+    QVector<XmlComplaint> complaints;          ///< what in them cannot be read
 
     bool isWellFormed() const { return error.isEmpty(); }
     /// Another root, or a root without items, is no store.
