@@ -14,6 +14,8 @@ constexpr int height = 240;
 constexpr int titleHeight = 24;
 constexpr int titleMargin = 8;
 constexpr int titlePixels = 14;
+/// Titles of pages are a little larger from the start than after a change of language.
+constexpr int firstTitlePixels = 16;
 /// What lies below the title.
 constexpr QRect below(QPoint(0, titleHeight), QPoint(width - 1, height - 1));
 } // namespace menulook

@@ -36,15 +36,12 @@ int MenuDirectory::BuildHandshake(VaskObject const *peer, QMap<QString, QString>
 bool MenuDirectory::SetTitleInfo(short width, signed char rowCount, QString title, QString style,
                                  QString englishStyle)
 {
-    if (!m_table->setTitle(width, rowCount, title, style, englishStyle))
-        return false;
-    initialize();
-    return true;
+    return m_table->setTitle(width, rowCount, title, style, englishStyle);
 }
 
 void MenuDirectory::initialize()
 {
-    m_table->layOut();
+    m_table->build();
 }
 
 void MenuDirectory::InsertMenuItem(QMap<int, st_MenuItemInfo> rows)
@@ -168,6 +165,11 @@ bool MenuDirectory::event(QEvent *event)
 {
     if (!event)
         return false;
+    // Polished once, before the page is shown or drawn in any other way; not when the event loop begins.
+    if (event->type() == QEvent::PolishRequest)
+        return true;
+    if (event->type() == QEvent::Polish)
+        initialize();
     auto *key = dynamic_cast<KeypadEvent *>(event);
     if (!key)
         return QWidget::event(event);

@@ -35,15 +35,17 @@ public:
     ~MenuDirectory() override;
     int BuildHandshake(VaskObject const *peer, QMap<QString, QString> connections) override;
 
-    /// Building, by the builder of the page tree, in this order.
+    /// Building, by the builder of the page tree, in this order; what is seen of it is made at the first
+    /// showing.
     /// @{
     /// False if title or style is empty. An empty English style stands for the common one.
     bool SetTitleInfo(short width, signed char rowCount, QString title, QString style, QString englishStyle);
-    void initialize();
     void InsertMenuItem(QMap<int, st_MenuItemInfo> rows);
-    /// Puts the row widgets into the table; false if one is not in the pool.
+    /// Gives each row its widget; false if one is not in the pool.
     bool BuildMenuDirectory(ENUM_ConfigIndex config);
     /// @}
+    /// Makes title and table; only the first call does.
+    void initialize();
 
     /// The language has changed: title and styles again. From any thread.
     void SetParaEntry(ENUM_MenuIndex index, QString value, ENUM_MODE_SET_XML mode) override;

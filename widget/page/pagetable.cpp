@@ -1,6 +1,5 @@
 #include "widget/page/pagetable.h"
 
-#include "framework/object/vaskobject.h"
 #include "framework/ui/language.h"
 #include "widget/look.h"
 #include "widget/menulook.h"
@@ -15,15 +14,10 @@ namespace VASK
 {
 namespace
 {
-/// Titles are a little larger from the start than after a change of language.
-constexpr int firstTitlePixels = 16;
-
 const QString commonEnglishStyle =
     look::sheet("*{font-family: \"Arial\";font-size: 20px;color: $text;background-color:rgba(0,0,0,0);}"
                 "QTableWidget::item:selected{background:rgba(39,25,99);}");
 } // namespace
-
-PageTable::PageTable(QWidget *page) : m_titleLabel(new QLabel(page)), m_table(new QTableWidget(page)) {}
 
 bool PageTable::setTitle(short width, signed char rowCount, const QString &title, const QString &style,
                          const QString &englishStyle)
@@ -38,6 +32,22 @@ bool PageTable::setTitle(short width, signed char rowCount, const QString &title
     return true;
 }
 
+void PageTable::build()
+{
+    if (m_table)
+        return;
+    m_titleLabel = new QLabel(m_page);
+    m_table = new QTableWidget(m_page);
+    layOut();
+    for (int position = 0; position < m_placed.size(); ++position) {
+        const ENUM_MenuIndex item = m_rows.value(position).menuIndex;
+        m_table->setRowHeight(position, int(g_MenuXmlConfig.value(item).rowHeight));
+        m_table->setCellWidget(position, 0, m_placed.at(position));
+        m_table->setRowHidden(position, m_hidden.contains(position));
+    }
+    m_table->setCurrentCell(m_selected, 0);
+}
+
 void PageTable::layOut()
 {
     m_titleLabel->setGeometry(0, 0, m_width, menulook::titleHeight);
@@ -45,7 +55,7 @@ void PageTable::layOut()
 
     m_table->setGeometry(menulook::below);
     m_table->setColumnCount(1);
-    m_table->setRowCount(m_rowCount);
+    m_table->setRowCount(m_placed.size());
     m_table->horizontalHeader()->hide();
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
@@ -58,14 +68,14 @@ void PageTable::layOut()
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->verticalScrollBar()->setStyleSheet(menuScrollBarStyle());
-    setLanguageStyle(firstTitlePixels);
+    setLanguageStyle();
 }
 
-void PageTable::setLanguageStyle(int titlePixels)
+void PageTable::setLanguageStyle()
 {
     const bool english = englishChosen();
     m_titleLabel->setText(translated(m_title));
-    m_titleLabel->setStyleSheet(menuTitleStyle(english, titlePixels));
+    m_titleLabel->setStyleSheet(menuTitleStyle(english, m_titlePixels));
     // A style goes to every widget of the page again: only when it differs.
     const QString &style = english ? m_englishStyle : m_style;
     if (m_table->styleSheet() != style)
@@ -74,25 +84,22 @@ void PageTable::setLanguageStyle(int titlePixels)
 
 void PageTable::followLanguage()
 {
-    // A page that was never shown would keep the fonts of the first style.
-    m_table->ensurePolished();
-    setLanguageStyle(menulook::titlePixels);
+    m_titlePixels = menulook::titlePixels;
+    if (m_table)
+        setLanguageStyle();
 }
 
 bool PageTable::placeRows(ENUM_ConfigIndex config)
 {
-    int position = 0;
+    m_placed.clear();
     for (const st_MenuItemInfo &row : qAsConst(m_rows)) {
-        VaskUiObject *widget = widgetOf(row);
+        auto *widget = poolObject<VaskUiObject>(row.itemObject);
         if (!widget) {
-            qDebug() << "no widget for row" << position << "of page" << int(config);
+            qDebug() << "no widget for row" << m_placed.size() << "of page" << int(config);
             return false;
         }
-        if (position < m_rowCount) {
-            m_table->setRowHeight(position, int(g_MenuXmlConfig.value(row.menuIndex).rowHeight));
-            m_table->setCellWidget(position, 0, widget);
-        }
-        ++position;
+        if (m_placed.size() < m_rowCount)
+            m_placed << widget;
     }
     return true;
 }
@@ -115,7 +122,7 @@ VaskUiObject *PageTable::widgetOf(const st_MenuItemInfo &row) const
 {
     for (auto it = m_rows.cbegin(); it != m_rows.cend(); ++it)
         if (it->itemObject == row.itemObject)
-            if (auto *placed = dynamic_cast<VaskUiObject *>(m_table->cellWidget(it.key(), 0)))
+            if (VaskUiObject *placed = m_placed.value(it.key()))
                 return placed;
     return poolObject<VaskUiObject>(row.itemObject);
 }
@@ -132,16 +139,23 @@ bool PageTable::isFocusable(int row) const
 {
     const auto found = m_rows.constFind(row);
     return found != m_rows.constEnd() && g_MenuXmlConfig.value(found->menuIndex).focusable &&
-           !m_table->isRowHidden(row);
+           !m_hidden.contains(row);
 }
 
 void PageTable::setHidden(int row, bool hidden)
 {
-    m_table->setRowHidden(row, hidden);
+    if (hidden)
+        m_hidden << row;
+    else
+        m_hidden.remove(row);
+    if (m_table)
+        m_table->setRowHidden(row, hidden);
 }
 
 void PageTable::select(int row)
 {
-    m_table->setCurrentCell(row, 0);
+    m_selected = row;
+    if (m_table)
+        m_table->setCurrentCell(row, 0);
 }
 } // namespace VASK

@@ -1,11 +1,18 @@
 // What a page shows: its title above a table of rows. Knows which rows there are, which widget each has, and
-// how all of it looks in the present language. GUI thread.
+// how all of it looks in the present language. Title and table are made when the page is seen for the first
+// time; until then it only remembers what they are to show. GUI thread.
 #pragma once
 
+#include "framework/object/vaskobject.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
+#include "widget/menulook.h"
+
+#include <QPointer>
+#include <QSet>
+#include <QVector>
 
 class QLabel;
 class QTableWidget;
@@ -13,7 +20,6 @@ class QTableWidget;
 namespace VASK
 {
 class PageRow;
-class VaskUiObject;
 
 /// A row of a page and the widget that shows it.
 struct ShownRow {
@@ -28,15 +34,16 @@ struct ShownRow {
 class PageTable
 {
 public:
-    explicit PageTable(QWidget *page);
+    explicit PageTable(QWidget *page) : m_page(page) {}
 
     /// False if title or style is empty. An empty English style stands for the common one.
     bool setTitle(short width, signed char rowCount, const QString &title, const QString &style,
                   const QString &englishStyle);
-    void layOut();
     void setRows(const QMap<int, st_MenuItemInfo> &rows) { m_rows = rows; }
-    /// Puts the row widgets into the table; false if one is not in the pool.
+    /// Gives each row its widget; false if one is not in the pool.
     bool placeRows(ENUM_ConfigIndex config);
+    /// Makes title and table, unless they are there.
+    void build();
     /// The language has changed.
     void followLanguage();
 
@@ -54,10 +61,17 @@ public:
     void select(int row);
 
 private:
-    void setLanguageStyle(int titlePixels);
+    void layOut();
+    void setLanguageStyle();
 
-    QLabel *m_titleLabel;
-    QTableWidget *m_table;
+    QWidget *m_page;
+    QLabel *m_titleLabel = nullptr;
+    QTableWidget *m_table = nullptr;
+    /// The widgets of the first rows, from above.
+    QVector<QPointer<VaskUiObject>> m_placed;
+    QSet<int> m_hidden;
+    int m_selected = 0;
+    int m_titlePixels = menulook::firstTitlePixels;
     signed char m_rowCount = 0;
     QMap<int, st_MenuItemInfo> m_rows;
     short m_width = 0;

@@ -58,7 +58,13 @@ QLabel *FramedRow::createValueLabel()
     return m_value;
 }
 
-void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
+QLabel *FramedRow::valueLabel()
+{
+    ensureBuilt();
+    return m_value;
+}
+
+void FramedRow::createFrame(QWidget *valuePart, int spaceBeforeRight)
 {
     // The gap belongs to the icon, so that it comes and goes with it.
     m_icon = createRowIcon(this, iconSize + iconSpace, iconSize);
@@ -80,7 +86,6 @@ void FramedRow::CreatEntry(QWidget *valuePart, int spaceBeforeRight)
     layout->addSpacing(spaceBeforeRight);
     layout->addWidget(m_rightButton);
     setStyleSheet(look::sheet("*:disabled{color: $disabled;}"));
-    redraw();
 }
 
 void FramedRow::drawIcons()
@@ -114,7 +119,7 @@ void FramedRow::showValue(const QString &text)
         m_value->setText(text);
 }
 
-void FramedRow::redraw()
+void FramedRow::draw()
 {
     drawIcons();
     drawName();
@@ -125,7 +130,8 @@ void FramedRow::UpdateTagName(ENUM_MenuIndex, QString text)
 {
     runOnGui(this, [=] {
         m_item.tag = text;
-        drawName();
+        if (isBuilt())
+            drawName();
     });
 }
 

@@ -23,17 +23,17 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void draw() override;
 
-    /// Builds the frame with a value part in front of the right picture: a label by default, null for none.
-    void CreatEntry(QWidget *valuePart, int spaceBeforeRight = 4);
+    /// Builds the frame with a value part in front of the right picture; null for none.
+    void createFrame(QWidget *valuePart, int spaceBeforeRight = 4);
     QLabel *createValueLabel();
 
     void drawIcons();
     void drawName();
-    /// Shows a text in the value label, if the row has one.
+    /// Shows a text in the value label, if the row has one by now.
     void showValue(const QString &text);
-    QLabel *valueLabel() const { return m_value; }
+    QLabel *valueLabel();
     QPushButton *rightButton() const { return m_rightButton; }
 
     /// The picture in front of the name; that of the item by default. None leaves the item's room free.

@@ -7,6 +7,7 @@
 #include "menu/objectindex.h"
 
 #include <QDebug>
+#include <QEvent>
 
 namespace VASK
 {
@@ -24,6 +25,32 @@ MenuRow::MenuRow(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
     CreateMenuXml(menuIndex);
     UpdataEntry(menuIndex);
     setEnabled(m_item.enable);
+}
+
+void MenuRow::ensureBuilt()
+{
+    if (m_built)
+        return;
+    m_built = true;
+    CreatEntry();
+    draw();
+}
+
+void MenuRow::redraw()
+{
+    if (m_built)
+        draw();
+}
+
+/// A widget is polished once, before it is shown or drawn in any other way, and its children after it. Qt also
+/// asks for it as soon as the event loop runs; a row that nobody sees lets that pass.
+bool MenuRow::event(QEvent *event)
+{
+    if (event->type() == QEvent::PolishRequest)
+        return true;
+    if (event->type() == QEvent::Polish)
+        ensureBuilt();
+    return VaskUiObject::event(event);
 }
 
 ENUM_ObjectIndex MenuRow::objectIndex() const

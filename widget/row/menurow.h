@@ -28,10 +28,21 @@ public:
     void UpdateALLUI(ENUM_MenuIndex index) override;
 
 protected:
+    /// The widgets that the row consists of. Called once, for a row that is about to be seen for the first
+    /// time or that is asked for something that only they know: a panel has some four hundred rows, and most
+    /// of them are not seen in a day.
+    virtual void CreatEntry() = 0;
+    /// Draws the row from its copy of the item.
+    virtual void draw() = 0;
+    /// Makes the widgets now, drawn, unless they are there.
+    void ensureBuilt();
+    bool isBuilt() const { return m_built; }
+    /// Draws what is there to be drawn on; else it is drawn when it is made.
+    void redraw();
+    bool event(QEvent *event) override;
+
     /// The value that SetParaEntry brings, with the item already loaded. May be empty.
     virtual void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) = 0;
-    /// Draws the row from its copy of the item.
-    virtual void redraw() = 0;
 
     ENUM_MenuIndex ownIndex() const { return m_ownIndex; }
     ENUM_ObjectIndex objectIndex() const;
@@ -61,5 +72,6 @@ private:
     ParaProcess *engine() const;
 
     ENUM_MenuIndex m_ownIndex;
+    bool m_built = false;
 };
 } // namespace VASK

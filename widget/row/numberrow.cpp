@@ -13,12 +13,11 @@ namespace
 constexpr int valueHeight = 25; ///< pixels, the frame of an edit
 }
 
-NumberRow::NumberRow(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : FramedRow(menuIndex, objectIndex)
+void NumberRow::CreatEntry()
 {
-    CreatEntry(createValueLabel());
-    valueLabel()->setFixedHeight(valueHeight);
-    showNumber();
+    QLabel *value = createValueLabel();
+    createFrame(value);
+    value->setFixedHeight(valueHeight);
 }
 
 QString NumberRow::inRange(const QString &value) const

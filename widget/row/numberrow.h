@@ -14,7 +14,7 @@ class NumberRow : public FramedRow
 {
     Q_OBJECT
 public:
-    NumberRow(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using FramedRow::FramedRow;
 
     OkKind okKind() const override { return OkKind::EditsNumber; }
     using VaskUiObject::DownEntry;
@@ -28,6 +28,7 @@ public:
     void DownEntry(ENUM_MenuIndex index, unsigned char &speed) override;
 
 protected:
+    void CreatEntry() override;
     /// The number after so many steps, already held by the item's own limits.
     virtual QString stepped(int steps) const = 0;
     /// Style of the value when OK ends the edit.

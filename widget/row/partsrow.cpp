@@ -16,6 +16,7 @@ void PartsRow::setParts(const QList<QWidget *> &parts)
 void PartsRow::UpEntry(ENUM_MenuIndex, unsigned char &speed, bool first)
 {
     qDebug() << "UP, m_currentItem:" << m_currentItem << ",uKeySpeed" << speed;
+    ensureBuilt();
     if (speed == 0) // the keypad's own number: from the right it would lead to a part behind the last
         return;
     if (first && m_currentItem == 1) {
@@ -37,6 +38,7 @@ void PartsRow::UpEntry(ENUM_MenuIndex, unsigned char &speed, bool first)
 void PartsRow::DownEntry(ENUM_MenuIndex, unsigned char &speed, bool last)
 {
     qDebug() << "DownEntry, m_currentItem:" << m_currentItem << ",uKeySpeed" << speed;
+    ensureBuilt();
     if (last && m_currentItem == partCount()) {
         qDebug() << "Down is limit";
         speed = 0;
@@ -61,6 +63,7 @@ void PartsRow::focus(int part)
 bool PartsRow::setfocus(int part)
 {
     qDebug() << "setfocus:" << part;
+    ensureBuilt();
     for (QWidget *widget : qAsConst(m_parts))
         widget->clearFocus();
     if (part < 1 || part > partCount()) {
@@ -71,9 +74,18 @@ bool PartsRow::setfocus(int part)
     return true;
 }
 
+/// A part that got the focus before the row had its place in the page has it in the page, too.
+bool PartsRow::event(QEvent *event)
+{
+    const bool taken = MenuRow::event(event);
+    if (event->type() == QEvent::Polish && m_currentItem > 0)
+        m_parts.at(m_currentItem - 1)->setFocus(Qt::OtherFocusReason);
+    return taken;
+}
+
 void PartsRow::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::EnabledChange && isEnabled() && m_currentItem > 0 &&
+    if (event->type() == QEvent::EnabledChange && isEnabled() && isBuilt() && m_currentItem > 0 &&
         !window()->focusWidget())
         focus(m_currentItem);
     MenuRow::changeEvent(event);

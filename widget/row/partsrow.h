@@ -22,6 +22,7 @@ public:
     void DownEntry(ENUM_MenuIndex index, unsigned char &speed, bool last) override;
 
 protected:
+    bool event(QEvent *event) override;
     /// Disabled parts lose the focus: the one that OK acts on gets it back.
     void changeEvent(QEvent *event) override;
 

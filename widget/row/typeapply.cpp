@@ -14,19 +14,16 @@ namespace VASK
 {
 namespace
 {
-const QString transparent = QStringLiteral("background-color:rgba(0,0,0,0)");
-
-QString buttonStyle(bool enabled, const QString &background)
+QString buttonStyle(bool enabled)
 {
-    const QString colour = look::ofText(enabled);
     return look::sheet("QPushButton{border-style: inset;border-radius:4px;color: %1; "
-                       "border: 1px solid $focus;%2}"
+                       "border: 1px solid $focus;}"
                        "QPushButton:focus{background:$focus; color: %1;outline: none;}")
-        .arg(colour, background);
+        .arg(look::ofText(enabled));
 }
 } // namespace
 
-typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : MenuRow(menuIndex, objectIndex)
+void typeapply::CreatEntry()
 {
     constexpr QSize size(128, 32); // pixels
     setStyleSheet(QStringLiteral("background-color: rgba(0, 0, 0, 0);"));
@@ -41,31 +38,36 @@ typeapply::typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : M
     layout->addStretch();
     layout->addWidget(m_button);
     layout->addStretch();
-    redraw();
-    m_button->setStyleSheet(buttonStyle(m_item.enable, transparent));
+    markButton();
 }
 
-void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
+void typeapply::markButton()
 {
-    m_marked = on != 0;
     if (m_marked)
         m_button->setFocus();
     else
         m_button->clearFocus();
 }
 
+void typeapply::ChangeStyleEntry(ENUM_MenuIndex, unsigned char on)
+{
+    m_marked = on != 0;
+    if (isBuilt())
+        markButton();
+}
+
 /// A disabled button has lost the focus, though the cursor may stand on it still.
 void typeapply::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::EnabledChange && isEnabled() && m_marked)
-        m_button->setFocus();
+    if (event->type() == QEvent::EnabledChange && isEnabled() && isBuilt() && m_marked)
+        markButton();
     MenuRow::changeEvent(event);
 }
 
-void typeapply::redraw()
+void typeapply::draw()
 {
     m_button->setText(translated(m_item.tag));
-    m_button->setStyleSheet(buttonStyle(m_item.enable, QString()));
+    m_button->setStyleSheet(buttonStyle(m_item.enable));
 }
 
 void typeapply::takeValue(ENUM_MenuIndex, const QString &, ENUM_MODE_SET_XML)

@@ -14,7 +14,7 @@ class typeapply : public MenuRow
 {
     Q_OBJECT
 public:
-    typeapply(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using MenuRow::MenuRow;
 
     OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
@@ -23,10 +23,13 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
     void changeEvent(QEvent *event) override;
 
 private:
+    void markButton();
+
     bool m_marked = false; ///< the cursor stands on it
     QPushButton *m_button = nullptr;
 };

@@ -20,8 +20,11 @@ constexpr int buttonHeight = 32; ///< pixels
 typeapplyreset::typeapplyreset(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
     : PartsRow(menuIndex, objectIndex)
 {
-    const ENUM_MenuIndex second = nth(menuIndex, 1);
-    CreateMenuXml(second);
+    CreateMenuXml(nth(menuIndex, 1));
+}
+
+void typeapplyreset::CreatEntry()
+{
     m_apply = new QPushButton(this);
     m_reset = new QPushButton(this);
     m_apply->setObjectName(m_item.tag);
@@ -42,7 +45,6 @@ typeapplyreset::typeapplyreset(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex object
     layout->addStretch();
     layout->addWidget(m_reset);
     layout->addStretch();
-    redraw();
 }
 
 ST_ItemInfo typeapplyreset::secondItem() const
@@ -62,7 +64,7 @@ void typeapplyreset::setTypeStyleSheet()
                       .arg(colour));
 }
 
-void typeapplyreset::redraw()
+void typeapplyreset::draw()
 {
     m_apply->setText(translated(m_item.tag));
     m_reset->setText(translated(secondItem().tag));

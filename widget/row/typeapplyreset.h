@@ -22,7 +22,8 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
     void setTypeStyleSheet();

@@ -6,10 +6,9 @@
 
 namespace VASK
 {
-typebutton::typebutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : FramedRow(menuIndex, objectIndex)
+void typebutton::CreatEntry()
 {
-    CreatEntry(createValueLabel());
+    createFrame(createValueLabel());
 }
 
 /// The picture of a preset tells whether it is loaded: an empty one has none.

@@ -11,13 +11,14 @@ class typebutton : public FramedRow
 {
     Q_OBJECT
 public:
-    typebutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using FramedRow::FramedRow;
 
     OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
 
 protected:
+    void CreatEntry() override;
     QString iconPath() const override;
     QString valueText() const override;
 };

@@ -7,16 +7,16 @@
 
 namespace VASK
 {
-typecheckitem::typecheckitem(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : FramedRow(menuIndex, objectIndex)
+void typecheckitem::CreatEntry()
 {
     constexpr int tickSize = 24; // pixels
     m_tick = createRowIcon(this, tickSize, tickSize);
-    CreatEntry(m_tick, 0);
+    createFrame(m_tick, 0);
 }
 
 void typecheckitem::EnterEntry(ENUM_MenuIndex index)
 {
+    ensureBuilt();
     // The change to a sending card takes long: the user sees at once that the key was taken.
     const bool first = index == MENU_SendingCard;
     m_item.choice = SELECTED;
@@ -28,9 +28,9 @@ void typecheckitem::EnterEntry(ENUM_MenuIndex index)
         showTick();
 }
 
-void typecheckitem::redraw()
+void typecheckitem::draw()
 {
-    FramedRow::redraw();
+    FramedRow::draw();
     rightButton()->hide();
     showTick();
 }

@@ -12,14 +12,15 @@ class typecheckitem : public FramedRow
 {
     Q_OBJECT
 public:
-    typecheckitem(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using FramedRow::FramedRow;
 
     OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override;
 
 protected:
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
     void showTick();

@@ -13,8 +13,7 @@
 
 namespace VASK
 {
-typefourpic::typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : PartsRow(menuIndex, objectIndex)
+void typefourpic::CreatEntry()
 {
     constexpr QSize partSize(74, 46); // pixels, as all below
     constexpr int pictureLeft = 17;
@@ -38,10 +37,9 @@ typefourpic::typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
     }
     layout->addStretch();
     setParts(parts);
-    redraw();
 }
 
-void typefourpic::redraw()
+void typefourpic::draw()
 {
     for (int i = 0; i < pictureCount; ++i) {
         const bool on = isOn(m_item.pixValue.mid(i, 1));

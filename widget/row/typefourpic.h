@@ -16,7 +16,7 @@ class typefourpic : public PartsRow
 {
     Q_OBJECT
 public:
-    typefourpic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using PartsRow::PartsRow;
 
     OkKind okKind() const override { return OkKind::Acts; }
     using VaskUiObject::EnterEntry;
@@ -24,7 +24,8 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
     const char *className() const override { return "typefourpic"; }
 
 private:

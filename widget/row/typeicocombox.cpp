@@ -24,22 +24,21 @@ bool hasPreview(ENUM_MenuIndex index)
 }
 } // namespace
 
-typeicocombox::typeicocombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : ListRow(menuIndex, objectIndex)
+void typeicocombox::CreatEntry()
 {
     m_picture = createRowIcon(this, pictureWidth, pictureHeight);
-    CreatEntry(m_picture, 0);
-    drawPicture();
+    createFrame(m_picture, 0);
 }
 
 void typeicocombox::drawPicture()
 {
+    ensureBuilt();
     m_picture->setPixmap(QPixmap(m_item.params.value(m_item.value)));
 }
 
-void typeicocombox::redraw()
+void typeicocombox::draw()
 {
-    FramedRow::redraw();
+    FramedRow::draw();
     drawPicture();
 }
 

@@ -14,11 +14,10 @@ class typeicocombox : public ListRow<FramedRow, icocomboxtable>
 {
     Q_OBJECT
 public:
-    typeicocombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
-
     using ListRow::DownEntry;
     using ListRow::EnterEntry;
     using ListRow::EscEntry;
+    using ListRow::ListRow;
     using ListRow::UpEntry;
     void EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char) override;
     /// Gives the flow way back what it was before the list opened; other lists keep what was shown last.
@@ -28,7 +27,8 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
     void preview(ENUM_MenuIndex index);

@@ -14,13 +14,6 @@
 
 namespace VASK
 {
-typeinformation::typeinformation(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : MenuRow(menuIndex, objectIndex)
-{
-    CreatEntry();
-    redraw();
-}
-
 void typeinformation::CreatEntry()
 {
     constexpr int iconSize = 24; // pixels, as all below
@@ -49,7 +42,7 @@ void typeinformation::CreatEntry()
     setStyleSheet(look::sheet("*:disabled{color: $disabled;}"));
 }
 
-void typeinformation::redraw()
+void typeinformation::draw()
 {
     m_icon->setVisible(!m_item.icon.isEmpty());
     m_icon->setPixmap(QPixmap(m_item.icon));

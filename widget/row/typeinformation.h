@@ -15,18 +15,17 @@ class typeinformation : public MenuRow
 {
     Q_OBJECT
 public:
-    typeinformation(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using MenuRow::MenuRow;
 
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
-    void CreatEntry();
-
     QLabel *m_icon = nullptr;
     QLabel *m_name = nullptr;
     QLabel *m_value = nullptr;

@@ -36,14 +36,6 @@ const QRegExp &m_regOtherIp()
 }
 } // namespace
 
-typeipadjust::typeipadjust(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : MenuRow(menuIndex, objectIndex)
-{
-    CreatEntry();
-    setTypeStyleSheet();
-    redraw();
-}
-
 void typeipadjust::CreatEntry()
 {
     constexpr QSize iconSize(20, 24); // pixels, as all below
@@ -67,6 +59,7 @@ void typeipadjust::CreatEntry()
     layout->addLayout(lower);
     layout->addSpacing(4);
     layout->addWidget(m_rightIcon);
+    setTypeStyleSheet();
 }
 
 void typeipadjust::addNumbers(QBoxLayout *layout)
@@ -197,6 +190,7 @@ void typeipadjust::NumberEntry(ENUM_MenuIndex index, unsigned char digit)
 {
     if (firstNumberLocked(index))
         return;
+    ensureBuilt();
     if (!m_bModified) {
         m_numbers[m_currentItem]->setText(QStringLiteral("0"));
         m_bModified = true;
@@ -234,6 +228,7 @@ void typeipadjust::turn(ENUM_MenuIndex index, bool up)
 {
     if (firstNumberLocked(index))
         return;
+    ensureBuilt();
     modifyIpAddress(up);
     m_item.value = getIpText();
     repairAddress(index);
@@ -255,6 +250,7 @@ void typeipadjust::DownEntry(ENUM_MenuIndex index, unsigned char &)
 void typeipadjust::EnterEntry(ENUM_MenuIndex index)
 {
     qDebug() << "EnterEntry == " << m_currentItem;
+    ensureBuilt();
     m_item.value = getIpText();
     repairAddress(index);
     commit(index);
@@ -272,6 +268,7 @@ void typeipadjust::EnterEntry(ENUM_MenuIndex index)
 void typeipadjust::EscEntry(ENUM_MenuIndex index, unsigned char)
 {
     qDebug() << "EscEntry";
+    ensureBuilt();
     if (m_bModified) {
         m_item.value = getIpText();
         commit(index);
@@ -282,7 +279,7 @@ void typeipadjust::EscEntry(ENUM_MenuIndex index, unsigned char)
     m_bModified = false;
 }
 
-void typeipadjust::redraw()
+void typeipadjust::draw()
 {
     m_icon->setVisible(!m_item.icon.isEmpty());
     m_icon->setPixmap(QPixmap(m_item.icon));

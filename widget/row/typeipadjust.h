@@ -19,7 +19,7 @@ class typeipadjust : public MenuRow
 {
     Q_OBJECT
 public:
-    typeipadjust(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using MenuRow::MenuRow;
 
     OkKind okKind() const override { return OkKind::EditsAddress; }
     using VaskUiObject::DownEntry;
@@ -39,12 +39,12 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
     static constexpr int numberCount = 4;
 
-    void CreatEntry();
     void addNumbers(QBoxLayout *layout);
     QString getIpText() const;
     void setIpText(const QString &text);

@@ -11,10 +11,13 @@ class typemainbutton : public FramedRow
 {
     Q_OBJECT
 public:
-    typemainbutton(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using FramedRow::FramedRow;
 
     OkKind okKind() const override { return OkKind::OpensPage; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
+
+protected:
+    void CreatEntry() override;
 };
 } // namespace VASK

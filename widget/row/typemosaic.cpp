@@ -32,15 +32,6 @@ QString rowStyle()
 }
 } // namespace
 
-typemosaic::typemosaic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : MenuRow(menuIndex, objectIndex)
-{
-    CreatEntry();
-    const auto *engine = dynamic_cast<ParaProcess *>(GetObjectFromPool(ENUM_PARAPROCESS));
-    arrange(engine && engine->GetParaFromIndex(MENU_Mosaic_Layout) == mosaicAbove);
-    redraw();
-}
-
 void typemosaic::CreatEntry()
 {
     constexpr QSize boxSize(60, 38); // pixels
@@ -63,6 +54,8 @@ void typemosaic::CreatEntry()
     sizeColumn->addWidget(m_size);
     m_outer->addLayout(sizeColumn);
     m_outer->addStretch();
+    const auto *engine = dynamic_cast<ParaProcess *>(GetObjectFromPool(ENUM_PARAPROCESS));
+    arrange(engine && engine->GetParaFromIndex(MENU_Mosaic_Layout) == mosaicAbove);
 }
 
 void typemosaic::arrange(bool stacked)
@@ -82,7 +75,10 @@ void typemosaic::arrange(bool stacked)
 
 void typemosaic::updateSplite(QString value)
 {
-    runOnGui(this, [=] { arrange(value == mosaicAbove); });
+    runOnGui(this, [=] {
+        ensureBuilt();
+        arrange(value == mosaicAbove);
+    });
 }
 
 void typemosaic::showSize(const QString &text)
@@ -92,12 +88,18 @@ void typemosaic::showSize(const QString &text)
 
 void typemosaic::updatePixValue(QString text)
 {
-    runOnGui(this, [=] { showSize(text); });
+    runOnGui(this, [=] {
+        ensureBuilt();
+        showSize(text);
+    });
 }
 
 void typemosaic::updateSource(ENUM_SOURCELABLEINDEX which, QString text)
 {
-    runOnGui(this, [=] { (which == SOURCELABLE_FIRST ? m_first : m_second)->setText(translated(text)); });
+    runOnGui(this, [=] {
+        ensureBuilt();
+        (which == SOURCELABLE_FIRST ? m_first : m_second)->setText(translated(text));
+    });
 }
 
 void typemosaic::EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char)
@@ -112,10 +114,11 @@ void typemosaic::EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char e
     m_item.value = value;
     apply(value, index);
     m_dropDown.close();
+    ensureBuilt();
     m_first->setText(translated(m_item.params.value(m_item.value)));
 }
 
-void typemosaic::redraw()
+void typemosaic::draw()
 {
     qDebug() << "sourceLable1->setText";
     m_first->setText(translated(m_item.params.value(m_item.value)));
@@ -126,6 +129,7 @@ void typemosaic::redraw()
 
 void typemosaic::takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode)
 {
+    ensureBuilt(); // drawing is told in the log
     if (!value.isEmpty())
         takeOption(index, value, mode, m_dropDown.table());
     redraw();

@@ -19,7 +19,7 @@ class typemosaic : public MenuRow
 {
     Q_OBJECT
 public:
-    typemosaic(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using MenuRow::MenuRow;
 
     OkKind okKind() const override { return OkKind::ChoosesFromList; }
     bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
@@ -42,10 +42,10 @@ public:
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
-    void CreatEntry();
     void arrange(bool stacked);
     void showSize(const QString &text);
 

@@ -10,11 +10,9 @@
 
 namespace VASK
 {
-typestringcombox::typestringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : ListRow(menuIndex, objectIndex)
+void typestringcombox::CreatEntry()
 {
-    CreatEntry(createValueLabel());
-    showValue(valueText());
+    createFrame(createValueLabel());
 }
 
 QString typestringcombox::valueText() const

@@ -14,12 +14,12 @@ class typestringcombox : public ListRow<FramedRow, stringcomboxtable>
 {
     Q_OBJECT
 public:
-    typestringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
-
     using ListRow::EnterEntry;
+    using ListRow::ListRow;
     void EnterEntry(ENUM_MenuIndex index, QWidget *page, unsigned char edit, unsigned char) override;
 
 protected:
+    void CreatEntry() override;
     QString valueText() const override;
 
 private:

@@ -12,7 +12,7 @@
 
 namespace VASK
 {
-typetip::typetip(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : MenuRow(menuIndex, objectIndex)
+void typetip::CreatEntry()
 {
     constexpr int iconSize = 16; // pixels, as all below
     constexpr int leftSpace = 8;
@@ -28,13 +28,11 @@ typetip::typetip(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex) : MenuR
     layout->addWidget(icon);
     layout->addSpacing(leftSpace);
     layout->addWidget(m_text, 1);
-    redraw();
 }
 
-void typetip::redraw()
+void typetip::draw()
 {
     const bool english = englishChosen();
-    qDebug() << (english ? "English" : "Chinese");
     m_text->setStyleSheet(english ? QStringLiteral("*{font-family: \"Arial\";font-size: 18px;color: #83818c;"
                                                    "background-color:rgba(0,0,0,0);}")
                                   : QStringLiteral("*{font-family: \"宋体\";font-size: 18px;color: #70739c;"
@@ -44,6 +42,7 @@ void typetip::redraw()
 
 void typetip::takeValue(ENUM_MenuIndex, const QString &, ENUM_MODE_SET_XML)
 {
+    qDebug() << (englishChosen() ? "English" : "Chinese");
     redraw();
 }
 } // namespace VASK

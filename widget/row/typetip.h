@@ -14,11 +14,12 @@ class typetip : public MenuRow
 {
     Q_OBJECT
 public:
-    typetip(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
+    using MenuRow::MenuRow;
 
 protected:
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
     QLabel *m_text = nullptr;

@@ -19,15 +19,6 @@ namespace
 constexpr int rightPart = 2;
 }
 
-typetwostringcombox::typetwostringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex)
-    : ListRow(menuIndex, objectIndex)
-{
-    CreatEntry();
-    setParts({m_left, m_right});
-    drawPicture(false);
-    redraw();
-}
-
 QPushButton *typetwostringcombox::createPart(const QString &name, QLabel *&label, const QString &labelName,
                                              QLabel *&icon)
 {
@@ -65,6 +56,8 @@ void typetwostringcombox::CreatEntry()
     layout->addSpacing(10);
     layout->addWidget(m_right);
     layout->addStretch();
+    setParts({m_left, m_right});
+    drawPicture(false);
 }
 
 void typetwostringcombox::drawPicture(bool available)
@@ -78,18 +71,22 @@ void typetwostringcombox::drawPicture(bool available)
 
 void typetwostringcombox::setTwoArrow(bool available)
 {
-    runOnGui(this, [=] { drawPicture(available); });
+    runOnGui(this, [=] {
+        ensureBuilt();
+        drawPicture(available);
+    });
 }
 
 void typetwostringcombox::SetRightTextEnable(bool enabled)
 {
     runOnGui(this, [=] {
+        ensureBuilt();
         m_rightText->setStyleSheet(enabled ? QStringLiteral("color: #FCFCFC;")
                                            : look::sheet("color: $disabled;"));
     });
 }
 
-void typetwostringcombox::redraw()
+void typetwostringcombox::draw()
 {
     const QString colour = QStringLiteral("color: %1;").arg(look::ofText(m_item.enable));
     m_leftText->setText(translated(m_item.tag));

@@ -18,8 +18,7 @@ class typetwostringcombox : public ListRow<PartsRow, stringcomboxtable>
 {
     Q_OBJECT
 public:
-    typetwostringcombox(ENUM_MenuIndex menuIndex, ENUM_ObjectIndex objectIndex);
-
+    using ListRow::ListRow;
     /// Shows the picture of a backup that is available, or the plain one. From any thread.
     void setTwoArrow(bool available) override;
     /// From any thread.
@@ -33,10 +32,10 @@ public:
     void DownEntry(ENUM_MenuIndex index, unsigned char &speed, bool last) override;
 
 protected:
-    void redraw() override;
+    void CreatEntry() override;
+    void draw() override;
 
 private:
-    void CreatEntry();
     QPushButton *createPart(const QString &name, QLabel *&label, const QString &labelName, QLabel *&icon);
     void drawPicture(bool available);
     void step(unsigned char &speed, bool end);

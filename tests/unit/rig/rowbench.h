@@ -14,6 +14,16 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+/// A row as it is once it has been seen.
+template <class Row> class Seen : public Row
+{
+public:
+    template <class... Arguments> explicit Seen(Arguments... arguments) : Row(arguments...)
+    {
+        this->ensurePolished();
+    }
+};
+
 /// One of the labels of a row has that text.
 inline bool shows(const QWidget &row, const QString &text)
 {

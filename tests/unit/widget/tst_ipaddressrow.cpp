@@ -35,7 +35,7 @@ private slots:
             fetched<int, QString, int, int>({"index", "start", "number", "clicks"});
         const auto item = ENUM_MenuIndex(index);
         prepare(item, start);
-        typeipadjust row(item, ENUM_OBJECT_END);
+        Seen<typeipadjust> row(item, ENUM_OBJECT_END);
         for (int ok = 0; ok <= number; ++ok)
             row.EnterEntry(item);
         unsigned char fast = 8;
@@ -48,7 +48,7 @@ private slots:
     void okGoesRoundAndEscStartsOver()
     {
         prepare(MENU_Net_IPAddress, "192.168.0.20");
-        typeipadjust row(MENU_Net_IPAddress, ENUM_OBJECT_END);
+        Seen<typeipadjust> row(MENU_Net_IPAddress, ENUM_OBJECT_END);
         QCOMPARE(marked(row), -1);
         for (int expected : {0, 1, 2, 3, 0, 1}) {
             row.EnterEntry(MENU_Net_IPAddress);
@@ -77,7 +77,7 @@ private slots:
         const auto [stored, automatic] = fetched<QString, QString>({"stored", "automatic"});
         prepare(MENU_Net_Gateway, stored);
         m_bench->store().UpdataItemCurValue(MENU_Net_NetMode, automatic);
-        typeipadjust row(MENU_Net_Gateway, ENUM_OBJECT_END);
+        Seen<typeipadjust> row(MENU_Net_Gateway, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, "", SET_XML_STORE);
         QTEST(shown(row), "text");
     }

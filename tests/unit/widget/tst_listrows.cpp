@@ -83,7 +83,7 @@ private slots:
     {
         const auto [off, start, clicks] = fetched<QList<int>, QString, int>({"off", "start", "clicks"});
         setOptions(*m_bench, list, 4, start, disabled(4, off));
-        typestringcombox row(list, ENUM_OBJECT_END);
+        Seen<typestringcombox> row(list, ENUM_OBJECT_END);
         QWidget page;
         open(row, list, page);
         QCOMPARE(openTables(page), 1);
@@ -100,7 +100,7 @@ private slots:
     void aDisabledOptionInForceCannotBeTakenAgain()
     {
         setOptions(*m_bench, list, 3, "1", disabled(3, {0, 1, 2}));
-        typestringcombox row(list, ENUM_OBJECT_END);
+        Seen<typestringcombox> row(list, ENUM_OBJECT_END);
         QVERIFY(!row.CurrentItemEnabled()); // nothing is open
         QWidget page;
         open(row, list, page);
@@ -113,7 +113,7 @@ private slots:
     void aReversedListDimsTheRightRow()
     {
         setOptions(*m_bench, reversed, 2, "0", disabled(2, {1}));
-        typestringcombox row(reversed, ENUM_OBJECT_END);
+        Seen<typestringcombox> row(reversed, ENUM_OBJECT_END);
         QWidget page;
         open(row, reversed, page);
         const QAbstractItemModel *model = page.findChild<QAbstractItemView *>()->model();
@@ -136,7 +136,7 @@ private slots:
         const auto [reported, mode, shown, applied] =
             fetched<QString, int, QString, bool>({"reported", "mode", "shown", "applied"});
         setOptions(*m_bench, list, 4, "1");
-        typestringcombox row(list, ENUM_OBJECT_END);
+        Seen<typestringcombox> row(list, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, reported, ENUM_MODE_SET_XML(mode));
         QVERIFY(shows(row, shown));
         QTEST(m_bench->value(list), "stored");
@@ -146,7 +146,7 @@ private slots:
     void aReportMovesTheOpenList()
     {
         setOptions(*m_bench, list, 4, "1");
-        typestringcombox row(list, ENUM_OBJECT_END);
+        Seen<typestringcombox> row(list, ENUM_OBJECT_END);
         QWidget page;
         open(row, list, page);
         row.SetParaEntry(list, "3", SET_XML_DEVICE);
@@ -156,7 +156,7 @@ private slots:
     void otherPicturesWaitForOk()
     {
         m_bench->store().UpdataItemCurValue(MENU_Advanced_FlowWay, "0");
-        typeicocombox row(MENU_Advanced_FlowWay, ENUM_OBJECT_END);
+        Seen<typeicocombox> row(MENU_Advanced_FlowWay, ENUM_OBJECT_END);
         QWidget page;
         open(row, MENU_Advanced_FlowWay, page);
         turn(row, MENU_Advanced_FlowWay, -1);
@@ -170,7 +170,7 @@ private slots:
     {
         setOptions(*m_bench, MENU_Mosaic_Arrangement, 6, "3");
         m_bench->edit(MENU_Mosaic_Layout, [](ST_ItemInfo &item) { item.value = "0"; });
-        typemosaic row(MENU_Mosaic_Arrangement, ENUM_OBJECT_END);
+        Seen<typemosaic> row(MENU_Mosaic_Arrangement, ENUM_OBJECT_END);
         row.updateSource(SOURCELABLE_FIRST, "DVI2");
         row.updateSource(SOURCELABLE_SECOND, "DVI1");
         row.updatePixValue("3840x1080");

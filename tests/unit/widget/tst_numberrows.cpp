@@ -56,7 +56,7 @@ private slots:
     {
         const auto [start, clicks] = fetched<QString, int>({"start", "clicks"});
         setRange(*m_bench, whole, start, "-13", "97", "10");
-        typeintadjust row(whole, ENUM_OBJECT_END);
+        Seen<typeintadjust> row(whole, ENUM_OBJECT_END);
         turn(row, whole, clicks);
         QTEST(m_bench->value(whole), "end");
         QFETCH(QString, end);
@@ -78,7 +78,7 @@ private slots:
     {
         const auto [step, clicks] = fetched<QString, int>({"step", "clicks"});
         setRange(*m_bench, decimal, "2.5", "1.0", "4.0", step);
-        typefloatadjust row(decimal, ENUM_OBJECT_END);
+        Seen<typefloatadjust> row(decimal, ENUM_OBJECT_END);
         turn(row, decimal, clicks);
         QTEST(m_bench->value(decimal), "end");
     }
@@ -86,7 +86,7 @@ private slots:
     void aThousandSmallStepsDoNotDrift()
     {
         setRange(*m_bench, decimal, "0.0", "0.0", "100.0", "0.1");
-        typefloatadjust row(decimal, ENUM_OBJECT_END);
+        Seen<typefloatadjust> row(decimal, ENUM_OBJECT_END);
         for (int i = 0; i < 1000; ++i)
             turn(row, decimal, 1);
         QCOMPARE(m_bench->value(decimal), QString("100.0"));
@@ -104,7 +104,7 @@ private slots:
     void aReportedCropStandsAsItIs()
     {
         const auto [index, reported, shown] = fetched<int, QString, QString>({"index", "reported", "shown"});
-        typeintadjust row(ENUM_MenuIndex(index), ENUM_OBJECT_END);
+        Seen<typeintadjust> row(ENUM_MenuIndex(index), ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, reported, SET_XML_DEVICE);
         QVERIFY(shows(row, shown));
         QCOMPARE(RowBench::takeApplied(), shown == reported ? QList<int>{} : QList<int>{index});
@@ -113,7 +113,7 @@ private slots:
     void storeModeStoresSilently()
     {
         setRange(*m_bench, whole, "50", "0", "100", "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
+        Seen<typeintadjust> row(whole, ENUM_OBJECT_END);
         row.SetParaEntry(whole, "60", SET_XML_STORE);
         QCOMPARE(m_bench->value(whole), QString("60"));
         QCOMPARE(RowBench::takeApplied(), QList<int>{});
@@ -122,7 +122,7 @@ private slots:
     void anEmptyValueReloads()
     {
         setRange(*m_bench, whole, "50", "0", "100", "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
+        Seen<typeintadjust> row(whole, ENUM_OBJECT_END);
         setRange(*m_bench, whole, "70", "0", "100", "1");
         m_bench->store().UpdataItemEnable(whole, false);
         row.SetParaEntry(MENU_OWN, "", SET_XML_STORE);
@@ -134,7 +134,7 @@ private slots:
     void onlyTheRightEyeCanBeUnknown()
     {
         setRange(*m_bench, MENU_Mode3D_RightEyeStart, "50", "0", "100", "1");
-        typeintadjust row(MENU_Mode3D_RightEyeStart, ENUM_OBJECT_END);
+        Seen<typeintadjust> row(MENU_Mode3D_RightEyeStart, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, "", SET_XML_DEVICE);
         QCOMPARE(m_bench->value(MENU_Mode3D_RightEyeStart), QString());
     }
@@ -142,11 +142,11 @@ private slots:
     void ownIndexOrNothing()
     {
         setRange(*m_bench, whole, "50", "0", "100", "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
+        Seen<typeintadjust> row(whole, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN_ALT, "30", SET_XML_USER);
         QCOMPARE(m_bench->value(whole), QString("30"));
         RowBench::takeApplied();
-        typeintadjust nobody(MENU_OWN, ENUM_OBJECT_END);
+        Seen<typeintadjust> nobody(MENU_OWN, ENUM_OBJECT_END);
         nobody.SetParaEntry(MENU_OWN, "31", SET_XML_USER);
         QCOMPARE(RowBench::takeApplied(), QList<int>{});
     }
@@ -154,7 +154,7 @@ private slots:
     void aReportFromAnotherThreadIsDrawnOnThisOne()
     {
         setRange(*m_bench, whole, "50", "0", "100", "1");
-        typeintadjust row(whole, ENUM_OBJECT_END);
+        Seen<typeintadjust> row(whole, ENUM_OBJECT_END);
         std::unique_ptr<QThread> reports(QThread::create([&] {
             m_bench->store().UpdataItemCurValue(whole, "61");
             row.SetParaEntry(whole, "61", SET_XML_DEVICE);

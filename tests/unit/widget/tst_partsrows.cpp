@@ -56,7 +56,7 @@ private slots:
     {
         const auto [before, clicks, end, applied] =
             fetched<QList<int>, int, bool, int>({"before", "clicks", "end", "applied"});
-        typeapplyreset row(MENU_Mosaic_Apply, ENUM_OBJECT_END);
+        Seen<typeapplyreset> row(MENU_Mosaic_Apply, ENUM_OBJECT_END);
         for (int move : before)
             walk(row, MENU_Mosaic_Apply, move);
         QTEST(walk(row, MENU_Mosaic_Apply, clicks, end), "left");
@@ -70,7 +70,7 @@ private slots:
 
     void aTurnWithoutSpeedReachesNoPart()
     {
-        typeapplyreset row(MENU_Net_Apply, ENUM_OBJECT_END);
+        Seen<typeapplyreset> row(MENU_Net_Apply, ENUM_OBJECT_END);
         unsigned char none = 0;
         for (bool left : {true, false}) {
             left ? row.UpEntry(MENU_Net_Apply, none, false) : row.DownEntry(MENU_Net_Apply, none, false);
@@ -81,7 +81,7 @@ private slots:
 
     void fourPicturesActOnTheRowItself()
     {
-        typefourpic row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
+        Seen<typefourpic> row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
         walk(row, MENU_Test_CustomPictures, 3);
         row.EnterEntry(MENU_Test_CustomPictures);
         QCOMPARE(RowBench::takeApplied(), QList<int>{MENU_Test_CustomPictures});
@@ -91,7 +91,7 @@ private slots:
     void aReloadBringsTheCursorToThePictureInForce()
     {
         m_bench->store().UpdataItemCurValue(MENU_Test_CustomPictures, "3");
-        typefourpic row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
+        Seen<typefourpic> row(MENU_Test_CustomPictures, ENUM_OBJECT_END);
         row.SetParaEntry(MENU_OWN, "", SET_XML_DEVICE);
         QCOMPARE(walk(row, MENU_Test_CustomPictures, 2), 1); // the fourth, then one row on
     }
@@ -99,9 +99,9 @@ private slots:
     void anOpenedPageMarksNoButton()
     {
         QWidget page;
-        typeapply apply(MENU_Color_Reset, ENUM_OBJECT_END);
-        typeapplyreset pair(MENU_Mosaic_Apply, ENUM_OBJECT_END);
-        typefourpic pictures(MENU_Test_CustomPictures, ENUM_OBJECT_END);
+        Seen<typeapply> apply(MENU_Color_Reset, ENUM_OBJECT_END);
+        Seen<typeapplyreset> pair(MENU_Mosaic_Apply, ENUM_OBJECT_END);
+        Seen<typefourpic> pictures(MENU_Test_CustomPictures, ENUM_OBJECT_END);
         for (QWidget *row : QList<QWidget *>{&apply, &pair, &pictures})
             row->setParent(&page);
         page.show();
@@ -115,7 +115,7 @@ private slots:
 
     void theNameOfAPairIsNeverFocused()
     {
-        typetwostringcombox row(MENU_InputBackup_Status, ENUM_OBJECT_END);
+        Seen<typetwostringcombox> row(MENU_InputBackup_Status, ENUM_OBJECT_END);
         for (int clicks : {1, 1, -1, -1, 8, -8}) {
             walk(row, MENU_InputBackup_Status, clicks);
             QVERIFY(!row.focusWidget() || row.focusWidget()->objectName() == "Btn");
@@ -127,7 +127,7 @@ private slots:
         // As it stands in the store when the panel starts again.
         const QString name = "wall 480x270.cab";
         m_bench->store().UpdataItemCurValue(MENU_CabinetFile3, name);
-        typebutton row(MENU_CabinetFile3, ENUM_OBJECT_END);
+        Seen<typebutton> row(MENU_CabinetFile3, ENUM_OBJECT_END);
         const auto shown = [&row, &name] {
             int count = 0;
             for (const QLabel *label : row.findChildren<QLabel *>())
@@ -151,7 +151,7 @@ private:
     void tickIsShownBeforeTheWork(ENUM_MenuIndex item, bool first)
     {
         m_bench->store().UpdataItemCurChoice(item, UNSELECTED);
-        typecheckitem row(item, ENUM_OBJECT_END);
+        Seen<typecheckitem> row(item, ENUM_OBJECT_END);
         row.show();
         static typecheckitem *watched;
         static int ticksAtWork;
