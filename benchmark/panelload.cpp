@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QRandomGenerator>
 #include <QThread>
 #include <QTime>
 #include <algorithm>
@@ -49,6 +50,7 @@ double median(QVector<double> values)
 struct Cost {
     double cpuMs;
     double memoryMb;
+    double privateMb;
 };
 
 /// What a bare label takes; its CPU as wait4 tells it.
@@ -71,7 +73,8 @@ Cost bareLabel(const Panel &panel)
         return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1000.0 +
                (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1000.0;
     };
-    return {ms(after) - ms(before), process.readAllStandardOutput().trimmed().toDouble()};
+    const QList<QByteArray> memory = process.readAllStandardOutput().trimmed().split(' ');
+    return {ms(after) - ms(before), memory.value(0).toDouble(), memory.value(1).toDouble()};
 }
 
 /// Key words of one step of the knob.
@@ -113,6 +116,30 @@ double lcdAnswerMs(Panel &panel, const QStringList &words, const QRect &region)
     return double(nowNs() - sentNs) / 1e6;
 }
 
+/// Pauses that have nothing to do with the panel's own beats.
+class RandomMoments
+{
+public:
+    /// Up to so many ms more than at least.
+    void wait(int atLeastMs, int moreMs)
+    {
+        QThread::usleep(static_cast<unsigned long>(atLeastMs * 1000 + m_random.bounded(moreMs * 1000)));
+    }
+
+private:
+    QRandomGenerator m_random{20261125};
+};
+
+void printWaits(const char *what, QVector<double> waits)
+{
+    constexpr double noticeableMs = 50;
+    std::sort(waits.begin(), waits.end());
+    const auto noticeable = waits.end() - std::upper_bound(waits.begin(), waits.end(), noticeableMs);
+    printf("%-34s %10.2f ms median, %.2f ms worst of %d, %d above %.0f, %d without\n", what, median(waits),
+           waits.last(), waits.size(), int(noticeable), noticeableMs,
+           int(std::count_if(waits.begin(), waits.end(), [](double wait) { return wait < 0; })));
+}
+
 void openMenuAtTheTop(Panel &panel, MenuWalk &walk)
 {
     constexpr int moreThanRows = 16;
@@ -125,7 +152,7 @@ void openMenuAtTheTop(Panel &panel, MenuWalk &walk)
 void measureStart(Panel &panel)
 {
     constexpr int starts = 5;
-    QVector<double> wall, cpu, memory, floorCpu, floorMemory;
+    QVector<double> wall, cpu, memory, own, floorCpu, floorMemory, floorOwn;
     panel.powerDevice();
     for (int i = 0; i < starts; ++i) {
         panel.ask({"panel", "stop"});
@@ -137,13 +164,16 @@ void measureStart(Panel &panel)
         const int id = procfs::panelOf(panel.statePath());
         cpu << procfs::cpuMs(id);
         memory << procfs::memoryMb(id);
+        own << procfs::privateMb(id);
         const Cost floor = bareLabel(panel);
         floorCpu << floor.cpuMs;
         floorMemory << floor.memoryMb;
+        floorOwn << floor.privateMb;
     }
     print("start-up, CPU", median(cpu), median(floorCpu), "ms");
     printf("%-34s %10.0f ms\n", "start-up, wall with the device", median(wall));
     print("memory at the home screen", median(memory), median(floorMemory), "MB");
+    print("of it the panel's own", median(own), median(floorOwn), "MB");
 }
 
 constexpr int idleSeconds = 30;
@@ -236,17 +266,24 @@ void measureIdle(Panel &panel)
 
 void measureKeys(Panel &panel)
 {
+    constexpr int keyCount = 2000, frameCount = 40;
+    constexpr int pauseMs = 50;
     MenuWalk walk(panel);
+    RandomMoments moments;
     openMenuAtTheTop(panel, walk);
     QVector<double> cursor, value, frame;
-    for (int i = 0; i < 40; ++i)
-        cursor << lcdAnswerMs(panel, {"word", i % 2 ? left : right}, firstIcon);
+    const auto step = [&](QVector<double> &waits, const QRect &region) {
+        moments.wait(0, pauseMs);
+        waits << lcdAnswerMs(panel, {"word", waits.size() % 2 ? left : right}, region);
+    };
+    while (cursor.size() < keyCount)
+        step(cursor, firstIcon);
     walk.home();
     walk.go({MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume});
-    for (int i = 0; i < 40; ++i)
-        value << lcdAnswerMs(panel, {"word", i % 2 ? left : right}, wholeLcd);
-    for (int i = 0; i < 20; ++i) {
-        QThread::msleep(400); // past the hold-back of the step before
+    while (value.size() < keyCount)
+        step(value, wholeLcd);
+    for (int i = 0; i < frameCount; ++i) {
+        moments.wait(400, pauseMs); // past the hold-back of the step before
         panel.ask({"writes", "--clear"});
         const qint64 start = nowNs();
         panel.ask({"word", i % 2 ? left : right});
@@ -263,9 +300,54 @@ void measureKeys(Panel &panel)
     const double tripMs = median(trips);
     print("key to LCD, cursor, median", median(cursor), tripMs, "ms");
     print("key to LCD, value, median", median(value), tripMs, "ms");
-    printf("%-34s %10.2f ms\n", "key to LCD, worst", *std::max_element(value.begin(), value.end()));
+    printWaits("key to LCD, cursor", cursor);
+    printWaits("key to LCD, value", value);
     constexpr double tickMs = 10; // the send ticker's period: half of it on average
     print("key to frame on the bus, median", median(frame), tickMs / 2, "ms");
+    walk.home();
+}
+
+/// From the release of OK until the last change of the LCD that follows.
+double pageMs(Panel &panel)
+{
+    QFile lcd(panel.statePath() + hostlink::lcdFile);
+    if (!lcd.open(QIODevice::ReadOnly))
+        return -1;
+    const uchar *memory = lcd.map(0, hostlink::lcdFileSize);
+    panel.ask({"key", keys::Ok, "press"});
+    QThread::msleep(30);
+    panel.ask({"key", keys::Ok, "release"});
+    const qint64 sentNs = panel.ask({"sent"}).lines.value(0).toLongLong();
+    panel.settle();
+    constexpr int changesAt = 8; // behind the counter of the changes: the time of the last
+    qint64 lastNs = 0;
+    memcpy(&lastNs, memory + hostlink::lcdBytes + changesAt, sizeof lastNs);
+    return double(lastNs - sentNs) / 1e6;
+}
+
+/// The pages of the main menu, each for the first time since the start, and again.
+void measurePages(Panel &panel)
+{
+    constexpr int pages = 9; // below the brightness
+    constexpr int rounds = 4;
+    panel.ask({"panel", "stop"});
+    panel.startReady();
+    MenuWalk walk(panel);
+    openMenuAtTheTop(panel, walk);
+    QVector<double> first, again;
+    for (int round = 0; round < rounds; ++round) {
+        for (int page = 0; page < pages; ++page) {
+            panel.turn(Right);
+            panel.settle();
+            (round == 0 ? first : again) << pageMs(panel);
+            panel.press(keys::Esc);
+            panel.settle();
+        }
+        panel.turn(Left, pages);
+        panel.settle();
+    }
+    printWaits("a page opened for the first time", first);
+    printWaits("a page opened again", again);
     walk.home();
 }
 
@@ -353,28 +435,21 @@ void measureBurst(Panel &panel, const char *name, const QList<QStringList> &burs
 void measureReports(Panel &panel)
 {
     const double memory = procfs::memoryMb(procfs::panelOf(panel.statePath()));
-    QList<QStringList> brightness, records;
+    QList<QStringList> brightness, records, same;
     for (int i = 0; i < 200; ++i) {
         brightness << QStringList{"push", "02000001", frames::le(i, 1), "--device", "1"};
+        same << QStringList{"push", "13010001", "110003800738048813"};
         records << QStringList{"push", "13010001", "11000380073804" + frames::le(16000 + i, 2)};
     }
     measureBurst(panel, "reports of one register, folded", brightness,
                  {"push", "02000001", "ff", "--device", "1"}, "ReportMsgToParaProcess 1 \"100\"");
     measureBurst(panel, "reports of an input, all read", records, {"push", "13010001", "110003800738041a41"},
                  "ReportMsgToParaProcess 3252 \"16666\"");
+    measureBurst(panel, "reports that change nothing", same, {"push", "13010001", "110003800738041941"},
+                 "ReportMsgToParaProcess 3252 \"16665\"");
     printf("%-34s %10.0f /s\n", "floor: parsing alone", parsedPerSecond());
     printf("%-34s %10.1f MB more\n", "memory after them",
            procfs::memoryMb(procfs::panelOf(panel.statePath())) - memory);
-}
-
-void printWaits(const char *what, QVector<double> waits)
-{
-    constexpr double noticeableMs = 50;
-    std::sort(waits.begin(), waits.end());
-    const auto noticeable = waits.end() - std::upper_bound(waits.begin(), waits.end(), noticeableMs);
-    printf("%-34s %10.2f ms median, %.2f ms worst of %d, %d above %.0f, %d without\n", what, median(waits),
-           waits.last(), waits.size(), int(noticeable), noticeableMs,
-           int(std::count_if(waits.begin(), waits.end(), [](double wait) { return wait < 0; })));
 }
 
 /// A minute of reports at the full rate while the knob turns and pages open.
@@ -425,8 +500,8 @@ struct Measurement {
 };
 
 constexpr Measurement measurements[] = {
-    {"idle", measureIdle},       {"keys", measureKeys}, {"store", measureStore},
-    {"reports", measureReports}, {"load", measureLoad},
+    {"idle", measureIdle},   {"keys", measureKeys},       {"pages", measurePages},
+    {"store", measureStore}, {"reports", measureReports}, {"load", measureLoad},
 };
 } // namespace
 

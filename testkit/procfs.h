@@ -56,10 +56,25 @@ inline QMap<QString, double> wakes(int process)
     return threads;
 }
 
+/// The sum of the lines of a file that begin with one of these words, in MB.
+inline double megabytesOf(const QString &file, const QList<QByteArray> &words)
+{
+    double kilobytes = 0;
+    for (const QByteArray &line : read(file).split('\n'))
+        for (const QByteArray &word : words)
+            if (line.startsWith(word))
+                kilobytes += line.mid(word.size()).trimmed().split(' ').first().toDouble();
+    return kilobytes / 1024;
+}
+
 inline double memoryMb(int process)
 {
-    const QByteArray status = read(QString("/proc/%1/status").arg(process));
-    const int at = status.indexOf("VmRSS:");
-    return at < 0 ? 0 : status.mid(at + 6, 20).trimmed().split(' ').first().toDouble() / 1024;
+    return megabytesOf(QString("/proc/%1/status").arg(process), {"VmRSS:"});
+}
+
+/// Of it what the process has for itself: not what it shares with others that use the same libraries.
+inline double privateMb(int process)
+{
+    return megabytesOf(QString("/proc/%1/smaps_rollup").arg(process), {"Private_Clean:", "Private_Dirty:"});
 }
 } // namespace procfs
