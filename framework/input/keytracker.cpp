@@ -28,9 +28,8 @@ bool isKey(unsigned char key)
 KeyTracker::KeyTracker(Post post, CTimer &timer)
     : m_post(std::move(post)), m_timer(timer), m_listTimer(keyCount)
 {
-    for (size_t i = 0; i < m_notes.size(); ++i)
-        m_notes[i] = {this, static_cast<unsigned char>(i / notesPerKey),
-                      static_cast<unsigned int>(i % notesPerKey)};
+    for (size_t key = 0; key < m_notes.size(); ++key)
+        m_notes[key] = {this, static_cast<unsigned char>(key)};
 }
 
 void KeyTracker::reset()
@@ -72,10 +71,8 @@ void KeyTracker::startTimer(unsigned char key)
     LongPress &entry = m_listTimer[key];
     stopTimer(entry); // of a press whose release was lost
     entry.isLong = false;
-    ++entry.press;
-    TimerNote &note = m_notes[size_t(key) * notesPerKey + entry.press % notesPerKey];
     qDebug() << "TIMER_SetTimer == " << key;
-    entry.timerId = m_timer.SetTimer(longPressMs, 1, OnTimerEvent, &note);
+    entry.timerId = m_timer.SetTimer(longPressMs, 1, OnTimerEvent, &m_notes[key]);
 }
 
 /// A timer that has fired is gone, and its id may be another's by now.
@@ -86,18 +83,19 @@ void KeyTracker::stopTimer(LongPress &entry)
     entry.timerId = noTimer;
 }
 
+/// On the timer thread. The key may have been let go while its timer was on its way here, and be pressed
+/// again by now: that cancelled the timer, under the same lock.
 void KeyTracker::OnTimerEvent(int, void *argument)
 {
     auto *note = static_cast<TimerNote *>(argument);
     QMutexLocker lock(&note->tracker->m_mutex);
-    note->tracker->held(note->key, note->turn);
+    if (!note->tracker->m_timer.queue().isFiringCancelled())
+        note->tracker->held(note->key);
 }
 
-void KeyTracker::held(unsigned char key, unsigned int turn)
+void KeyTracker::held(unsigned char key)
 {
     LongPress &entry = m_listTimer[key];
-    if (entry.timerId == noTimer || entry.press % notesPerKey != turn)
-        return;
     qDebug() << "OnTimerEvent == " << key;
     entry.isLong = true;
     if (const Chord *chord = chordOf(key)) {

@@ -21,8 +21,6 @@ struct LongPress {
     int timerId = -1;
     /// The long press has fired: the release is to be swallowed.
     bool isLong = false;
-    /// Number of the press, so that a timer that fires late is not taken for the one of a later press.
-    unsigned int press = 0;
 };
 
 class KeyTracker
@@ -40,21 +38,17 @@ public:
 
 private:
     static constexpr int keyCount = 36;
-    /// A timer that fires while its key is let go can still be on its way when the key is pressed again, so
-    /// the presses of a key take turns on a few notes.
-    static constexpr unsigned int notesPerKey = 8;
 
     struct Chord;
-    /// What a long-press timer is told: whose press it measures. Written once, as the timer thread reads it
+    /// What a long-press timer is told: whose key it measures. Written once, as the timer thread reads it
     /// before it has the lock.
     struct TimerNote {
         KeyTracker *tracker = nullptr;
         unsigned char key = 0;
-        unsigned int turn = 0;
     };
 
     static void OnTimerEvent(int id, void *argument);
-    void held(unsigned char key, unsigned int turn);
+    void held(unsigned char key);
     const Chord *chordOf(unsigned char key) const;
     void finishChord(const Chord &chord);
 
@@ -66,6 +60,6 @@ private:
     CTimer &m_timer;
     QMutex m_mutex;
     QVector<LongPress> m_listTimer;
-    std::array<TimerNote, keyCount * notesPerKey> m_notes;
+    std::array<TimerNote, keyCount> m_notes;
 };
 } // namespace VASK

@@ -155,6 +155,12 @@ CTimerNode *CTimerQueue::beginFiring(const CTimeValue &now)
     return m_firing;
 }
 
+bool CTimerQueue::isFiringCancelled()
+{
+    CMutexGuard guard(m_lock);
+    return m_firingCancelled;
+}
+
 void CTimerQueue::endFiring(CTimerNode *node, const CTimeValue &now)
 {
     CMutexGuard guard(m_lock);

@@ -69,6 +69,8 @@ public:
 
     /// The next timer that is due at a time, or null. Until endFiring it stays valid, whoever cancels it.
     CTimerNode *beginFiring(const CTimeValue &now);
+    /// Was the timer whose callback runs cancelled since it became due? For the callback itself.
+    bool isFiringCancelled();
     /// Arms the timer for its next time, or disarms it.
     void endFiring(CTimerNode *node, const CTimeValue &now);
     /// The clock was set back: every interval starts anew.
