@@ -10,7 +10,7 @@ namespace
 {
 /// The LCD in the page, as it is drawn.
 constexpr const char *canvas = "document.getElementById('lcd').toDataURL()";
-constexpr const char *isAlive = "!document.body.classList.contains('dead') && lcd.isConnected";
+constexpr const char *isAlive = "document.body.classList.contains('running')";
 constexpr const char *reason = "document.getElementById('reason').textContent";
 /// Stands on the home screen alone.
 constexpr const char *home = "Screen";
