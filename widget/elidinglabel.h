@@ -21,11 +21,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-
-private:
     /// Where the text is drawn.
     QRect room() const;
 
+private:
     int m_kept = 0;
     int m_coveredFrom = QWIDGETSIZE_MAX; ///< in pixels of the label
 };

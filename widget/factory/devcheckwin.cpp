@@ -52,7 +52,7 @@ DevCheckWin::DevCheckWin(QWidget *parent) : TestScreen(parent), m_list(new QList
 {
     setObjectName(QStringLiteral("DevCheckWin"));
     const bool english = englishChosen();
-    setTitle(translated(QStringLiteral("SelfTest")), menuTitleStyle(english, menulook::titlePixels));
+    setTitle(translated(QStringLiteral("SelfTest")), english);
     m_list->setGeometry(menulook::below);
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setFrameShape(QFrame::NoFrame);

@@ -140,7 +140,7 @@ void Factory::AddMenuItem(int row)
 void Factory::beginSelfTest()
 {
     m_cur_step = FACTORY_STEP_SELF_TEST;
-    setTitle(QString::fromUtf8(stepOf(m_cur_step)->title), menuTitleStyle(false, menulook::titlePixels));
+    setTitle(QString::fromUtf8(stepOf(m_cur_step)->title), false);
     m_table->hide();
     m_wait->show();
 }
@@ -155,7 +155,7 @@ void Factory::InitDisp(int step)
     m_cur_step = step;
     m_wait->hide();
     m_table->show();
-    setTitle(QString::fromUtf8(begun->title), menuTitleStyle(false, menulook::titlePixels));
+    setTitle(QString::fromUtf8(begun->title), false);
     for (int row = 0; row < rowCount; ++row) {
         for (int column = 0; column < columnCount; ++column) {
             m_cells[row][column].state = ITEM_UNTESTED;

@@ -14,10 +14,10 @@ TestScreen::TestScreen(QWidget *parent) : QWidget(parent), m_title(new QLabel(th
     m_title->setContentsMargins(menulook::titleMargin, 0, 0, 0);
 }
 
-void TestScreen::setTitle(const QString &text, const QString &style)
+void TestScreen::setTitle(const QString &text, bool english)
 {
     m_title->setText(text);
-    m_title->setStyleSheet(style);
+    setNoteLook(*m_title, english, menulook::titlePixels);
 }
 
 void TestScreen::paintEvent(QPaintEvent *)

@@ -12,7 +12,7 @@ public:
     explicit TestScreen(QWidget *parent = nullptr);
 
 protected:
-    void setTitle(const QString &text, const QString &style);
+    void setTitle(const QString &text, bool english);
     void paintEvent(QPaintEvent *event) override;
 
 private:

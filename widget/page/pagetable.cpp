@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QTableWidget>
+#include <algorithm>
 
 namespace VASK
 {
@@ -75,11 +76,12 @@ void PageTable::setLanguageStyle()
 {
     const bool english = englishChosen();
     m_titleLabel->setText(translated(m_title));
-    m_titleLabel->setStyleSheet(menuTitleStyle(english, m_titlePixels));
-    // A style goes to every widget of the page again: only when it differs.
-    const QString &style = english ? m_englishStyle : m_style;
-    if (m_table->styleSheet() != style)
-        m_table->setStyleSheet(style);
+    setNoteLook(*m_titleLabel, english, m_titlePixels);
+    const bool asSheet = std::any_of(m_placed.cbegin(), m_placed.cend(), [](VaskUiObject *widget) {
+        const auto *row = dynamic_cast<PageRow *>(widget);
+        return row && row->needsSheet();
+    });
+    setRowsLook(*m_table, english ? m_englishStyle : m_style, asSheet);
 }
 
 void PageTable::followLanguage()

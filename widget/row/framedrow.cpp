@@ -5,8 +5,8 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "widget/elidinglabel.h"
-#include "widget/look.h"
 #include "widget/picturelabel.h"
+#include "widget/row/valuelabel.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -31,7 +31,6 @@ QPushButton *createRightPicture(QWidget *parent)
     button->setIconSize(size);
     button->setFlat(true);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setStyleSheet(QStringLiteral("*:focus{outline: none;}"));
     return button;
 }
 
@@ -43,22 +42,13 @@ QLabel *createRowIcon(QWidget *parent, int width, int height)
     return label;
 }
 
-QLabel *createRowValue(QWidget *parent, Qt::Alignment alignment)
+ValueLabel *FramedRow::createValueLabel()
 {
-    constexpr int mostOfTheRow = 220; // pixels
-    auto *value = new ElidingLabel(parent);
-    value->setKept(mostOfTheRow);
-    value->setAlignment(alignment);
-    return value;
-}
-
-QLabel *FramedRow::createValueLabel()
-{
-    m_value = createRowValue(this, Qt::AlignRight | Qt::AlignVCenter);
+    m_value = new ValueLabel(Qt::AlignRight | Qt::AlignVCenter, this);
     return m_value;
 }
 
-QLabel *FramedRow::valueLabel()
+ValueLabel *FramedRow::valueLabel()
 {
     ensureBuilt();
     return m_value;
@@ -85,7 +75,6 @@ void FramedRow::createFrame(QWidget *valuePart, int spaceBeforeRight)
         layout->addWidget(valuePart);
     layout->addSpacing(spaceBeforeRight);
     layout->addWidget(m_rightButton);
-    setStyleSheet(look::sheet("*:disabled{color: $disabled;}"));
 }
 
 void FramedRow::drawIcons()

@@ -9,6 +9,7 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class ValueLabel;
 
 namespace VASK
 {
@@ -27,13 +28,13 @@ protected:
 
     /// Builds the frame with a value part in front of the right picture; null for none.
     void createFrame(QWidget *valuePart, int spaceBeforeRight = 4);
-    QLabel *createValueLabel();
+    ValueLabel *createValueLabel();
 
     void drawIcons();
     void drawName();
     /// Shows a text in the value label, if the row has one by now.
     void showValue(const QString &text);
-    QLabel *valueLabel();
+    ValueLabel *valueLabel();
     QPushButton *rightButton() const { return m_rightButton; }
 
     /// The picture in front of the name; that of the item by default. None leaves the item's room free.
@@ -45,12 +46,10 @@ private:
     QLabel *m_icon = nullptr;
     QString m_drawnIcon; ///< path of the picture that it shows
     QLabel *m_name = nullptr;
-    QLabel *m_value = nullptr;
+    ValueLabel *m_value = nullptr;
     QPushButton *m_rightButton = nullptr;
 };
 
-/// The value of a row; of the two it is the name that is shortened.
-QLabel *createRowValue(QWidget *parent, Qt::Alignment alignment);
 /// The small button-shaped picture at the right end of a row.
 QPushButton *createRightPicture(QWidget *parent);
 /// A picture of the row in front of the name; hidden while the item has none.

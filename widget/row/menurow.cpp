@@ -42,8 +42,8 @@ void MenuRow::redraw()
         draw();
 }
 
-/// A widget is polished once, before it is shown or drawn in any other way, and its children after it. Qt also
-/// asks for it as soon as the event loop runs; a row that nobody sees lets that pass.
+/// A widget is polished once, before it is shown or drawn in any other way, and its children after it. Qt
+/// also asks for it as soon as the event loop runs; a row that nobody sees lets that pass.
 bool MenuRow::event(QEvent *event)
 {
     if (event->type() == QEvent::PolishRequest)

@@ -2,9 +2,7 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/look.h"
-
-#include <QLabel>
+#include "widget/row/valuelabel.h"
 
 namespace VASK
 {
@@ -15,7 +13,7 @@ constexpr int valueHeight = 25; ///< pixels, the frame of an edit
 
 void NumberRow::CreatEntry()
 {
-    QLabel *value = createValueLabel();
+    ValueLabel *value = createValueLabel();
     createFrame(value);
     value->setFixedHeight(valueHeight);
 }
@@ -32,31 +30,19 @@ QString NumberRow::inRange(const QString &value) const
 void NumberRow::EnterEntry(ENUM_MenuIndex index, unsigned char edit, unsigned char entered)
 {
     if (edit == 0) {
-        valueLabel()->setStyleSheet(
-            look::sheet("QLabel{color:$edited;border-width: 1px;border-style: solid;border-color: $focus;}"));
+        valueLabel()->setEdited(true);
         return;
     }
-    endLook(endStyle());
+    valueLabel()->setEdited(false);
     if (entered != 0)
         commit(index);
 }
 
 void NumberRow::EscEntry(ENUM_MenuIndex index, unsigned char entered)
 {
-    endLook(look::sheet("QLabel{border: 0px solid $disabled;}"));
+    valueLabel()->setEdited(false);
     if (entered != 0)
         commit(index);
-}
-
-QString NumberRow::endStyle() const
-{
-    return look::sheet("QLabel{border: 0px solid $disabled;}");
-}
-
-void NumberRow::endLook(const QString &style)
-{
-    valueLabel()->setFixedHeight(valueHeight);
-    valueLabel()->setStyleSheet(style);
 }
 
 void NumberRow::commit(ENUM_MenuIndex index)

@@ -31,8 +31,6 @@ protected:
     void CreatEntry() override;
     /// The number after so many steps, already held by the item's own limits.
     virtual QString stepped(int steps) const = 0;
-    /// Style of the value when OK ends the edit.
-    virtual QString endStyle() const;
     /// True when a value within its limits is taken as the device tells it, without the engine's limits.
     virtual bool takesAsReported(ENUM_MenuIndex, ENUM_MODE_SET_XML) const { return false; }
 
@@ -46,7 +44,6 @@ protected:
 private:
     void turn(ENUM_MenuIndex index, int steps);
     void commit(ENUM_MenuIndex index);
-    void endLook(const QString &style);
     /// The value held by the item's own limits.
     QString inRange(const QString &value) const;
 };

@@ -27,5 +27,7 @@ public:
     virtual OkKind okKind() const { return OkKind::Nothing; }
     /// Parts side by side, which the cursor walks through.
     virtual bool hasParts() const { return false; }
+    /// Drawn by style sheets of its own, which build on that of the page.
+    virtual bool needsSheet() const { return false; }
 };
 } // namespace VASK

@@ -16,6 +16,7 @@ public:
     using MenuRow::MenuRow;
 
     bool hasParts() const override { return true; }
+    bool needsSheet() const override { return true; }
     using VaskUiObject::DownEntry;
     using VaskUiObject::UpEntry;
     void UpEntry(ENUM_MenuIndex index, unsigned char &speed, bool first) override;

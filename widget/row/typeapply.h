@@ -17,6 +17,7 @@ public:
     using MenuRow::MenuRow;
 
     OkKind okKind() const override { return OkKind::Acts; }
+    bool needsSheet() const override { return true; }
     using VaskUiObject::EnterEntry;
     void EnterEntry(ENUM_MenuIndex index) override { act(index); }
     void ChangeStyleEntry(ENUM_MenuIndex index, unsigned char on) override;

@@ -1,8 +1,7 @@
 #include "widget/row/typebutton.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-
-#include <QLabel>
+#include "widget/row/valuelabel.h"
 
 namespace VASK
 {

@@ -5,9 +5,9 @@
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "widget/elidinglabel.h"
-#include "widget/look.h"
 #include "widget/picturelabel.h"
 #include "widget/row/framedrow.h"
+#include "widget/row/valuelabel.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -23,7 +23,7 @@ void typeinformation::CreatEntry()
     m_icon = createRowIcon(this, iconSize, iconSize);
     m_name = new ElidingLabel(this);
     m_name->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_value = createRowValue(this, Qt::AlignLeft | Qt::AlignVCenter);
+    m_value = new ValueLabel(Qt::AlignLeft | Qt::AlignVCenter, this);
     m_rightButton = createRightPicture(this);
 
     auto *layout = new QHBoxLayout(this);
@@ -39,7 +39,6 @@ void typeinformation::CreatEntry()
     if (!m_item.iconRight.isEmpty())
         layout->addSpacing(spaceBeforeRight);
     layout->addWidget(m_rightButton);
-    setStyleSheet(look::sheet("*:disabled{color: $disabled;}"));
 }
 
 void typeinformation::draw()

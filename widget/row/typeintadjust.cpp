@@ -4,7 +4,6 @@
 #include "menu/itemfamilies.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "widget/look.h"
 
 #include <cstdlib>
 
@@ -30,11 +29,6 @@ QString typeintadjust::stepped(int steps) const
     if (steps > 0 && value > m_item.max.toDouble())
         return m_item.max;
     return QString::number(value);
-}
-
-QString typeintadjust::endStyle() const
-{
-    return look::sheet("QLabel{border: 0px solid ,color:$disabled;}");
 }
 
 void typeintadjust::NumberEntry(ENUM_MenuIndex index, unsigned char digit)

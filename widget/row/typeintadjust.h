@@ -18,7 +18,6 @@ public:
 
 protected:
     QString stepped(int steps) const override;
-    QString endStyle() const override;
     bool takesAsReported(ENUM_MenuIndex index, ENUM_MODE_SET_XML mode) const override;
     void takeValue(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode) override;
 

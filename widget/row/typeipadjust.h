@@ -22,6 +22,7 @@ public:
     using MenuRow::MenuRow;
 
     OkKind okKind() const override { return OkKind::EditsAddress; }
+    bool needsSheet() const override { return true; }
     using VaskUiObject::DownEntry;
     using VaskUiObject::EnterEntry;
     using VaskUiObject::EscEntry;

@@ -22,6 +22,7 @@ public:
     using MenuRow::MenuRow;
 
     OkKind okKind() const override { return OkKind::ChoosesFromList; }
+    bool needsSheet() const override { return true; }
     bool CurrentItemEnabled() override { return m_dropDown.currentEnabled(); }
     /// "0" stacks the boxes, anything else sets them side by side. From any thread.
     void updateSplite(QString value) override;

@@ -4,9 +4,9 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "widget/row/valuelabel.h"
 
 #include <QDebug>
-#include <QLabel>
 
 namespace VASK
 {
