@@ -28,9 +28,11 @@ bool MenuAnalysis::IsEixstFile(StoreText &config)
         if (StoreFiles::contents(StoreFiles::config()) == StoreFiles::contents(StoreFiles::backup()))
             return true;
         // A backup that differs is damaged, or one save behind. But what lacks an item that the backup has,
-        // or has one twice, was written by no save: the backup waits for the first one.
-        if (!checkStore(StoreFiles::backup(), backup) ||
-            (config.isTidy && config.items.contains(backup.items)))
+        // or has one twice, was written by no save: the backup waits for the first one. What cannot be loaded
+        // replaces nothing, either.
+        if (QDomDocument().setContent(config.text) &&
+            (!checkStore(StoreFiles::backup(), backup) ||
+             (config.isTidy && config.items.contains(backup.items))))
             syncAfter(StoreFiles::copyConfigToBackup());
         return true;
     }

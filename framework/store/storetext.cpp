@@ -15,12 +15,19 @@ constexpr int itemDepth = 2;
 constexpr int fieldDepth = 3;
 constexpr int paramDepth = 4;
 
+/// No document may hold it; the two readers of this one do not agree about that.
+bool isForbidden(QChar c)
+{
+    return (c < ' ' && c != '\t' && c != '\n' && c != '\r') || c.unicode() >= 0xFFFE;
+}
+
 /// The text if it is UTF-8 throughout. Whatever encoding a document says it has, it is read as this.
 bool decode(const QByteArray &bytes, QString &text)
 {
     QTextCodec::ConverterState state;
     text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    return state.invalidChars == 0 && state.remainingChars == 0 &&
+           std::none_of(text.cbegin(), text.cend(), isForbidden);
 }
 
 class Scan
@@ -166,7 +173,7 @@ StoreText readStoreText(const QByteArray &bytes)
     StoreText result;
     if (bytes.size() >= storeSizeLimit || !decode(bytes, result.text)) {
         result.text.clear();
-        result.error = "no text of a store's length";
+        result.error = "no text of a store's length and characters";
         return result;
     }
     Scan(result).run();

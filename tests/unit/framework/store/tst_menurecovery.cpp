@@ -67,6 +67,7 @@ const QList<QPair<const char *, Damage>> damages{
     {"half a character", [](QByteArray file) { return bytesAt(file, file.indexOf("锁屏"), "x"); }},
     {"a control character",
      [](QByteArray file) { return bytesAt(file, file.indexOf("ScreenBrightness"), "\x01"); }},
+    {"zeros in a name", [](QByteArray file) { return file.replace("Version=", QByteArray("Ver\0ion=", 8)); }},
     {"a wrong tag", [](QByteArray file) { return bytesAt(file, file.lastIndexOf("<Value>"), "<Valve>"); }},
     {"a lost quote", [](QByteArray file) { return bytesAt(file, file.indexOf("\">"), "x"); }},
     // Well-formed, and no store.
