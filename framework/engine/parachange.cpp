@@ -121,6 +121,11 @@ void ParaChange::send(ENUM_MenuIndex item, const QString &newValue)
         widget->CallProtocol(newValue, item);
 }
 
+bool ParaChange::hasNoRow() const
+{
+    return !widgetOf(index);
+}
+
 int ParaChange::dialog(ENUM_MenuIndex item)
 {
     return engine.runMessage(item);

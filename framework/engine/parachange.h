@@ -64,6 +64,8 @@ struct ParaChange {
     /// The same for a question. Only the user's own yes counts: one that is closed from outside has another
     /// result.
     bool confirmed(ENUM_MenuIndex question);
+    /// No row of a page that is built shows the item, so that none brings a reported value inside its limits.
+    bool hasNoRow() const;
     /// Does something with every widget of an item that is built.
     void eachWidget(ENUM_MenuIndex item, const std::function<void(VaskUiObject &)> &work) const;
     /// Makes options of a list available or not, and reloads its widget.

@@ -30,6 +30,17 @@ std::atomic<bool> ParaProcess::bRelOnloadRegionStart{false};
 std::atomic<bool> ParaProcess::m_ResetFlg{false};
 int ParaProcess::m_CopySceneNum = -1;
 
+namespace
+{
+/// What a row would make of a reported value.
+QString insideItsLimits(const ST_ItemInfo &item, const QString &value)
+{
+    if (!item.params.isEmpty())
+        return knownOption(item, value);
+    return item.min == item.max || value.isEmpty() ? value : withinLimits(item, value);
+}
+} // namespace
+
 struct ParaProcess::Parts {
     explicit Parts(ParaProcess &engine)
         : home(engine), ports(engine, home), presets(engine), services(engine), snapshot(engine)
@@ -166,6 +177,8 @@ void ParaProcess::SetParaToXml(QString value, ENUM_MenuIndex index, ENUM_MODE_SE
     if (!store)
         return;
     ParaChange change(*this, *store, value, index, mode);
+    if (change.fromDevice() && change.hasNoRow())
+        change.value = value = insideItsLimits(change.info(index), value);
     if (index >= PARA_CabinetWidth && index < PARA_TextEnd)
         SaveProcessData(value, index);
     else

@@ -1,5 +1,6 @@
 #include "widget/row/menurow.h"
 
+#include "framework/engine/limits/limits.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/thread/handover.h"
 #include "menu/itemindex.h"
@@ -97,7 +98,7 @@ void MenuRow::apply(const QString &value, ENUM_MenuIndex index, ENUM_MODE_SET_XM
 void MenuRow::takeOption(ENUM_MenuIndex index, const QString &value, ENUM_MODE_SET_XML mode,
                          VaskUiObject *dropDown)
 {
-    m_item.value = m_item.params.contains(value) ? value : QStringLiteral("0");
+    m_item.value = knownOption(m_item, value);
     if (dropDown)
         dropDown->SetParaEntry(index, m_item.value, mode);
     const QString taken = limited(m_item.value, index);

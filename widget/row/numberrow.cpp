@@ -1,4 +1,6 @@
 #include "widget/row/numberrow.h"
+
+#include "framework/engine/limits/limits.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
@@ -20,11 +22,7 @@ void NumberRow::CreatEntry()
 
 QString NumberRow::inRange(const QString &value) const
 {
-    if (value.toDouble() < m_item.min.toDouble())
-        return m_item.min;
-    if (value.toDouble() > m_item.max.toDouble())
-        return m_item.max;
-    return value;
+    return withinLimits(m_item, value);
 }
 
 void NumberRow::EnterEntry(ENUM_MenuIndex index, unsigned char edit, unsigned char entered)

@@ -4,9 +4,22 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
+#include "menuconfig_k2860.h"
 
 namespace VASK
 {
+QString withinLimits(const ST_ItemInfo &item, const QString &value)
+{
+    if (value.toDouble() < item.min.toDouble())
+        return item.min;
+    return value.toDouble() > item.max.toDouble() ? item.max : value;
+}
+
+QString knownOption(const ST_ItemInfo &item, const QString &value)
+{
+    return item.params.contains(value) ? value : QStringLiteral("0");
+}
+
 void repaintList(ENUM_ObjectIndex row, ENUM_MenuIndex list)
 {
     if (auto *widget = dynamic_cast<VaskUiObject *>(ObjectPool::getInstance()->GetObject(row)))

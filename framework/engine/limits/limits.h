@@ -12,6 +12,12 @@
 namespace VASK
 {
 class ParaProcess;
+struct ST_ItemInfo;
+
+/// The value itself, or the limit of its item that it lies beyond.
+QString withinLimits(const ST_ItemInfo &item, const QString &value);
+/// The value itself if it is an option of its item, else the first.
+QString knownOption(const ST_ItemInfo &item, const QString &value);
 
 /// A value that is asked for.
 struct ParaLimit {

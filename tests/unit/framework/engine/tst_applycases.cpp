@@ -222,6 +222,10 @@ const CaseLines otherLines{
     {"maker's sign", "user MakerSign=0", "user MakerSign=1", "visible labDeviceName"},
     {"calibration", "", "user SoftCalibrate=1", ""},
     {"of no case", "", "device ScreenConfigKind=0", "leaves ScreenConfigKind=0"},
+    {"no row, above", "", "device DVI2_Hue=181", "leaves DVI2_Hue=180"},
+    {"no row, below", "", "device Mosaic_Width=63", "leaves Mosaic_Width=64 MosaicLayout0_Width=64"},
+    {"no row, no option", "DVI2_LimitedtoFull=1", "device DVI2_LimitedtoFull=9",
+     "leaves DVI2_LimitedtoFull=0"},
 };
 } // namespace
 
