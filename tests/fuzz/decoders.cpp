@@ -5,67 +5,56 @@
 #include "framework/protocol/bus/ipcheaderinfo.h"
 #include "framework/protocol/packet/packageframe.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
-
-#include <QtGlobal>
-#include <cstdint>
-#include <cstdlib>
+#include "tests/fuzz/fuzztarget.h"
 
 using namespace VASK;
 
 namespace
 {
-void require(bool holds)
-{
-    if (!holds)
-        abort();
-}
-
 void decodeFrame(const QByteArray &frame)
 {
     PackageRequestProto3rd package;
     const bool accepted = package.unPackageReply(frame);
     PackageType type = PACKAGE_Plain;
-    require(accepted == unPackageReplyType(frame, type));
+    REQUIRE(accepted == unPackageReplyType(frame, type));
     if (!accepted) {
-        require(package.data().isEmpty() && package.getAddress() == 0);
+        REQUIRE(package.data().isEmpty() && package.getAddress() == 0);
         return;
     }
-    require(type == package.getPackageType());
-    require(package.data().size() <= package.getReplyDataLength());
-    require(package.data().size() <= qMax(0, frame.size() - frameOverhead));
+    REQUIRE(type == package.getPackageType());
+    REQUIRE(package.data().size() <= package.getReplyDataLength());
+    REQUIRE(package.data().size() <= qMax(0, frame.size() - frameOverhead));
     // What was read can be sent again, as long as it says it is.
     const QByteArray again = package.ParseSendRequest();
     const int payload = package.getProtoType() == PROTO_Write ? package.getReplyDataLength() : 0;
-    require(again.size() == frameOverhead + payload);
+    REQUIRE(again.size() == frameOverhead + payload);
     PackageRequestProto3rd copy;
-    require(copy.unPackageReply(again) && copy.getAddress() == package.getAddress());
+    REQUIRE(copy.unPackageReply(again) && copy.getAddress() == package.getAddress());
 }
 
 void decodeMessage(const QByteArray &bytes)
 {
     const IpcMessage message = parseIpcMessage(bytes);
-    require(message.payload.size() <= qMax(0, bytes.size() - ipcHeaderSize));
+    REQUIRE(message.payload.size() <= qMax(0, bytes.size() - ipcHeaderSize));
     if (isWholeIpcMessage(bytes.constData(), static_cast<unsigned int>(bytes.size())))
-        require(ipcHeaderSize + message.payload.size() == ipcMessageLength(bytes.constData()));
+        REQUIRE(ipcHeaderSize + message.payload.size() == ipcMessageLength(bytes.constData()));
     QByteArray payload;
     const bool unpacked = IpcHeaderInfo().UnpackMessage(bytes.constData(), bytes.size(), payload);
-    require(payload.size() == (unpacked ? bytes.size() - ipcHeaderSize : 0));
+    REQUIRE(payload.size() == (unpacked ? bytes.size() - ipcHeaderSize : 0));
     decodeFrame(message.payload);
 }
 
 void decode(const QByteArray &bytes)
 {
     const Datagram datagram = sortDatagram(bytes);
-    require((datagram.kind == DATAGRAM_Packet) == !datagram.packet.isEmpty());
+    REQUIRE((datagram.kind == DATAGRAM_Packet) == !datagram.packet.isEmpty());
     decodeFrame(datagram.packet);
     decodeFrame(bytes);
     decodeMessage(bytes);
 }
-} // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void feed(const QByteArray &bytes)
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));
     decode(bytes);
     // The same with a good checksum, which chance hardly finds.
     QByteArray checked = bytes + QByteArray(frameChecksumSize, '\0');
@@ -73,5 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     PackageBase::CacuRevise(checked, FRAME_AckCode, bytes.size() - FRAME_AckCode, &sum);
     putLittleEndian(checked, bytes.size(), frameChecksumSize, sum);
     decode(checked);
-    return 0;
 }
+} // namespace
+
+FPD_FUZZ_TARGET(decoders, feed, 1024)
