@@ -1,0 +1,96 @@
+#include "tools/monkey/kills.h"
+
+#include "menu/itemindex.h"
+#include "testkit/agreement.h"
+#include "testkit/names/itemnames.h"
+#include "testkit/panel.h"
+
+#include <QThread>
+#include <random>
+
+using namespace VASK;
+
+namespace
+{
+const QString brightness = itemnames::name(MENU_ScreenBrightness);
+
+/// All but the brightness, which is set, and what a start makes anew.
+QMap<QString, QString> others(QMap<QString, QString> fields)
+{
+    fields.remove(brightness);
+    return fields;
+}
+
+QString differences(const QMap<QString, QString> &before, const QMap<QString, QString> &now)
+{
+    QStringList lines;
+    for (auto field = before.cbegin(); field != before.cend(); ++field)
+        if (now.value(field.key()) != *field)
+            lines << QString("%1 was %2 and is %3").arg(field.key(), *field, now.value(field.key()));
+    return lines.join('\n');
+}
+
+bool comesUp(Panel &panel)
+{
+    return panel.start() && panel.ask({"wait", "ready"}).ok;
+}
+} // namespace
+
+QString kills::kill(int count, unsigned int seed)
+{
+    std::mt19937 random(seed);
+    const auto below = [&random](int most) { return int(random() % unsigned(most)); };
+    Panel panel;
+    if (!panel.startReady())
+        return "the panel does not start";
+    panel.ask({"panel", "stop"});
+    const QMap<QString, QString> first = others(panel.storedFields());
+    for (int i = 0; i < count; ++i) {
+        if (!comesUp(panel))
+            return QString("kill %1: the panel does not come up").arg(i);
+        const QString kept = panel.stored(MENU_ScreenBrightness);
+        const int step = kept.toInt() < 50 ? 1 : -1;
+        panel.askAll({{"key", "ok"}, {"key", "ok"}, {"knob", step > 0 ? "right" : "left"}, {"key", "ok"}});
+        QThread::msleep(unsigned(below(1400))); // the store is written a second later
+        const bool isEmulator = below(4) == 0;
+        if (isEmulator)
+            panel.kill();
+        else
+            panel.ask({"panel", "kill"});
+        if (isEmulator && !panel.powerDevice())
+            return QString("kill %1: the emulator does not come up").arg(i);
+        if (!comesUp(panel))
+            return QString("kill %1: the panel does not come up again").arg(i);
+        const QString now = panel.stored(MENU_ScreenBrightness);
+        const QString lost = differences(first, others(panel.storedFields()));
+        if ((now != kept && now.toInt() != kept.toInt() + step) || !lost.isEmpty())
+            return QString("kill %1: brightness %2 became %3\n%4").arg(i).arg(kept, now, lost);
+        panel.ask({"panel", "stop"});
+    }
+    return panel.damage();
+}
+
+QString kills::unplug(int count, unsigned int seed)
+{
+    std::mt19937 random(seed);
+    constexpr const char *parts[] = {"bus", "keypad"};
+    Panel panel;
+    if (!panel.startReady())
+        return "the panel does not start";
+    for (int i = 0; i < count; ++i) {
+        const QString part = parts[random() % std::size(parts)];
+        panel.askAll({{"fault", part, "down"}, {"fault", "flash", QString::number(random() % 3)}});
+        QThread::msleep(random() % 40);
+        panel.askAll({{"fault", part, "up"}});
+        QThread::msleep(random() % 40);
+        panel.ask({"knob", random() % 2 ? "right" : "left"}); // refused while nobody reads
+        if (i % 50 == 0)
+            panel.ask({"key", random() % 2 ? "ok" : "esc"});
+    }
+    panel.ask({"fault", "flash", "0"});
+    panel.waitUntil([&panel] { return panel.press(keys::Esc); });
+    for (int i = 0; i < 8; ++i)
+        panel.press(keys::Esc);
+    const QString fault = agreement::disagreement(panel);
+    return fault.isEmpty() ? panel.damage() : fault;
+}
