@@ -49,21 +49,16 @@ private slots:
     void toolsAnswerAsTold_data()
     {
         // answer: null: healthy
-        QTest::addColumn<QString>("tool");
-        QTest::addColumn<QString>("answer");
-        addColumns<QString, QByteArray>({"command", "output"});
+        const DataRows<QString, QString, QString, QByteArray> row{"tool", "answer", "command", "output"};
         const QString version = "fpga -v | grep FPGA | tail -l | awk '{print $4}'";
         const QString memory = "fpga r v 0x101f 1 | grep 0x01 -c";
         const QString mcu = "stm32 -v | grep mcu | grep 20 -c";
-        QTest::newRow("healthy version") << "fpga" << QString() << version << QByteArray("2.0.11\n");
-        QTest::newRow("healthy memory") << "fpga" << QString() << memory << QByteArray("1\n");
-        QTest::newRow("healthy mcu") << "stm32" << QString() << mcu << QByteArray("1\n");
-        QTest::newRow("dead fpga") << "fpga"
-                                   << "" << version << QByteArray();
-        QTest::newRow("bad memory") << "fpga"
-                                    << "0x101f: 0x00" << memory << QByteArray("0\n");
-        QTest::newRow("last of two versions") << "fpga"
-                                              << "FPGA a is 1\nFPGA b is 2" << version << QByteArray("2\n");
+        row("healthy version", "fpga", QString(), version, "2.0.11\n");
+        row("healthy memory", "fpga", QString(), memory, "1\n");
+        row("healthy mcu", "stm32", QString(), mcu, "1\n");
+        row("dead fpga", "fpga", "", version, "");
+        row("bad memory", "fpga", "0x101f: 0x00", memory, "0\n");
+        row("last of two versions", "fpga", "FPGA a is 1\nFPGA b is 2", version, "2\n");
     }
     void toolsAnswerAsTold()
     {

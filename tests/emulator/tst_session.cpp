@@ -68,13 +68,11 @@ private slots:
 
     void damagedLinesAreRefused_data()
     {
-        QTest::addColumn<QString>("line");
-        for (const char *line :
-             {"key 0122", "-1 key 0122", "1 key", "1 key 12222", "1 key xyz", "1 key 0122 0122",
-              "1 knob 0121", "1 report 0200001f", "1 report 0200001f 256 0f", "1 report 0200001f 0 0",
-              "1 report 0200001f 0 0g", "1 failed 1300009e 0 xx 0215", "1 failed 1300009e 0 0 0215",
-              "1 failed 1300009e 0 256 0215", "1 message 7", "1 message 7 99999 00", "1"})
-            QTest::newRow(line) << QString(line);
+        addNames("line",
+                 {"key 0122", "-1 key 0122", "1 key", "1 key 12222", "1 key xyz", "1 key 0122 0122",
+                  "1 knob 0121", "1 report 0200001f", "1 report 0200001f 256 0f", "1 report 0200001f 0 0",
+                  "1 report 0200001f 0 0g", "1 failed 1300009e 0 xx 0215", "1 failed 1300009e 0 0 0215",
+                  "1 failed 1300009e 0 256 0215", "1 message 7", "1 message 7 99999 00", "1"});
     }
     void damagedLinesAreRefused()
     {

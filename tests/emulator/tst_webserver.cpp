@@ -166,19 +166,15 @@ private slots:
     void messagesEndTheirViewer_data()
     {
         // frame: as it goes over the wire, but for its mask of zeros
-        QTest::addColumn<QByteArray>("frame");
-        addColumns<int, bool>({"code", "looks"});
-        QTest::newRow("100 MB") << QByteArray::fromHex("81ff0000000005f5e10000000000") + "abc" << 1009
-                                << false;
-        QTest::newRow("100 MB of bytes")
-            << QByteArray::fromHex("82ff0000000005f5e10000000000") << 1009 << false;
-        QTest::newRow("no UTF-8") << text("\xff\xfe\xfd") << 1007 << false;
-        QTest::newRow("bytes") << QByteArray::fromHex("82810000000041") << 1003 << false;
-        QTest::newRow("no JSON") << text("hello") << 1008 << false;
-        QTest::newRow("nothing to do") << text(R"({"do":"nosuch"})") << 1008 << false;
-        QTest::newRow("key by a looker") << text(R"({"do":"hold","key":"ok","down":true})") << 1008 << true;
-        QTest::newRow("word by a looker")
-            << text(R"({"do":"word","id":1,"words":["key","ok"]})") << 1008 << true;
+        const DataRows<QByteArray, int, bool> row{"frame", "code", "looks"};
+        row("100 MB", QByteArray::fromHex("81ff0000000005f5e10000000000") + "abc", 1009, false);
+        row("100 MB of bytes", QByteArray::fromHex("82ff0000000005f5e10000000000"), 1009, false);
+        row("no UTF-8", text("\xff\xfe\xfd"), 1007, false);
+        row("bytes", QByteArray::fromHex("82810000000041"), 1003, false);
+        row("no JSON", text("hello"), 1008, false);
+        row("nothing to do", text(R"({"do":"nosuch"})"), 1008, false);
+        row("key by a looker", text(R"({"do":"hold","key":"ok","down":true})"), 1008, true);
+        row("word by a looker", text(R"({"do":"word","id":1,"words":["key","ok"]})"), 1008, true);
     }
     void messagesEndTheirViewer()
     {
@@ -228,10 +224,8 @@ private slots:
 
     void wordsNameNoFile_data()
     {
-        QTest::addColumn<QString>("words");
-        for (const char *words : {"cd /", "screen /FILE.png --last", "screen FILE.png --last", "record FILE",
-                                  "replay FILE", "replay FILE 2 --check"})
-            QTest::newRow(words) << words;
+        addNames("words", {"cd /", "screen /FILE.png --last", "screen FILE.png --last", "record FILE",
+                           "replay FILE", "replay FILE 2 --check"});
     }
     void wordsNameNoFile()
     {

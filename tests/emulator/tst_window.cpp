@@ -54,12 +54,7 @@ private slots:
         QVERIFY2(title.endsWith(m_rig->emulator->folder.path()), qPrintable(title));
     }
 
-    void keysGoByTheirPlaces_data()
-    {
-        QTest::addColumn<QString>("layout");
-        for (const char *layout : {"de", "fr", "ru", "us"})
-            QTest::newRow(layout) << QString(layout);
-    }
+    void keysGoByTheirPlaces_data() { addNames("layout", {"de", "fr", "ru", "us"}); }
     void keysGoByTheirPlaces()
     {
         QFETCH(QString, layout);
