@@ -88,26 +88,6 @@ private slots:
         QVERIFY(shown().contains("  name: " + name));
     }
 
-    void wordsAreRefused_data()
-    {
-        QTest::addColumn<QString>("words");
-        const QString refused =
-            "signal nosuch on|signal hdmi1|signal hdmi1 off 1920x1080@60|signal hdmi1 on 1920x1080|"
-            "signal hdmi1 on 1920x1080@60 rgb444 ycc422|port 0 link on|port 11 link on|port 1 link|"
-            "port 1 cable on|preset|device|rename|calibrate|update 101|update 25301|update -1|record stop|"
-            "replay /nosuch/file|record /nosuch/file|reports maybe";
-        for (const QString &words : refused.split('|'))
-            QTest::newRow(qPrintable(words)) << words;
-    }
-    void wordsAreRefused()
-    {
-        QFETCH(QString, words);
-        const QStringList before = shown();
-        const Answer answer = m_panel.ask(words.split(' '));
-        QVERIFY(!answer.ok && !answer.error.isEmpty());
-        QCOMPARE(shown(), before);
-    }
-
     void aPushedServerSwitchBringsAnAddress()
     {
         QVERIFY(m_panel.ask({"push", "1300001A", "A8"}).ok);

@@ -75,7 +75,7 @@ bool FrameDrive::reach(const QList<ENUM_MenuIndex> &path)
     const QList<ENUM_MenuIndex> pages = path.mid(0, path.size() - 1);
     if (m_place == Elsewhere && !home())
         return false;
-    if (m_place == AtHome && !m_walk.openMenu(m_root))
+    if (m_place == AtHome && !m_walk.openMenu())
         return false;
     m_place = InMenu;
     while (m_open != pages.mid(0, m_open.size())) {

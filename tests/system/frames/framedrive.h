@@ -50,9 +50,8 @@ public:
 
     /// Device and panel: the home screen, and the device has told all of itself.
     bool start() { return m_panel.powerDevice() && startPanel(); }
-    /// The panel comes up, or goes down and comes up again.
+    /// The panel comes up.
     bool startPanel();
-    bool restartPanel() { return m_panel.ask({"panel", "stop"}).ok && startPanel(); }
     /// Goes to the row, plays the keys and compares; what is wrong, empty if nothing.
     QString drive(const KeyFrames &line);
     /// Opens the row, from page to page by the shortest way.
@@ -62,8 +61,6 @@ public:
     /// What is sent until the panel falls silent, at least so many writes if they come.
     QStringList sent(int expected);
 
-    /// The next row stands in a hidden menu.
-    void setRoot(VASK::ENUM_ConfigIndex root) { m_root = root; }
 
 private:
     enum Place { AtHome, InMenu, Elsewhere };
@@ -73,7 +70,6 @@ private:
 
     Panel &m_panel;
     MenuWalk &m_walk;
-    VASK::ENUM_ConfigIndex m_root = VASK::CONFIG_MainMenu;
     /// The entries that lead to the open page.
     QList<VASK::ENUM_MenuIndex> m_open;
     Place m_place = AtHome;

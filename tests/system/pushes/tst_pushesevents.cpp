@@ -97,20 +97,18 @@ private slots:
     {
         QVERIFY(m_walk.go({MENU_AdvancedSetting, MENU_ScreenSetting, MENU_LoadCabFiles}));
         QVERIFY(m_panel.waitFor("P1.5-480x270.cab"));
-        QFile index(m_panel.file("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName"));
-        QVERIFY(index.open(QIODevice::ReadWrite));
-        const QString name = "P4-64x64.cab";
-        QVERIFY(index.write(reinterpret_cast<const char *>(name.utf16()), 2 * name.size()) ==
-                    2 * name.size() &&
-                index.write(QByteArray(2 * 16, '\0')) > 0);
-        index.close();
+        const QString first = "P4-64x64.cab", later = "P5-48x48.cab";
+        QVERIFY(renameFirstFile(first));
         QVERIFY(m_pushes.push({"0ff00000 00"}));
         QVERIFY(m_panel.settle());
         QVERIFY(m_panel.shows("P1.5-480x270.cab"));
         QVERIFY(m_pushes.push({"0ff00000 01"}));
-        QVERIFY(m_panel.waitFor(name));
+        QVERIFY(m_panel.waitFor(first));
         QVERIFY(m_panel.shows("P2.5-128x128.cab"));
-        QVERIFY(m_walk.home());
+        // The page fills itself when it opens.
+        QVERIFY(m_walk.home() && renameFirstFile(later));
+        QVERIFY(m_pushes.push({"0ff00000 01"}) && m_pushes.flush());
+        QCOMPARE(m_panel.stored(MENU_CabinetFile1), first);
     }
 
     void wallIsCalibrated()
@@ -173,6 +171,14 @@ private slots:
     }
 
 private:
+    bool renameFirstFile(const QString &name)
+    {
+        QFile index(m_panel.file("/usr/vask/etc/fpd/cabCfg/AllCabCfgFileName"));
+        return index.open(QIODevice::ReadWrite) &&
+               index.write(reinterpret_cast<const char *>(name.utf16()), 2 * name.size()) ==
+                   2 * name.size() &&
+               index.write(QByteArray(2 * 16, '\0')) > 0;
+    }
     QImage screenBelowTheAddress() const { return m_panel.screen().copy(0, 28, 320, 212); }
 };
 

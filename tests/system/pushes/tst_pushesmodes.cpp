@@ -11,35 +11,16 @@ namespace
 const char *const dviThere = "13010041 0000030005d0021534";
 const char *const dviGone = "13010041 00000000000000000000";
 
-/// Of items that come and go together.
-QString enabled(const QList<int> &items, bool on)
-{
-    QStringList changes;
-    for (int item : items)
-        changes << itemnames::line(item, on ? "true" : "false").replace("=", "/Enable=");
-    return ' ' + changes.join(' ');
-}
-
 /// What a sending card has no use for.
-const QList<int> controllerItems{MENU_OutputFrameRate,
-                                 MENU_MainLayer_Status,
-                                 MENU_MainLayer_ScalingMode,
-                                 MENU_MainLayer_HorWidth,
-                                 MENU_MainLayer_VerHeight,
-                                 MENU_MainLayer_Priority,
-                                 MENU_MainLayer_Opacity,
-                                 MENU_PIP1,
-                                 MENU_PIP2,
-                                 MENU_Layout,
-                                 MENU_PresetSettings,
-                                 MENU_ImageMosaic,
-                                 MENU_MainLayerTransition,
-                                 MENU_TransitionDuration,
-                                 MENU_AudioInput_Mosaic,
-                                 MENU_Fn_HDMIOutput,
-                                 MENU_HDMIOutput,
-                                 MENU_Mode3D,
-                                 MENU_InputBackup_Mosaic};
+QString controllerItems(bool on)
+{
+    static const QString items = itemnames::expanded(
+        "OutputFrameRate MainLayer_{Status ScalingMode HorWidth VerHeight Priority Opacity} PIP1 PIP2 Layout "
+        "PresetSettings ImageMosaic MainLayerTransition TransitionDuration AudioInput_Mosaic Fn_HDMIOutput "
+        "HDMIOutput Mode3D InputBackup_Mosaic");
+    const QString state = QString("/Enable=") + (on ? "true" : "false");
+    return ' ' + QString(items).replace(' ', state + ' ') + state;
+}
 } // namespace
 
 class TestPushesModes : public PushesTest
@@ -56,7 +37,7 @@ private slots:
                         "Audio_{AudioOutput/Params1/2=Disable AudioOutput/Params1/3=Disable} "
                         "Sync_{Source/Params1/1=Disable Source/Params1/2=Disable Source/Params1/3=Disable} "
                         "MainLayer_InputCrop/Enable=false" +
-                        enabled(controllerItems, false))
+                        controllerItems(false))
                 .shows({"mainname:DVI", "main:1280x720@75", "screen:1920x1080@75"})
                 .answers({"020001f8 00 a5", "13020010 00 01", "13020040 00 00", "13020070 00 00",
                           "1300009e 00 01", "13020012 00 020000",
@@ -101,7 +82,7 @@ private slots:
                         "HorWidth=800 CustomWidth=800 VerHeight=600 CustomHeight=600 InitialX=0 InitialY=0} "
                         "Audio_{AudioOutput/Params1/2=Enable AudioOutput/Params1/3=Enable} "
                         "Sync_{Source/Params1/1=Enable Source/Params1/2=Enable Source/Params1/3=Enable}" +
-                        enabled(controllerItems, true))
+                        controllerItems(true))
                 .answers({"13020012 00 020000", "13020015 00 64000000ceffffff2003000038040000",
                           "13020015 00 64000000ceffffff2003000058020000",
                           "13020015 00 00000000ceffffff2003000058020000", window, "020001f8 00 00", window,

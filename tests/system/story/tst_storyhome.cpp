@@ -45,16 +45,6 @@ private slots:
         QVERIFY(m_walk.isHome());
         m_walk.assume({});
     }
-
-    void presetPageStays()
-    {
-        QVERIFY(m_walk.go({MENU_PresetSettings}));
-        m_panel.mark();
-        QVERIFY(m_panel.waitForLog(loglines::timeToGoHome));
-        QVERIFY(m_panel.settle());
-        QCOMPARE(m_panel.logLines(loglines::goesHome).size(), 0);
-        QVERIFY(m_walk.showsTitle());
-    }
 };
 
 FPD_TEST(TestStoryHome)

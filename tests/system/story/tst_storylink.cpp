@@ -31,27 +31,6 @@ protected:
 private slots:
     void init() { m_panel.mark(); }
 
-    void pictureShowsTheLinks_data()
-    {
-        // links: USB, network, loop, priority of the network
-        const DataRows<QString, QString> row{"links", "picture"};
-        row("0011", "none");
-        row("0101", "network");
-        row("0110", "loop");
-        row("1001", "usb");
-        row("1010", "loop");
-        row("1100", "usb");
-        row("1101", "network");
-        row("1111", "loop");
-    }
-    void pictureShowsTheLinks()
-    {
-        QFETCH(QString, links);
-        QFETCH(QString, picture);
-        QVERIFY(setLinks(links));
-        QVERIFY(m_panel.waitUntil([&] { return connection() == m_pictures[picture]; }));
-    }
-
     void newLinkTakesALockedSessionHome()
     {
         // Someone works in a menu; a PC takes over: home, and locked. Its cables go: unlocked again.

@@ -30,9 +30,7 @@ private slots:
 
     void lockedPanelShowsItsWindowForTwoSeconds_data()
     {
-        QTest::addColumn<QString>("key");
-        for (const char *key : {"ok", "esc", "pip1", "in1", "test"})
-            QTest::newRow(key) << QString(key);
+        addNames("key", {"ok", "esc", "pip1", "in1", "test"});
     }
     void lockedPanelShowsItsWindowForTwoSeconds()
     {

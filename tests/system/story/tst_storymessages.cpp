@@ -73,6 +73,9 @@ private slots:
     {
         // calibration: a message of the device stands in front
         const DataRows<Way, bool> row{"way", "calibration"};
+        row("an open list", Way{MENU_LayerSettings, MENU_PIP1, MENU_PIP1_Status}, true);
+        row("an edited number", Way{MENU_LayerSettings, MENU_MainLayer, MENU_MainLayer_HorWidth}, true);
+        row("the brightness", Way{MENU_ScreenBrightness}, true);
         row("a question", Way{MENU_FactoryReset, MENU_SaveIP}, true);
         row("the language", Way{}, true);
         row("a preset on its way", Way{MENU_PresetSettings, MENU_Preset3}, false);

@@ -63,24 +63,27 @@ protected:
 private slots:
     void resetKeepsAndTells_data()
     {
-        const DataRows<ENUM_MenuIndex, QList<ENUM_MenuIndex>, QStringList, QString> row{"reset", "kept",
-                                                                                        "tool", "outcome"};
+        using Items = QList<ENUM_MenuIndex>;
+        const DataRows<ENUM_MenuIndex, Items, QStringList, QString, QString> row{"reset", "kept", "tool",
+                                                                                 "outcome", "frame"};
         const QList<ENUM_MenuIndex> brand{MENU_BootLogo, MENU_MakerSign};
         const QList<ENUM_MenuIndex> address =
             brand + QList<ENUM_MenuIndex>{MENU_CommunicationMode, MENU_Net_IPAddress, MENU_Net_SubnetMask,
                                           MENU_Net_Gateway, MENU_HDCPMemory};
         const QList<ENUM_MenuIndex> userData = address + QList<ENUM_MenuIndex>{MENU_FnMode, MENU_Fn_Freeze};
-        row("address kept, FPGA silent", MENU_SaveIP, address, QStringList{"fpga", ""}, "FPGACommunication");
+        row("address kept, FPGA silent", MENU_SaveIP, address, QStringList{"fpga", ""}, "FPGACommunication",
+            "01000002 00 00");
         // The same answer to both questions: a version, and no mark of a memory that is well.
         row("user data kept, memory fails", MENU_SaveUserData, userData,
-            QStringList{"fpga", "FPGA version is V1"}, "FPGADDRCheckError");
-        row("everything, all well", MENU_ResetAll, brand, QStringList{"fpga"}, "ResetSucceed");
+            QStringList{"fpga", "FPGA version is V1"}, "FPGADDRCheckError", "01000002 00 02");
+        row("everything, all well", MENU_ResetAll, brand, QStringList{"fpga"}, "ResetSucceed",
+            "01000002 00 01");
     }
     void resetKeepsAndTells()
     {
-        const auto [reset, kept, tool, outcome] =
-            fetched<ENUM_MenuIndex, QList<ENUM_MenuIndex>, QStringList, QString>(
-                {"reset", "kept", "tool", "outcome"});
+        const auto [reset, kept, tool, outcome, frame] =
+            fetched<ENUM_MenuIndex, QList<ENUM_MenuIndex>, QStringList, QString, QString>(
+                {"reset", "kept", "tool", "outcome", "frame"});
         QVERIFY(makeOwn());
         QVERIFY(m_panel.ask(QStringList{"fault", "tool"} + tool).ok);
         QVERIFY(startAgain());
@@ -88,6 +91,7 @@ private slots:
         QVERIFY(waitUntilStored(MENU_ScreenBrightness, "13"));
 
         // No keeps everything.
+        QVERIFY(clearWrites());
         QVERIFY(m_walk.enter(reset));
         QVERIFY(m_walk.asked());
         QVERIFY(m_walk.answer(false));
@@ -95,6 +99,7 @@ private slots:
         QVERIFY(m_walk.answer(true));
         QVERIFY(tells("IsResting"));
         QVERIFY(tells(outcome));
+        QCOMPARE(m_panel.writes(), QStringList{frame});
         QCOMPARE(wrongItems(kept), QStringList());
         QCOMPARE(m_panel.stored(MENU_RestoreDone), QString("1"));
 

@@ -58,25 +58,6 @@ private slots:
         QVERIFY(waitUntilStored(path.last(), value));
     }
 
-    void numberStopsAtItsLimits_data()
-    {
-        const DataRows<QList<ENUM_MenuIndex>, QStringList> row{"path", "limits"};
-        using Path = QList<ENUM_MenuIndex>;
-        row("whole", Path{MENU_AdvancedSetting, MENU_Audio, MENU_Audio_Volume}, QStringList{"0", "100"});
-        row("decimal", Path{MENU_DisplayControl, MENU_TransitionDuration}, QStringList{"0.5", "2.0"});
-    }
-    void numberStopsAtItsLimits()
-    {
-        const auto [path, limits] = fetched<QList<ENUM_MenuIndex>, QStringList>({"path", "limits"});
-        QVERIFY(m_walk.go(path));
-        QVERIFY(m_walk.turn(Right, 20, 7)); // 7 does not divide the way to the limit
-        QVERIFY(waitUntilStored(path.last(), limits[1]));
-        QVERIFY(m_walk.turn(Left, 20, 7));
-        // ESC keeps what the knob has set.
-        QVERIFY(m_walk.press(keys::Esc));
-        QVERIFY(waitUntilStored(path.last(), limits[0]));
-    }
-
     void listIsChosenOrLeft()
     {
         QVERIFY(m_walk.go({MENU_DisplayControl, MENU_MainLayerTransition}));
