@@ -5,7 +5,7 @@
 //                              who started it
 //   barelabel --repaint N      draws so many new texts into a row of the window first
 //   barelabel --window N       shows another window in its place first, and back again, so many times in all
-#include "testkit/procfs.h"
+#include "client/procfs.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "benchmark/flood.h"
 
-#include "testkit/names/itemnames.h"
-#include "testkit/panel.h"
+#include "client/names/itemnames.h"
+#include "client/panel.h"
 
 #include <QElapsedTimer>
 

@@ -3,7 +3,7 @@
 // order. The reports go out on a thread and a console connection of their own.
 #pragma once
 
-#include "testkit/consoleclient.h"
+#include "client/consoleclient.h"
 
 #include <QFile>
 #include <QMap>

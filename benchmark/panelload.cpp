@@ -2,15 +2,15 @@
 // name, measured, floor, ratio.
 #include "benchmark/flood.h"
 #include "benchmark/tickspy.h"
+#include "client/hexvalue.h"
+#include "client/loglines.h"
+#include "client/menuwalk.h"
+#include "client/procfs.h"
 #include "fpd_hostlink.h"
 #include "framework/protocol/packet/packageframe.h"
 #include "framework/protocol/packet/packagerequestproto3rd.h"
 #include "framework/thread/ctimer.h"
 #include "menu/itemindex.h"
-#include "testkit/hexvalue.h"
-#include "testkit/loglines.h"
-#include "testkit/menuwalk.h"
-#include "testkit/procfs.h"
 
 #include <QApplication>
 #include <QDir>

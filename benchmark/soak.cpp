@@ -2,10 +2,10 @@
 // shows it. FPD_SOAK_SECONDS is how long it takes: 600 play a whole hour. FPD_SOAK_SPEED and FPD_SOAK_SEED
 // choose another speed and another session.
 #include "benchmark/soaksession.h"
-#include "testkit/agreement.h"
-#include "testkit/consoleclient.h"
-#include "testkit/mirrored.h"
-#include "testkit/panel.h"
+#include "client/agreement.h"
+#include "client/consoleclient.h"
+#include "client/mirrored.h"
+#include "client/panel.h"
 
 #include <QApplication>
 #include <QTest>

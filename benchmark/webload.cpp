@@ -1,9 +1,9 @@
 // What the panel in a browser costs: the time from a key in the page to its picture there, the panel's CPU
 // with viewers and without, and the emulator's memory for a viewer that stops reading. One line a question.
+#include "client/browser.h"
+#include "client/panel.h"
+#include "client/procfs.h"
 #include "fpd_hostlink.h"
-#include "testkit/browser.h"
-#include "testkit/panel.h"
-#include "testkit/procfs.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

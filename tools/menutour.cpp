@@ -1,9 +1,9 @@
 #include "tools/menutour.h"
+#include "client/loglines.h"
+#include "client/productionline.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
-#include "testkit/loglines.h"
-#include "testkit/productionline.h"
 
 #include <QDir>
 

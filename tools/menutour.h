@@ -3,9 +3,9 @@
 // stop if a folder is given. GUI thread of its program.
 #pragma once
 
+#include "client/menuwalk.h"
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/menuwalk.h"
 
 #include <QSet>
 

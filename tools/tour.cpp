@@ -3,9 +3,9 @@
 //   fpd-tour DIR      saves DIR/en/*.png and DIR/zh/*.png and a contact sheet of each, DIR/en-1.png and so
 //   on;
 //                     prints what was not as it should be
+#include "client/contactsheet.h"
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/contactsheet.h"
 #include "tools/menutour.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 // The emulator's window under the keys and the mouse of a real X server, with the panel itself.
+#include "client/procfs.h"
 #include "emulator/window/helpsheet.h"
 #include "emulator/window/keybutton.h"
 #include "emulator/window/knob.h"
 #include "emulator/window/powerswitch.h"
-#include "testkit/procfs.h"
 #include "tests/testprogram.h"
 #include "windowrig.h"
 

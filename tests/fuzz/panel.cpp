@@ -2,6 +2,7 @@
 // be inside its own limits behind each. An input is a row of steps, each a kind, a length and so many bytes.
 
 #include "boardio.h"
+#include "client/storerules.h"
 #include "flashx.h"
 #include "fpd_hostlink.h"
 #include "framework/engine/paraprocess.h"
@@ -15,7 +16,6 @@
 #include "framework/protocol/receive/reportdispatch.h"
 #include "framework/protocol/snapshot/snapshotmap.h"
 #include "framework/store/menuanalysis.h"
-#include "testkit/storerules.h"
 #include "tests/fuzz/fuzztarget.h"
 #include "tests/unit/rig/frames.h"
 #include "widget/home/mainwindow_k2860.h"

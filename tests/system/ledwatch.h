@@ -2,7 +2,7 @@
 // thread of the test.
 #pragma once
 
-#include "testkit/consoleclient.h"
+#include "client/consoleclient.h"
 
 #include <QTime>
 #include <QVector>

@@ -3,7 +3,7 @@
 // thread of the test.
 #pragma once
 
-#include "testkit/menuwalk.h"
+#include "client/menuwalk.h"
 
 #include <QObject>
 #include <QTest>

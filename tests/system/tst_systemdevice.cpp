@@ -1,7 +1,7 @@
 // The device by the words of its console, with the panel on its bus: what happens at the device is in its
 // state, the panel takes it over, and a session can be played again.
-#include "testkit/homescreen.h"
-#include "testkit/mirrored.h"
+#include "client/homescreen.h"
+#include "client/mirrored.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

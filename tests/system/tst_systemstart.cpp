@@ -1,6 +1,6 @@
 // How the panel starts, with everything in place and with parts of the board missing.
-#include "testkit/homescreen.h"
-#include "testkit/loglines.h"
+#include "client/homescreen.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

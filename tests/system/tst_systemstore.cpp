@@ -1,7 +1,7 @@
 // The store's three files, damaged in every way that a power cut or a worn flash can think of: the next start
 // repairs them and keeps the values while one of them is whole.
+#include "client/procfs.h"
 #include "fpd_hostlink.h"
-#include "testkit/procfs.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

@@ -1,6 +1,6 @@
 // The words that read the panel and act on what they read, beside the running panel: its LCD as data, waits,
 // rules, the store and the walk through the menu.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

@@ -1,9 +1,9 @@
 #include "tools/monkey/kills.h"
 
+#include "client/agreement.h"
+#include "client/names/itemnames.h"
+#include "client/panel.h"
 #include "menu/itemindex.h"
-#include "testkit/agreement.h"
-#include "testkit/names/itemnames.h"
-#include "testkit/panel.h"
 
 #include <QThread>
 #include <random>

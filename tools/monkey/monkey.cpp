@@ -1,10 +1,10 @@
 #include "tools/monkey/monkey.h"
 
+#include "client/agreement.h"
+#include "client/loglines.h"
+#include "client/names/itemnames.h"
+#include "client/storerules.h"
 #include "menu/menutypes.h"
-#include "testkit/agreement.h"
-#include "testkit/loglines.h"
-#include "testkit/names/itemnames.h"
-#include "testkit/storerules.h"
 
 #include <QRegularExpression>
 #include <QThread>

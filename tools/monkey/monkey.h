@@ -4,7 +4,7 @@
 // what a restart finds must agree.
 #pragma once
 
-#include "testkit/panel.h"
+#include "client/panel.h"
 #include "tools/monkey/menumodel.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "tools/monkey/sight.h"
 
-#include "testkit/panel.h"
+#include "client/panel.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,5 +1,5 @@
 #include "tests/system/frames/framedrive.h"
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 
 #include <QCryptographicHash>
 #include <QElapsedTimer>

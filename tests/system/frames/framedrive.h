@@ -2,9 +2,9 @@
 // a table and compares every register write that came of it. GUI thread of the test.
 #pragma once
 
+#include "client/hexvalue.h"
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
-#include "testkit/hexvalue.h"
 #include "tests/system/systemtest.h"
 
 #include <QVector>
@@ -60,7 +60,6 @@ public:
     bool home();
     /// What is sent until the panel falls silent, at least so many writes if they come.
     QStringList sent(int expected);
-
 
 private:
     enum Place { AtHome, InMenu, Elsewhere };

@@ -1,5 +1,5 @@
 // What the EDID of the inputs sends, and how its two pages take turns: the standard modes and a custom one.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"
 

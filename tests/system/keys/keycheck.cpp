@@ -1,6 +1,6 @@
 #include "tests/system/keys/keycheck.h"
+#include "client/loglines.h"
 #include "menu/menutypes.h"
-#include "testkit/loglines.h"
 
 #include <QRegularExpression>
 #include <QSize>

@@ -3,8 +3,8 @@
 // the device was told. It may work in any one thread.
 #pragma once
 
+#include "client/menuwalk.h"
 #include "menu/pageindex.h"
-#include "testkit/menuwalk.h"
 #include "tests/system/keys/keytable.h"
 #include "tests/system/ledwatch.h"
 

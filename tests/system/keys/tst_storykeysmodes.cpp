@@ -1,7 +1,7 @@
 // The dedicated keys while the device changes its work mode under the panel, and in a panel that has started
 // as a fiber converter: it shows nothing and takes no key until the device calls it back.
+#include "client/loglines.h"
 #include "menu/keycodes.h"
-#include "testkit/loglines.h"
 #include "tests/system/keys/keycheck.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"

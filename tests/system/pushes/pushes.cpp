@@ -1,7 +1,7 @@
 #include "tests/system/pushes/pushes.h"
 
-#include "testkit/homescreen.h"
-#include "testkit/loglines.h"
+#include "client/homescreen.h"
+#include "client/loglines.h"
 
 #include <QRegularExpression>
 

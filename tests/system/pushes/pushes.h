@@ -3,7 +3,7 @@
 // thread of the test.
 #pragma once
 
-#include "testkit/names/itemnames.h"
+#include "client/names/itemnames.h"
 #include "tests/system/systemtest.h"
 
 #include <QMap>

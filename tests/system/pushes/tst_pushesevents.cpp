@@ -1,6 +1,6 @@
 // What the device reports as events: its services' start, a name, cabinet files, calibration, an output that
 // a PC has chosen, a self test; and what is no report, in the running panel.
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

@@ -1,5 +1,5 @@
 // What the device reports of its inputs and ports, as the home screen of the running panel shows it.
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

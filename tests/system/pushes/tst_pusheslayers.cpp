@@ -1,6 +1,6 @@
 // What the device reports of the layers: their windows, crops, the spliced picture and the input mosaic, in
 // the running panel.
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

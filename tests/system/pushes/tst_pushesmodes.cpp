@@ -1,5 +1,5 @@
 // The device changes its work mode and is reset, as the running panel follows it.
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

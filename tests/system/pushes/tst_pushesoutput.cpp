@@ -1,6 +1,6 @@
 // What the device reports of its output: 3D, synchronisation, size, display mode and genlock, in the running
 // panel.
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

@@ -1,5 +1,5 @@
 // An open page follows what the device reports, and a message comes and goes with it.
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 #include "tests/system/pushes/pushes.h"
 #include "tests/testprogram.h"
 

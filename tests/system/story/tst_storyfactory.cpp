@@ -1,7 +1,7 @@
 // A worker on the line checks a finished unit from the panel alone: self test, keys, inputs and outputs, and
 // the count of passed runs. Nothing from outside takes the test from him.
-#include "testkit/loglines.h"
-#include "testkit/productionline.h"
+#include "client/loglines.h"
+#include "client/productionline.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

@@ -1,5 +1,5 @@
 // The time after which a panel that nobody touches goes home, and what it spares.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

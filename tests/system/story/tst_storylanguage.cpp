@@ -1,6 +1,6 @@
 // The language of the panel as its user changes it: OK held at home, a choice with the knob, and the pages
 // speak it at once, after a restart too.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

@@ -1,6 +1,6 @@
 // The cables of the panel: the picture of the connection for every state of the links, the way home, and the
 // session of a PC with its heartbeat.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

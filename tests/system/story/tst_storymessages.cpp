@@ -1,6 +1,6 @@
 // Messages have the screen: what is typed while they are up reaches no page behind, however fast it comes and
 // however many follow each other; and a PC that takes over ends all that is open.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

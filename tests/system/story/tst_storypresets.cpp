@@ -1,6 +1,6 @@
 // A user keeps what is on the wall: saves, loads, copies and clears presets, as the LCD, the store and the
 // device have it, after a restart too; and a PC takes over in the middle of it.
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

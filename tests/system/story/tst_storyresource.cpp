@@ -1,6 +1,6 @@
 // The panel that speaks to the REST service, and fpd-resource: what they ask for, to the byte, and what
 // becomes of the panel when the service is not well.
-#include "testkit/names/itemnames.h"
+#include "client/names/itemnames.h"
 #include "tests/rudeserver.h"
 #include "tests/system/frames/framedrive.h"
 #include "tests/testprogram.h"

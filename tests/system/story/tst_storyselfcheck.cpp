@@ -1,7 +1,7 @@
 // A user looks at the health of his device: the list from the menu, in both languages, of a healthy device,
 // with every fault, without an answer, and while one comes in.
-#include "testkit/lcdtext.h"
-#include "testkit/loglines.h"
+#include "client/lcdtext.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

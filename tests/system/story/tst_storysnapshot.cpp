@@ -1,7 +1,7 @@
 // What the device's parameter flash holds is what the panel shows after a start: every field of the memory
 // map, in three images of the flash that differ in all of them.
+#include "client/lcdtext.h"
 #include "menu/menutypes.h"
-#include "testkit/lcdtext.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

@@ -1,7 +1,7 @@
 // A user changes a value of every kind with the knob, and finds it on the screen, on the bus and in the
 // store.
-#include "testkit/lcdtext.h"
-#include "testkit/loglines.h"
+#include "client/lcdtext.h"
+#include "client/loglines.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

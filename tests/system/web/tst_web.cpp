@@ -1,5 +1,5 @@
 // The panel in a real browser: what a user at the page sees and does.
-#include "testkit/browser.h"
+#include "client/browser.h"
 #include "tests/system/systemtest.h"
 #include "tests/testprogram.h"
 

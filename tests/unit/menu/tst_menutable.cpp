@@ -1,12 +1,12 @@
 // The menu as data: what the builder, the store and the rows rely on.
 
+#include "client/names/itemnames.h"
 #include "framework/store/menushown.h"
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
 #include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
-#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 
 #include <QSet>

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "boardio.h"
+#include "client/names/itemnames.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/object/transport.h"
 #include "framework/protocol/link/protocolinterface.h"
@@ -12,7 +13,6 @@
 #include "menu/itemindex.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "testkit/names/itemnames.h"
 #include "widget/home/mainwindow_k2860.h"
 #include "widget/page/directoryengineer.h"
 #include "widget/page/menudirectoty.h"

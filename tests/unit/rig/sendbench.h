@@ -2,6 +2,7 @@
 // test says, and the device has six inputs.
 #pragma once
 
+#include "client/names/itemnames.h"
 #include "framework/engine/paraprocess.h"
 #include "framework/protocol/link/communicationclientinterface.h"
 #include "framework/protocol/link/proto3rd.h"
@@ -10,7 +11,6 @@
 #include "framework/store/menuanalysis.h"
 #include "menu/itemindex.h"
 #include "menu/objectindex.h"
-#include "testkit/names/itemnames.h"
 #include "tests/unit/rig/frames.h"
 
 #include <QtTest>

@@ -3,7 +3,7 @@
 // is seen, all texts of a kind stand on one line. FPD_LOOKS=folder saves contact sheets of them to look at,
 // and each by itself to be compared.
 
-#include "testkit/contactsheet.h"
+#include "client/contactsheet.h"
 #include "tests/testprogram.h"
 #include "tests/unit/rig/lookrig.h"
 #include "widget/page/pagetable.h"

@@ -1,11 +1,11 @@
 // The registry, and how a row finds store and protocol through it.
 
+#include "client/names/itemnames.h"
 #include "framework/object/transport.h"
 #include "framework/protocol/link/protocolinterface.h"
 #include "framework/store/menuanalysis.h"
 #include "menu/menutypes.h"
 #include "menu/objectindex.h"
-#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 
 #include <QPointer>

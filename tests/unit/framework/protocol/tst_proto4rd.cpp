@@ -1,6 +1,7 @@
 // What an item's change is as a request to the device service, to the byte, and what comes of the list of
 // cabinet files.
 
+#include "client/names/itemnames.h"
 #include "framework/communication/http/protocol4rdmsg.h"
 #include "framework/communication/http/requestbody.h"
 #include "framework/engine/paraprocess.h"
@@ -8,7 +9,6 @@
 #include "framework/protocol/link/proto4rd.h"
 #include "framework/resourcemanager/allurlresource.h"
 #include "framework/store/menuanalysis.h"
-#include "testkit/names/itemnames.h"
 #include "tests/testprogram.h"
 
 #include <thread>

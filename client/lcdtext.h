@@ -1,5 +1,5 @@
 // Finds a text on a picture of the LCD: the text is drawn with the panel's fonts and looked for in every
-// place, in any colour on any even background. GUI thread of the test.
+// place, in any colour on any even background. GUI thread of its program.
 #pragma once
 
 #include <QFont>

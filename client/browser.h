@@ -1,5 +1,5 @@
 // A real browser without a window, driven by the protocol of its developer tools: pages, mouse, fingers and
-// keyboard. Main thread of the test.
+// keyboard. Main thread of its program.
 #pragma once
 
 #include <QImage>

@@ -1,6 +1,6 @@
-#include "testkit/homescreen.h"
+#include "client/homescreen.h"
 
-#include "testkit/lcdtext.h"
+#include "client/lcdtext.h"
 
 #include <QColor>
 

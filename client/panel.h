@@ -1,8 +1,9 @@
-// The panel with the device around it, for tests that act and look like a user: press, turn, read the LCD.
-// Every Panel has a fresh state folder, its own emulator and its own panel process. GUI thread of the test.
+// The panel with the device around it, for programs that act and look like a user: press, turn, read the LCD.
+// Every Panel has a fresh state folder, its own emulator and its own panel process. GUI thread of its
+// program.
 #pragma once
 
-#include "testkit/consoleclient.h"
+#include "client/consoleclient.h"
 
 #include <QDomDocument>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "testkit/consoleclient.h"
+#include "client/consoleclient.h"
 
 #include "fpd_hostlink.h"
 #include "fpd_hostsocket.h"

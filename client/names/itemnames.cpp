@@ -1,4 +1,4 @@
-#include "testkit/names/itemnames.h"
+#include "client/names/itemnames.h"
 
 #include <QMap>
 #include <QRegularExpression>

@@ -1,12 +1,12 @@
 // A user who knows the menu: finds a row by its item, opens it and comes back, with keys alone. It takes page
 // and row order from the menu's tables, and where the panel really is from the LCD and the log. GUI thread of
-// the test.
+// its program.
 #pragma once
 
+#include "client/panel.h"
 #include "menu/itemindex.h"
 #include "menu/pageindex.h"
 #include "menuconfig_k2860.h"
-#include "testkit/panel.h"
 
 #include <QStack>
 #include <QTranslator>

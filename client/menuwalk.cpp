@@ -1,10 +1,10 @@
-#include "testkit/menuwalk.h"
+#include "client/menuwalk.h"
 
+#include "client/loglines.h"
 #include "menu/itemindex.h"
 #include "menu/keycodes.h"
 #include "menu/menutypes.h"
 #include "menu/pageindex.h"
-#include "testkit/loglines.h"
 
 #include <QRegularExpression>
 #include <QThread>

@@ -1,8 +1,8 @@
 // A worker on the line: starts the production test of a panel that is at home, works through its steps and
-// reads its table off the LCD. GUI thread of the test.
+// reads its table off the LCD. GUI thread of its program.
 #pragma once
 
-#include "testkit/panel.h"
+#include "client/panel.h"
 
 class ProductionLine
 {

@@ -1,8 +1,8 @@
-#include "testkit/agreement.h"
+#include "client/agreement.h"
 
-#include "testkit/homescreen.h"
-#include "testkit/mirrored.h"
-#include "testkit/panel.h"
+#include "client/homescreen.h"
+#include "client/mirrored.h"
+#include "client/panel.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>

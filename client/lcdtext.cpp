@@ -1,4 +1,4 @@
-#include "testkit/lcdtext.h"
+#include "client/lcdtext.h"
 
 #include <QHash>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "testkit/browser.h"
+#include "client/browser.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
-#include "testkit/productionline.h"
+#include "client/productionline.h"
 
-#include "testkit/loglines.h"
+#include "client/loglines.h"
 
 #include <QRegularExpression>
 

@@ -1,7 +1,7 @@
-// Where the home screen shows what, and what is seen there. GUI thread of the test.
+// Where the home screen shows what, and what is seen there. GUI thread of its program.
 #pragma once
 
-#include "testkit/panel.h"
+#include "client/panel.h"
 
 namespace homescreen
 {

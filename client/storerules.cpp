@@ -1,7 +1,7 @@
-#include "testkit/storerules.h"
+#include "client/storerules.h"
 
+#include "client/names/itemnames.h"
 #include "menu/itemfamilies.h"
-#include "testkit/names/itemnames.h"
 
 using namespace VASK;
 

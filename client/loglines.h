@@ -1,4 +1,4 @@
-// What the panel logs at the moments that tests, benchmark and tools wait for; nowhere else do they hang on
+// What the panel logs at the moments that benchmark, tools and tests wait for; nowhere else do they hang on
 // the wording of a line. Who changes one in the panel changes it here.
 #pragma once
 

@@ -1,8 +1,8 @@
-#include "testkit/mirrored.h"
+#include "client/mirrored.h"
 
+#include "client/names/itemnames.h"
+#include "client/panel.h"
 #include "menu/itemindex.h"
-#include "testkit/names/itemnames.h"
-#include "testkit/panel.h"
 
 #include <QRegularExpression>
 #include <QVector>

@@ -1,10 +1,10 @@
-#include "testkit/panel.h"
+#include "client/panel.h"
 
+#include "client/lcdtext.h"
+#include "client/loglines.h"
+#include "client/names/itemnames.h"
+#include "client/procfs.h"
 #include "fpd_hostlink.h"
-#include "testkit/lcdtext.h"
-#include "testkit/loglines.h"
-#include "testkit/names/itemnames.h"
-#include "testkit/procfs.h"
 
 #include <QCoreApplication>
 #include <QDir>
