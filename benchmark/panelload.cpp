@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QThread>
 #include <QTime>
@@ -154,13 +155,14 @@ void measureStart(Panel &panel)
     constexpr int starts = 5;
     QVector<double> wall, cpu, memory, own, floorCpu, floorMemory, floorOwn;
     panel.powerDevice();
+    panel.ask({"flag", "delay", "0"}); // the device answers at once
     for (int i = 0; i < starts; ++i) {
         panel.ask({"panel", "stop"});
         QElapsedTimer passed;
         passed.start();
         panel.start();
-        panel.ask({"wait", "ready"});
         wall << double(passed.elapsed());
+        panel.ask({"wait", "ready"});
         const int id = procfs::panelOf(panel.statePath());
         cpu << procfs::cpuMs(id);
         memory << procfs::memoryMb(id);
@@ -171,7 +173,7 @@ void measureStart(Panel &panel)
         floorOwn << floor.privateMb;
     }
     print("start-up, CPU", median(cpu), median(floorCpu), "ms");
-    printf("%-34s %10.0f ms\n", "start-up, wall with the device", median(wall));
+    printf("%-34s %10.0f ms\n", "start-up, wall, to the home screen", median(wall));
     print("memory at the home screen", median(memory), median(floorMemory), "MB");
     print("of it the panel's own", median(own), median(floorOwn), "MB");
 }
@@ -331,7 +333,8 @@ void measurePages(Panel &panel)
     constexpr int pages = 9; // below the brightness
     constexpr int rounds = 4;
     panel.ask({"panel", "stop"});
-    panel.startReady();
+    panel.start();
+    panel.ask({"wait", "settled"});
     MenuWalk walk(panel);
     openMenuAtTheTop(panel, walk);
     QVector<double> first, again;
@@ -423,6 +426,10 @@ void measureBurst(Panel &panel, const char *name, const QList<QStringList> &burs
             }
             read += line.startsWith("Proto3rd addr:");
             ended = ended || line.startsWith(lastRead);
+        }
+        if (QFileInfo(log.fileName()).size() < log.pos()) { // the device has begun another file
+            log.close();
+            log.open(QIODevice::ReadOnly);
         }
         panel.mark(); // the device drops a reader of the log that lets too much of it wait
         QThread::msleep(2);
