@@ -14,7 +14,8 @@ namespace
 {
 constexpr int stepsToRest = 500;
 constexpr int stepsOfAPanel = 5000; ///< longer sessions could not be made shorter
-constexpr int tries = 150;
+constexpr int shrinkSeconds = 600;
+constexpr int replayMs = 300000;
 
 QByteArray contents(const QString &name)
 {
@@ -33,7 +34,9 @@ QString faultAfter(const QStringList &events, const QStringList &lastStep)
 {
     Panel panel;
     const QString file = panel.statePath() + "/events.txt";
-    if (!panel.startReady() || !write(file, shrink::sessionOf(events)) || !panel.ask({"replay", file}).ok)
+    ConsoleClient player;
+    if (!panel.startReady() || !write(file, shrink::sessionOf(events)) ||
+        !player.connectTo(panel.statePath()) || !player.ask({"replay", file}, replayMs).ok)
         return QString();
     return Monkey(panel, 0).repeat(lastStep);
 }
@@ -45,7 +48,8 @@ void tellShortest(const QString &session, const Monkey &monkey, unsigned int see
     printf("its last step: %s; shrinking %d events\n", qPrintable(lastStep.join(' ')), int(events.size()));
     fflush(stdout);
     const QStringList few = shrink::shortest(
-        events, [&](const QStringList &less) { return !faultAfter(less, lastStep).isEmpty(); }, tries);
+        events, [&](const QStringList &less) { return !faultAfter(less, lastStep).isEmpty(); },
+        shrinkSeconds);
     const QString file = QDir::current().filePath(QString("monkey-%1.session").arg(seed));
     write(file, shrink::sessionOf(few));
     printf("%d events in %s, and then \"%s\"; %s\n", int(few.size()), qPrintable(file),
@@ -68,6 +72,7 @@ QString playPart(unsigned int seed, int steps)
     if (fault.isEmpty())
         return fault;
     printf("%s\n", qPrintable(fault));
+    fflush(stdout);
     panel.keepEvidence(QString("monkey-%1").arg(seed));
     panel.ask({"record", "stop"});
     const QString session = QString::fromUtf8(contents(file));

@@ -8,10 +8,11 @@ using namespace VASK;
 
 namespace
 {
-/// Their rows are named by files and by the device.
+/// Their rows are named by files, by the device and by their own values.
 bool namesItsOwnRows(ENUM_ConfigIndex page)
 {
-    return page == CONFIG_LoadCabFiles || page == CONFIG_PresetSettings || page == CONFIG_PresetCopyTo;
+    return page == CONFIG_LoadCabFiles || page == CONFIG_PresetSettings || page == CONFIG_PresetCopyTo ||
+           page == CONFIG_AboutUs;
 }
 
 bool hasParts(const st_MenuItemInfo &row)
@@ -82,6 +83,8 @@ ENUM_ConfigIndex MenuModel::pageOf(const Sight &sight) const
 
 QString MenuModel::take(const Sight &sight)
 {
+    if (sight.kind == Sight::Home || sight.title != m_sight.title)
+        m_pictures = NoPictures;
     if (sight.kind == Sight::Page || sight.kind == Sight::List) {
         const ENUM_ConfigIndex page = pageOf(sight);
         const bool isSelfCheck = says(sight.title, "SelfTest");
@@ -149,8 +152,22 @@ bool MenuModel::isEditable(const st_MenuItemInfo &row)
            row.controlType == TYPE_STRINGCOMBOX || row.controlType == TYPE_ICOCOMBOX;
 }
 
+/// An option that is not to be had keeps its list open.
+void MenuModel::press(Key key)
+{
+    if (key == Esc)
+        m_pictures = NoPictures;
+    else if (key == Ok && m_pictures == PicturesOpen)
+        m_pictures = PicturesMaybeOpen;
+    else if (key == Ok && m_sight.kind == Sight::Page && row().controlType == TYPE_ICOCOMBOX &&
+             !m_sight.isDisabled)
+        m_pictures = PicturesOpen;
+}
+
 MenuModel::Sequel MenuModel::after(Key key) const
 {
+    if (m_pictures != NoPictures)
+        return nullptr;
     if (m_sight.kind == Sight::Home && key != Ok)
         return [](const Sight &now) { return now.kind == Sight::Home; };
     if (m_sight.kind == Sight::Home)
@@ -192,10 +209,9 @@ MenuModel::Sequel MenuModel::afterOk() const
     const st_MenuItemInfo row = this->row();
     const bool asks = g_dialogConfig.contains(row.menuIndex);
     const Sight before = m_sight;
-    if (m_sight.isDisabled || (asks && m_sight.kind == Sight::Page))
+    // An option that is not to be had stays in the list.
+    if (m_sight.isDisabled || asks || m_sight.kind == Sight::List)
         return nullptr;
-    if (m_sight.kind == Sight::List) // an option that is not to be had stays in the list
-        return [=](const Sight &now) { return now.title == before.title; };
     // What was done before may switch the row off at last.
     const auto isOff = [=](const Sight &now) { return now.row == before.row && now.isDisabled; };
     switch (row.controlType) {
@@ -210,7 +226,6 @@ MenuModel::Sequel MenuModel::afterOk() const
                    (now.isEdited != before.isEdited && now.row == before.row);
         };
     case TYPE_STRINGCOMBOX:
-    case TYPE_ICOCOMBOX:
         return [=](const Sight &now) { return now.kind == Sight::List || isOff(now); };
     case TYPE_INFORMATION:
         return [=](const Sight &now) { return now == before; };

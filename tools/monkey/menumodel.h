@@ -31,6 +31,10 @@ public:
     QString take(const Sight &sight);
 
     enum Key { Left, Right, Ok, Esc };
+    /// A key is pressed now. A list of pictures tells no text: that one is open is known by the keys alone.
+    void press(Key key);
+    enum Pictures { NoPictures, PicturesOpen, PicturesMaybeOpen };
+    Pictures pictures() const { return m_pictures; }
     /// What is to be seen after a key: a condition that holds then. None if the model cannot know.
     using Sequel = std::function<bool(const Sight &)>;
     Sequel after(Key key) const;
@@ -55,5 +59,6 @@ private:
 
     QTranslator m_chinese, m_english;
     Sight m_sight;
+    Pictures m_pictures = NoPictures;
     QList<VASK::ENUM_ConfigIndex> m_pages; ///< from the root to the one that is open, as far as known
 };

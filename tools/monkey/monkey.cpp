@@ -33,19 +33,14 @@ constexpr const char *outside[] = {
     "push 1300009e 0%4%x",
     "push 13000004 0%7",
     "push 1300002a 0%2%x",
-    "push 02000039 a8",
-    "push 02000039 00",
     "push 02000042 28",
-    "push 02002002 %x%x%x",
-    "push 02000089 %x0%9",
+    "push 02000089 %x04",
     "push 13050000 00%x%x00%x%x00",
     "push 13050030 00%x%x00%x%x00",
     "push 13060000 00000102000000000000000000000000610000000000%x07%x0400000000000062",
     "push 02000074 78",
     "push 1301900%2 %x",
     "reports now",
-    "heartbeat on",
-    "heartbeat off",
     "rename Wall%9",
     "preset list",
     "fault bus-send %6",
@@ -89,7 +84,9 @@ QString Monkey::step()
 {
     if (m_sight.kind == Sight::Message)
         return messageStep();
-    if (m_sight.kind == Sight::List || m_sight.isEdited)
+    if (m_model->pictures() == MenuModel::PicturesMaybeOpen)
+        return key(MenuModel::Esc);
+    if (m_sight.kind == Sight::List || m_sight.isEdited || m_model->pictures() == MenuModel::PicturesOpen)
         return editStep();
     if (chance(4))
         return outsideStep();
@@ -151,7 +148,7 @@ QString Monkey::leave()
 /// Beyond the end one more step changes nothing.
 QString Monkey::turnToEnd(bool left)
 {
-    const bool isList = m_sight.kind == Sight::List;
+    const bool isList = !m_sight.isEdited;
     const QStringList far{"knob", left ? "left" : "right", isList ? "20" : "300", isList ? "1" : "255"};
     m_panel.mark();
     if (!m_panel.ask(far).ok) // there is no keypad
@@ -183,8 +180,8 @@ QString Monkey::messageStep()
 
 QString Monkey::outsideStep()
 {
-    if (below(150) == 0)
-        return restartStep();
+    if (below(120) == 0)
+        return chance(50) ? restartStep() : hostStep();
     QString words = outside[below(int(std::size(outside)))];
     while (words.contains('%')) {
         const int at = words.indexOf('%');
@@ -210,18 +207,36 @@ QString Monkey::restartStep()
     return look(nullptr);
 }
 
+/// A PC takes over, and goes again: the panel is at home meanwhile, and its keys are locked.
+QString Monkey::hostStep()
+{
+    m_panel.ask({"heartbeat", "on"});
+    const QString fault = say({"sent"}, [](const Sight &now) { return now.kind == Sight::Home; });
+    m_panel.ask({"heartbeat", "off"});
+    m_panel.mark();
+    m_panel.waitUntil([this] {
+        m_panel.press(keys::Esc);
+        m_panel.settle();
+        return !m_panel.logLines(loglines::homeKey).isEmpty();
+    });
+    return fault.isEmpty() ? look(nullptr) : fault;
+}
+
 QString Monkey::key(MenuModel::Key key)
 {
     static const QMap<MenuModel::Key, QStringList> words{{MenuModel::Left, {"knob", "left"}},
                                                          {MenuModel::Right, {"knob", "right"}},
                                                          {MenuModel::Ok, {"key", "ok"}},
                                                          {MenuModel::Esc, {"key", "esc"}}};
-    return say(words.value(key), m_model->after(key));
+    const MenuModel::Sequel sequel = m_model->after(key);
+    m_model->press(key);
+    return say(words.value(key), sequel);
 }
 
 QString Monkey::say(const QStringList &words, const MenuModel::Sequel &sequel)
 {
     m_lastStep = words;
+    m_trail = m_trail.mid(m_trail.size() > 7 ? 1 : 0) << m_sight.describe() + " -> " + words.join(' ');
     m_lastStepMs = int(m_clock.elapsed());
     m_panel.mark();                           // what is in the log so far has been read
     const bool taken = m_panel.ask(words).ok; // not while the keypad only comes back
@@ -241,7 +256,7 @@ QString Monkey::look(const MenuModel::Sequel &sequel)
             return m_model->take(m_sight);
         QThread::msleep(lookMs);
     } while (!passed.hasExpired(patienceMs));
-    return "after " + m_lastStep.join(' ') + " there is " + m_sight.describe();
+    return "there is " + m_sight.describe() + " after\n" + m_trail.join('\n');
 }
 
 QString Monkey::repeat(const QStringList &lastStep)
@@ -317,7 +332,8 @@ QString Monkey::storeFaults(const QMap<QString, QString> &fields) const
 QString Monkey::atRest()
 {
     constexpr int stillMs = 1500; // the store is written a second after the last key
-    QString fault = agreement::disagreement(m_panel, stillMs);
+    // Chosen values that go out with their apply row only.
+    QString fault = agreement::disagreement(m_panel, stillMs, "^(Output_|Net_|Advanced_)");
     if (!fault.isEmpty())
         return fault;
     return storeFaults(m_panel.storedFields());

@@ -38,6 +38,7 @@ private:
     QString messageStep();
     QString outsideStep();
     QString restartStep();
+    QString hostStep();
     QString toLeastMetRow();
     QString turnToEnd(bool left);
     QString leave();
@@ -56,6 +57,7 @@ private:
     Sight m_sight;
     QMap<RowVisit, int> m_deeds, m_visits;
     QStringList m_lastStep;
+    QStringList m_trail; ///< the last steps, each with what was seen before it
     int m_lastStepMs = 0;
     QElapsedTimer m_clock;
     int m_steps = 0;

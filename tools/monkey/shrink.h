@@ -11,6 +11,6 @@ namespace shrink
 QStringList eventsOf(const QString &session, int beforeMs);
 /// They as a session that replay plays, as fast as a user's fingers.
 QByteArray sessionOf(const QStringList &events);
-/// The fewest of them that still fail, after at most so many tries; all of them if they do not fail at all.
-QStringList shortest(QStringList events, const std::function<bool(const QStringList &)> &fails, int tries);
+/// The fewest of them that still fail, after at most so many seconds; all of them if they do not fail at all.
+QStringList shortest(QStringList events, const std::function<bool(const QStringList &)> &fails, int seconds);
 } // namespace shrink

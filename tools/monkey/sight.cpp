@@ -30,6 +30,8 @@ void take(Sight &sight, const Text &text)
         sight.buttons << text.text;
     } else if (text.role == "message") {
         sight.text += text.text;
+        if (text.isFocused) // one of several pictures with their names
+            sight.buttons << text.text;
     }
     sight.isEdited |= text.isEdited;
 }
