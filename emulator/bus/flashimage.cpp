@@ -48,7 +48,7 @@ constexpr Mirror mirrors[] = {
     {sender, osdRegister, 64, flashmap::own + 0x300},                     // OSD
     {sender, 0xF0010001, 9 * 32, flashmap::own + 0x400},                  // what was plugged in last
     {sender, osdPictureRegister, osdPictureCount, flashmap::own + 0x380}, // OSD pictures
-    {sender, 0xF0020010, 3 * 48, flashmap::own + 0x600},                  // windows as the panel has written them
+    {sender, 0xF0020010, 3 * 48, flashmap::own + 0x600}, // windows as the panel has written them
     {sender, 0x02000000, 0x200, flashmap::own + 0x1000}, // ports and switches of the sending card
     {sender, cabinetRegister, cabinetLength, flashmap::own + 0x1200}, // cabinet size
     {sender, 0x02810000, 0x300, flashmap::own + 0x1400},              // screen configuration

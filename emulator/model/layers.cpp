@@ -8,7 +8,8 @@ namespace layers
 namespace
 {
 constexpr quint32 firstRecord = 0x13020010;
-/// The windows as the panel has written them, record by record: the device's own notes, which no panel asks for.
+/// The windows as the panel has written them, record by record: the device's own notes, which no panel asks
+/// for.
 constexpr quint32 firstKnownRecord = 0xF0020010;
 constexpr quint32 sendingCardStart = 0x020001F0; ///< x and y of the one window of a sending card
 constexpr int startLength = 8;

@@ -232,7 +232,7 @@ private slots:
                 .stores("ImageMosaic_{TotalHPixels=2000 TotalVPixels=1200 LoadAreaWidth=1000 "
                         "LoadAreaHeight=600 LoadAreaInitialX=40 LoadAreaInitialY=50}"),
             PushRow("short", "13030000 " + QString(2 * 24, '0') + "2003")
-                .stores("ImageMosaic_{TotalHPixels=1600 TotalVPixels=0 LoadAreaWidth=800 LoadAreaHeight=0 "
+                .stores("ImageMosaic_{TotalHPixels=1600 TotalVPixels=64 LoadAreaWidth=800 LoadAreaHeight=64 "
                         "LoadAreaInitialX=0 LoadAreaInitialY=0}"),
             PushRow("main layer of another size", record(0, {1, 0, 0, 0, 0, 3000, 2000, 100}))
                 .stores("MainLayer_{HorWidth=3000 CustomWidth=3000 VerHeight=2000 CustomHeight=2000}"),
