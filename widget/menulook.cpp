@@ -80,6 +80,8 @@ void setByPalette(QTableWidget &table, const RowsLook &look)
         for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
             palette.setColor(group, role, text);
         palette.setColor(group, QPalette::Highlight, look.cursor);
+        palette.setColor(group, QPalette::Light,
+                         Qt::transparent); // the board's style would edge disabled texts
     }
     table.setItemDelegate(&band);
     table.viewport()->setAutoFillBackground(false);

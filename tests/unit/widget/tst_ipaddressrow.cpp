@@ -45,6 +45,29 @@ private slots:
         QTEST(shown(row), "end");
     }
 
+    void typing_data()
+    {
+        const DataRows<int, int, QString, QString> row{"index", "number", "digits", "end"};
+        row("the first digit clears the number", MENU_Net_IPAddress, 0, "99", "99.168.0.20");
+        row("a host's first stops at 223", MENU_Net_IPAddress, 0, "224", "223.168.0.20");
+        row("others stop at 255", MENU_Net_IPAddress, 3, "256", "192.168.0.255");
+        row("first of a mask stays", MENU_Net_SubnetMask, 0, "128", "192.168.0.20");
+    }
+    void typing()
+    {
+        const auto [index, number, digits] = fetched<int, int, QString>({"index", "number", "digits"});
+        const auto item = ENUM_MenuIndex(index);
+        prepare(item, "192.168.0.20");
+        Seen<typeipadjust> row(item, ENUM_OBJECT_END);
+        for (int ok = 0; ok <= number; ++ok)
+            row.EnterEntry(item);
+        RowBench::takeApplied();
+        for (QChar digit : digits)
+            row.NumberEntry(item, static_cast<unsigned char>(digit.digitValue()));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        QTEST(shown(row), "end");
+    }
+
     void okGoesRoundAndEscStartsOver()
     {
         prepare(MENU_Net_IPAddress, "192.168.0.20");

@@ -51,6 +51,8 @@ private slots:
         row("onto the minimum, not beside it", "-5", -8, "-13");
         row("through zero", "5", -1, "-5");
         row("at the maximum", "97", 1, "97");
+        row("by one too many", "88", 1, "97");
+        row("by one too few", "-4", -1, "-13");
     }
     void wholeSteps()
     {
@@ -81,6 +83,27 @@ private slots:
         Seen<typefloatadjust> row(decimal, ENUM_OBJECT_END);
         turn(row, decimal, clicks);
         QTEST(m_bench->value(decimal), "end");
+    }
+
+    void typedDigits_data()
+    {
+        const DataRows<QString, QString, QString> row{"digits", "max", "end"};
+        row("one", "7", "1920", "7");
+        row("one above the maximum", "7", "5", "5");
+        row("behind the first", "19", "1920", "19");
+        row("beyond the maximum", "55", "30", "30");
+        row("a third begins anew", "192", "1920", "2");
+    }
+    void typedDigits()
+    {
+        const auto [digits, max] = fetched<QString, QString>({"digits", "max"});
+        setRange(*m_bench, whole, "50", "0", max, "1");
+        Seen<typeintadjust> row(whole, ENUM_OBJECT_END);
+        for (QChar digit : digits)
+            row.NumberEntry(whole, static_cast<unsigned char>(digit.digitValue()));
+        QCOMPARE(RowBench::takeApplied(), QList<int>{});
+        row.EnterEntry(whole, 1, 1);
+        QTEST(m_bench->value(whole), "end");
     }
 
     void aThousandSmallStepsDoNotDrift()

@@ -151,6 +151,8 @@ const CaseLines networkLines{
      "user Net_Apply=0", "asks IpMaskErr" + comesBack},
     {"wrong gateway", inTheDevice + address("192.168.0.10", "255.255.255.0", "192.168.1.1"),
      "user Net_Apply=0", "asks GateWayErr" + comesBack},
+    {"gateway just outside", inTheDevice + address("192.168.0.10", "255.255.255.128", "192.168.0.129"),
+     "user Net_Apply=0", "asks GateWayErr" + comesBack},
     {"automatic", "DhcpDone=1", "user Net_NetMode=1",
      "sends Net_NetMode=1; leaves DhcpDone=0 " + rowsOff + "; ip WaitIP"},
     {"manual", "Net_{IPAddress=10.0.0.7 Reset-}", "user Net_NetMode=0",

@@ -64,14 +64,14 @@ public:
                                5000);
     }
     void push(const QByteArray &bytes) { send(connected, bytes.constData(), size_t(bytes.size()), 0); }
-    QByteArray message()
+    QByteArray message(int longestMs = 5000)
     {
         char buffer[4096];
         ssize_t length = 0;
         const auto received = [&] {
             return (length = recv(connected, buffer, sizeof buffer, MSG_DONTWAIT)) > 0;
         };
-        return QTest::qWaitFor(received, 5000) ? QByteArray(buffer, int(length)) : QByteArray();
+        return QTest::qWaitFor(received, longestMs) ? QByteArray(buffer, int(length)) : QByteArray();
     }
 
 private:
@@ -174,7 +174,13 @@ private slots:
                  QByteArray::fromHex("00390A01 01000000 30000000 00000000 00000000 0100 1C00 14000000") +
                      whole);
         arrivals(protocol, device);
+        const auto arrived = protocol.arrived;
         service.Terminate();
+        // Nobody works on either way any more.
+        device.push(message(28, 1, packet(9)));
+        QCOMPARE(service.SendMsg(&whole), 1);
+        QCOMPARE(device.message(100), QByteArray());
+        QCOMPARE(protocol.arrived, arrived);
         ObjectPool::getInstance()->RemoveByIndex(ENUM_PROTOCOINTERFER_3RD);
     }
 
