@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <cstring>
+#include <dlfcn.h>
 #include <string>
 #include <vector>
 
@@ -41,19 +42,34 @@ QByteArray fuzz::mutateBytes(const QByteArray &bytes, int longest)
     return changed;
 }
 
-// What the product asks of its board's tools: a process each would be all that is measured.
-extern "C" FILE *popen(const char *, const char *)
+namespace
+{
+/// What the product asks of its board's tools, and not what libFuzzer runs of itself.
+bool isForBoard(const char *command)
+{
+    return std::strncmp(command, "PATH=", 5) == 0;
+}
+
+template <class Function> Function *real(Function *, const char *name)
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+} // namespace
+
+// A process for each question to the board would be all that is measured: there is one answer.
+extern "C" FILE *popen(const char *command, const char *mode)
 {
     static char answer[] = "1.0.1\n";
-    return fmemopen(answer, sizeof answer - 1, "r");
+    return isForBoard(command) ? fmemopen(answer, sizeof answer - 1, "r")
+                               : real(popen, "popen")(command, mode);
 }
 extern "C" int pclose(FILE *stream)
 {
-    return fclose(stream);
+    return fileno(stream) < 0 ? fclose(stream) : real(pclose, "pclose")(stream);
 }
-extern "C" int system(const char *)
+extern "C" int system(const char *command)
 {
-    return 0;
+    return isForBoard(command) ? 0 : real(system, "system")(command);
 }
 
 /// Short stacks of what was allocated, and not much kept of what was freed: half of the time goes there.

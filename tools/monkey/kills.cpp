@@ -14,11 +14,14 @@ namespace
 {
 const QString brightness = itemnames::name(MENU_ScreenBrightness);
 
-/// All but the brightness, which is set, and what a start makes anew.
-QMap<QString, QString> others(QMap<QString, QString> fields)
+/// The values but the brightness, which is set. What else an item has follows from the running device.
+QMap<QString, QString> others(const QMap<QString, QString> &fields)
 {
-    fields.remove(brightness);
-    return fields;
+    QMap<QString, QString> values;
+    for (auto field = fields.cbegin(); field != fields.cend(); ++field)
+        if (!field.key().contains('/') && !field.key().endsWith("ColorSample") && field.key() != brightness)
+            values.insert(field.key(), *field);
+    return values;
 }
 
 QString differences(const QMap<QString, QString> &before, const QMap<QString, QString> &now)
@@ -43,11 +46,11 @@ QString kills::kill(int count, unsigned int seed)
     Panel panel;
     if (!panel.startReady())
         return "the panel does not start";
-    panel.ask({"panel", "stop"});
+    const QString fault = agreement::disagreement(panel);
+    if (!fault.isEmpty())
+        return fault;
     const QMap<QString, QString> first = others(panel.storedFields());
     for (int i = 0; i < count; ++i) {
-        if (!comesUp(panel))
-            return QString("kill %1: the panel does not come up").arg(i);
         const QString kept = panel.stored(MENU_ScreenBrightness);
         const int step = kept.toInt() < 50 ? 1 : -1;
         panel.askAll({{"key", "ok"}, {"key", "ok"}, {"knob", step > 0 ? "right" : "left"}, {"key", "ok"}});
@@ -65,7 +68,6 @@ QString kills::kill(int count, unsigned int seed)
         const QString lost = differences(first, others(panel.storedFields()));
         if ((now != kept && now.toInt() != kept.toInt() + step) || !lost.isEmpty())
             return QString("kill %1: brightness %2 became %3\n%4").arg(i).arg(kept, now, lost);
-        panel.ask({"panel", "stop"});
     }
     return panel.damage();
 }
