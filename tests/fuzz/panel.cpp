@@ -312,6 +312,7 @@ void FuzzedPanel::reset()
         QCoreApplication::processEvents();
     }
     m_hasMoved = false;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // an event loop would
     for (const auto &place : qAsConst(m_written))
         writeFlash(place.first, QByteArray(place.second, '\0'));
     if (!m_written.isEmpty())

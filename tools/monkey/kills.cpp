@@ -85,14 +85,15 @@ QString kills::unplug(int count, unsigned int seed)
         QThread::msleep(random() % 40);
         panel.askAll({{"fault", part, "up"}});
         QThread::msleep(random() % 40);
-        panel.ask({"knob", random() % 2 ? "right" : "left"}); // refused while nobody reads
-        if (i % 50 == 0)
-            panel.ask({"key", random() % 2 ? "ok" : "esc"});
+        // Refused while nobody reads; and nothing is set meanwhile, as what is sent to no device is lost.
+        panel.ask({"knob", random() % 2 ? "right" : "left"});
+        panel.ask({"push", "02000001", QString::number(random() % 90 + 10), "--device", "1"});
     }
     panel.ask({"fault", "flash", "0"});
-    panel.waitUntil([&panel] { return panel.press(keys::Esc); });
-    for (int i = 0; i < 8; ++i)
-        panel.press(keys::Esc);
+    if (!panel.waitUntil([&panel] { return panel.ask({"reports", "now"}).ok && panel.press(keys::Ok); }))
+        return "panel and device do not find each other again";
+    if (!panel.waitFor("\u4e3b\u83dc\u5355")) // the main menu
+        return "the keypad does not come back";
     const QString fault = agreement::disagreement(panel);
     return fault.isEmpty() ? panel.damage() : fault;
 }

@@ -46,7 +46,6 @@ constexpr const char *outside[] = {
     "rename Wall%9",
     "preset list",
     "fault bus-send %6",
-    "fault bus down;fault bus up",
     "fault keypad down;fault keypad up",
     "fault flash %4",
 };
@@ -298,7 +297,7 @@ QString Monkey::rest()
 /// What a start finds is what stood there, but for what shows the running device.
 QString Monkey::changedByRestart()
 {
-    static const QRegularExpression shown("/|^Test_|EDIDChoice|ColorSample");
+    static const QRegularExpression shown("/|^Test_|^Net_|^Output_|EDIDChoice|ColorSample");
     const QMap<QString, QString> before = m_panel.storedFields();
     QString fault = restartStep();
     if (fault.isEmpty())
